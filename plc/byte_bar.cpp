@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plc/byte_bar.h"
+
+#include "plc/byte_text.h"
+
+namespace tavorno {
+
+Barra::Barra(Orologio& orologio)
+    : passo_(orologio, 80, [this] {
+        if (posizione_ != 8) {
+          Mostra(static_cast<std::uint8_t>(accesi_ | 1U << posizione_));
+          ++posizione_;
+        } else {
+          posizione_ = 0;
+          Spegni();
+        }
+      }) {}
+
+void Barra::Assegna(std::string_view testo) {
+  stato_ = testo;
+  unsigned byte = 0;
+  for (unsigned bit = 0; bit < 8 && bit < stato_.size(); ++bit) {
+    if (stato_[bit] == '1') byte |= 1U << bit;
+  }
+  byte_ = static_cast<std::uint8_t>(byte);
+  lettura_ = Testo_Lettura(byte_);
+  Mostra(byte_);
+  if (INT_ON && passato_ != stato_) {
+    passato_ = stato_;
+    if (Change) Change();
+  }
+}
+
+void Barra::Spegni() {
+  Mostra(0);
+  Assegna("00000000");
+}
+
+void Barra::Mostra(std::uint8_t accesi) {
+  if (accesi == accesi_) return;
+  accesi_ = accesi;
+  if (Aspetto) Aspetto();
+}
+
+void Barra::LED_Tipo(std::uint8_t tipo, std::uint8_t forma) {
+  tipo_ = tipo;
+  forma_ = forma;
+  if (Aspetto) Aspetto();
+}
+
+void Barra::Scorri(bool acceso) {
+  scorri_ = acceso;
+  passo_.Enabled(acceso);
+}
+
+}  // namespace tavorno

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "plc/clock.h"
+
+namespace tavorno {
+
+/// A byte bar: one byte of inputs or outputs with its row of eight LEDs. It is the relay of the
+/// digital traffic: whoever assigns a bit text that differs from the last one that passed raises
+/// `Change`, inside the assignment.
+class Barra {
+ public:
+  Barra(const Barra&) = delete;
+  Barra& operator=(const Barra&) = delete;
+
+  std::function<void()> Change;   ///< a different text passed
+  std::function<void()> Aspetto;  ///< the LEDs must be drawn again
+
+  bool INT_ON = true;  ///< false: texts are stored and shown, but `Change` stays silent
+
+  /// Which of the eight LEDs are lit, bit 0 the first. It follows the text, but for the chase.
+  std::uint8_t Accesi() const { return accesi_; }
+
+  /// Colour (0 green, 1 yellow, other red) and form (0 with rays, other without) of all LEDs.
+  void LED_Tipo(std::uint8_t tipo, std::uint8_t forma);
+  std::uint8_t Tipo() const { return tipo_; }
+  std::uint8_t Forma() const { return forma_; }
+
+  /// The chase: one LED more per `Interval` (milliseconds, at first 80), then dark again.
+  bool Scorri() const { return scorri_; }
+  void Scorri(bool acceso);
+  int Interval() const { return passo_.Interval(); }
+  void Interval(int millisecondi) { passo_.Interval(millisecondi); }
+
+ protected:
+  explicit Barra(Orologio& orologio);
+  ~Barra() = default;
+
+  /// All LEDs dark, and the text "00000000" passes.
+  void Spegni();
+  /// Eight characters, leftmost bit 0; what is not '1', or missing, is dark.
+  void Assegna(std::string_view testo);
+
+  std::string stato_ = "00000000";
+  std::uint8_t byte_ = 0;
+  std::string lettura_ = "00000000";
+
+ private:
+  void Mostra(std::uint8_t accesi);
+
+  std::string passato_ = "00000000";  // the last text that raised `Change`
+  std::uint8_t accesi_ = 0;
+  std::uint8_t tipo_ = 0, forma_ = 0;
+  bool scorri_ = false;
+  std::uint8_t posizione_ = 0;  // next LED of the chase
+  Temporizzatore passo_;
+};
+
+/// Input bar `SI(n)`.
+class LedI : public Barra {
+ public:
+  explicit LedI(Orologio& orologio) : Barra(orologio) {}
+
+  const std::string& Stato_I() const { return stato_; }
+  void Stato_I(std::string_view testo) { Assegna(testo); }
+  std::uint8_t Stato_IB() const { return byte_; }                ///< 0..255
+  void Stato_IB(std::uint8_t valore) { byte_ = valore; }         ///< storage only
+  const std::string& Stato_BitI() const { return lettura_; }     ///< leftmost character bit 7
+  void Stato_BitI(std::string_view testo) { lettura_ = testo; }  ///< storage only
+  void LED_Reset() { Spegni(); }
+};
+
+/// Output bar `SQ(n)`.
+class LedQ : public Barra {
+ public:
+  explicit LedQ(Orologio& orologio) : Barra(orologio) {}
+
+  const std::string& Stato_Q() const { return stato_; }
+  void Stato_Q(std::string_view testo) { Assegna(testo); }
+  std::uint8_t Stato_QB() const { return byte_; }                 ///< 0..255
+  void Stato_QB(std::uint8_t valore) { byte_ = valore; }          ///< storage only
+  const std::string& Stato_QBitI() const { return lettura_; }     ///< leftmost character bit 7
+  void Stato_QBitI(std::string_view testo) { lettura_ = testo; }  ///< storage only
+  /// Unlike the input bar's, this one speaks again afterwards.
+  void LED_Reset() {
+    Spegni();
+    INT_ON = true;
+  }
+};
+
+}  // namespace tavorno

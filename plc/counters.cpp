@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// CTU, CTD, CTUD. Their differences in the first scan, in the loaded value and in the use of the
+// line enable are traits of the machine and not to be unified.
+#include "plc/checked.h"
+#include "plc/plc.h"
+
+namespace tavorno {
+
+namespace {
+/// True when `acceso` has risen since the last execution; keeps the edge memory.
+bool Fronte_Salita(bool acceso, std::uint8_t& memoria) {
+  const bool salita = acceso && memoria == 0;
+  memoria = acceso ? 1 : 0;
+  return salita;
+}
+}  // namespace
+
+Esito Plc::Istr_CTU(Riga_PLC& riga) {
+  Riga_Contatore& contatore = Mem_C[riga.Num1];
+  if (!Preset(riga, contatore.PV)) return Esito::Errore;
+  if (Flusso(riga)) {
+    contatore.Uscita = 0;
+    contatore.Val = 0;
+  }
+  // An input that is on in the first scan only marks its memory: no count is made there.
+  if (Fronte_Salita((Stak[1] & riga.Abil_SCR) == 1, contatore.Front_A) && Mem_SM[0].Bit[1] != 1)
+    contatore.Val = A_16(contatore.Val + 1, "CTU");
+  if (contatore.Val >= contatore.PV) contatore.Uscita = 1;
+  return Esito::Avanti;
+}
+
+Esito Plc::Istr_CTD(Riga_PLC& riga) {
+  Riga_Contatore& contatore = Mem_C[riga.Num1];
+  if (!Preset(riga, contatore.PV)) return Esito::Errore;
+  if (riga.Abil_SCR == 1 && Stak[0] != 0) {
+    contatore.Front_B = 1;
+    contatore.Uscita = 0;
+    contatore.Val = riga.Num2;  // the number written in the operand, also when it names a VW
+  }
+  const bool acceso = (Stak[1] & riga.Abil_SCR) == 1;
+  const bool carica = (Stak[0] & riga.Abil_SCR) > 0;
+  if (acceso && contatore.Front_A == 0 && !carica) {
+    contatore.Front_A = 1;
+    if (contatore.Uscita == 0 && contatore.Val > 0) --contatore.Val;
+  } else {
+    contatore.Front_A = acceso && contatore.Front_A == 1 ? 1 : 0;
+  }
+  if (contatore.Val == 0) contatore.Uscita = 1;
+  return Esito::Avanti;
+}
+
+Esito Plc::Istr_CTUD(Riga_PLC& riga) {
+  Riga_Contatore& contatore = Mem_C[riga.Num1];
+  if (!Preset(riga, contatore.PV)) return Esito::Errore;
+  if (riga.Abil_SCR == 1 && Stak[0] != 0) {
+    contatore.Uscita = 0;
+    contatore.Val = 0;
+  }
+  if (Fronte_Salita((Stak[2] & riga.Abil_SCR) == 1, contatore.Front_B))
+    contatore.Val = A_16(contatore.Val + 1, "CTUD");
+  if (Fronte_Salita((Stak[1] & riga.Abil_SCR) == 1, contatore.Front_A))
+    contatore.Val = A_16(contatore.Val - 1, "CTUD");
+  contatore.Uscita = contatore.Val < contatore.PV ? 0 : 1;
+  return Esito::Avanti;
+}
+
+}  // namespace tavorno

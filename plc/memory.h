@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "plc/instructions.h"
+#include "plc/logic_stack.h"
+#include "plc/table.h"
+
+// The memory of the simulated CPU and the compiled program. Areas do not overlap: VB3, VW3 and VD3
+// are three unrelated cells. Flags are -1 for true in 16-bit words; bit cells hold 0 or 1.
+namespace tavorno {
+
+/// One byte of inputs or outputs. Cells 0..7 are its bits; cell 8 exists and takes writes, and
+/// nothing reads it into a byte value.
+struct Riga_IP {
+  Tabella<std::uint8_t, 8> Bit_Dir{"Bit_Dir"};  ///< state of the physical points
+  Tabella<std::uint8_t, 8> Bit_Img{"Bit_Img"};  ///< what the program reads and writes in a scan
+  std::int16_t Val_B = 0;                       ///< value of the byte, 0..255
+  std::string Txt_B;                            ///< the byte in reading order, bit 7 first
+
+  bool operator==(const Riga_IP&) const = default;
+};
+
+/// One byte of markers.
+struct Riga_M {
+  Tabella<std::uint8_t, 8> Bit{"Mem_M.Bit"};
+  std::int16_t Val_B = 0;
+  std::string Txt_B;
+
+  bool operator==(const Riga_M&) const = default;
+};
+
+/// One byte of sequence control relays: the only bit area with 16-bit cells, and without a value.
+struct Riga_S {
+  Tabella<std::int16_t, 8> Bit{"Mem_S.Bit"};
+
+  bool operator==(const Riga_S&) const = default;
+};
+
+/// One byte of special memory.
+struct Riga_SM {
+  Tabella<std::uint8_t, 8> Bit{"Mem_SM.Bit"};
+  std::int16_t Val_B = 0;
+
+  bool operator==(const Riga_SM&) const = default;
+};
+
+struct Riga_Timer {
+  std::int16_t Val = 0;     ///< current value in ticks of `T100m`, at most 32760
+  std::int16_t PT = 0;      ///< preset in ticks
+  std::uint8_t Uscita = 0;  ///< the bit read as T37
+  std::int16_t Conta = 0;   ///< -1 while the tick is to add to `Val`, else 0
+
+  bool operator==(const Riga_Timer&) const = default;
+};
+
+struct Riga_Contatore {
+  std::int16_t Val = 0;
+  std::int16_t PV = 0;       ///< preset
+  std::uint8_t Uscita = 0;   ///< the bit read as C5
+  std::uint8_t Front_A = 0;  ///< edge memory: count of CTU and CTD, down of CTUD
+  std::uint8_t Front_B = 0;  ///< edge memory: up of CTUD
+
+  bool operator==(const Riga_Contatore&) const = default;
+};
+
+/// One compiled line.
+struct Riga_PLC {
+  // Decoded from the texts below by `Decodifica`; what the interpreter looks at comes first, so
+  // that a line costs it one stretch of memory.
+  Ramo Esegui = Ramo_Assente();
+  Area Codice1 = Area::Nessuna, Codice2 = Area::Nessuna;
+  Connessione Unione = Connessione::LD;
+  Relazione Confronto = Relazione::Nessuna;
+
+  std::int16_t Num1 = 0, Num2 = 0, Num3 = 0;     ///< row, element number or constant
+  std::int16_t Bit1 = -1, Bit2 = -1, Bit3 = -1;  ///< -1 without a dot
+  std::int16_t Fronte = 0;    ///< edge memory of EU, ED, TOF; cleared on all lines at Run
+  std::int16_t Salto = 0;     ///< JMP, CALL: line to go to
+  std::int16_t Abil_SCR = 1;  ///< line enable, rewritten by LSCR
+  std::int16_t SCR_Prima = 0, SCR_Ultima = 0;  ///< LSCR: first and last line of its section
+  std::int16_t Ha_Bit = 0;                     ///< -1 when the first operand has a dot
+  std::uint8_t NOper = 0;                      ///< operands on the source line
+  /// JMP, CALL: timers that the jump leaves out. Entry 0 is unused; empty means none as well.
+  std::vector<std::int16_t> Lista_T;
+
+  std::string Istr;                 ///< mnemonic as the source table holds it
+  std::string Area1, Area2, Area3;  ///< area texts of the operands
+
+  bool operator==(const Riga_PLC&) const = default;
+};
+
+/// Fills the decoded fields from `Istr`, `Area1` and `Area2`. To be called whenever those change.
+void Decodifica(Riga_PLC& riga);
+
+/// The line put together again from its fields, in the code page of the source.
+std::string Testo_Riga(const Riga_PLC& riga);
+
+struct Memoria {
+  Tabella<Riga_IP, 1> IP_I{"IP_I"};
+  Tabella<Riga_IP, 1> IP_Q{"IP_Q"};
+  Tabella<Riga_M, 4> Mem_M{"Mem_M"};
+  Tabella<Riga_S, 4> Mem_S{"Mem_S"};
+  Tabella<Riga_SM, 30> Mem_SM{"Mem_SM"};
+  Tabella<std::int16_t, 100> Mem_VB{"Mem_VB"};  ///< cells of 16 bits
+  Tabella<std::int16_t, 100> Mem_VW{"Mem_VW"};
+  Tabella<std::int32_t, 100> Mem_VD{"Mem_VD"};
+  Tabella<float, 4> Mem_AC{"Mem_AC"};
+  Tabella<Riga_Timer, 40> Mem_T{"Mem_T"};
+  Tabella<Riga_Contatore, 20> Mem_C{"Mem_C"};
+  Tabella<std::int32_t, 4> Mem_AIW{"Mem_AIW"};  ///< 32000 at full scale; used at 0, 2, 4
+  Tabella<std::int32_t, 2> Mem_AQW{"Mem_AQW"};  ///< 32000 at full scale; used at 0, 2
+  Tabella<float, 2> Volt_AI{"Volt_AI"};         ///< volts or milliamperes
+  Tabella<float, 1> Volt_AQ{"Volt_AQ"};         ///< volts or milliamperes
+  Pila_Logica Stak;
+  Tabella<std::int16_t, 7> Stak_Rit{"Stak_Rit"};  ///< return lines, top at 0
+
+  Tabella_Variabile<Riga_PLC> Prog{"Prog"};  ///< rows 0..NRighe
+  std::int16_t NRighe = 0;                   ///< last line of `Prog`
+  std::int16_t PC = 0;                       ///< line to execute next
+
+  bool operator==(const Memoria&) const = default;
+};
+
+}  // namespace tavorno

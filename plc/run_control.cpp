@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Run, Stop, the three modes and the system clocks.
+#include <algorithm>
+#include <cmath>
+
+#include "plc/byte_text.h"
+#include "plc/checked.h"
+#include "plc/number_text.h"
+#include "plc/plc.h"
+
+namespace tavorno {
+
+Plc::Plc(Orologio& orologio)
+    : Tempo(orologio),
+      SI{LedI(orologio), LedI(orologio)},
+      SQ{LedQ(orologio), LedQ(orologio)},
+      T100m(orologio, Clock_T, [this] { Tick_T100m(); }),
+      tim1(orologio, 500,
+           [this] {
+             stato_tim1_ ^= 1U;
+             Mem_SM[0].Bit[5] = stato_tim1_;
+           }),
+      tim2(orologio, 30000,
+           [this] {
+             stato_tim2_ ^= 1U;
+             Mem_SM[0].Bit[4] = stato_tim2_;
+           }),
+      timIO(orologio, 20, [this] { Tick_timIO(); }) {
+  for (std::size_t riga = 0; riga <= 1; ++riga) {
+    SI[riga].Change = [this, riga] {
+      Riga_IP& ingressi = IP_I[static_cast<int>(riga)];
+      for (unsigned bit = 0; bit < 8; ++bit)
+        ingressi.Bit_Dir[static_cast<int>(bit)] = Cifra(SI[riga].Stato_I(), bit);
+      ingressi.Val_B = SI[riga].Stato_IB();
+      ingressi.Txt_B = SI[riga].Stato_BitI();
+    };
+  }
+}
+
+// ---- run commands -------------------------------------------------------------------------------
+
+void Plc::mnuPlcRun() {
+  N_Cicli = 0;
+  PLC_Acceso = -1;
+  for (Riga_Timer& timer : Mem_T) timer = {};
+  for (Riga_PLC& riga : Prog) riga.Fronte = 0;
+  T100m.Enabled(true);
+  PC = 0;
+  etTime = "0";
+  tempo_mostrato_ = -1;
+  Attivi.mnuPlcRun = false;
+  Attivi.mnuPlcStop = true;
+  etPc = PC;
+  Lista_Scelta = PC;
+  Segna(Segno_Tempo | Segno_PC | Segno_Lista | Segno_Comandi);
+  GestStak(0);
+  Aggiorna_IP_Ing();
+  Reset_IP_Out();
+  SQ[0].LED_Reset();
+  Ferma = 0;
+  SM_Set();
+  tim1.Enabled(true);
+  tim2.Enabled(true);
+  timIO.Enabled(true);
+
+  if (Modo_Run == Modo::Step) {
+    Attivi.SSTb3 = 2;
+    Attivi.mnuPlcCont = false;
+    Attivi.CmdStep = true;
+    return;
+  }
+  Tempo_Ciclo = 0;
+  PC = 0;
+  Primo_Ciclo = -1;
+  Attivi.CmdStep = false;
+  if (Modo_Run == Modo::Cont) {
+    Attivi.SSTb3 = 0;
+    Attivi.mnuPlcCiclo = false;
+    Attivi.mnuPlcStep = false;
+    Cicla();
+  } else {
+    Attivi.SSTb3 = 1;
+    Attivi.mnuPlcCont = false;
+    Cicla_Ciclo();
+  }
+  Mostra_Tempo();
+}
+
+void Plc::mnuPlcStop() {
+  PLC_Acceso = 0;
+  Attivi.mnuPlcStop = false;
+  Attivi.mnuPlcRun = true;
+  Attivi.mnuPlcCiclo = true;
+  Attivi.mnuPlcStep = true;
+  Attivi.mnuPlcCont = true;
+  Attivi.CmdStep = false;
+  Ferma = -1;
+  tim1.Enabled(false);
+  tim2.Enabled(false);
+  T100m.Enabled(false);
+  timIO.Enabled(false);
+  Reset_IP_Out();
+  Lista_Scelta = PC;
+  Segna(Segno_Comandi | Segno_Lista);
+  Mostra_Tempo();
+}
+
+void Plc::Scegli_Modo(Modo modo) {
+  Modo_Run = modo;
+  Attivi.SSTb3 = modo == Modo::Cont ? 0 : modo == Modo::Ciclo ? 1 : 2;
+  Segna(Segno_Comandi);
+}
+
+void Plc::mnuPlcStep() {
+  Scegli_Modo(Modo::Step);
+  if (PLC_Acceso) Attivi.CmdStep = true;
+  Ferma = -1;
+}
+
+void Plc::mnuPlcCiclo() {
+  Scegli_Modo(Modo::Ciclo);
+}
+
+void Plc::mnuPlcCont() {
+  Scegli_Modo(Modo::Cont);
+  Attivi.CmdStep = false;
+  Scelte.chkList = true;
+  if (!PLC_Acceso) return;
+  Ferma = 0;
+  Cicla();
+}
+
+void Plc::cmdRest() {
+  Ferma = 0;
+  Attivi.CmdStep = false;
+  Segna(Segno_Comandi);
+  N_Cicli = 0;
+  Cicla_Ciclo();
+}
+
+void Plc::CmdStep() {
+  Lista_Scelta = PC;
+  Segna(Segno_Lista);
+  Esegui_Riga();
+}
+
+// ---- run loops ----------------------------------------------------------------------------------
+
+namespace {
+/// Marks that a run loop is at work, so that a command given in one of its yields starts no second.
+class In_Corso {
+ public:
+  explicit In_Corso(bool& segno) : segno_(segno) { segno_ = true; }
+  ~In_Corso() { segno_ = false; }
+  In_Corso(const In_Corso&) = delete;
+  In_Corso& operator=(const In_Corso&) = delete;
+
+ private:
+  bool& segno_;
+};
+}  // namespace
+
+void Plc::Cicla() {
+  if (in_ciclo_) return;
+  const In_Corso in_corso(in_ciclo_);
+  do {
+    if (Hook.Cedi) Hook.Cedi();
+    Esegui_Riga();
+  } while (!Ferma);
+}
+
+void Plc::Cicla_Ciclo() {
+  if (in_ciclo_) return;
+  const In_Corso in_corso(in_ciclo_);
+  for (;;) {
+    if (Hook.Cedi) Hook.Cedi();
+    Esegui_Riga();
+    if (Ferma) return;
+    const bool alla_riga = Scelte.chkStop && Scelte.txtStop == PC;
+    const bool dopo_i_cicli = Scelte.chkSol && Scelte.txtNC == N_Cicli;
+    if (!alla_riga && !dopo_i_cicli) continue;
+    Lista_Scelta = alla_riga ? PC : NRighe;
+    Attivi.cmdRest = true;
+    Attivi.CmdStep = true;
+    Segna(Segno_Lista | Segno_Comandi);
+    return;
+  }
+}
+
+// ---- memory at the ends of a run ----------------------------------------------------------------
+
+void Plc::Init_PLC() {
+  for (Riga_Timer& timer : Mem_T) timer.Conta = 0;
+  for (Riga_Contatore& contatore : Mem_C) contatore = {};
+}
+
+void Plc::SM_Set() {
+  static constexpr std::uint8_t riga_0[8] = {1, 1, 0, 0, 0, 0, 1, 0};
+  for (int bit = 0; bit <= 7; ++bit) Mem_SM[0].Bit[bit] = riga_0[bit];
+  // A diagonal and not the row SM1: SM1.1, SM1.2 and SM1.3 keep their values over a Run.
+  for (int bit = 0; bit <= 7; ++bit) Mem_SM[bit + 1].Bit[bit] = 0;
+}
+
+// ---- system clocks ------------------------------------------------------------------------------
+
+void Plc::Tick_T100m() {
+  constexpr int massimo = 32760;
+  for (Riga_Timer& timer : Mem_T) {
+    if (timer.Conta != 0) timer.Val = static_cast<std::int16_t>(std::min(timer.Val + 1, massimo));
+  }
+}
+
+void Plc::Tick_timIO() {
+  constexpr int fondo_scala = 32000;
+  if (Scelte.opzAI != Scala::Nessuna) {
+    const float portata = Scelte.opzAI == Scala::Volt_10 ? 10.0F : 20.0F;
+    for (int n = 0; n <= 2; ++n)
+      Mem_AIW[2 * n] =
+          A_32(static_cast<long long>(std::floor(Volt_AI[n] * fondo_scala / portata)), "Mem_AIW");
+  }
+  const int portata = Scelte.opzAQ == Scala::Volt_10 ? 10 : 20;
+  for (int n = 0; n <= 1; ++n)
+    Volt_AQ[n] =
+        static_cast<float>(A_32(static_cast<long long>(Mem_AQW[2 * n]) * portata, "Volt_AQ")) /
+        fondo_scala;
+  Segna(Segno_Analogici);
+}
+
+}  // namespace tavorno

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One call of the interpreter, and the exchange between images and byte bars at the ends of a scan.
+#include <algorithm>
+
+#include "plc/byte_text.h"
+#include "plc/checked.h"
+#include "plc/codepage.h"
+#include "plc/number_text.h"
+#include "plc/plc.h"
+
+namespace tavorno {
+
+void Plc::Esegui_Riga() {
+  for (int salti = 0; salti < Salti_Di_Seguito; ++salti) {
+    Riga_PLC& riga = Prog[PC];
+    if (PC == 0) {
+      StartTimer();
+      Aggiorna_IP_Ing();
+    }
+    const Esito esito = (this->*riga.Esegui)(riga);
+    if (esito == Esito::Salto) continue;
+    if (esito == Esito::Avanti) [[likely]]
+      PC = A_16(PC + 1, "PC");
+    else
+      Fine_Riga(esito, riga);
+    if (esito != Esito::Errore) {
+      if (Modo_Run == Modo::Step) {
+        etPc = PC;
+        Segna(Segno_PC);
+      }
+      if (Scelte.chkList) Mostra_Tempo();
+      if (esito == Esito::Fine) Mem_SM[0].Bit[1] = 0;
+    }
+    return;
+  }
+}
+
+/// The ends of a line that are not just "on to the next one".
+void Plc::Fine_Riga(Esito esito, const Riga_PLC& riga) {
+  switch (esito) {
+    case Esito::Errore:
+      Avvisa({"Run Time Error",
+              "Run Time Error! Il programma sarà terminato!",
+              Icona::Critica,
+              Tasti::Ok,
+              {}});
+      mnuPlcStop();
+      break;
+    case Esito::Fine:
+      PC = 0;
+      break;
+    default:  // no branch
+      Avvisa({"Errore in Esecuzione!",
+              "Riga " + std::to_string(PC) + " : <" + A_Utf8(riga.Istr) +
+                  ">--> Istruzione non riconosciuta!\nIl Programma verrà terminato.",
+              Icona::Critica,
+              Tasti::Ok,
+              {}});
+      mnuPlcStop();
+      Ferma = -1;
+      PC = A_16(PC + 1, "PC");
+      break;
+  }
+}
+
+void Plc::Mostra_Tempo() {
+  if (tempo_mostrato_ == Tempo_Ciclo) return;
+  tempo_mostrato_ = Tempo_Ciclo;
+  etTime = Formato(Tempo_Ciclo, "0000#");
+  Segna(Segno_Tempo);
+}
+
+void Plc::Avvisa(Avviso avviso) const {
+  if (Hook.Mostra) Hook.Mostra(avviso);
+}
+
+Esito Plc::Senza_Ramo(Riga_PLC& /*riga*/) {
+  return Esito::Ignota;
+}
+
+Esito Plc::Istr_Nulla(Riga_PLC& /*riga*/) {
+  return Esito::Avanti;
+}
+
+void Plc::StartTimer() {
+  T_Inizio = static_cast<std::int32_t>(Tempo.Adesso());
+}
+
+void Plc::StopTimer() {
+  Tempo_Ciclo = static_cast<std::int32_t>(Tempo.Adesso()) - T_Inizio;
+}
+
+void Plc::Setta_Uscite() {
+  for (int riga = 0; riga <= 1; ++riga) {
+    Riga_IP& uscite = IP_Q[riga];
+    std::copy_n(uscite.Bit_Img.Dati(), 8, uscite.Bit_Dir.Dati());
+    const std::uint8_t byte = Byte_Di_Celle(uscite.Bit_Img.Dati());
+    uscite.Val_B = byte;
+    uscite.Txt_B = Testo_Lettura(byte);
+    SQ[static_cast<std::size_t>(riga)].Stato_Q(Testo_Bit(byte));
+  }
+}
+
+void Plc::Aggiorna_IP_Ing() {
+  for (int riga = 0; riga <= 1; ++riga) {
+    const LedI& barra = SI[static_cast<std::size_t>(riga)];
+    Riga_IP& ingressi = IP_I[riga];
+    const std::string& stato = barra.Stato_I();
+    for (unsigned bit = 0; bit < 8; ++bit) {
+      const std::uint8_t cifra = Cifra(stato, bit);
+      ingressi.Bit_Dir.Dati()[bit] = cifra;
+      ingressi.Bit_Img.Dati()[bit] = cifra;
+    }
+    if (Scelte.chkIP) {
+      etIPI[static_cast<std::size_t>(riga)] = barra.Stato_BitI();
+      Segna(Segno_Immagini);
+    }
+    ingressi.Val_B = barra.Stato_IB();
+    ingressi.Txt_B = barra.Stato_BitI();
+  }
+}
+
+void Plc::Reset_IP_Out() {
+  for (std::size_t riga = 0; riga <= 1; ++riga) {
+    Riga_IP& uscite = IP_Q[static_cast<int>(riga)];
+    std::fill_n(uscite.Bit_Dir.Dati(), 8, std::uint8_t{0});
+    std::fill_n(uscite.Bit_Img.Dati(), 8, std::uint8_t{0});
+    uscite.Val_B = 0;
+    etIPQ[riga].clear();
+    SQ[riga].Stato_Q("00000000");
+  }
+  Segna(Segno_Immagini);
+}
+
+void Plc::Aggiorna_IPQ(int riga) {
+  if (!Scelte.chkIP) return;
+  const std::uint8_t byte = Byte_Di_Celle(IP_Q[riga].Bit_Img.Dati());  // checks the row
+  etIPQ[static_cast<std::size_t>(riga)] = Testo_Lettura(byte);
+  Segna(Segno_Immagini);
+}
+
+void Plc::Setta_Marker() {
+  for (Riga_M& marker : Mem_M) {
+    const std::uint8_t byte = Byte_Di_Celle(marker.Bit.Dati());
+    if (marker.Val_B == byte && !marker.Txt_B.empty()) continue;
+    marker.Val_B = byte;
+    marker.Txt_B = Testo_Lettura(byte);
+  }
+}
+
+void Plc::Byte_Bit(int valore, int riga) {
+  Riga_IP& uscite = IP_Q[riga];
+  for (int bit = 0; bit <= 7; ++bit) {
+    const auto cella = static_cast<std::uint8_t>(valore >> bit & 1);
+    uscite.Bit_Img[bit] = cella;
+    uscite.Bit_Dir[bit] = cella;
+  }
+  Aggiorna_IPQ(riga);
+}
+
+unsigned Plc::Prendi_Segni() {
+  const unsigned segni = segni_;
+  segni_ = 0;
+  return segni;
+}
+
+std::string Rapporto_Fatale(const Fatale& fatale, const Plc& plc) {
+  std::string testo = fatale.Cosa() + "\nTabella o operazione: " + fatale.Tabella() +
+                      "\nIndice o valore: " + std::to_string(fatale.Indice()) +
+                      "\nRiga: " + std::to_string(plc.PC);
+  if (plc.PC >= 0 && plc.PC < plc.Prog.Righe()) {
+    testo += "  " + A_Utf8(Testo_Riga(plc.Prog[plc.PC]));
+  }
+  return testo;
+}
+
+}  // namespace tavorno
