@@ -23,14 +23,18 @@ void Riempi(const std::string& testo, std::string& area, std::int16_t& numero, s
 
 }  // namespace
 
+bool Nomina_Procedura(const std::string& istr) {
+  return istr.starts_with("SBR") || istr.starts_with("INT") || istr == "CALL";
+}
+
 void Riempi_Riga(Riga_PLC& riga, const Riga_Src& sorgente) {
   const std::int16_t abilitata = riga.Abil_SCR;  // the SCR pass alone rewrites it
   riga = {};
   riga.Abil_SCR = abilitata;
   riga.Istr = sorgente.Istr;
   riga.NOper = sorgente.NOp;
-  if (riga.Istr.starts_with("SBR") || riga.Istr.starts_with("INT") || riga.Istr == "CALL") {
-    riga.Area1 = sorgente.Op1;  // a procedure's name
+  if (Nomina_Procedura(riga.Istr)) {
+    riga.Area1 = sorgente.Op1;
   } else {
     if (riga.NOper >= 1 && riga.NOper <= 3) {
       Riempi(sorgente.Op1, riga.Area1, riga.Num1, riga.Bit1);

@@ -19,6 +19,9 @@ struct Riga_Src {
   bool operator==(const Riga_Src&) const = default;
 };
 
+/// Lines whose first operand is a procedure's name, kept as it is written: SBR, INT and CALL.
+bool Nomina_Procedura(const std::string& istr);
+
 /// Clears a compiled line and fills it from its source line: texts, numbers and the decoded fields.
 /// Jump targets, timer lists and SCR sections are left to the link passes (awl/link.h). A number
 /// beyond 16 bits is stored as the nearest one that fits; the line checker refuses it.

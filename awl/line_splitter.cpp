@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One text line into one row of `Righe_Src`, and its canonical look.
+#include <algorithm>
+
+#include "awl/project.h"
+#include "awl/text.h"
+#include "plc/codepage.h"
+
+namespace tavorno {
+
+namespace {
+
+constexpr std::size_t colonna_commento = 36;          // of an instruction in the editor
+constexpr std::size_t colonna_commento_network = 16;  // of a NETWORK line in the editor
+constexpr std::size_t colonna_cpu = 22;               // of an instruction in the CPU's listing
+constexpr std::size_t colonna_cpu_network = 12;
+constexpr std::size_t colonna_operandi = 7;
+
+void Dividi_Network(const std::string& riga, bool commento_nel_listato, Riga_Src& sorgente) {
+  const std::size_t barra = riga.find('/');
+  if (barra == std::string::npos) {
+    sorgente.Testo_Lista = riga;
+    sorgente.Testo_CPU = Trim(riga);
+  } else {
+    const std::string testa = Trim(riga.substr(0, barra));
+    const std::string commento = riga.substr(barra);
+    sorgente.Testo_Lista = Incolonna(testa, colonna_commento_network) + commento;
+    sorgente.Testo_CPU =
+        commento_nel_listato ? Incolonna(testa, colonna_cpu_network) + commento : testa;
+  }
+  sorgente.Istr = Maiuscole(sorgente.Testo_Lista);
+  sorgente.NOp = 0;
+  sorgente.Op1 = sorgente.Op2 = sorgente.Op3 = "";
+}
+
+void Dividi_Blocco(const std::string& riga, Riga_Src& sorgente) {
+  const std::size_t spazio = riga.find(' ');
+  if (spazio != std::string::npos) {  // without a blank these two keep what the row held before
+    sorgente.Istr = Trim(riga.substr(0, spazio));
+    sorgente.Op1 = Trim(riga.substr(spazio));
+  }
+  sorgente.NOp = 1;
+  sorgente.Op2 = sorgente.Op3 = "";
+  sorgente.Testo_Lista = sorgente.Testo_CPU = riga;
+}
+
+/// The pieces between single blanks: two blanks next to each other have an empty piece between
+/// them.
+std::vector<std::string> Pezzi(const std::string& testo) {
+  std::vector<std::string> pezzi(1);
+  for (const char c : testo) {
+    if (c != ' ')
+      pezzi.back() += c;
+    else
+      pezzi.emplace_back();
+  }
+  return pezzi;
+}
+
+}  // namespace
+
+std::string Progetto::Cerca_Com(const std::string& riga) {
+  if (CPU.NRighe > Righe_Src.ultimo) throw Riga_Rifiutata(righe_esaurite);
+  Riga_Src& sorgente = Righe_Src[CPU.NRighe];
+  if (riga.starts_with("NETWORK")) {
+    Dividi_Network(riga, chkCom[1], sorgente);
+    return sorgente.Testo_Lista;
+  }
+  if (riga.starts_with("SBR") || riga.starts_with("INT")) {
+    Dividi_Blocco(riga, sorgente);
+    return sorgente.Testo_Lista;
+  }
+
+  // A single "/" is no comment: "/I" and "/D" are mnemonics.
+  const std::size_t inizio_commento = std::min(riga.find("//"), riga.size());
+  const std::string commento = riga.substr(inizio_commento);
+  const std::string istruzione = Trim(riga.substr(0, inizio_commento));
+  std::vector<std::string> pezzi = Pezzi(istruzione);
+  const std::size_t spazi = pezzi.size() - 1;
+  if (spazi > 4) throw Riga_Rifiutata("la riga ha troppi spazi tra gli operandi");
+
+  pezzi.resize(4);
+  sorgente.NOp = static_cast<std::uint8_t>(spazi);
+  sorgente.Istr = Maiuscole(pezzi[0]);
+  if (spazi == 4) {
+    Avvisa({"Errore!", "Errori nella lettura degli operandi!", Icona::Critica, Tasti::Ok,
+            A_Utf8(riga)});
+    sorgente.Op1 = sorgente.Op2 = sorgente.Op3 = "";
+    sorgente.Testo_CPU = istruzione;
+    sorgente.Testo_Lista = riga;
+    return sorgente.Testo_Lista;
+  }
+  sorgente.Op1 = Maiuscole(pezzi[1]);
+  sorgente.Op2 = Maiuscole(pezzi[2]);
+  sorgente.Op3 = Maiuscole(pezzi[3]);
+
+  std::string canonica = istruzione;
+  if (spazi >= 1) canonica = Incolonna(pezzi[0], colonna_operandi) + pezzi[1];
+  if (spazi >= 2) canonica += ", " + pezzi[2];
+  if (spazi >= 3) canonica += ", " + pezzi[3];
+  sorgente.Testo_CPU = Incolonna(canonica, colonna_cpu);
+  if (chkCom[0]) sorgente.Testo_CPU += commento;
+  sorgente.Testo_Lista = Incolonna(canonica, colonna_commento) + commento;
+  if (spazi == 3)
+    Avvisa({"Attenzione", "Il simulatore non supporta istruzioni con tre operandi!", Icona::Critica,
+            Tasti::Ok, A_Utf8(riga)});
+  return sorgente.Testo_Lista;
+}
+
+std::string Progetto::Debug_Line(const std::string& riga) {
+  if (riga.empty() || riga.starts_with("//")) return riga;
+  if (riga.starts_with(" //"))
+    return std::string(colonna_commento, ' ') + riga.substr(riga.find_first_not_of(' '));
+  if (riga.starts_with("TITLE=")) return "//" + riga.substr(6);
+  std::string testo = Cerca_Com(riga);
+  const std::string& istr = Righe_Src[CPU.NRighe].Istr;
+  if (!istr.empty() && !istr.starts_with("     ")) ++CPU.NRighe;
+  return testo;
+}
+
+}  // namespace tavorno

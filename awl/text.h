@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "awl/read_error.h"
+
+namespace tavorno {
+
+inline constexpr std::string_view CRLF = "\r\n";
+
+/// Without the blanks at either end; other white space stays.
+inline std::string Trim(std::string_view testo) {
+  const std::size_t primo = testo.find_first_not_of(' ');
+  if (primo == std::string_view::npos) return {};
+  return std::string(testo.substr(primo, testo.find_last_not_of(' ') - primo + 1));
+}
+
+/// Padded with blanks to `colonna` characters. A longer text has no place in its column.
+inline std::string Incolonna(std::string testo, std::size_t colonna) {
+  if (testo.size() > colonna)
+    throw Riga_Rifiutata("il testo supera i " + std::to_string(colonna) + " caratteri ammessi");
+  testo.resize(colonna, ' ');
+  return testo;
+}
+
+}  // namespace tavorno

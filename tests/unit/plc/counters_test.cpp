@@ -1,0 +1,415 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <cstdint>
+#include <string>
+
+#include "cpu.h"
+
+namespace tavorno::prova {
+namespace {
+
+class Counters : public Cpu {
+ protected:
+  Counters() {
+    // Something in every cell that a counter could touch by mistake.
+    std::int16_t n = 100;
+    for (Riga_Contatore& contatore : plc.Mem_C) contatore = {++n, ++n, 1, 1, 1};
+    for (Riga_IP& uscite : plc.IP_Q) {
+      for (std::uint8_t& bit : uscite.Bit_Img) bit = 1;
+      uscite.Val_B = 255;
+    }
+    for (int cella = 0; cella <= 7; ++cella) plc.Stak[cella] = 1;
+  }
+
+  /// Puts the line at row 1, which reads no inputs, between two others.
+  void Prepara(const std::string& riga) {
+    Carica({"NOP", riga, "NOP"});
+    plc.PC = 1;
+    plc.PLC_Acceso = -1;
+  }
+
+  /// The line ends well and leaves the whole memory as in `atteso`.
+  void Attendi(Memoria atteso) {
+    atteso.PC = 2;
+    plc.Esegui_Riga();
+    EXPECT_TRUE(plc == atteso);
+    EXPECT_TRUE(avvisi.empty());
+  }
+
+  /// Inputs I0.0, I0.1 and I0.2 as given, then one scan.
+  void Scansione_Con(bool i0, bool i1, bool i2 = false) {
+    Ingresso(0, 0, i0);
+    Ingresso(0, 1, i1);
+    Ingresso(0, 2, i2);
+    Scansione();
+  }
+
+  const Riga_Contatore& C5() const { return plc.Mem_C[5]; }
+};
+
+// ---- one execution of a line --------------------------------------------------------------------
+
+struct Esecuzione {
+  const char* nome;
+  const char* riga;
+  int pila[3];  // top first
+  std::int16_t abilitata;
+  std::uint8_t sm01;
+  Riga_Contatore prima;  // with a preset that the line replaces
+  Riga_Contatore dopo;
+};
+
+// CTU: reset, count. CTD: load, count. CTUD: reset, down, up.
+// Counter: Val, PV, Uscita, Front_A, Front_B.
+const Esecuzione esecuzioni[] = {
+    {"CtuIdle", "CTU C5, +4", {0, 0, 1}, 1, 0, {2, 99, 0, 0, 1}, {2, 4, 0, 0, 1}},
+    {"CtuCountsAnEdge", "CTU C5, +4", {0, 1, 1}, 1, 0, {2, 99, 0, 0, 1}, {3, 4, 0, 1, 1}},
+    {"CtuHeldDoesNotCount", "CTU C5, +4", {0, 1, 1}, 1, 0, {2, 99, 0, 1, 1}, {2, 4, 0, 1, 1}},
+    {"CtuForgetsAFallenInput", "CTU C5, +4", {0, 0, 1}, 1, 0, {2, 99, 0, 1, 1}, {2, 4, 0, 0, 1}},
+    {"CtuReachesItsPreset", "CTU C5, +4", {0, 1, 0}, 1, 0, {3, 99, 0, 0, 0}, {4, 4, 1, 1, 0}},
+    {"CtuCountsOnAbove", "CTU C5, +4", {0, 1, 0}, 1, 0, {4, 99, 1, 0, 0}, {5, 4, 1, 1, 0}},
+    {"CtuKeepsItsOutputBelow", "CTU C5, +4", {0, 0, 0}, 1, 0, {2, 99, 1, 0, 0}, {2, 4, 1, 0, 0}},
+    {"CtuReset", "CTU C5, +4", {1, 0, 0}, 1, 0, {9, 99, 1, 1, 1}, {0, 4, 0, 0, 1}},
+    {"CtuCountsFromZeroInAReset", "CTU C5, +4", {1, 1, 0}, 1, 0, {9, 99, 1, 0, 0}, {1, 4, 0, 1, 0}},
+    {"CtuResetWithAPresetOfZero", "CTU C5, +0", {1, 0, 0}, 1, 0, {9, 99, 1, 0, 0}, {0, 0, 1, 0, 0}},
+    {"CtuFirstScanOnlyMarksTheInput",
+     "CTU C5, +4",
+     {0, 1, 0},
+     1,
+     1,
+     {2, 99, 0, 0, 0},
+     {2, 4, 0, 1, 0}},
+    {"CtuFirstScanStillResets", "CTU C5, +4", {1, 0, 0}, 1, 1, {9, 99, 1, 0, 0}, {0, 4, 0, 0, 0}},
+    {"CtuDisabledIsNotReset", "CTU C5, +4", {1, 0, 0}, 0, 0, {9, 99, 1, 0, 0}, {9, 4, 1, 0, 0}},
+    {"CtuDisabledForgetsTheInput",
+     "CTU C5, +4",
+     {0, 1, 0},
+     0,
+     0,
+     {2, 99, 0, 1, 0},
+     {2, 4, 0, 0, 0}},
+    {"CtuDisabledStillComparesItsPreset",
+     "CTU C5, +4",
+     {0, 0, 0},
+     0,
+     0,
+     {9, 99, 0, 0, 0},
+     {9, 4, 1, 0, 0}},
+    {"CtuAtTheCeiling", "CTU C5, +4", {0, 1, 0}, 1, 0, {32766, 99, 1, 0, 0}, {32767, 4, 1, 1, 0}},
+
+    {"CtdIdle", "CTD C5, +4", {0, 0, 1}, 1, 0, {2, 99, 0, 0, 1}, {2, 4, 0, 0, 1}},
+    {"CtdCountsAnEdge", "CTD C5, +4", {0, 1, 1}, 1, 0, {2, 99, 0, 0, 1}, {1, 4, 0, 1, 1}},
+    {"CtdCountsInTheFirstScan", "CTD C5, +4", {0, 1, 1}, 1, 1, {2, 99, 0, 0, 1}, {1, 4, 0, 1, 1}},
+    {"CtdReachesZero", "CTD C5, +4", {0, 1, 1}, 1, 0, {1, 99, 0, 0, 1}, {0, 4, 1, 1, 1}},
+    {"CtdStaysAtZero", "CTD C5, +4", {0, 1, 1}, 1, 0, {0, 99, 0, 0, 1}, {0, 4, 1, 1, 1}},
+    {"CtdBelowZeroDoesNotCount",
+     "CTD C5, +4",
+     {0, 1, 1},
+     1,
+     0,
+     {-2, 99, 0, 0, 0},
+     {-2, 4, 0, 1, 0}},
+    {"CtdWithItsOutputOnDoesNotCount",
+     "CTD C5, +4",
+     {0, 1, 1},
+     1,
+     0,
+     {2, 99, 1, 0, 1},
+     {2, 4, 1, 1, 1}},
+    {"CtdHeldDoesNotCount", "CTD C5, +4", {0, 1, 1}, 1, 0, {2, 99, 0, 1, 1}, {2, 4, 0, 1, 1}},
+    {"CtdForgetsAFallenInput", "CTD C5, +4", {0, 0, 1}, 1, 0, {2, 99, 0, 1, 1}, {2, 4, 0, 0, 1}},
+    {"CtdLoads", "CTD C5, +4", {1, 0, 0}, 1, 0, {0, 99, 1, 0, 0}, {4, 4, 0, 0, 1}},
+    {"CtdLoadHidesTheEdge", "CTD C5, +4", {1, 1, 0}, 1, 0, {0, 99, 1, 0, 0}, {4, 4, 0, 0, 1}},
+    {"CtdLoadKeepsAnEdgeAlreadySeen",
+     "CTD C5, +4",
+     {1, 1, 0},
+     1,
+     0,
+     {0, 99, 1, 1, 0},
+     {4, 4, 0, 1, 1}},
+    {"CtdLoadOfZeroGoesOn", "CTD C5, +0", {1, 0, 0}, 1, 0, {7, 99, 0, 0, 0}, {0, 0, 1, 0, 1}},
+    {"CtdLoadsAnythingButZero", "CTD C5, +4", {2, 0, 0}, 1, 0, {0, 99, 1, 0, 0}, {4, 4, 0, 0, 1}},
+    {"CtdDisabledDoesNotLoad", "CTD C5, +4", {1, 1, 0}, 0, 0, {7, 99, 1, 1, 0}, {7, 4, 1, 0, 0}},
+    {"CtdDisabledAtZeroGoesOn", "CTD C5, +4", {0, 1, 0}, 0, 0, {0, 99, 0, 0, 0}, {0, 4, 1, 0, 0}},
+
+    {"CtudIdleBelow", "CTUD C5, +4", {0, 0, 0}, 1, 0, {2, 99, 1, 0, 0}, {2, 4, 0, 0, 0}},
+    {"CtudIdleAtItsPreset", "CTUD C5, +4", {0, 0, 0}, 1, 0, {4, 99, 0, 0, 0}, {4, 4, 1, 0, 0}},
+    {"CtudCountsUp", "CTUD C5, +4", {0, 0, 1}, 1, 0, {3, 99, 0, 0, 0}, {4, 4, 1, 0, 1}},
+    {"CtudCountsUpInTheFirstScan",
+     "CTUD C5, +4",
+     {0, 0, 1},
+     1,
+     1,
+     {3, 99, 0, 0, 0},
+     {4, 4, 1, 0, 1}},
+    {"CtudCountsDown", "CTUD C5, +4", {0, 1, 0}, 1, 0, {4, 99, 1, 0, 0}, {3, 4, 0, 1, 0}},
+    {"CtudGoesNegative", "CTUD C5, +4", {0, 1, 0}, 1, 0, {0, 99, 0, 0, 0}, {-1, 4, 0, 1, 0}},
+    {"CtudBothWaysCancel", "CTUD C5, +4", {0, 1, 1}, 1, 0, {4, 99, 0, 0, 0}, {4, 4, 1, 1, 1}},
+    {"CtudHeldDoesNotCount", "CTUD C5, +4", {0, 1, 1}, 1, 0, {4, 99, 0, 1, 1}, {4, 4, 1, 1, 1}},
+    {"CtudForgetsFallenInputs", "CTUD C5, +4", {0, 0, 0}, 1, 0, {4, 99, 0, 1, 1}, {4, 4, 1, 0, 0}},
+    {"CtudReset", "CTUD C5, +4", {1, 0, 0}, 1, 0, {9, 99, 1, 0, 0}, {0, 4, 0, 0, 0}},
+    {"CtudCountsUpFromZeroInAReset",
+     "CTUD C5, +4",
+     {1, 0, 1},
+     1,
+     0,
+     {9, 99, 1, 0, 0},
+     {1, 4, 0, 0, 1}},
+    {"CtudCountsDownFromZeroInAReset",
+     "CTUD C5, +4",
+     {1, 1, 0},
+     1,
+     0,
+     {9, 99, 1, 0, 0},
+     {-1, 4, 0, 1, 0}},
+    {"CtudResetByAnythingButZero",
+     "CTUD C5, +4",
+     {2, 0, 0},
+     1,
+     0,
+     {9, 99, 1, 0, 0},
+     {0, 4, 0, 0, 0}},
+    {"CtudWithAPresetOfZeroIsOnAfterAReset",
+     "CTUD C5, +0",
+     {1, 0, 0},
+     1,
+     0,
+     {9, 99, 0, 0, 0},
+     {0, 0, 1, 0, 0}},
+    {"CtudDisabledDoesNothingButCompare",
+     "CTUD C5, +4",
+     {1, 1, 1},
+     0,
+     0,
+     {9, 99, 0, 1, 1},
+     {9, 4, 1, 0, 0}},
+};
+
+class CounterExecution : public Counters, public ::testing::WithParamInterface<Esecuzione> {};
+
+TEST_P(CounterExecution, ChangesItsOwnCounterOnly) {
+  const Esecuzione& caso = GetParam();
+  Prepara(caso.riga);
+  for (int cella = 0; cella <= 2; ++cella)
+    plc.Stak[cella] = static_cast<std::int16_t>(caso.pila[cella]);
+  plc.Prog[1].Abil_SCR = caso.abilitata;
+  plc.Mem_SM[0].Bit[1] = caso.sm01;
+  plc.Mem_C[5] = caso.prima;
+  Memoria atteso = plc;
+  atteso.Mem_C[5] = caso.dopo;
+  Attendi(atteso);
+}
+
+INSTANTIATE_TEST_SUITE_P(Line, CounterExecution, ::testing::ValuesIn(esecuzioni),
+                         [](const auto& riga) { return std::string(riga.param.nome); });
+
+// ---- presets and limits -------------------------------------------------------------------------
+
+class EveryCounter : public Counters, public ::testing::WithParamInterface<const char*> {
+ protected:
+  std::string Riga_Con(const std::string& operandi) const {
+    return std::string(GetParam()) + " " + operandi;
+  }
+};
+INSTANTIATE_TEST_SUITE_P(Of, EveryCounter, ::testing::Values("CTU", "CTD", "CTUD"),
+                         [](const auto& info) { return std::string(info.param); });
+
+TEST_P(EveryCounter, TakesItsPresetFromAConstantOrTheContentOfAWord) {
+  plc.Mem_VW[7] = -300;
+  for (const auto& [testo, preset] :
+       {std::pair{"C5, +25", 25}, {"C5, -4", -4}, {"C5, VW7", -300}}) {
+    for (const std::int16_t abilitata : {0, 1}) {
+      Prepara(Riga_Con(testo));
+      for (int cella = 0; cella <= 2; ++cella) plc.Stak[cella] = 0;
+      plc.Prog[1].Abil_SCR = abilitata;
+      plc.Mem_C[5] = {400, 99, 1, 0, 0};
+      Memoria atteso = plc;
+      atteso.Mem_C[5].PV = static_cast<std::int16_t>(preset);
+      Attendi(atteso);
+    }
+  }
+}
+
+TEST_P(EveryCounter, RefusesAPresetFromAnyOtherAreaAccumulatorsAmongThem) {
+  for (const char* area :
+       {"AC0", "I0.0", "Q0.0", "M0.0", "S0.0", "SM0.0", "T0",   "C0",   "IB0", "QB0",
+        "MB0", "SMB0", "VB0",  "IW0",  "QW0",  "MW0",   "AIW0", "AQW0", "VD0", ""}) {
+    SCOPED_TRACE(area);
+    avvisi.clear();
+    Prepara(Riga_Con(std::string("C5, ") + area));
+    Memoria atteso = plc;
+    for (Riga_IP& uscite : atteso.IP_Q) {
+      for (int bit = 0; bit <= 7; ++bit) uscite.Bit_Dir[bit] = uscite.Bit_Img[bit] = 0;
+      uscite.Val_B = 0;
+    }
+    plc.Esegui_Riga();
+    EXPECT_TRUE(plc == atteso);
+    ASSERT_EQ(avvisi.size(), 1U);
+    EXPECT_EQ(avvisi[0].Testo, Errore_Run_Time);
+    EXPECT_FALSE(plc.PLC_Acceso);
+  }
+}
+
+TEST_P(EveryCounter, ReachesFromZeroToTwenty) {
+  for (const int numero : {0, 20}) {
+    Prepara(Riga_Con("C" + std::to_string(numero) + ", +25"));
+    plc.Esegui_Riga();
+    EXPECT_EQ(plc.Mem_C[numero].PV, 25);
+  }
+  Prepara(Riga_Con("C21, +25"));
+  EXPECT_THROW(plc.Esegui_Riga(), Fatale);
+}
+
+TEST_F(Counters, CountBeyondItsCellIsFatal) {
+  struct Caso {
+    const char* riga;
+    std::int16_t pila[3], valore;
+  };
+  for (const Caso& caso :
+       {Caso{"CTU C5, +4", {0, 1, 0}, 32767}, Caso{"CTUD C5, +4", {0, 0, 1}, 32767},
+        Caso{"CTUD C5, +4", {0, 1, 0}, -32768}}) {
+    SCOPED_TRACE(caso.riga);
+    Prepara(caso.riga);
+    for (int cella = 0; cella <= 2; ++cella) plc.Stak[cella] = caso.pila[cella];
+    plc.Mem_C[5] = {caso.valore, 0, 0, 0, 0};
+    EXPECT_THROW(plc.Esegui_Riga(), Fatale);
+  }
+}
+
+TEST_F(Counters, CtdLoadedFromAWordHoldsTheNumberOfTheWordAndNotItsContent) {
+  Prepara("CTD C5, VW3");
+  plc.Mem_VW[3] = 500;
+  plc.Stak[1] = 0;
+  plc.Mem_C[5] = {0, 99, 1, 0, 0};
+  Memoria atteso = plc;
+  atteso.Mem_C[5] = {3, 500, 0, 0, 1};
+  Attendi(atteso);
+}
+
+// ---- over several scans -------------------------------------------------------------------------
+
+class CounterInTheFirstScan : public Counters, public ::testing::WithParamInterface<Modo> {
+ protected:
+  /// A run of one scan in the mode of the test; in Cont one line more is executed.
+  void Una_Scansione() {
+    switch (GetParam()) {
+      case Modo::Cont:
+        Run_Cont(1);
+        break;
+      case Modo::Ciclo:
+        plc.Scelte.chkSol = true;
+        plc.mnuPlcCiclo();
+        plc.mnuPlcRun();
+        break;
+      case Modo::Step:
+        Run_Step();
+        Scansione();
+        break;
+    }
+  }
+};
+INSTANTIATE_TEST_SUITE_P(Mode, CounterInTheFirstScan,
+                         ::testing::Values(Modo::Cont, Modo::Ciclo, Modo::Step),
+                         [](const auto& info) {
+                           static constexpr const char* nomi[] = {"Cont", "Step", "Ciclo"};
+                           return std::string(nomi[static_cast<std::size_t>(info.param)]);
+                         });
+
+TEST_P(CounterInTheFirstScan, CtuWithItsInputOnDoesNotCount) {
+  plc.Init_PLC();
+  Carica({"LD I0.0", "LD I0.1", "CTU C5, +4"});
+  Ingresso(0, 0, true);
+  Una_Scansione();
+  EXPECT_EQ(plc.N_Cicli, 1);
+  EXPECT_EQ(C5(), (Riga_Contatore{0, 4, 0, 1, 0}));
+  while (plc.PC != 0) plc.Esegui_Riga();
+  Scansione();
+  EXPECT_EQ(C5().Val, 0);  // still the same press
+  Scansione_Con(false, false);
+  Scansione_Con(true, false);
+  EXPECT_EQ(C5(), (Riga_Contatore{1, 4, 0, 1, 0}));
+}
+
+TEST_P(CounterInTheFirstScan, CtudWithItsInputOnCounts) {
+  plc.Init_PLC();
+  Carica({"LD I0.0", "LD I0.1", "LD I0.2", "CTUD C5, +4"});
+  Ingresso(0, 0, true);
+  Una_Scansione();
+  EXPECT_EQ(C5(), (Riga_Contatore{1, 4, 0, 0, 1}));
+}
+
+TEST_F(Counters, CtuCountsPressesUntilItsReset) {
+  plc.Init_PLC();
+  Carica({"LD I0.0", "LD I0.1", "CTU C5, +2", "LD C5", "= Q0.0"});
+  Run_Step();
+  Scansione();
+  for (const int preme : {1, 2, 3}) {
+    Scansione_Con(true, false);
+    Scansione_Con(false, false);
+    EXPECT_EQ(C5().Val, preme);
+    EXPECT_EQ(plc.IP_Q[0].Bit_Dir[0], preme >= 2 ? 1 : 0);
+  }
+  Scansione_Con(false, true);
+  EXPECT_EQ(C5(), (Riga_Contatore{0, 2, 0, 0, 0}));
+  EXPECT_EQ(plc.IP_Q[0].Bit_Dir[0], 0);
+}
+
+TEST_F(Counters, CtdCountsDownToZeroAndWaitsForTheNextLoad) {
+  plc.Init_PLC();
+  Carica({"LD I0.0", "LD I0.1", "CTD C5, +2"});
+  Run_Step();
+  Scansione();
+  EXPECT_EQ(C5(), (Riga_Contatore{0, 2, 1, 0, 0}));
+  Scansione_Con(false, true);
+  EXPECT_EQ(C5(), (Riga_Contatore{2, 2, 0, 0, 1}));
+  for (const int resto : {1, 0, 0}) {
+    Scansione_Con(true, false);
+    Scansione_Con(false, false);
+    EXPECT_EQ(C5().Val, resto);
+    EXPECT_EQ(C5().Uscita, resto == 0 ? 1 : 0);
+  }
+}
+
+TEST_F(Counters, CtudReadsUpThenDownThenResetFromTheProgram) {
+  plc.Init_PLC();
+  Carica({"LD I0.0", "LD I0.1", "LD I0.2", "CTUD C5, +2"});
+  Run_Step();
+  Scansione();
+  Scansione_Con(true, false, false);
+  Scansione_Con(false, true, false);
+  Scansione_Con(false, false, false);
+  Scansione_Con(false, true, false);
+  EXPECT_EQ(C5().Val, -1);
+  Scansione_Con(true, false, true);  // the edge counts from 0 in the scan of the reset
+  EXPECT_EQ(C5(), (Riga_Contatore{1, 2, 0, 0, 1}));
+}
+
+TEST_F(Counters, RunLeavesCountersAsTheyWere) {
+  Carica({"NOP"});
+  const auto prima = plc.Mem_C;
+  Run_Step();
+  plc.mnuPlcStop();
+  Run_Step();
+  EXPECT_EQ(plc.Mem_C, prima);
+}
+
+TEST_F(Counters, ActivatingTheWindowInARunClearsCountersAndStopsTimers) {
+  Carica({"NOP"});
+  Run_Step();
+  plc.Mem_T[5] = {7, 10, 1, -1};
+  Memoria atteso = plc;
+  for (Riga_Contatore& contatore : atteso.Mem_C) contatore = {};
+  atteso.Mem_T[5].Conta = 0;
+  plc.Init_PLC();
+  EXPECT_TRUE(plc == atteso);
+}
+
+TEST_F(Counters, ResetInstructionLeavesThePresetAndTheEdgeMemory) {
+  Prepara("R C5, 1");
+  plc.Mem_C[5] = {9, 4, 1, 1, 1};
+  Memoria atteso = plc;
+  atteso.Mem_C[5] = {0, 4, 0, 1, 1};
+  Attendi(atteso);
+}
+
+}  // namespace
+}  // namespace tavorno::prova
