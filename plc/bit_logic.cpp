@@ -5,80 +5,48 @@
 
 namespace tavorno {
 
-void Plc::GestStak(std::uint8_t codice, std::int16_t valore) {
-  switch (codice) {
-    case 0:
-      Stak.Azzera();
-      break;
-    case 1:
-      Stak.Spingi(valore);
-      break;
-    case 2: {
-      const auto due = static_cast<std::int16_t>(Stak[0] & Stak[1]);
-      Stak.Togli();
-      Stak[0] = due;
-      break;
-    }
-    case 3: {
-      const auto due = static_cast<std::int16_t>(Stak[0] | Stak[1]);
-      Stak.Togli();
-      Stak[0] = due;
-      break;
-    }
-    case 4:
-      Stak[0] = valore;
-      break;
-    case 5:
-      Stak.Spingi(Stak[0]);
-      break;
-    case 6:
-      Stak[0] = Stak[1];
-      break;
-    case 7:
-      Stak.Togli();
-      break;
-    default:
-      break;
-  }
-  if (Scelte.chkVs) Segna(Segno_Pila);
-}
-
 // ---- contacts -----------------------------------------------------------------------------------
 
-std::int16_t Plc::AC1_Bit(Area area, int num, int bit, std::int16_t& err) const {
+namespace {
+/// Inlined into each contact, so that each has a branch of its own on the area.
+[[gnu::always_inline]] inline std::int16_t Leggi_Bit(const Memoria& memoria, Area area, int num,
+                                                     int bit, std::int16_t& err) {
   err = 0;
   switch (area) {
     case Area::I:
-      return IP_I[num].Bit_Img[bit];
+      return memoria.IP_I[num].Bit_Img[bit];
     case Area::Q:
-      return IP_Q[num].Bit_Img[bit];
+      return memoria.IP_Q[num].Bit_Img[bit];
     case Area::M:
-      return Mem_M[num].Bit[bit];
+      return memoria.Mem_M[num].Bit[bit];
     case Area::SM:
-      return Mem_SM[num].Bit[bit];
+      return memoria.Mem_SM[num].Bit[bit];
     case Area::T:
-      return Mem_T[num].Uscita;
+      return memoria.Mem_T[num].Uscita;
     case Area::C:
-      return Mem_C[num].Uscita;
+      return memoria.Mem_C[num].Uscita;
     case Area::S:
-      return Mem_S[num].Bit[bit];
+      return memoria.Mem_S[num].Bit[bit];
     default:
       err = -1;
       return 0;
   }
 }
 
-namespace {
 std::int16_t Negato(std::int16_t bit) {
   return bit != 1 ? 1 : 0;
 }
 }  // namespace
 
+std::int16_t Plc::AC1_Bit(Area area, int num, int bit, std::int16_t& err) const {
+  return Leggi_Bit(*this, area, num, bit, err);
+}
+
 /// A contact on an image bit: `unisci` makes the stack operation out of the bit that was read.
 template <class Unisci>
 Esito Plc::Contatto(const Riga_PLC& riga, Unisci unisci) {
   std::int16_t err = 0;
-  const std::int16_t bit = AC1_Bit(riga.Codice1, riga.Num1, riga.Bit1, err);
+  const std::int16_t bit = Leggi_Bit(*this, riga.Codice1, riga.Num1, riga.Bit1, err);
   if (err) return Esito::Errore;
   unisci(bit);
   return Esito::Avanti;
@@ -173,6 +141,15 @@ Esito Plc::Istr_LPP(Riga_PLC& /*riga*/) {
 
 // ---- outputs ------------------------------------------------------------------------------------
 
+namespace {
+/// Writes a cell; true when that changed it.
+bool Cambia(std::uint8_t& cella, std::uint8_t valore) {
+  const bool diversa = cella != valore;
+  cella = valore;
+  return diversa;
+}
+}  // namespace
+
 Esito Plc::Istr_Assegna(Riga_PLC& riga) {
   const auto valore = static_cast<std::int16_t>(Stak[0] & riga.Abil_SCR);
   switch (riga.Codice1) {
@@ -181,8 +158,7 @@ Esito Plc::Istr_Assegna(Riga_PLC& riga) {
       Aggiorna_IPQ(riga.Num1);
       return Esito::Avanti;
     case Area::M:
-      Mem_M[riga.Num1].Bit[riga.Bit1] = static_cast<std::uint8_t>(valore);
-      Setta_Marker();
+      Aggiorna_Marker(Cambia(Mem_M[riga.Num1].Bit[riga.Bit1], static_cast<std::uint8_t>(valore)));
       return Esito::Avanti;
     case Area::S:
       Mem_S[riga.Num1].Bit[riga.Bit1] = valore;
@@ -209,10 +185,13 @@ Esito Plc::Istr_S(Riga_PLC& riga) {
       for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit) IP_Q[riga.Num1].Bit_Img[bit] = 1;
       Aggiorna_IPQ(riga.Num1);
       return Esito::Avanti;
-    case Area::M:
-      for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit) Mem_M[riga.Num1].Bit[bit] = 1;
-      Setta_Marker();
+    case Area::M: {
+      bool cambiato = false;
+      for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit)
+        cambiato |= Cambia(Mem_M[riga.Num1].Bit[bit], 1);
+      Aggiorna_Marker(cambiato);
       return Esito::Avanti;
+    }
     case Area::S:
       for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit) Mem_S[riga.Num1].Bit[bit] = 1;
       return Esito::Avanti;
@@ -237,18 +216,19 @@ Esito Plc::Istr_R(Riga_PLC& riga) {
       return Esito::Avanti;
     case Area::M: {
       Esito esito = Esito::Avanti;
+      bool cambiato = false;
       // Only here a reset runs over into the next byte, and there up to its cell 8.
       for (int bit = primo; flusso && bit <= ultimo && bit <= 16; ++bit) {
         if (bit <= 7) {
-          Mem_M[riga.Num1].Bit[bit] = 0;
+          cambiato |= Cambia(Mem_M[riga.Num1].Bit[bit], 0);
         } else if (riga.Num1 + 1 > Mem_M.ultimo) {
           esito = Esito::Errore;
           break;
         } else {
-          Mem_M[riga.Num1 + 1].Bit[bit - 8] = 0;
+          cambiato |= Cambia(Mem_M[riga.Num1 + 1].Bit[bit - 8], 0);
         }
       }
-      Setta_Marker();
+      Aggiorna_Marker(cambiato);
       return esito;
     }
     case Area::T:

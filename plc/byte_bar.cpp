@@ -17,14 +17,18 @@ Barra::Barra(Orologio& orologio)
       }) {}
 
 void Barra::Assegna(std::string_view testo) {
-  stato_ = testo;
-  unsigned byte = 0;
-  for (unsigned bit = 0; bit < 8 && bit < stato_.size(); ++bit) {
-    if (stato_[bit] == '1') byte |= 1U << bit;
+  // At the end of most scans the text is the one that is there already.
+  if (!derivati_ || testo != stato_) {
+    stato_ = testo;
+    unsigned byte = 0;
+    for (unsigned bit = 0; bit < 8 && bit < stato_.size(); ++bit) {
+      if (stato_[bit] == '1') byte |= 1U << bit;
+    }
+    byte_ = static_cast<std::uint8_t>(byte);
+    lettura_ = Testo_Lettura(byte_);
+    derivati_ = true;
+    Mostra(byte_);
   }
-  byte_ = static_cast<std::uint8_t>(byte);
-  lettura_ = Testo_Lettura(byte_);
-  Mostra(byte_);
   if (INT_ON && passato_ != stato_) {
     passato_ = stato_;
     if (Change) Change();
@@ -39,6 +43,7 @@ void Barra::Spegni() {
 void Barra::Mostra(std::uint8_t accesi) {
   if (accesi == accesi_) return;
   accesi_ = accesi;
+  derivati_ = derivati_ && accesi == byte_;
   if (Aspetto) Aspetto();
 }
 

@@ -46,9 +46,19 @@ class Barra {
   /// Eight characters, leftmost bit 0; what is not '1', or missing, is dark.
   void Assegna(std::string_view testo);
 
+  void Memorizza_Byte(std::uint8_t valore) {
+    byte_ = valore;
+    derivati_ = false;
+  }
+  void Memorizza_Lettura(std::string_view testo) {
+    lettura_ = testo;
+    derivati_ = false;
+  }
+
   std::string stato_ = "00000000";
   std::uint8_t byte_ = 0;
   std::string lettura_ = "00000000";
+  bool derivati_ = true;  // byte, reading text and LEDs agree with the text
 
  private:
   void Mostra(std::uint8_t accesi);
@@ -68,10 +78,10 @@ class LedI : public Barra {
 
   const std::string& Stato_I() const { return stato_; }
   void Stato_I(std::string_view testo) { Assegna(testo); }
-  std::uint8_t Stato_IB() const { return byte_; }                ///< 0..255
-  void Stato_IB(std::uint8_t valore) { byte_ = valore; }         ///< storage only
-  const std::string& Stato_BitI() const { return lettura_; }     ///< leftmost character bit 7
-  void Stato_BitI(std::string_view testo) { lettura_ = testo; }  ///< storage only
+  std::uint8_t Stato_IB() const { return byte_; }                 ///< 0..255
+  void Stato_IB(std::uint8_t valore) { Memorizza_Byte(valore); }  ///< storage only
+  const std::string& Stato_BitI() const { return lettura_; }      ///< leftmost character bit 7
+  void Stato_BitI(std::string_view testo) { Memorizza_Lettura(testo); }  ///< storage only
   void LED_Reset() { Spegni(); }
 };
 
@@ -83,9 +93,9 @@ class LedQ : public Barra {
   const std::string& Stato_Q() const { return stato_; }
   void Stato_Q(std::string_view testo) { Assegna(testo); }
   std::uint8_t Stato_QB() const { return byte_; }                 ///< 0..255
-  void Stato_QB(std::uint8_t valore) { byte_ = valore; }          ///< storage only
+  void Stato_QB(std::uint8_t valore) { Memorizza_Byte(valore); }  ///< storage only
   const std::string& Stato_QBitI() const { return lettura_; }     ///< leftmost character bit 7
-  void Stato_QBitI(std::string_view testo) { lettura_ = testo; }  ///< storage only
+  void Stato_QBitI(std::string_view testo) { Memorizza_Lettura(testo); }  ///< storage only
   /// Unlike the input bar's, this one speaks again afterwards.
   void LED_Reset() {
     Spegni();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -41,8 +42,9 @@ inline std::uint8_t Cifra(std::string_view testo, unsigned posto) {
 /// The byte of eight cells that hold 0 or 1 each, cell 0 the lowest bit. One multiplication gathers
 /// the eight lowest bits, since markers and outputs are packed again and again during a scan.
 inline std::uint8_t Byte_Di_Celle(const std::uint8_t* celle) {
+  static_assert(std::endian::native == std::endian::little);
   std::uint64_t otto = 0;
-  for (unsigned bit = 0; bit < 8; ++bit) otto |= std::uint64_t{celle[bit]} << (8 * bit);
+  std::memcpy(&otto, celle, sizeof otto);
   return static_cast<std::uint8_t>(((otto & 0x0101010101010101U) * 0x0102040810204080U) >> 56);
 }
 

@@ -22,8 +22,8 @@ enum class Esito : std::uint8_t {
   Ignota,  ///< the interpreter has no branch for this mnemonic
 };
 
-/// A branch of the interpreter.
-using Ramo = Esito (Plc::*)(Riga_PLC&);
+/// A branch of the interpreter; see `Ramo_Di`.
+using Ramo = Esito (*)(Plc&, Riga_PLC&);
 /// What stands for a branch where there is none.
 Ramo Ramo_Assente();
 

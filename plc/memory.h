@@ -24,7 +24,8 @@ struct Riga_IP {
   bool operator==(const Riga_IP&) const = default;
 };
 
-/// One byte of markers.
+/// One byte of markers. Whoever writes its cells brings value and text up to date by
+/// `Plc::Setta_Marker`.
 struct Riga_M {
   Tabella<std::uint8_t, 8> Bit{"Mem_M.Bit"};
   std::int16_t Val_B = 0;
@@ -67,8 +68,8 @@ struct Riga_Contatore {
   bool operator==(const Riga_Contatore&) const = default;
 };
 
-/// One compiled line.
-struct Riga_PLC {
+/// One compiled line. Aligned so that what the interpreter reads of it is one cache line.
+struct alignas(64) Riga_PLC {
   // Decoded from the texts below by `Decodifica`; what the interpreter looks at comes first, so
   // that a line costs it one stretch of memory.
   Ramo Esegui = Ramo_Assente();

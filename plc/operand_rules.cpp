@@ -165,11 +165,11 @@ const Regola Reset{2,  numero, Elemento({Q, M, S, T, C}, {I, V, L, K, SM}),
 // ---- timers and counters ----------------------------------------------------------------------
 
 const Regola Timer{2,
-                            numero,
-                            Solo(Con_Limite({I, Q, M, SM, S, T, C}, 63, indirizzo_timer), codice),
-                            Regola_Operando{{}, {QW, IW, MW, SMW, SW, LW, T}, codice, {}},
-                            false,
-                            "T; tempo in K, VW, AC"};
+                   numero,
+                   Solo(Con_Limite({I, Q, M, SM, S, T, C}, 63, indirizzo_timer), codice),
+                   Regola_Operando{{}, {QW, IW, MW, SMW, SW, LW, T}, codice, {}},
+                   false,
+                   "T; tempo in K, VW, AC"};
 
 const Regola Contatore{2,
                        numero,

@@ -56,8 +56,8 @@ struct Regola {
 
 namespace regole {
 extern const Regola Contatto, Contatto_Immediato, Uscita, Uscita_Immediata, Set, Set_Immediato,
-    Reset, Timer, Contatore, MOVB, MOVW, MOVD, BIR, BIW, BTI, Aritmetica_I, Aritmetica_D,
-    Inc_B, Inc_W, Inc_D, Confronto_B, Confronto_W, Confronto_D;
+    Reset, Timer, Contatore, MOVB, MOVW, MOVD, BIR, BIW, BTI, Aritmetica_I, Aritmetica_D, Inc_B,
+    Inc_W, Inc_D, Confronto_B, Confronto_W, Confronto_D;
 }  // namespace regole
 
 }  // namespace tavorno

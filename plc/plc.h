@@ -103,6 +103,8 @@ struct Plc : Memoria {
   void Aggiorna_IPQ(int riga);
   void Setta_Marker();
   void Byte_Bit(int valore, int riga);
+  /// An operation on the logic stack by its code: 0 clear, 1 push, 2 and-pop, 3 or-pop, 4 set top,
+  /// 5 duplicate, 6 read second, 7 pop; others change nothing.
   void GestStak(std::uint8_t codice, std::int16_t valore = 0);
   void Rit_Stak(std::uint8_t codice, std::int16_t valore = 0);
 
@@ -221,6 +223,12 @@ struct Plc : Memoria {
   template <class Unisci>
   Esito Contatto_Immediato(const Riga_PLC& riga, Unisci unisci);
 
+  /// After a write to M by an instruction. Most writes leave the cell as it was, and then value and
+  /// text are up to date already, but for the first one, which finds no text.
+  void Aggiorna_Marker(bool cambiato) {
+    if (cambiato || Mem_M[0].Txt_B.empty()) Setta_Marker();
+  }
+
   // operands.cpp: raw values before any limit; false for an area that the width cannot read
   bool Sorgente_B(Area area, int num, std::int32_t& valore) const;
   bool Sorgente_W(Area area, int num, std::int32_t& valore) const;
@@ -251,7 +259,8 @@ struct Plc : Memoria {
   Esito IncDec_D(const Riga_PLC& riga, int passo);
 
   void Ferma_Timer(const Riga_PLC& riga);
-  void Fine_Riga(Esito esito, const Riga_PLC& riga);
+  Esito Esegui_Ramo();
+  bool Fine_Riga(Esito esito);
   void Mostra_Tempo();
   void Avvisa(Avviso avviso) const;
   void Scegli_Modo(Modo modo);
@@ -264,6 +273,45 @@ struct Plc : Memoria {
   bool in_ciclo_ = false;             // a run loop is at work further up the call stack
   std::uint8_t stato_tim1_ = 0, stato_tim2_ = 0;
 };
+
+// Here and not in a source file: with its code known, an operation is a few machine instructions.
+[[gnu::always_inline]] inline void Plc::GestStak(std::uint8_t codice, std::int16_t valore) {
+  switch (codice) {
+    case 0:
+      Stak.Azzera();
+      break;
+    case 1:
+      Stak.Spingi(valore);
+      break;
+    case 2: {
+      const auto due = static_cast<std::int16_t>(Stak[0] & Stak[1]);
+      Stak.Togli();
+      Stak[0] = due;
+      break;
+    }
+    case 3: {
+      const auto due = static_cast<std::int16_t>(Stak[0] | Stak[1]);
+      Stak.Togli();
+      Stak[0] = due;
+      break;
+    }
+    case 4:
+      Stak[0] = valore;
+      break;
+    case 5:
+      Stak.Spingi(Stak[0]);
+      break;
+    case 6:
+      Stak[0] = Stak[1];
+      break;
+    case 7:
+      Stak.Togli();
+      break;
+    default:
+      break;
+  }
+  if (Scelte.chkVs) Segna(Segno_Pila);
+}
 
 /// The report of a fatal end, in Italian (UTF-8): what, table or operation with index or value, the
 /// line of `PC` and its text.

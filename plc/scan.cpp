@@ -10,34 +10,38 @@
 
 namespace tavorno {
 
-void Plc::Esegui_Riga() {
-  for (int salti = 0; salti < Salti_Di_Seguito; ++salti) {
-    Riga_PLC& riga = Prog[PC];
-    if (PC == 0) {
-      StartTimer();
-      Aggiorna_IP_Ing();
-    }
-    const Esito esito = (this->*riga.Esegui)(riga);
-    if (esito == Esito::Salto) continue;
-    if (esito == Esito::Avanti) [[likely]]
-      PC = A_16(PC + 1, "PC");
-    else
-      Fine_Riga(esito, riga);
-    if (esito != Esito::Errore) {
-      if (Modo_Run == Modo::Step) {
-        etPc = PC;
-        Segna(Segno_PC);
-      }
-      if (Scelte.chkList) Mostra_Tempo();
-      if (esito == Esito::Fine) Mem_SM[0].Bit[1] = 0;
-    }
-    return;
+/// The line of `PC`, without its end.
+[[gnu::always_inline]] inline Esito Plc::Esegui_Ramo() {
+  Riga_PLC& riga = Prog[PC];
+  if (PC == 0) {
+    StartTimer();
+    Aggiorna_IP_Ing();
   }
+  return riga.Esegui(*this, riga);
 }
 
-/// The ends of a line that are not just "on to the next one".
-void Plc::Fine_Riga(Esito esito, const Riga_PLC& riga) {
+void Plc::Esegui_Riga() {
+  Esito esito = Esegui_Ramo();
+  for (int salti = 1; esito == Esito::Salto && salti < Salti_Di_Seguito; ++salti)
+    esito = Esegui_Ramo();
+  if (esito == Esito::Avanti) [[likely]]
+    PC = A_16(PC + 1, "PC");
+  else if (!Fine_Riga(esito))
+    return;
+  if (Modo_Run == Modo::Step) {
+    etPc = PC;
+    Segna(Segno_PC);
+  }
+  if (Scelte.chkList && tempo_mostrato_ != Tempo_Ciclo) Mostra_Tempo();
+  if (esito == Esito::Fine) Mem_SM[0].Bit[1] = 0;
+}
+
+/// The ends of a line that are not just "on to the next one". False when nothing is to follow.
+bool Plc::Fine_Riga(Esito esito) {
   switch (esito) {
+    case Esito::Fine:
+      PC = 0;
+      return true;
     case Esito::Errore:
       Avvisa({"Run Time Error",
               "Run Time Error! Il programma sarà terminato!",
@@ -45,13 +49,10 @@ void Plc::Fine_Riga(Esito esito, const Riga_PLC& riga) {
               Tasti::Ok,
               {}});
       mnuPlcStop();
-      break;
-    case Esito::Fine:
-      PC = 0;
-      break;
-    default:  // no branch
+      return false;
+    case Esito::Ignota:
       Avvisa({"Errore in Esecuzione!",
-              "Riga " + std::to_string(PC) + " : <" + A_Utf8(riga.Istr) +
+              "Riga " + std::to_string(PC) + " : <" + A_Utf8(Prog[PC].Istr) +
                   ">--> Istruzione non riconosciuta!\nIl Programma verrà terminato.",
               Icona::Critica,
               Tasti::Ok,
@@ -59,12 +60,13 @@ void Plc::Fine_Riga(Esito esito, const Riga_PLC& riga) {
       mnuPlcStop();
       Ferma = -1;
       PC = A_16(PC + 1, "PC");
-      break;
+      return true;
+    default:  // a chain of jumps that is not followed further
+      return false;
   }
 }
 
 void Plc::Mostra_Tempo() {
-  if (tempo_mostrato_ == Tempo_Ciclo) return;
   tempo_mostrato_ = Tempo_Ciclo;
   etTime = Formato(Tempo_Ciclo, "0000#");
   Segna(Segno_Tempo);
@@ -96,7 +98,7 @@ void Plc::Setta_Uscite() {
     std::copy_n(uscite.Bit_Img.Dati(), 8, uscite.Bit_Dir.Dati());
     const std::uint8_t byte = Byte_Di_Celle(uscite.Bit_Img.Dati());
     uscite.Val_B = byte;
-    uscite.Txt_B = Testo_Lettura(byte);
+    if (uscite.Txt_B != Testo_Lettura(byte)) uscite.Txt_B = Testo_Lettura(byte);
     SQ[static_cast<std::size_t>(riga)].Stato_Q(Testo_Bit(byte));
   }
 }
@@ -116,7 +118,7 @@ void Plc::Aggiorna_IP_Ing() {
       Segna(Segno_Immagini);
     }
     ingressi.Val_B = barra.Stato_IB();
-    ingressi.Txt_B = barra.Stato_BitI();
+    if (ingressi.Txt_B != barra.Stato_BitI()) ingressi.Txt_B = barra.Stato_BitI();
   }
 }
 

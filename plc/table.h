@@ -49,8 +49,11 @@ class Tabella_Variabile {
   const T& operator[](int indice) const { return righe_[Controlla(indice)]; }
 
   /// Gives the table `righe` blank rows; what it held is gone.
-  void Ridimensiona(int righe) { righe_.assign(static_cast<std::size_t>(righe), T{}); }
-  int Righe() const { return static_cast<int>(righe_.size()); }
+  void Ridimensiona(int righe) {
+    righe_.assign(static_cast<std::size_t>(righe), T{});
+    quante_ = static_cast<unsigned>(righe);
+  }
+  int Righe() const { return static_cast<int>(quante_); }
 
   auto begin() { return righe_.begin(); }
   auto end() { return righe_.end(); }
@@ -61,13 +64,14 @@ class Tabella_Variabile {
 
  private:
   std::size_t Controlla(int indice) const {
-    if (indice < 0 || static_cast<std::size_t>(indice) >= righe_.size()) [[unlikely]]
+    if (static_cast<unsigned>(indice) >= quante_) [[unlikely]]
       Fatale_Indice(nome_, indice);
     return static_cast<std::size_t>(indice);
   }
 
   const char* nome_;
   std::vector<T> righe_;
+  unsigned quante_ = 0;  // the size, without the division by the size of a row
 };
 
 }  // namespace tavorno

@@ -3,54 +3,11 @@
 #include <tuple>
 
 #include "cpu.h"
+#include "filled_memory.h"
 
 namespace tavorno::prova {
 
 namespace {
-
-/// Fills the memory so that a write to a wrong cell shows. The byte values and texts are left
-/// behind their bits, so that an update that nobody asked for shows as well.
-void Riempi(Memoria& m, std::uint8_t bit) {
-  for (auto* tabella : {&m.IP_I, &m.IP_Q}) {
-    for (Riga_IP& riga : *tabella) {
-      std::fill(riga.Bit_Dir.begin(), riga.Bit_Dir.end(), bit);
-      std::fill(riga.Bit_Img.begin(), riga.Bit_Img.end(), bit);
-      riga.Val_B = 77;
-      riga.Txt_B = "old";
-    }
-  }
-  for (Riga_M& riga : m.Mem_M) {
-    std::fill(riga.Bit.begin(), riga.Bit.end(), bit);
-    riga.Val_B = -1;
-    riga.Txt_B = "old";
-  }
-  for (Riga_S& riga : m.Mem_S) std::fill(riga.Bit.begin(), riga.Bit.end(), bit);
-  for (Riga_SM& riga : m.Mem_SM) std::fill(riga.Bit.begin(), riga.Bit.end(), bit);
-  for (Riga_Timer& timer : m.Mem_T) timer = {5, 6, 1, -1};
-  for (Riga_Contatore& contatore : m.Mem_C) contatore = {7, 8, 1, 1, 1};
-  for (int i = 0; i <= 7; ++i) m.Stak[i] = static_cast<std::int16_t>(i % 3 == 0 ? 1 : 0);
-}
-
-/// What `Setta_Marker` leaves behind.
-void Marcatori(Memoria& m) {
-  for (Riga_M& riga : m.Mem_M) {
-    riga.Val_B = 0;
-    riga.Txt_B = "00000000";
-    for (int bit = 0; bit <= 7; ++bit) {
-      if (riga.Bit[bit] != 1) continue;
-      riga.Val_B = static_cast<std::int16_t>(riga.Val_B + (1 << bit));
-      riga.Txt_B[static_cast<std::size_t>(7 - bit)] = '1';
-    }
-  }
-}
-
-/// What Stop clears.
-void Uscite_Spente(Memoria& m) {
-  for (Riga_IP& riga : m.IP_Q) {
-    for (int bit = 0; bit <= 7; ++bit) riga.Bit_Dir[bit] = riga.Bit_Img[bit] = 0;
-    riga.Val_B = 0;
-  }
-}
 
 void Scrivi_Pila(Memoria& m, const std::vector<int>& celle) {
   for (int i = 0; i <= 7; ++i) m.Stak[i] = static_cast<std::int16_t>(celle.at(i));
@@ -322,221 +279,132 @@ TEST_P(FatalLine, NamesTheTableAndTheIndexAndKeepsWhatCameBefore) {
 
 INSTANTIATE_TEST_SUITE_P(Table, FatalLine, ::testing::ValuesIn(righe_fatali));
 
-TEST_F(BitLogic, SetOnM07ByThreeFailsBehindTheUnusedCell) {
-  plc.Stak[0] = 1;
-  EXPECT_THROW(Esegui("S M0.7, 3"), Fatale);
-  EXPECT_EQ(plc.Mem_M[0].Bit[7], 1);
-  EXPECT_EQ(plc.Mem_M[0].Bit[8], 1);
-  EXPECT_EQ(plc.Mem_M[1].Bit[0], 0);
-}
-
-TEST_F(BitLogic, ImmediateSetFailsBehindTheUnusedCell) {
-  plc.Stak[0] = 1;
-  EXPECT_THROW(Esegui("SI Q0.7, 2"), Fatale);
-  EXPECT_EQ(plc.IP_Q[0].Bit_Img[7] + plc.IP_Q[0].Bit_Img[8], 2);
-  EXPECT_EQ(plc.IP_Q[0].Bit_Dir[7] + plc.IP_Q[0].Bit_Dir[8], 2);
-}
-
-// ---- outputs ------------------------------------------------------------------------------------
+// ---- edges --------------------------------------------------------------------------------------
 
 namespace {
 
-struct Uscita {
-  const char* Riga;
-  void (*Effetto)(Memoria&, bool flusso);
+struct Fronte {
+  const char* Istr;
+  int Primo_Ciclo, Fronte_Prima, Cima;
+  int Fronte_Dopo, Cima_Dopo;
 };
 
-void PrintTo(const Uscita& uscita, std::ostream* os) {
-  *os << uscita.Riga;
+void PrintTo(const Fronte& fronte, std::ostream* os) {
+  *os << fronte.Istr << (fronte.Primo_Ciclo != 0 ? " in the first scan, " : ", ")
+      << fronte.Fronte_Prima << " -> " << fronte.Cima;
 }
 
-template <int Riga, int Primo, int Ultimo, std::uint8_t Valore>
-void Immagine_Q(Memoria& m, bool flusso) {
-  for (int bit = Primo; flusso && bit <= Ultimo; ++bit) m.IP_Q[Riga].Bit_Img[bit] = Valore;
-}
-template <int Riga, int Primo, int Ultimo, std::uint8_t Valore>
-void Celle_M(Memoria& m, bool flusso) {
-  for (int bit = Primo; flusso && bit <= Ultimo; ++bit)
-    m.Mem_M[Riga + bit / 8].Bit[bit % 8] = Valore;
-  Marcatori(m);
-}
-template <int Riga, int Primo, int Ultimo, std::int16_t Valore>
-void Celle_S(Memoria& m, bool flusso) {
-  for (int bit = Primo; flusso && bit <= Ultimo; ++bit) m.Mem_S[Riga].Bit[bit] = Valore;
-}
-template <int Riga, int Primo, int Ultimo>
-void Subito(Memoria& m, bool flusso) {
-  for (int bit = Primo; flusso && bit <= Ultimo; ++bit)
-    m.IP_Q[Riga].Bit_Dir[bit] = m.IP_Q[Riga].Bit_Img[bit] = 1;
-}
-// A reset that reaches the unused cell 8 of the next byte.
-void Fino_A_Cella_8(Memoria& m, bool flusso) {
-  for (int bit = 0; flusso && bit <= 8; ++bit) {
-    if (bit <= 7) m.Mem_M[0].Bit[bit] = 0;
-    m.Mem_M[1].Bit[bit] = 0;
-  }
-  Marcatori(m);
-}
-template <int Numero>
-void Timer_Azzerato(Memoria& m, bool flusso) {
-  if (flusso) m.Mem_T[Numero] = {0, 6, 0, 0};
-}
-template <int Numero>
-void Contatore_Azzerato(Memoria& m, bool flusso) {
-  if (flusso) m.Mem_C[Numero] = {0, 8, 0, 1, 1};
-}
-void Nessun_Effetto(Memoria& /*m*/, bool /*flusso*/) {}
-void Solo_Marcatori(Memoria& m, bool /*flusso*/) {
-  Marcatori(m);
-}
-template <int Riga, int Bit>
-void Bobina_Immediata(Memoria& m, bool flusso) {
-  m.IP_Q[Riga].Bit_Img[Bit] = m.IP_Q[Riga].Bit_Dir[Bit] = flusso;
-}
-
-const Uscita uscite[] = {
-    // An assignment acts every time, to 0 as well.
-    {"= Q1.3", [](Memoria& m, bool f) { m.IP_Q[1].Bit_Img[3] = f; }},
-    {"= Q0.8", [](Memoria& m, bool f) { m.IP_Q[0].Bit_Img[8] = f; }},
-    {"= S4.0", [](Memoria& m, bool f) { m.Mem_S[4].Bit[0] = f; }},
-    {"= M2.7",
-     [](Memoria& m, bool f) {
-       m.Mem_M[2].Bit[7] = f;
-       Marcatori(m);
-     }},
-    {"=I Q0.6", Bobina_Immediata<0, 6>},
-    {"=I M1.6", Bobina_Immediata<1, 6>},  // only outputs are meant, whatever is written
-
-    {"S Q0.2, 0", Nessun_Effetto},
-    {"S Q0.2, 1", Immagine_Q<0, 2, 2, 1>},
-    {"S Q1.2, 5", Immagine_Q<1, 2, 6, 1>},
-    {"S Q1.7, 2", Immagine_Q<1, 7, 8, 1>},
-    {"S Q0.0, VB2", Immagine_Q<0, 0, 1, 1>},  // the number behind the area is the count
-    {"S M1.4, 0", Solo_Marcatori},
-    {"S M1.4, 1", Celle_M<1, 4, 4, 1>},
-    {"S M4.0, 8", Celle_M<4, 0, 7, 1>},
-    {"S S3.1, 0", Nessun_Effetto},
-    {"S S3.1, 1", Celle_S<3, 1, 1, 1>},
-    {"S S3.1, 7", Celle_S<3, 1, 7, 1>},
-
-    {"R Q0.2, 0", Nessun_Effetto},
-    {"R Q0.2, 1", Immagine_Q<0, 2, 2, 0>},
-    {"R Q1.2, 5", Immagine_Q<1, 2, 6, 0>},
-    {"R Q1.7, 2", Immagine_Q<1, 7, 8, 0>},
-    {"R S3.1, 0", Nessun_Effetto},
-    {"R S3.1, 1", Celle_S<3, 1, 1, 0>},
-    {"R S3.1, 7", Celle_S<3, 1, 7, 0>},
-    {"R M1.4, 0", Solo_Marcatori},
-    {"R M1.4, 1", Celle_M<1, 4, 4, 0>},
-    {"R M4.0, 8", Celle_M<4, 0, 7, 0>},
-    {"R M0.7, 3", Celle_M<0, 7, 9, 0>},
-    {"R M3.6, 8", Celle_M<3, 6, 13, 0>},
-    {"R M0.0, 16", Celle_M<0, 0, 15, 0>},
-    {"R M0.0, 17", Fino_A_Cella_8},
-    {"R M0.0, 30", Fino_A_Cella_8},  // and stops there
-    {"R T5, 0", Nessun_Effetto},
-    {"R T5, 1", Timer_Azzerato<5>},
-    {"R T5, 3", Timer_Azzerato<5>},
-    {"R T40, 9", Timer_Azzerato<40>},
-    {"R C5, 0", Nessun_Effetto},
-    {"R C5, 1", Contatore_Azzerato<5>},
-    {"R C5, 3", Contatore_Azzerato<5>},
-    {"R C20, 9", Contatore_Azzerato<20>},
-
-    {"SI Q0.3, 0", Subito<0, 3, 3>},
-    {"SI Q0.3, 1", Subito<0, 3, 4>},
-    {"SI Q1.0, 7", Subito<1, 0, 7>},
-    {"SI M1.6, 2", Subito<1, 6, 8>},
-    {"RI Q0.3, 0", Immagine_Q<0, 3, 3, 0>},
-    {"RI Q0.3, 1", Immagine_Q<0, 3, 4, 0>},
-    {"RI Q1.0, 7", Immagine_Q<1, 0, 7, 0>},
-    {"RI M1.6, 2", Immagine_Q<1, 6, 8, 0>},
+const Fronte fronti[] = {
+    // In the first scan a level counts as already on.
+    {"EU", -1, 0, 0, 0, 0},
+    {"EU", -1, 0, 1, 1, 0},
+    {"EU", -1, 1, 0, 0, 0},
+    {"EU", -1, 1, 1, 1, 0},
+    {"EU", 0, 0, 0, 0, 0},
+    {"EU", 0, 0, 1, 1, 1},
+    {"EU", 0, 1, 0, 0, 0},
+    {"EU", 0, 1, 1, 1, 0},
+    // The falling edge knows no first scan.
+    {"ED", -1, 0, 0, 0, 0},
+    {"ED", -1, 0, 1, 1, 0},
+    {"ED", -1, 1, 0, 0, 1},
+    {"ED", -1, 1, 1, 1, 0},
+    {"ED", 0, 0, 0, 0, 0},
+    {"ED", 0, 0, 1, 1, 0},
+    {"ED", 0, 1, 0, 0, 1},
+    {"ED", 0, 1, 1, 1, 0},
 };
 
 }  // namespace
 
-class Output : public Cpu, public ::testing::WithParamInterface<std::tuple<Uscita, int, int>> {
- protected:
-  void Prepara(const std::string& riga, int cima, int abilitata, int riempimento) {
-    Carica({"NOP", riga});
-    Riempi(plc, static_cast<std::uint8_t>(riempimento));
-    plc.Stak[0] = static_cast<std::int16_t>(cima);
-    plc.Prog[1].Abil_SCR = static_cast<std::int16_t>(abilitata);
-    plc.PC = 1;
-  }
-};
+class Edge : public Cpu, public ::testing::WithParamInterface<Fronte> {};
 
-TEST_P(Output, WritesWhatItsRowSaysAndNothingElse) {
-  const auto& [uscita, flusso, riempimento] = GetParam();
-  // Bit 0 of `flusso` is the top, bit 1 the enable of the line: power flows when both are on.
-  Prepara(uscita.Riga, flusso & 1, flusso >> 1, riempimento);
+TEST_P(Edge, IsSeenByTheMemoryOfItsOwnLineAndChangesNothingElse) {
+  const Fronte& fronte = GetParam();
+  Carica({"EU", fronte.Istr, "ED"});
+  Riempi(plc, 1);
+  plc.Prog[1].Fronte = static_cast<std::int16_t>(fronte.Fronte_Prima);
+  plc.Prog[1].Abil_SCR = 0;
+  plc.Primo_Ciclo = static_cast<std::int16_t>(fronte.Primo_Ciclo);
+  plc.Stak[0] = static_cast<std::int16_t>(fronte.Cima);
+  plc.PC = 1;
   Memoria attesa = plc;
   attesa.PC = 2;
-  uscita.Effetto(attesa, flusso == 3);
+  attesa.Prog[1].Fronte = static_cast<std::int16_t>(fronte.Fronte_Dopo);
+  attesa.Stak[0] = static_cast<std::int16_t>(fronte.Cima_Dopo);
   plc.Esegui_Riga();
+  EXPECT_EQ(plc.Prog[1].Fronte, fronte.Fronte_Dopo);
+  EXPECT_EQ(plc.Stak[0], fronte.Cima_Dopo);
   EXPECT_TRUE(attesa == plc);
-  EXPECT_TRUE(avvisi.empty());
+  EXPECT_EQ(plc.Primo_Ciclo, fronte.Primo_Ciclo);
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, Output,
-                         ::testing::Combine(::testing::ValuesIn(uscite), ::testing::Range(0, 4),
-                                            ::testing::Values(0, 1)));
+INSTANTIATE_TEST_SUITE_P(Table, Edge, ::testing::ValuesIn(fronti));
 
-using OutputFailure = Output;
-
-TEST_F(BitLogic, ResetOfMarkersPastTheLastByteIsARunTimeErrorUnderPowerFlow) {
-  for (const char* riga : {"R M4.7, 2", "R M4.7, 9"}) {
-    Carica({"NOP", riga});
-    Riempi(plc, 1);
-    plc.PC = 1;
-    Memoria attesa = plc;
-    attesa.Mem_M[4].Bit[7] = 0;
-    Marcatori(attesa);
-    Uscite_Spente(attesa);
-    plc.Esegui_Riga();
-    EXPECT_TRUE(attesa == plc) << riga;
-    ASSERT_EQ(avvisi.size(), 1U) << riga;
-    EXPECT_EQ(avvisi[0].Testo, Errore_Run_Time);
-    avvisi.clear();
-  }
+namespace {
+const std::vector<std::string> conta_fronti = {"LD I0.0", "EU", "S M0.0, 1"};
 }
 
-TEST_F(BitLogic, ResetOfMarkersPastTheLastByteIsNothingWithoutPowerFlow) {
-  plc.Mem_M[4].Bit[7] = 1;
-  Esegui("R M4.7, 2");
-  EXPECT_EQ(plc.Mem_M[4].Bit[7], 1);
-  EXPECT_EQ(plc.PC, 2);
-  EXPECT_TRUE(avvisi.empty());
+TEST_F(BitLogic, EuOnALevelAlreadyOnGivesNoPulseInContMode) {
+  Ingresso(0, 0, true);
+  Carica(conta_fronti);
+  Run_Cont(3);
+  EXPECT_EQ(plc.N_Cicli, 3);
+  EXPECT_EQ(plc.Mem_M[0].Bit[0], 0);
 }
+
+TEST_F(BitLogic, EuOnALevelAlreadyOnGivesAPulseInStepMode) {
+  Ingresso(0, 0, true);
+  Carica(conta_fronti);
+  Run_Step();
+  Scansione();
+  EXPECT_EQ(plc.Mem_M[0].Bit[0], 1);
+}
+
+TEST_F(BitLogic, EuSeesTheLevelThatRisesAfterTheFirstScan) {
+  Carica(conta_fronti);
+  plc.Hook.Cedi = [this] {
+    if (plc.N_Cicli == 1) Ingresso(0, 0, true);
+    if (plc.N_Cicli == 2) plc.Ferma = -1;
+  };
+  plc.mnuPlcRun();
+  EXPECT_EQ(plc.Mem_M[0].Bit[0], 1);
+}
+
+TEST_F(BitLogic, EdgeLinesHaveEachTheirOwnMemory) {
+  Carica({"LD I0.0", "EU", "LD I0.1", "EU"});
+  Run_Step();
+  Ingresso(0, 0, true);
+  Scansione();
+  EXPECT_EQ(plc.Stak[1], 1);
+  EXPECT_EQ(plc.Stak[0], 0);
+  Ingresso(0, 1, true);
+  Scansione();
+  EXPECT_EQ(plc.Stak[1], 0);
+  EXPECT_EQ(plc.Stak[0], 1);
+}
+
+TEST_F(BitLogic, EdgeLineThatIsSkippedByAJumpKeepsItsState) {
+  Carica({"LD I0.7", "JMP 1", "LD I0.0", "EU", "S M0.0, 1", "LBL 1"});
+  Run_Step();
+  Ingresso(0, 0, true);
+  Scansione();
+  plc.Mem_M[0].Bit[0] = 0;
+  Ingresso(0, 7, true);
+  Ingresso(0, 0, false);  // the line does not see the level go
+  Scansione();
+  EXPECT_EQ(plc.Prog[3].Fronte, 1);
+  Ingresso(0, 7, false);
+  Ingresso(0, 0, true);
+  Scansione();
+  EXPECT_EQ(plc.Mem_M[0].Bit[0], 0);
+}
+
+// ---- in a scan ----------------------------------------------------------------------------------
 
 TEST_F(BitLogic, LdnOfAnUnusedTimerIsOne) {
   Esegui("LDN T37");
   EXPECT_EQ(plc.Stak[0], 1);
-}
-
-TEST_F(BitLogic, ResetOfM07ByThreeRunsOverIntoTheNextByte) {
-  for (Riga_M& riga : plc.Mem_M) std::fill_n(riga.Bit.Dati(), 8, std::uint8_t{1});
-  plc.Stak[0] = 1;
-  Esegui("R M0.7, 3");
-  EXPECT_EQ(plc.Mem_M[0].Txt_B, "01111111");
-  EXPECT_EQ(plc.Mem_M[1].Txt_B, "11111100");
-  EXPECT_EQ(plc.Mem_M[2].Txt_B, "11111111");
-}
-
-TEST_F(BitLogic, ImmediateSetByOneSetsTwoBitsAndSetByOneSetsOne) {
-  plc.Stak[0] = 1;
-  Esegui("SI Q0.0, 1");
-  EXPECT_EQ(plc.IP_Q[0].Bit_Img[0] + plc.IP_Q[0].Bit_Img[1] + plc.IP_Q[0].Bit_Img[2], 2);
-  Esegui("S Q1.0, 1");
-  EXPECT_EQ(plc.IP_Q[1].Bit_Img[0] + plc.IP_Q[1].Bit_Img[1], 1);
-}
-
-TEST_F(BitLogic, ResetOfT37ByFiveLeavesT38Untouched) {
-  plc.Mem_T[37] = plc.Mem_T[38] = {5, 6, 1, -1};
-  plc.Stak[0] = 1;
-  Esegui("R T37, 5");
-  EXPECT_EQ(plc.Mem_T[37], (Riga_Timer{0, 6, 0, 0}));
-  EXPECT_EQ(plc.Mem_T[38], (Riga_Timer{5, 6, 1, -1}));
 }
 
 TEST_F(BitLogic, LdiSeesAnInputThatLdWillSeeAtTheNextScan) {

@@ -50,7 +50,8 @@ class Counters : public Cpu {
 
 struct Esecuzione {
   const char* nome;
-  const char* riga;
+  const char* istr;
+  int preset;
   int pila[3];  // top first
   std::int16_t abilitata;
   std::uint8_t sm01;
@@ -60,135 +61,86 @@ struct Esecuzione {
 
 // CTU: reset, count. CTD: load, count. CTUD: reset, down, up.
 // Counter: Val, PV, Uscita, Front_A, Front_B.
+// clang-format off: one row, one line
 const Esecuzione esecuzioni[] = {
-    {"CtuIdle", "CTU C5, +4", {0, 0, 1}, 1, 0, {2, 99, 0, 0, 1}, {2, 4, 0, 0, 1}},
-    {"CtuCountsAnEdge", "CTU C5, +4", {0, 1, 1}, 1, 0, {2, 99, 0, 0, 1}, {3, 4, 0, 1, 1}},
-    {"CtuHeldDoesNotCount", "CTU C5, +4", {0, 1, 1}, 1, 0, {2, 99, 0, 1, 1}, {2, 4, 0, 1, 1}},
-    {"CtuForgetsAFallenInput", "CTU C5, +4", {0, 0, 1}, 1, 0, {2, 99, 0, 1, 1}, {2, 4, 0, 0, 1}},
-    {"CtuReachesItsPreset", "CTU C5, +4", {0, 1, 0}, 1, 0, {3, 99, 0, 0, 0}, {4, 4, 1, 1, 0}},
-    {"CtuCountsOnAbove", "CTU C5, +4", {0, 1, 0}, 1, 0, {4, 99, 1, 0, 0}, {5, 4, 1, 1, 0}},
-    {"CtuKeepsItsOutputBelow", "CTU C5, +4", {0, 0, 0}, 1, 0, {2, 99, 1, 0, 0}, {2, 4, 1, 0, 0}},
-    {"CtuReset", "CTU C5, +4", {1, 0, 0}, 1, 0, {9, 99, 1, 1, 1}, {0, 4, 0, 0, 1}},
-    {"CtuCountsFromZeroInAReset", "CTU C5, +4", {1, 1, 0}, 1, 0, {9, 99, 1, 0, 0}, {1, 4, 0, 1, 0}},
-    {"CtuResetWithAPresetOfZero", "CTU C5, +0", {1, 0, 0}, 1, 0, {9, 99, 1, 0, 0}, {0, 0, 1, 0, 0}},
-    {"CtuFirstScanOnlyMarksTheInput",
-     "CTU C5, +4",
-     {0, 1, 0},
-     1,
-     1,
-     {2, 99, 0, 0, 0},
-     {2, 4, 0, 1, 0}},
-    {"CtuFirstScanStillResets", "CTU C5, +4", {1, 0, 0}, 1, 1, {9, 99, 1, 0, 0}, {0, 4, 0, 0, 0}},
-    {"CtuDisabledIsNotReset", "CTU C5, +4", {1, 0, 0}, 0, 0, {9, 99, 1, 0, 0}, {9, 4, 1, 0, 0}},
-    {"CtuDisabledForgetsTheInput",
-     "CTU C5, +4",
-     {0, 1, 0},
-     0,
-     0,
-     {2, 99, 0, 1, 0},
-     {2, 4, 0, 0, 0}},
-    {"CtuDisabledStillComparesItsPreset",
-     "CTU C5, +4",
+    {"Idle", "CTU", 4, {0, 0, 1}, 1, 0, {2, 99, 0, 0, 1}, {2, 4, 0, 0, 1}},
+    {"CountsAnEdge", "CTU", 4, {0, 1, 1}, 1, 0, {2, 99, 0, 0, 1}, {3, 4, 0, 1, 1}},
+    {"HeldDoesNotCount", "CTU", 4, {0, 1, 1}, 1, 0, {2, 99, 0, 1, 1}, {2, 4, 0, 1, 1}},
+    {"ForgetsAFallenInput", "CTU", 4, {0, 0, 1}, 1, 0, {2, 99, 0, 1, 1}, {2, 4, 0, 0, 1}},
+    {"ReachesItsPreset", "CTU", 4, {0, 1, 0}, 1, 0, {3, 99, 0, 0, 0}, {4, 4, 1, 1, 0}},
+    {"CountsOnAbove", "CTU", 4, {0, 1, 0}, 1, 0, {4, 99, 1, 0, 0}, {5, 4, 1, 1, 0}},
+    {"KeepsItsOutputBelow", "CTU", 4, {0, 0, 0}, 1, 0, {2, 99, 1, 0, 0}, {2, 4, 1, 0, 0}},
+    {"Reset", "CTU", 4, {1, 0, 0}, 1, 0, {9, 99, 1, 1, 1}, {0, 4, 0, 0, 1}},
+    {"CountsFromZeroInAReset", "CTU", 4, {1, 1, 0}, 1, 0, {9, 99, 1, 0, 0}, {1, 4, 0, 1, 0}},
+    {"ResetWithAPresetOfZero", "CTU", 0, {1, 0, 0}, 1, 0, {9, 99, 1, 0, 0}, {0, 0, 1, 0, 0}},
+    {"FirstScanOnlyMarksTheInput", "CTU", 4, {0, 1, 0}, 1, 1, {2, 99, 0, 0, 0}, {2, 4, 0, 1, 0}},
+    {"FirstScanStillResets", "CTU", 4, {1, 0, 0}, 1, 1, {9, 99, 1, 0, 0}, {0, 4, 0, 0, 0}},
+    {"DisabledIsNotReset", "CTU", 4, {1, 0, 0}, 0, 0, {9, 99, 1, 0, 0}, {9, 4, 1, 0, 0}},
+    {"DisabledForgetsTheInput", "CTU", 4, {0, 1, 0}, 0, 0, {2, 99, 0, 1, 0}, {2, 4, 0, 0, 0}},
+    {"DisabledStillComparesItsPreset",
+     "CTU",
+     4,
      {0, 0, 0},
      0,
      0,
      {9, 99, 0, 0, 0},
      {9, 4, 1, 0, 0}},
-    {"CtuAtTheCeiling", "CTU C5, +4", {0, 1, 0}, 1, 0, {32766, 99, 1, 0, 0}, {32767, 4, 1, 1, 0}},
+    {"AtTheCeiling", "CTU", 4, {0, 1, 0}, 1, 0, {32766, 99, 1, 0, 0}, {32767, 4, 1, 1, 0}},
 
-    {"CtdIdle", "CTD C5, +4", {0, 0, 1}, 1, 0, {2, 99, 0, 0, 1}, {2, 4, 0, 0, 1}},
-    {"CtdCountsAnEdge", "CTD C5, +4", {0, 1, 1}, 1, 0, {2, 99, 0, 0, 1}, {1, 4, 0, 1, 1}},
-    {"CtdCountsInTheFirstScan", "CTD C5, +4", {0, 1, 1}, 1, 1, {2, 99, 0, 0, 1}, {1, 4, 0, 1, 1}},
-    {"CtdReachesZero", "CTD C5, +4", {0, 1, 1}, 1, 0, {1, 99, 0, 0, 1}, {0, 4, 1, 1, 1}},
-    {"CtdStaysAtZero", "CTD C5, +4", {0, 1, 1}, 1, 0, {0, 99, 0, 0, 1}, {0, 4, 1, 1, 1}},
-    {"CtdBelowZeroDoesNotCount",
-     "CTD C5, +4",
-     {0, 1, 1},
-     1,
-     0,
-     {-2, 99, 0, 0, 0},
-     {-2, 4, 0, 1, 0}},
-    {"CtdWithItsOutputOnDoesNotCount",
-     "CTD C5, +4",
-     {0, 1, 1},
-     1,
-     0,
-     {2, 99, 1, 0, 1},
-     {2, 4, 1, 1, 1}},
-    {"CtdHeldDoesNotCount", "CTD C5, +4", {0, 1, 1}, 1, 0, {2, 99, 0, 1, 1}, {2, 4, 0, 1, 1}},
-    {"CtdForgetsAFallenInput", "CTD C5, +4", {0, 0, 1}, 1, 0, {2, 99, 0, 1, 1}, {2, 4, 0, 0, 1}},
-    {"CtdLoads", "CTD C5, +4", {1, 0, 0}, 1, 0, {0, 99, 1, 0, 0}, {4, 4, 0, 0, 1}},
-    {"CtdLoadHidesTheEdge", "CTD C5, +4", {1, 1, 0}, 1, 0, {0, 99, 1, 0, 0}, {4, 4, 0, 0, 1}},
-    {"CtdLoadKeepsAnEdgeAlreadySeen",
-     "CTD C5, +4",
-     {1, 1, 0},
-     1,
-     0,
-     {0, 99, 1, 1, 0},
-     {4, 4, 0, 1, 1}},
-    {"CtdLoadOfZeroGoesOn", "CTD C5, +0", {1, 0, 0}, 1, 0, {7, 99, 0, 0, 0}, {0, 0, 1, 0, 1}},
-    {"CtdLoadsAnythingButZero", "CTD C5, +4", {2, 0, 0}, 1, 0, {0, 99, 1, 0, 0}, {4, 4, 0, 0, 1}},
-    {"CtdDisabledDoesNotLoad", "CTD C5, +4", {1, 1, 0}, 0, 0, {7, 99, 1, 1, 0}, {7, 4, 1, 0, 0}},
-    {"CtdDisabledAtZeroGoesOn", "CTD C5, +4", {0, 1, 0}, 0, 0, {0, 99, 0, 0, 0}, {0, 4, 1, 0, 0}},
+    {"Idle", "CTD", 4, {0, 0, 1}, 1, 0, {2, 99, 0, 0, 1}, {2, 4, 0, 0, 1}},
+    {"CountsAnEdge", "CTD", 4, {0, 1, 1}, 1, 0, {2, 99, 0, 0, 1}, {1, 4, 0, 1, 1}},
+    {"CountsInTheFirstScan", "CTD", 4, {0, 1, 1}, 1, 1, {2, 99, 0, 0, 1}, {1, 4, 0, 1, 1}},
+    {"ReachesZero", "CTD", 4, {0, 1, 1}, 1, 0, {1, 99, 0, 0, 1}, {0, 4, 1, 1, 1}},
+    {"StaysAtZero", "CTD", 4, {0, 1, 1}, 1, 0, {0, 99, 0, 0, 1}, {0, 4, 1, 1, 1}},
+    {"BelowZeroDoesNotCount", "CTD", 4, {0, 1, 1}, 1, 0, {-2, 99, 0, 0, 0}, {-2, 4, 0, 1, 0}},
+    {"WithItsOutputOnDoesNotCount", "CTD", 4, {0, 1, 1}, 1, 0, {2, 99, 1, 0, 1}, {2, 4, 1, 1, 1}},
+    {"HeldDoesNotCount", "CTD", 4, {0, 1, 1}, 1, 0, {2, 99, 0, 1, 1}, {2, 4, 0, 1, 1}},
+    {"ForgetsAFallenInput", "CTD", 4, {0, 0, 1}, 1, 0, {2, 99, 0, 1, 1}, {2, 4, 0, 0, 1}},
+    {"Loads", "CTD", 4, {1, 0, 0}, 1, 0, {0, 99, 1, 0, 0}, {4, 4, 0, 0, 1}},
+    {"LoadHidesTheEdge", "CTD", 4, {1, 1, 0}, 1, 0, {0, 99, 1, 0, 0}, {4, 4, 0, 0, 1}},
+    {"LoadKeepsAnEdgeAlreadySeen", "CTD", 4, {1, 1, 0}, 1, 0, {0, 99, 1, 1, 0}, {4, 4, 0, 1, 1}},
+    {"LoadOfZeroGoesOn", "CTD", 0, {1, 0, 0}, 1, 0, {7, 99, 0, 0, 0}, {0, 0, 1, 0, 1}},
+    {"LoadsAnythingButZero", "CTD", 4, {2, 0, 0}, 1, 0, {0, 99, 1, 0, 0}, {4, 4, 0, 0, 1}},
+    {"DisabledDoesNotLoad", "CTD", 4, {1, 1, 0}, 0, 0, {7, 99, 1, 1, 0}, {7, 4, 1, 0, 0}},
+    {"DisabledAtZeroGoesOn", "CTD", 4, {0, 1, 0}, 0, 0, {0, 99, 0, 0, 0}, {0, 4, 1, 0, 0}},
 
-    {"CtudIdleBelow", "CTUD C5, +4", {0, 0, 0}, 1, 0, {2, 99, 1, 0, 0}, {2, 4, 0, 0, 0}},
-    {"CtudIdleAtItsPreset", "CTUD C5, +4", {0, 0, 0}, 1, 0, {4, 99, 0, 0, 0}, {4, 4, 1, 0, 0}},
-    {"CtudCountsUp", "CTUD C5, +4", {0, 0, 1}, 1, 0, {3, 99, 0, 0, 0}, {4, 4, 1, 0, 1}},
-    {"CtudCountsUpInTheFirstScan",
-     "CTUD C5, +4",
-     {0, 0, 1},
-     1,
-     1,
-     {3, 99, 0, 0, 0},
-     {4, 4, 1, 0, 1}},
-    {"CtudCountsDown", "CTUD C5, +4", {0, 1, 0}, 1, 0, {4, 99, 1, 0, 0}, {3, 4, 0, 1, 0}},
-    {"CtudGoesNegative", "CTUD C5, +4", {0, 1, 0}, 1, 0, {0, 99, 0, 0, 0}, {-1, 4, 0, 1, 0}},
-    {"CtudBothWaysCancel", "CTUD C5, +4", {0, 1, 1}, 1, 0, {4, 99, 0, 0, 0}, {4, 4, 1, 1, 1}},
-    {"CtudHeldDoesNotCount", "CTUD C5, +4", {0, 1, 1}, 1, 0, {4, 99, 0, 1, 1}, {4, 4, 1, 1, 1}},
-    {"CtudForgetsFallenInputs", "CTUD C5, +4", {0, 0, 0}, 1, 0, {4, 99, 0, 1, 1}, {4, 4, 1, 0, 0}},
-    {"CtudReset", "CTUD C5, +4", {1, 0, 0}, 1, 0, {9, 99, 1, 0, 0}, {0, 4, 0, 0, 0}},
-    {"CtudCountsUpFromZeroInAReset",
-     "CTUD C5, +4",
-     {1, 0, 1},
-     1,
+    {"IdleBelow", "CTUD", 4, {0, 0, 0}, 1, 0, {2, 99, 1, 0, 0}, {2, 4, 0, 0, 0}},
+    {"IdleAtItsPreset", "CTUD", 4, {0, 0, 0}, 1, 0, {4, 99, 0, 0, 0}, {4, 4, 1, 0, 0}},
+    {"CountsUp", "CTUD", 4, {0, 0, 1}, 1, 0, {3, 99, 0, 0, 0}, {4, 4, 1, 0, 1}},
+    {"CountsUpInTheFirstScan", "CTUD", 4, {0, 0, 1}, 1, 1, {3, 99, 0, 0, 0}, {4, 4, 1, 0, 1}},
+    {"CountsDown", "CTUD", 4, {0, 1, 0}, 1, 0, {4, 99, 1, 0, 0}, {3, 4, 0, 1, 0}},
+    {"GoesNegative", "CTUD", 4, {0, 1, 0}, 1, 0, {0, 99, 0, 0, 0}, {-1, 4, 0, 1, 0}},
+    {"BothWaysCancel", "CTUD", 4, {0, 1, 1}, 1, 0, {4, 99, 0, 0, 0}, {4, 4, 1, 1, 1}},
+    {"HeldDoesNotCount", "CTUD", 4, {0, 1, 1}, 1, 0, {4, 99, 0, 1, 1}, {4, 4, 1, 1, 1}},
+    {"ForgetsFallenInputs", "CTUD", 4, {0, 0, 0}, 1, 0, {4, 99, 0, 1, 1}, {4, 4, 1, 0, 0}},
+    {"Reset", "CTUD", 4, {1, 0, 0}, 1, 0, {9, 99, 1, 0, 0}, {0, 4, 0, 0, 0}},
+    {"CountsUpFromZeroInAReset", "CTUD", 4, {1, 0, 1}, 1, 0, {9, 99, 1, 0, 0}, {1, 4, 0, 0, 1}},
+    {"CountsDownFromZeroInAReset", "CTUD", 4, {1, 1, 0}, 1, 0, {9, 99, 1, 0, 0}, {-1, 4, 0, 1, 0}},
+    {"ResetByAnythingButZero", "CTUD", 4, {2, 0, 0}, 1, 0, {9, 99, 1, 0, 0}, {0, 4, 0, 0, 0}},
+    {"WithAPresetOfZeroIsOnAfterAReset",
+     "CTUD",
      0,
-     {9, 99, 1, 0, 0},
-     {1, 4, 0, 0, 1}},
-    {"CtudCountsDownFromZeroInAReset",
-     "CTUD C5, +4",
-     {1, 1, 0},
-     1,
-     0,
-     {9, 99, 1, 0, 0},
-     {-1, 4, 0, 1, 0}},
-    {"CtudResetByAnythingButZero",
-     "CTUD C5, +4",
-     {2, 0, 0},
-     1,
-     0,
-     {9, 99, 1, 0, 0},
-     {0, 4, 0, 0, 0}},
-    {"CtudWithAPresetOfZeroIsOnAfterAReset",
-     "CTUD C5, +0",
      {1, 0, 0},
      1,
      0,
      {9, 99, 0, 0, 0},
      {0, 0, 1, 0, 0}},
-    {"CtudDisabledDoesNothingButCompare",
-     "CTUD C5, +4",
+    {"DisabledDoesNothingButCompare",
+     "CTUD",
+     4,
      {1, 1, 1},
      0,
      0,
      {9, 99, 0, 1, 1},
      {9, 4, 1, 0, 0}},
 };
+// clang-format on
 
 class CounterExecution : public Counters, public ::testing::WithParamInterface<Esecuzione> {};
 
 TEST_P(CounterExecution, ChangesItsOwnCounterOnly) {
   const Esecuzione& caso = GetParam();
-  Prepara(caso.riga);
+  Prepara(std::string(caso.istr) + " C5, +" + std::to_string(caso.preset));
   for (int cella = 0; cella <= 2; ++cella)
     plc.Stak[cella] = static_cast<std::int16_t>(caso.pila[cella]);
   plc.Prog[1].Abil_SCR = caso.abilitata;
@@ -200,7 +152,9 @@ TEST_P(CounterExecution, ChangesItsOwnCounterOnly) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Line, CounterExecution, ::testing::ValuesIn(esecuzioni),
-                         [](const auto& riga) { return std::string(riga.param.nome); });
+                         [](const auto& riga) {
+                           return std::string(riga.param.istr) + riga.param.nome;
+                         });
 
 // ---- presets and limits -------------------------------------------------------------------------
 
@@ -211,16 +165,16 @@ class EveryCounter : public Counters, public ::testing::WithParamInterface<const
   }
 };
 INSTANTIATE_TEST_SUITE_P(Of, EveryCounter, ::testing::Values("CTU", "CTD", "CTUD"),
-                         [](const auto& info) { return std::string(info.param); });
+                         [](const auto& riga) { return std::string(riga.param); });
 
 TEST_P(EveryCounter, TakesItsPresetFromAConstantOrTheContentOfAWord) {
   plc.Mem_VW[7] = -300;
   for (const auto& [testo, preset] :
        {std::pair{"C5, +25", 25}, {"C5, -4", -4}, {"C5, VW7", -300}}) {
-    for (const std::int16_t abilitata : {0, 1}) {
+    for (const bool abilitata : {false, true}) {
       Prepara(Riga_Con(testo));
       for (int cella = 0; cella <= 2; ++cella) plc.Stak[cella] = 0;
-      plc.Prog[1].Abil_SCR = abilitata;
+      plc.Prog[1].Abil_SCR = abilitata ? 1 : 0;
       plc.Mem_C[5] = {400, 99, 1, 0, 0};
       Memoria atteso = plc;
       atteso.Mem_C[5].PV = static_cast<std::int16_t>(preset);
@@ -307,12 +261,11 @@ class CounterInTheFirstScan : public Counters, public ::testing::WithParamInterf
     }
   }
 };
+std::string Nome_Modo(const ::testing::TestParamInfo<Modo>& modo) {
+  return modo.param == Modo::Cont ? "Cont" : modo.param == Modo::Ciclo ? "Ciclo" : "Step";
+}
 INSTANTIATE_TEST_SUITE_P(Mode, CounterInTheFirstScan,
-                         ::testing::Values(Modo::Cont, Modo::Ciclo, Modo::Step),
-                         [](const auto& info) {
-                           static constexpr const char* nomi[] = {"Cont", "Step", "Ciclo"};
-                           return std::string(nomi[static_cast<std::size_t>(info.param)]);
-                         });
+                         ::testing::Values(Modo::Cont, Modo::Ciclo, Modo::Step), Nome_Modo);
 
 TEST_P(CounterInTheFirstScan, CtuWithItsInputOnDoesNotCount) {
   plc.Init_PLC();

@@ -87,6 +87,7 @@ struct Esecuzione {
   std::int16_t fronte_dopo;
 };
 
+// clang-format off: one row, one line
 const Esecuzione esecuzioni[] = {
     {"TonStartsBelowItsPreset", "TON", true, 0, {9, 99, 1, 0}, {9, 10, 0, -1}, 0},
     {"TonStartsAtItsPreset", "TON", true, 0, {10, 99, 0, 0}, {10, 10, 1, -1}, 0},
@@ -107,7 +108,7 @@ const Esecuzione esecuzioni[] = {
     {"TofHeldSetsItsOutput", "TOF", true, 1, {0, 99, 0, 0}, {0, 10, 1, 0}, 1},
     {"TofHeldKeepsItsValue", "TOF", true, 1, {12, 99, 1, 0}, {12, 10, 1, 0}, 1},
     {"TofFallingStartsToTime", "TOF", false, 1, {0, 99, 1, 0}, {0, 10, 1, -1}, 0},
-    {"TofFallingAtItsPresetTimesWithTheOutputOff",
+    {"TofFallingAtItsPresetTimesWithoutOutput",
      "TOF",
      false,
      1,
@@ -127,6 +128,7 @@ const Esecuzione esecuzioni[] = {
     {"TonrWithoutFlowKeepsItsOutput", "TONR", false, 0, {9, 99, 1, -1}, {9, 10, 1, 0}, 0},
     {"TonrReachedWithoutFlowGoesOn", "TONR", false, 0, {10, 99, 0, -1}, {10, 10, 1, 0}, 0},
 };
+// clang-format on
 
 class TimerExecution : public Timers, public ::testing::WithParamInterface<Esecuzione> {};
 
@@ -159,9 +161,10 @@ class TimerPreset : public Timers, public ::testing::WithParamInterface<const ch
     return std::string(GetParam()) + " T5, " + preset;
   }
 };
-const auto nome_istruzione = [](const auto& info) { return std::string(info.param); };
-INSTANTIATE_TEST_SUITE_P(Every, TimerPreset, ::testing::Values("TON", "TOF", "TONR"),
-                         nome_istruzione);
+std::string Nome(const ::testing::TestParamInfo<const char*>& istruzione) {
+  return istruzione.param;
+}
+INSTANTIATE_TEST_SUITE_P(Every, TimerPreset, ::testing::Values("TON", "TOF", "TONR"), Nome);
 
 TEST_P(TimerPreset, IsTakenFromConstantWordOrAccumulatorAtEveryExecution) {
   plc.Mem_VW[7] = -3;
@@ -211,8 +214,7 @@ TEST_P(TimerPreset, BeyondItsCellIsFatal) {
 }
 
 class TimerNumber : public Timers, public ::testing::WithParamInterface<const char*> {};
-INSTANTIATE_TEST_SUITE_P(Every, TimerNumber, ::testing::Values("TON", "TOF", "TONR"),
-                         nome_istruzione);
+INSTANTIATE_TEST_SUITE_P(Every, TimerNumber, ::testing::Values("TON", "TOF", "TONR"), Nome);
 
 TEST_P(TimerNumber, ReachesFromZeroToForty) {
   for (const int numero : {0, 40}) {

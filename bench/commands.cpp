@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bench/commands.h"
+
+#include <iomanip>
+#include <memory>
+
+#include "bench/arguments.h"
+#include "bench/json_report.h"
+#include "bench/session.h"
+#include "bench/virtual_run.h"
+#include "plc/codepage.h"
+
+namespace tavorno {
+
+namespace {
+
+constexpr const char* aiuto =
+    R"(tavorno-banco: compila ed esegue progetti AWL senza finestre, in tempo virtuale.
+
+Uso:
+  tavorno-banco compila FILE.AWL [--json]
+      Stampa il listato di compilazione e gli avvisi.
+      --json             un oggetto JSON con listing, errors, boxes e prog
+
+  tavorno-banco esegui FILE.AWL [opzioni]
+      Compila, esegue e stampa ogni cambiamento di ingressi e uscite.
+      --ms T             durata in millisecondi virtuali (1..86400000, normalmente 10000)
+      --scansione MS     tempo virtuale di una scansione (1..10000, normalmente 1)
+      --ingressi LISTA   ingressi nel tempo, per esempio "0:I0.1=1,500:I0.1=0"
+
+  tavorno-banco --help
+      Questo testo.
+
+Stato di uscita: 0 tutto bene, 1 errori di compilazione o di esecuzione,
+2 progetto illeggibile, 64 uso errato.
+)";
+
+/// A message box on one line of its own for each line of its text.
+void Stampa_Avviso(std::ostream& out, const Avviso& avviso) {
+  std::string testo = avviso.Titolo + ": " + avviso.Testo;
+  std::erase(testo, '\r');
+  for (std::size_t a_capo = testo.find('\n'); a_capo != std::string::npos;
+       a_capo = testo.find('\n', a_capo + 1))
+    testo.insert(a_capo + 1, "    ");
+  out << testo << '\n';
+}
+
+void Stampa_Listato(std::ostream& out, const std::string& listato) {
+  std::string testo = A_Utf8(listato);
+  std::erase(testo, '\r');
+  out << testo;
+}
+
+/// The one file of the command line.
+const std::string& Un_File(const Argomenti& argomenti) {
+  if (argomenti.File().empty()) throw Uso_Errato("manca il file del progetto");
+  if (argomenti.File().size() > 1) throw Uso_Errato("troppi file: \"" + argomenti.File()[1] + "\"");
+  return argomenti.File().front();
+}
+
+/// Opens and compiles; empty when the project is unreadable, which has been reported.
+std::unique_ptr<Seduta> Apri_E_Compila(const std::string& file, std::ostream& err) {
+  auto seduta = std::make_unique<Seduta>();
+  if (!seduta->Apri(file)) {
+    for (const Avviso& avviso : seduta->Avvisi) Stampa_Avviso(err, avviso);
+    err << file << ": impossibile leggere il progetto.\n"
+        << seduta->progetto.Dettaglio.Come_Testo() << '\n';
+    return nullptr;
+  }
+  seduta->progetto.Compila();
+  return seduta;
+}
+
+int Comando_Compila(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
+  const auto seduta = Apri_E_Compila(Un_File(argomenti), err);
+  if (!seduta) return Uscita_Illeggibile;
+  if (argomenti.Ha("--json")) {
+    out << Rapporto_Json(*seduta) << '\n';
+  } else {
+    Stampa_Listato(out, seduta->progetto.Lista_Comp);
+    for (const Avviso& avviso : seduta->Avvisi) Stampa_Avviso(out, avviso);
+  }
+  return seduta->progetto.Compilato ? Uscita_Buona : Uscita_Errori;
+}
+
+int Comando_Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
+  Limiti limiti;
+  limiti.Durata = argomenti.Numero("--ms", limiti.Durata, 1, 86'400'000);
+  limiti.Scansione = static_cast<int>(argomenti.Numero("--scansione", limiti.Scansione, 1, 10000));
+  std::vector<Evento_Ingresso> ingressi;
+  if (argomenti.Ha("--ingressi")) {
+    std::string errore;
+    ingressi = Leggi_Ingressi(argomenti.Testo("--ingressi", ""), errore);
+    if (!errore.empty()) throw Uso_Errato(errore);
+  }
+
+  const auto seduta = Apri_E_Compila(Un_File(argomenti), err);
+  if (!seduta) return Uscita_Illeggibile;
+  if (!seduta->progetto.Compilato) {
+    Stampa_Listato(err, seduta->progetto.Lista_Comp);
+    for (const Avviso& avviso : seduta->Avvisi) Stampa_Avviso(err, avviso);
+    return Uscita_Errori;
+  }
+  seduta->Avvisi.clear();
+
+  Corsa corsa(seduta->plc, limiti);
+  corsa.Ingressi = std::move(ingressi);
+  corsa.Cambio = [&out](std::int64_t ms, char area, int byte, int bit, bool acceso) {
+    out << std::setw(8) << ms << " ms  " << area << byte << '.' << bit << " = " << acceso << '\n';
+  };
+  const Fine_Corsa fine = corsa.Esegui();
+
+  for (const Avviso& avviso : seduta->Avvisi) {
+    out << std::setw(8) << corsa.Tempo() << " ms  ";
+    Stampa_Avviso(out, avviso);
+  }
+  switch (fine) {
+    case Fine_Corsa::Tempo:
+      out << "Fine: " << corsa.Tempo() << " ms, " << seduta->plc.N_Cicli << " scansioni.\n";
+      return Uscita_Buona;
+    case Fine_Corsa::Senza_MEND:
+      out << "Interrotto: il programma non raggiunge MEND (" << limiti.Righe_Scansione
+          << " righe senza finire la scansione).\n";
+      break;
+    case Fine_Corsa::Arresto:
+      out << "Interrotto: la CPU si è fermata alla riga " << seduta->plc.PC << ".\n";
+      break;
+    case Fine_Corsa::Fatale:
+      out << "Errore fatale: " << corsa.Rapporto() << '\n';
+      break;
+  }
+  return Uscita_Errori;
+}
+
+}  // namespace
+
+int Banco(const std::vector<std::string>& argomenti, std::ostream& out, std::ostream& err) {
+  try {
+    if (argomenti.empty()) throw Uso_Errato("manca il comando");
+    const std::string& comando = argomenti.front();
+    const std::vector<std::string> resto(argomenti.begin() + 1, argomenti.end());
+    for (const std::string& parola : argomenti) {
+      if (parola == "--help" || parola == "-h") {
+        out << aiuto;
+        return Uscita_Buona;
+      }
+    }
+    if (comando == "compila") return Comando_Compila(Argomenti(resto, {}, {"--json"}), out, err);
+    if (comando == "esegui")
+      return Comando_Esegui(Argomenti(resto, {"--ms", "--scansione", "--ingressi"}, {}), out, err);
+    throw Uso_Errato("comando sconosciuto: " + comando);
+  } catch (const Uso_Errato& errore) {
+    err << "tavorno-banco: " << errore.what() << " (tavorno-banco --help per l'aiuto)\n";
+    return Uscita_Uso;
+  }
+}
+
+}  // namespace tavorno
