@@ -7,7 +7,7 @@
 
 namespace tavorno {
 
-Risposta Progetto::Avvisa(Avviso avviso) const {
+Risposta Progetto::Avvisa(const Avviso& avviso) const {
   return Chiedi.Mostra ? Chiedi.Mostra(avviso) : Risposta::Ok;
 }
 

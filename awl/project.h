@@ -138,7 +138,7 @@ struct Progetto {
   void Gestione_Voci(std::uint8_t stato);
 
  private:
-  Risposta Avvisa(Avviso avviso) const;
+  Risposta Avvisa(const Avviso& avviso) const;
   void Lettura_Fallita();
   void Avvisa_Lettura_Fallita();
   int Inserisci_Procedura();

@@ -26,7 +26,8 @@ Uso:
       Compila, esegue e stampa ogni cambiamento di ingressi e uscite.
       --ms T             durata in millisecondi virtuali (1..86400000, normalmente 10000)
       --scansione MS     tempo virtuale di una scansione (1..10000, normalmente 1)
-      --ingressi LISTA   ingressi nel tempo, per esempio "0:I0.1=1,500:I0.1=0"
+      --ingressi LISTA   ingressi nel tempo, per esempio "0:I0.1=1,500:I0.1=0";
+                         un canale analogico in volt: "800:AI0=2.5"
 
   tavorno-banco --help
       Questo testo.

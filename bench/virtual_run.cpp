@@ -2,9 +2,66 @@
 #include "bench/virtual_run.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <charconv>
+#include <optional>
+#include <string_view>
 
 namespace tavorno {
+
+namespace {
+
+/// Takes an entry apart from the left; once something does not fit, all that follows fails too.
+class Voce {
+ public:
+  explicit Voce(std::string_view testo) : testo_(testo) {}
+
+  bool Inizia_Con(std::string_view segno) {
+    if (!buona_ || !testo_.starts_with(segno)) return false;
+    testo_.remove_prefix(segno.size());
+    return true;
+  }
+  void Vuole(std::string_view segno) { buona_ = Inizia_Con(segno); }
+
+  template <class T>
+  T Numero(T minimo, T massimo) {
+    T valore{};
+    const auto [fine, errore] =
+        std::from_chars(testo_.data(), testo_.data() + testo_.size(), valore);
+    buona_ = buona_ && errore == std::errc{} && valore >= minimo && valore <= massimo;
+    if (buona_) testo_.remove_prefix(static_cast<std::size_t>(fine - testo_.data()));
+    return valore;
+  }
+  bool Finita_Bene() const { return buona_ && testo_.empty(); }
+
+ private:
+  std::string_view testo_;
+  bool buona_ = true;
+};
+
+/// One entry of the list; empty when it is not well formed.
+std::optional<Evento_Ingresso> Leggi_Ingresso(std::string_view testo) {
+  Voce voce(testo);
+  Evento_Ingresso evento;
+  evento.Ms = voce.Numero<std::int64_t>(0, 1'000'000'000'000);
+  voce.Vuole(":");
+  evento.Analogico = voce.Inizia_Con("AI");
+  if (evento.Analogico) {
+    evento.Canale = voce.Numero(0, 2);
+    voce.Vuole("=");
+    evento.Valore = voce.Numero(-1000.0F, 1000.0F);
+  } else {
+    voce.Vuole("I");
+    evento.Byte = voce.Numero(0, 1);
+    voce.Vuole(".");
+    evento.Bit = voce.Numero(0, 7);
+    voce.Vuole("=");
+    evento.Acceso = voce.Numero(0, 1) == 1;
+  }
+  if (!voce.Finita_Bene()) return {};
+  return evento;
+}
+
+}  // namespace
 
 std::vector<Evento_Ingresso> Leggi_Ingressi(const std::string& testo, std::string& errore) {
   std::vector<Evento_Ingresso> eventi;
@@ -12,16 +69,12 @@ std::vector<Evento_Ingresso> Leggi_Ingressi(const std::string& testo, std::strin
   while (inizio <= testo.size()) {
     const std::size_t fine = std::min(testo.find(',', inizio), testo.size());
     const std::string voce = testo.substr(inizio, fine - inizio);
-    long long ms = 0;
-    int byte = 0, bit = 0, valore = 0, letti = 0;
-    const int campi =
-        std::sscanf(voce.c_str(), "%18lld:I%1d.%1d=%1d%n", &ms, &byte, &bit, &valore, &letti);
-    if (campi != 4 || letti != static_cast<int>(voce.size()) || ms < 0 || byte < 0 || byte > 1 ||
-        bit < 0 || bit > 7 || valore < 0 || valore > 1) {
-      errore = "ingresso non valido \"" + voce + "\": si scrive per esempio 500:I0.1=1";
+    const auto evento = Leggi_Ingresso(voce);
+    if (!evento) {
+      errore = "ingresso non valido \"" + voce + "\": si scrive 500:I0.1=1 oppure 500:AI0=2.5";
       return {};
     }
-    eventi.push_back({ms, byte, bit, valore == 1});
+    eventi.push_back(*evento);
     inizio = fine + 1;
   }
   std::ranges::stable_sort(eventi, {}, &Evento_Ingresso::Ms);
@@ -33,6 +86,10 @@ Corsa::Corsa(Plc& plc, Limiti limiti) : plc_(plc), limiti_(limiti) {}
 void Corsa::Applica_Ingressi() {
   while (prossimo_ingresso_ < Ingressi.size() && Ingressi[prossimo_ingresso_].Ms <= Tempo()) {
     const Evento_Ingresso& evento = Ingressi[prossimo_ingresso_++];
+    if (evento.Analogico) {
+      plc_.Volt_AI[evento.Canale] = evento.Valore;
+      continue;
+    }
     LedI& barra = plc_.SI[static_cast<std::size_t>(evento.Byte)];
     std::string stato = barra.Stato_I();
     stato[static_cast<std::size_t>(evento.Bit)] = evento.Acceso ? '1' : '0';

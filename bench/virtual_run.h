@@ -10,16 +10,19 @@
 
 namespace tavorno {
 
-/// A point of an input that changes at a moment of the run.
+/// An input that changes at a moment of the run: a digital point, or an analog channel.
 struct Evento_Ingresso {
-  std::int64_t Ms;  ///< since Run
-  int Byte;         ///< 0..1
-  int Bit;          ///< 0..7
-  bool Acceso;
+  std::int64_t Ms = 0;     ///< since Run
+  bool Analogico = false;  ///< else digital
+  int Byte = 0;            ///< digital: 0..1
+  int Bit = 0;             ///< digital: 0..7
+  bool Acceso = false;     ///< digital
+  int Canale = 0;          ///< analog: 0..2
+  float Valore = 0;        ///< analog: volts or milliamperes, -1000..1000
 };
 
-/// Reads "0:I0.1=1,500:I0.1=0" into events sorted by time. On a mistake the list is empty and
-/// `errore` says in Italian what is wrong.
+/// Reads "0:I0.1=1,500:I0.1=0,800:AI0=2.5" into events sorted by time. On a mistake the list is
+/// empty and `errore` says in Italian what is wrong.
 std::vector<Evento_Ingresso> Leggi_Ingressi(const std::string& testo, std::string& errore);
 
 /// Bounds of a run; each keeps a program that goes wrong from running for ever.

@@ -88,9 +88,10 @@ struct Plc : Memoria {
 
   // ---- one line (scan.cpp) ---------------------------------------------------------------------
 
-  /// Jumps that one call follows before it gives way to the yield. A chain that is longer comes
-  /// from a program that jumps in a circle; without the limit it would never return.
-  static constexpr int Salti_Di_Seguito = 1000;
+  /// Jumps that one call follows before it gives way to the yield. Labels and procedures begin with
+  /// a line that is no jump, so only returns make chains, of as many as the return table has cells.
+  /// A longer one comes from a program that runs in a circle; without the limit it would never end.
+  static constexpr int Salti_Di_Seguito = 100;
 
   /// Executes the line of `PC`, and on through jumps up to a line that is no jump.
   void Esegui_Riga();
@@ -262,7 +263,7 @@ struct Plc : Memoria {
   Esito Esegui_Ramo();
   bool Fine_Riga(Esito esito);
   void Mostra_Tempo();
-  void Avvisa(Avviso avviso) const;
+  void Avvisa(const Avviso& avviso) const;
   void Scegli_Modo(Modo modo);
 
   void Tick_T100m();

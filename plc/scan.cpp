@@ -72,7 +72,7 @@ void Plc::Mostra_Tempo() {
   Segna(Segno_Tempo);
 }
 
-void Plc::Avvisa(Avviso avviso) const {
+void Plc::Avvisa(const Avviso& avviso) const {
   if (Hook.Mostra) Hook.Mostra(avviso);
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <map>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -58,9 +59,9 @@ inline const Verdict UnknownOperand{9, "-> Codice operando non riconosciuto"};
 /// Highest number of an area; areas with listed numbers, and those of no memory, are not here.
 inline const std::map<std::string, int>& HighestNumber() {
   static const std::map<std::string, int> table = {
-      {"I", 1},  {"Q", 1},  {"M", 4},    {"SM", 2},   {"S", 2},    {"T", 40}, {"C", 20}, {"IB", 1},
-      {"QB", 1}, {"MB", 4}, {"VB", 100}, {"VW", 100}, {"VD", 100}, {"IW", 0}, {"QW", 0}, {"MW", 3},
-      {"AC", 3}};
+      {"I", 1},    {"Q", 1},  {"M", 4},  {"SM", 2}, {"S", 2},    {"T", 40},
+      {"C", 20},   {"IB", 1}, {"QB", 1}, {"MB", 4}, {"VB", 100}, {"VW", 100},
+      {"VD", 100}, {"IW", 0}, {"QW", 0}, {"MW", 3}, {"AC", 3}};
   return table;
 }
 
@@ -171,8 +172,12 @@ inline const std::vector<Rule>& Rules() {
     return Place(area).Areas("VD AC", beyond).AnyNumber("K");
   };
   static const std::vector<Rule> rules = {
-      {"LD LDN A AN O ON", 1, WrongCountLd,
-       Place(UnknownOperand).Areas("I Q M SM S T C", Address).Named("V L", WrongOperand), {}, true},
+      {"LD LDN A AN O ON",
+       1,
+       WrongCountLd,
+       Place(UnknownOperand).Areas("I Q M SM S T C", Address).Named("V L", WrongOperand),
+       {},
+       true},
       {"LDI LDNI AI ANI OI ONI", 1, WrongCount, element("I", "Q T C V L K M SM S"), {}, true},
       {"=", 1, WrongCount, element("Q M S", "I T C V L K SM"), {}, true},
       {"=I", 1, WrongCount, element("Q", "I T C V L K M SM S"), {}, true},

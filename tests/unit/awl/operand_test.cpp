@@ -32,29 +32,23 @@ TEST_P(OperandText, IsTakenApart) {
   EXPECT_EQ(parts.Ha_Bit, expected.hasBit);
 }
 
-INSTANTIATE_TEST_SUITE_P(Usual, OperandText,
-                         ::testing::Values(Case{"I0.3", "I", "0", "3", -1},
-                                           Case{"VW10", "VW", "10", "-1", 0},
-                                           Case{"+100", "K", "+100", "-1", 0},
-                                           Case{"100", "K", "100", "-1", 0},
-                                           Case{"T37", "T", "37", "-1", 0},
-                                           Case{"AC1", "AC", "1", "-1", 0},
-                                           Case{"SM0.5", "SM", "0", "5", -1},
-                                           Case{"SMB28", "SMB", "28", "-1", 0},
-                                           Case{"AIW4", "AIW", "4", "-1", 0}));
+INSTANTIATE_TEST_SUITE_P(
+    Usual, OperandText,
+    ::testing::Values(Case{"I0.3", "I", "0", "3", -1}, Case{"VW10", "VW", "10", "-1", 0},
+                      Case{"+100", "K", "+100", "-1", 0}, Case{"100", "K", "100", "-1", 0},
+                      Case{"T37", "T", "37", "-1", 0}, Case{"AC1", "AC", "1", "-1", 0},
+                      Case{"SM0.5", "SM", "0", "5", -1}, Case{"SMB28", "SMB", "28", "-1", 0},
+                      Case{"AIW4", "AIW", "4", "-1", 0}));
 
 // Only the first dot separates, and what is behind it stays as it is written.
-INSTANTIATE_TEST_SUITE_P(TheFirstDot, OperandText,
-                         ::testing::Values(Case{"I0.3.5", "I", "0", "3.5", -1},
-                                           Case{"I0.0.0", "I", "0", "0.0", -1},
-                                           Case{"I0.", "I", "0", "", -1},
-                                           Case{"I.", "", "", "", -1},
-                                           Case{"I.3", "", "", "3", -1},
-                                           Case{".", "", "", "", -1}, Case{".3", "", "", "3", -1},
-                                           Case{"..", "", "", ".", -1},
-                                           Case{"I0.X", "I", "0", "X", -1},
-                                           Case{"I0.-1", "I", "0", "-1", -1},
-                                           Case{"I0..1", "I", "0", ".1", -1}));
+INSTANTIATE_TEST_SUITE_P(
+    TheFirstDot, OperandText,
+    ::testing::Values(Case{"I0.3.5", "I", "0", "3.5", -1}, Case{"I0.0.0", "I", "0", "0.0", -1},
+                      Case{"I0.", "I", "0", "", -1}, Case{"I.", "", "", "", -1},
+                      Case{"I.3", "", "", "3", -1}, Case{".", "", "", "", -1},
+                      Case{".3", "", "", "3", -1}, Case{"..", "", "", ".", -1},
+                      Case{"I0.X", "I", "0", "X", -1}, Case{"I0.-1", "I", "0", "-1", -1},
+                      Case{"I0..1", "I", "0", ".1", -1}));
 
 // A dot takes the second step away, so that what looks like a constant has no area.
 INSTANTIATE_TEST_SUITE_P(AConstantWithADot, OperandText,
@@ -64,34 +58,24 @@ INSTANTIATE_TEST_SUITE_P(AConstantWithADot, OperandText,
                                            Case{"+.5", "", "+", "5", -1},
                                            Case{"K1.5", "K", "1", "5", -1}));
 
-INSTANTIATE_TEST_SUITE_P(Constants, OperandText,
-                         ::testing::Values(Case{"+", "K", "+", "-1", 0},
-                                           Case{"-", "K", "-", "-1", 0},
-                                           Case{"-5", "K", "-5", "-1", 0},
-                                           Case{"0", "K", "0", "-1", 0},
-                                           Case{"9", "K", "9", "-1", 0},
-                                           Case{"1/2", "K", "1/2", "-1", 0},
-                                           Case{"1,2", "K", "1,2", "-1", 0},
-                                           Case{"5-3", "K", "5-3", "-1", 0},
-                                           Case{"+-5", "K", "+-5", "-1", 0},
-                                           Case{"+I0", "K", "+I0", "-1", 0},
-                                           Case{"+ABC", "K", "+ABC", "-1", 0},
-                                           Case{"K1", "K", "1", "-1", 0}));
+INSTANTIATE_TEST_SUITE_P(
+    Constants, OperandText,
+    ::testing::Values(Case{"+", "K", "+", "-1", 0}, Case{"-", "K", "-", "-1", 0},
+                      Case{"-5", "K", "-5", "-1", 0}, Case{"0", "K", "0", "-1", 0},
+                      Case{"9", "K", "9", "-1", 0}, Case{"1/2", "K", "1/2", "-1", 0},
+                      Case{"1,2", "K", "1,2", "-1", 0}, Case{"5-3", "K", "5-3", "-1", 0},
+                      Case{"+-5", "K", "+-5", "-1", 0}, Case{"+I0", "K", "+I0", "-1", 0},
+                      Case{"+ABC", "K", "+ABC", "-1", 0}, Case{"K1", "K", "1", "-1", 0}));
 
 // The codes on either side of 43..57 are "*" and ":".
-INSTANTIATE_TEST_SUITE_P(TheNumberBegins, OperandText,
-                         ::testing::Values(Case{"-I0", "", "-I0", "-1", 0},
-                                           Case{"1*2", "", "1*2", "-1", 0},
-                                           Case{"1:2", "", "1:2", "-1", 0},
-                                           Case{"*5", "*", "5", "-1", 0},
-                                           Case{":5", ":", "5", "-1", 0},
-                                           Case{"VW-5", "VW", "-5", "-1", 0},
-                                           Case{"VW+5", "VW", "+5", "-1", 0},
-                                           Case{"VW,5", "VW", ",5", "-1", 0},
-                                           Case{"VW/5", "VW", "/5", "-1", 0},
-                                           Case{"VW1VW2", "VW", "1VW2", "-1", 0},
-                                           Case{"0VW", "", "0VW", "-1", 0},
-                                           Case{"T 37", "T ", "37", "-1", 0}));
+INSTANTIATE_TEST_SUITE_P(
+    TheNumberBegins, OperandText,
+    ::testing::Values(Case{"-I0", "", "-I0", "-1", 0}, Case{"1*2", "", "1*2", "-1", 0},
+                      Case{"1:2", "", "1:2", "-1", 0}, Case{"*5", "*", "5", "-1", 0},
+                      Case{":5", ":", "5", "-1", 0}, Case{"VW-5", "VW", "-5", "-1", 0},
+                      Case{"VW+5", "VW", "+5", "-1", 0}, Case{"VW,5", "VW", ",5", "-1", 0},
+                      Case{"VW/5", "VW", "/5", "-1", 0}, Case{"VW1VW2", "VW", "1VW2", "-1", 0},
+                      Case{"0VW", "", "0VW", "-1", 0}, Case{"T 37", "T ", "37", "-1", 0}));
 
 INSTANTIATE_TEST_SUITE_P(NoNumberAtAll, OperandText,
                          ::testing::Values(Case{"", "", "", "-1", 0}, Case{"VW", "", "", "-1", 0},
@@ -102,7 +86,8 @@ INSTANTIATE_TEST_SUITE_P(NoNumberAtAll, OperandText,
 
 // ---- numbers on the compiled line -------------------------------------------------------------
 
-Riga_PLC Compiled(const std::string& op1, const std::string& op2 = "", const std::string& op3 = "") {
+Riga_PLC Compiled(const std::string& op1, const std::string& op2 = "",
+                  const std::string& op3 = "") {
   const std::uint8_t count = !op3.empty() ? 3 : !op2.empty() ? 2 : 1;
   Riga_PLC line;
   Riempi_Riga(line, {"MOVW", op1, op2, op3, count, "", ""});
@@ -135,7 +120,7 @@ TEST(OperandNumber, BeyondSixteenBitsDoesNotWrapAround) {
 
 TEST(OperandBit, IsTheValueOfItsLeadingDigits) {
   const std::vector<std::pair<std::string, int>> bits = {
-      {"I0.3", 3}, {"I0.03", 3}, {"I0", -1}, {"I0.", 0},   {"I0.X", 0},   {"I0.3X", 3},
+      {"I0.3", 3}, {"I0.03", 3},  {"I0", -1},  {"I0.", 0},    {"I0.X", 0},   {"I0.3X", 3},
       {".7", 7},   {"I0.-1", -1}, {"I0.8", 8}, {"I0.12", 12}, {"I0.3.4", 3}, {"I0.0.0", 0}};
   for (const auto& [text, bit] : bits) EXPECT_EQ(Compiled(text).Bit1, bit) << text;
 }

@@ -178,11 +178,11 @@ INSTANTIATE_TEST_SUITE_P(Of, ArithmeticTable,
                                   std::get<1>(riga.param);
                          });
 
-// ---- two operands: values and flags -------------------------------------------------------------
+// ---- values and flags -------------------------------------------------------------
 
 struct Operando {
-  const char* area;
-  double valore;  // of a constant, its number
+  const char* area = "";  // none
+  double valore = 0;      // of a constant, its number
 };
 
 struct Calcolo {
@@ -297,6 +297,35 @@ const Calcolo calcoli[] = {
     {"/D", "QuotientIsZero", {"VD", 70000}, {"VD", 69999}, Bene, 0, zero},
     {"/D", "QuotientIsNotLimited", {"K", 1}, {"VD", 70000}, Bene, 70000, positivo},
     {"/D", "QuotientBeyondThirtyTwoBitsIsFatal", {"K", -1}, {"VD", INT32_MIN}, Crollo, {}, {}},
+    // One operand: the value is written before its range is looked at.
+    {"INCB", "OverTheByteTop", {}, {"VB", 127}, Bene, 128, overflow},
+    {"INCB", "AtTheByteTop", {}, {"VB", 126}, Bene, 127, positivo},
+    {"INCB", "FarOverTheByteTop", {}, {"VB", 255}, Bene, 256, overflow},
+    {"INCB", "ToZero", {}, {"VB", -1}, Bene, 0, zero},
+    {"INCB", "StillNegative", {}, {"VB", -2}, Bene, -1, negativo},
+    {"INCB", "BelowTheByteBottom", {}, {"VB", -130}, Bene, -129, overflow},
+    {"INCB", "OfAnAccumulatorOverTheByteTop", {}, {"AC", 127}, Bene, 128, overflow},
+    {"INCB", "OverTheCellIsFatal", {}, {"VB", 32767}, Crollo, {}, {}},
+    {"DECB", "AtTheByteBottom", {}, {"VB", -127}, Bene, -128, negativo},
+    {"DECB", "UnderTheByteBottom", {}, {"VB", -128}, Bene, -129, overflow},
+    {"DECB", "ToZero", {}, {"VB", 1}, Bene, 0, zero},
+    {"DECB", "UnderTheCellIsFatal", {}, {"VB", -32768}, Crollo, {}, {}},
+    {"INCW", "AtTheWordTop", {}, {"VW", 32766}, Bene, 32767, positivo},
+    {"INCW", "OverTheWordTopIsFatal", {}, {"VW", 32767}, Crollo, {}, {}},
+    {"INCW", "OfAnAccumulatorOverTheWordTop", {}, {"AC", 32767}, Bene, 32768, overflow},
+    {"INCW", "OfAHalfRoundsFirst", {}, {"AC", 2.5}, Bene, 3, positivo},
+    {"INCW", "ToZero", {}, {"VW", -1}, Bene, 0, zero},
+    {"DECW", "AtTheWordBottom", {}, {"VW", -32767}, Bene, -32768, negativo},
+    {"DECW", "UnderTheWordBottomIsFatal", {}, {"VW", -32768}, Crollo, {}, {}},
+    {"DECW", "OfAnAccumulatorUnderTheWordBottom", {}, {"AC", -32768}, Bene, -32769, overflow},
+    {"INCD", "OverTheWordTop", {}, {"VD", 32767}, Bene, 32768, positivo},
+    {"INCD", "ToZero", {}, {"VD", -1}, Bene, 0, zero},
+    {"INCD", "AtTheTop", {}, {"VD", 2147483646}, Bene, INT32_MAX, positivo},
+    {"INCD", "OverTheTopIsFatal", {}, {"VD", INT32_MAX}, Crollo, {}, {}},
+    {"INCD", "OfAnAccumulatorLosesItsLowDigit", {}, {"AC", 16777216}, Bene, 16777216, positivo},
+    {"DECD", "UnderTheWordBottom", {}, {"VD", -32768}, Bene, -32769, negativo},
+    {"DECD", "UnderTheBottomIsFatal", {}, {"VD", INT32_MIN}, Crollo, {}, {}},
+    {"DECD", "OfAnAccumulatorUnderTheBottomIsFatal", {}, {"AC", INT32_MIN}, Crollo, {}, {}},
 };
 // clang-format on
 
@@ -304,13 +333,13 @@ class Calculation : public Arithmetic, public ::testing::WithParamInterface<Calc
 
 TEST_P(Calculation, LeavesValueAndFlagsAsItsRowSays) {
   const auto& [istr, nome, in, out, fine, dopo, flag] = GetParam();
-  const bool costante = std::string_view(in.area) == "K";
+  const std::string_view area = in.area;
+  const int numero = area == "K" ? static_cast<int>(in.valore) : 1;
+  const std::string primo = area.empty() ? "" : Operando_Di(area, numero) + ", ";
   for (const std::uint8_t speciali : {std::uint8_t{0}, std::uint8_t{1}}) {
     Semina(speciali);
-    Prepara(std::string(istr) + " " +
-            Operando_Di(in.area, costante ? static_cast<int>(in.valore) : 1) + ", " +
-            Operando_Di(out.area, 2));
-    if (!costante) Metti(plc, in.area, 1, in.valore);
+    Prepara(std::string(istr) + " " + primo + Operando_Di(out.area, 2));
+    Metti(plc, area, 1, in.valore);
     Metti(plc, out.area, 2, out.valore);
     Memoria atteso = plc;
     if (fine == Bene) Metti_Flag(atteso, flag);
@@ -324,7 +353,7 @@ INSTANTIATE_TEST_SUITE_P(Of, Calculation, ::testing::ValuesIn(calcoli), [](const
     if (std::string_view(operazione.istr) == riga.param.istr)
       return std::string(operazione.nome) + riga.param.nome;
   }
-  return std::string(riga.param.nome);
+  return std::string(riga.param.istr) + riga.param.nome;
 });
 
 TEST_F(Arithmetic, DivisionByZeroSetsItsFlagAndNothingElse) {
@@ -362,9 +391,10 @@ TEST_F(Arithmetic, FlagStaysUntilTheNextArithmeticLineUnderPowerFlow) {
   Carica({"LD SM0.0", "+I +32767, VW0", "MOVW +5, VW1", "LD SM0.2", "+I +1, VW1", "INCW VW1",
           "LD SM0.0", "+I +1, VW1"});
   Run_Step();
-  for (int riga = 0; riga <= 6; ++riga) {
+  plc.CmdStep();
+  for (int riga = 1; riga <= 6; ++riga) {
     plc.CmdStep();
-    if (riga >= 1) EXPECT_EQ(plc.Mem_SM[1].Bit[1], 1) << riga;
+    EXPECT_EQ(plc.Mem_SM[1].Bit[1], 1) << riga;
   }
   plc.CmdStep();
   EXPECT_EQ(plc.Mem_SM[1].Bit[1], 0);
@@ -372,7 +402,8 @@ TEST_F(Arithmetic, FlagStaysUntilTheNextArithmeticLineUnderPowerFlow) {
   EXPECT_EQ(plc.Mem_VW[0], 7);
 }
 
-// ---- INC and DEC --------------------------------------------------------------------------------
+// ---- INC and DEC: every area
+// --------------------------------------------------------------------------------
 
 struct Passo {
   const char* istr;
@@ -410,59 +441,6 @@ INSTANTIATE_TEST_SUITE_P(Of, StepTable,
                            return std::string(std::get<0>(riga.param).istr) + "Of" +
                                   std::get<1>(riga.param);
                          });
-
-// The value is written before its range is looked at.
-// clang-format off: one row, one line
-const Calcolo incrementi[] = {
-    {"INCB", "OverTheByteTop", {}, {"VB", 127}, Bene, 128, overflow},
-    {"INCB", "AtTheByteTop", {}, {"VB", 126}, Bene, 127, positivo},
-    {"INCB", "FarOverTheByteTop", {}, {"VB", 255}, Bene, 256, overflow},
-    {"INCB", "ToZero", {}, {"VB", -1}, Bene, 0, zero},
-    {"INCB", "StillNegative", {}, {"VB", -2}, Bene, -1, negativo},
-    {"INCB", "BelowTheByteBottom", {}, {"VB", -130}, Bene, -129, overflow},
-    {"INCB", "OfAnAccumulatorOverTheByteTop", {}, {"AC", 127}, Bene, 128, overflow},
-    {"INCB", "OverTheCellIsFatal", {}, {"VB", 32767}, Crollo, {}, {}},
-    {"DECB", "AtTheByteBottom", {}, {"VB", -127}, Bene, -128, negativo},
-    {"DECB", "UnderTheByteBottom", {}, {"VB", -128}, Bene, -129, overflow},
-    {"DECB", "ToZero", {}, {"VB", 1}, Bene, 0, zero},
-    {"DECB", "UnderTheCellIsFatal", {}, {"VB", -32768}, Crollo, {}, {}},
-    {"INCW", "AtTheWordTop", {}, {"VW", 32766}, Bene, 32767, positivo},
-    {"INCW", "OverTheWordTopIsFatal", {}, {"VW", 32767}, Crollo, {}, {}},
-    {"INCW", "OfAnAccumulatorOverTheWordTop", {}, {"AC", 32767}, Bene, 32768, overflow},
-    {"INCW", "OfAHalfRoundsFirst", {}, {"AC", 2.5}, Bene, 3, positivo},
-    {"INCW", "ToZero", {}, {"VW", -1}, Bene, 0, zero},
-    {"DECW", "AtTheWordBottom", {}, {"VW", -32767}, Bene, -32768, negativo},
-    {"DECW", "UnderTheWordBottomIsFatal", {}, {"VW", -32768}, Crollo, {}, {}},
-    {"DECW", "OfAnAccumulatorUnderTheWordBottom", {}, {"AC", -32768}, Bene, -32769, overflow},
-    {"INCD", "OverTheWordTop", {}, {"VD", 32767}, Bene, 32768, positivo},
-    {"INCD", "ToZero", {}, {"VD", -1}, Bene, 0, zero},
-    {"INCD", "AtTheTop", {}, {"VD", 2147483646}, Bene, INT32_MAX, positivo},
-    {"INCD", "OverTheTopIsFatal", {}, {"VD", INT32_MAX}, Crollo, {}, {}},
-    {"INCD", "OfAnAccumulatorLosesItsLowDigit", {}, {"AC", 16777216}, Bene, 16777216, positivo},
-    {"DECD", "UnderTheWordBottom", {}, {"VD", -32768}, Bene, -32769, negativo},
-    {"DECD", "UnderTheBottomIsFatal", {}, {"VD", INT32_MIN}, Crollo, {}, {}},
-    {"DECD", "OfAnAccumulatorUnderTheBottomIsFatal", {}, {"AC", INT32_MIN}, Crollo, {}, {}},
-};
-// clang-format on
-
-class Step : public Arithmetic, public ::testing::WithParamInterface<Calcolo> {};
-
-TEST_P(Step, LeavesValueAndFlagsAsItsRowSays) {
-  const auto& [istr, nome, in, out, fine, dopo, flag] = GetParam();
-  for (const std::uint8_t speciali : {std::uint8_t{0}, std::uint8_t{1}}) {
-    Semina(speciali);
-    Prepara(std::string(istr) + " " + Operando_Di(out.area, 2));
-    Metti(plc, out.area, 2, out.valore);
-    Memoria atteso = plc;
-    if (fine == Bene) Metti_Flag(atteso, flag);
-    if (dopo) Metti(atteso, out.area, 2, *dopo);
-    Attendi(fine, atteso);
-  }
-}
-
-INSTANTIATE_TEST_SUITE_P(Of, Step, ::testing::ValuesIn(incrementi), [](const auto& riga) {
-  return std::string(riga.param.istr) + riga.param.nome;
-});
 
 }  // namespace
 }  // namespace tavorno::prova

@@ -151,6 +151,20 @@ INSTANTIATE_TEST_SUITE_P(Table, Output,
                          ::testing::Combine(::testing::ValuesIn(uscite), ::testing::Range(0, 4),
                                             ::testing::Values(0, 1)));
 
+class MarkerWrite : public Cpu, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(MarkerWrite, GivesEveryMarkerByteItsFirstTextEvenWithoutPowerFlow) {
+  Esegui("= Q0.0");
+  Esegui("S S0.0, 1");
+  for (const Riga_M& riga : plc.Mem_M) EXPECT_EQ(riga.Txt_B, "");
+  Esegui(GetParam());
+  for (const Riga_M& riga : plc.Mem_M) EXPECT_EQ(riga.Txt_B, "00000000");
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, MarkerWrite,
+                         ::testing::Values("= M0.0", "= M4.7", "S M1.0, 1", "S M1.0, 0",
+                                           "R M2.0, 1", "R M2.0, 0"));
+
 TEST_F(BitOutput, ResetOfMarkersPastTheLastByteIsARunTimeErrorUnderPowerFlow) {
   for (const char* riga : {"R M4.7, 2", "R M4.7, 9"}) {
     Carica({"NOP", riga});

@@ -238,12 +238,6 @@ INSTANTIATE_TEST_SUITE_P(AllValues, MarkerByte, ::testing::Range(0, 256));
 INSTANTIATE_TEST_SUITE_P(AllValues, OutputByte,
                          ::testing::Combine(::testing::Range(0, 256), ::testing::Values(0, 1)));
 
-TEST_F(Memory, MarkerTextComesWithTheFirstWriteToAMarker) {
-  EXPECT_EQ(plc.Mem_M[4].Txt_B, "");
-  Esegui("= M0.0");
-  for (const Riga_M& riga : plc.Mem_M) EXPECT_EQ(riga.Txt_B, "00000000");
-}
-
 TEST_F(Memory, OutputByteOutsideTheTwoRowsIsFatal) {
   EXPECT_THROW(plc.Byte_Bit(1, 2), Fatale);
   EXPECT_THROW(plc.Byte_Bit(1, -1), Fatale);

@@ -26,6 +26,8 @@ TEST_F(Scan, LineZeroReadsTheInputsAndStartsTheScanClock) {
   EXPECT_EQ(plc.T_Inizio, 7);
 }
 
+namespace {
+
 struct Salto {
   const char* Nome;
   std::vector<std::string> Programma;
@@ -35,6 +37,8 @@ struct Salto {
 void PrintTo(const Salto& salto, std::ostream* os) {
   *os << salto.Nome;
 }
+
+}  // namespace
 
 class Jump : public Cpu, public ::testing::WithParamInterface<Salto> {};
 

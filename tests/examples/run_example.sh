@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Runs one example through the command line and compares what it prints, and its exit status, with
+# the expectation beside it. Usage: run_example.sh BANCO EXAMPLE.AWL [--accept]
+set -uo pipefail
+banco=$1
+project=$2
+cd "$(dirname "$project")" || exit 1
+name=$(basename "$project" .AWL)
+read -r -a arguments <"$name.args"
+result=$("$banco" "${arguments[@]}" 2>&1)
+status=$?
+actual=$(printf '%s\nstato %d' "$result" "$status")
+if [ "${3:-}" = --accept ]; then
+  printf '%s\n' "$actual" >"$name.atteso"
+else
+  diff -u "$name.atteso" <(printf '%s\n' "$actual")
+fi

@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Fails when a source file is not as clang-format writes it. Usage: check_format.sh SOURCE_DIR
+set -euo pipefail
+cd "$1"
+find plc awl bench plants panel tests benchmarks \( -name '*.cpp' -o -name '*.h' \) -print0 2>/dev/null |
+  xargs -0 clang-format --dry-run --Werror
