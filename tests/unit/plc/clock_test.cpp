@@ -3,10 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace tavorno::prova {
 
@@ -271,20 +273,20 @@ TEST_F(Clock, RealTimeMovesAClockWithoutTimers) {
 
 TEST_F(Clock, SameRunGivesTheSameTicksInWhateverStepsItIsDriven) {
   const auto corsa = [](const std::vector<int>& passi) {
-    Orologio orologio;
-    std::string registro;
+    Orologio tempo;
+    std::string visti;
     std::vector<std::unique_ptr<Temporizzatore>> timer;
     for (const int intervallo : {7, 3, 12, 3}) {
       const std::size_t numero = timer.size();
-      timer.push_back(std::make_unique<Temporizzatore>(orologio, intervallo, [&, numero] {
-        registro += std::to_string(numero) + "@" + std::to_string(orologio.Adesso()) + " ";
+      timer.push_back(std::make_unique<Temporizzatore>(tempo, intervallo, [&, numero] {
+        visti += std::to_string(numero) + "@" + std::to_string(tempo.Adesso()) + " ";
         if (numero == 2) timer[0]->Enabled(!timer[0]->Enabled());
         if (numero == 0) timer[3]->Interval(timer[3]->Interval() == 3 ? 5 : 3);
       }));
       timer.back()->Enabled(true);
     }
-    for (const int passo : passi) orologio.Avanza(passo);
-    return registro;
+    for (const int passo : passi) tempo.Avanza(passo);
+    return visti;
   };
   const std::string intera = corsa({600});
   EXPECT_GT(intera.size(), 1000U);
