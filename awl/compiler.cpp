@@ -35,7 +35,10 @@ void Progetto::mnuPlcCompile() {
     Save_Read();
     if (Annulla) return;
   }
-  if (Err_Lettura) return;  // the rows of a failed read are gone, and its box has been shown
+  if (Err_Lettura) {  // the rows of a failed read are gone, and its box has been shown
+    Compilato = 0;
+    return;
+  }
   Compila();
 }
 

@@ -115,6 +115,9 @@ std::string Scrivi_File(const std::string& percorso, const std::string& byte) {
   std::error_code errore;
   // Through a link the file that it names is replaced, and the link stays.
   std::filesystem::path destinazione = std::filesystem::weakly_canonical(percorso, errore);
+  if (!errore && std::filesystem::is_symlink(destinazione))  // to a file that does not exist yet
+    destinazione = std::filesystem::weakly_canonical(
+        destinazione.parent_path() / std::filesystem::read_symlink(destinazione), errore);
   if (errore) return Causa(errore.value());
 
   struct stat vecchio {};

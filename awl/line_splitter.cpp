@@ -94,10 +94,10 @@ std::string Progetto::Cerca_Com(const std::string& riga) {
   sorgente.Op2 = Maiuscole(pezzi[2]);
   sorgente.Op3 = Maiuscole(pezzi[3]);
 
-  std::string canonica = istruzione;
-  if (spazi >= 1) canonica = Incolonna(pezzi[0], colonna_operandi) + pezzi[1];
-  if (spazi >= 2) canonica += ", " + pezzi[2];
-  if (spazi >= 3) canonica += ", " + pezzi[3];
+  std::string canonica = istruzione;  // as typed when it has no operands
+  if (spazi >= 1) canonica = Incolonna(sorgente.Istr, colonna_operandi) + sorgente.Op1;
+  if (spazi >= 2) canonica += ", " + sorgente.Op2;
+  if (spazi >= 3) canonica += ", " + sorgente.Op3;
   sorgente.Testo_CPU = Incolonna(canonica, colonna_cpu);
   if (chkCom[0]) sorgente.Testo_CPU += commento;
   sorgente.Testo_Lista = Incolonna(canonica, colonna_commento) + commento;

@@ -11,7 +11,6 @@ namespace tavorno {
 
 namespace {
 
-/// Mnemonic and rest of a line at its first blank.
 std::string Norm_Network(const std::string& riga) {
   const std::size_t barra = riga.find('/');
   if (barra == std::string::npos) return riga + " ";

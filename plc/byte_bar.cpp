@@ -5,14 +5,14 @@
 
 namespace tavorno {
 
-Barra::Barra(Orologio& orologio)
-    : passo_(orologio, 80, [this] {
+Barra::Barra(Orologio& orologio, bool riparla)
+    : riparla_(riparla), passo_(orologio, 80, [this] {
         if (posizione_ != 8) {
           Mostra(static_cast<std::uint8_t>(accesi_ | 1U << posizione_));
           ++posizione_;
         } else {
           posizione_ = 0;
-          Spegni();
+          LED_Reset();
         }
       }) {}
 
@@ -35,9 +35,10 @@ void Barra::Assegna(std::string_view testo) {
   }
 }
 
-void Barra::Spegni() {
+void Barra::LED_Reset() {
   Mostra(0);
   Assegna("00000000");
+  if (riparla_) INT_ON = true;
 }
 
 void Barra::Mostra(std::uint8_t accesi) {

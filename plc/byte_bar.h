@@ -26,6 +26,9 @@ class Barra {
   /// Which of the eight LEDs are lit, bit 0 the first. It follows the text, but for the chase.
   std::uint8_t Accesi() const { return accesi_; }
 
+  /// All LEDs dark, and the text "00000000" passes.
+  void LED_Reset();
+
   /// Colour (0 green, 1 yellow, other red) and form (0 with rays, other without) of all LEDs.
   void LED_Tipo(std::uint8_t tipo, std::uint8_t forma);
   std::uint8_t Tipo() const { return tipo_; }
@@ -38,11 +41,10 @@ class Barra {
   void Interval(int millisecondi) { passo_.Interval(millisecondi); }
 
  protected:
-  explicit Barra(Orologio& orologio);
+  /// `riparla`: a reset lets the bar speak again, whatever `INT_ON` was.
+  Barra(Orologio& orologio, bool riparla);
   ~Barra() = default;
 
-  /// All LEDs dark, and the text "00000000" passes.
-  void Spegni();
   /// Eight characters, leftmost bit 0; what is not '1', or missing, is dark.
   void Assegna(std::string_view testo);
 
@@ -68,13 +70,14 @@ class Barra {
   std::uint8_t tipo_ = 0, forma_ = 0;
   bool scorri_ = false;
   std::uint8_t posizione_ = 0;  // next LED of the chase
+  bool riparla_;
   Temporizzatore passo_;
 };
 
 /// Input bar `SI(n)`.
 class LedI : public Barra {
  public:
-  explicit LedI(Orologio& orologio) : Barra(orologio) {}
+  explicit LedI(Orologio& orologio) : Barra(orologio, false) {}
 
   const std::string& Stato_I() const { return stato_; }
   void Stato_I(std::string_view testo) { Assegna(testo); }
@@ -82,13 +85,12 @@ class LedI : public Barra {
   void Stato_IB(std::uint8_t valore) { Memorizza_Byte(valore); }  ///< storage only
   const std::string& Stato_BitI() const { return lettura_; }      ///< leftmost character bit 7
   void Stato_BitI(std::string_view testo) { Memorizza_Lettura(testo); }  ///< storage only
-  void LED_Reset() { Spegni(); }
 };
 
-/// Output bar `SQ(n)`.
+/// Output bar `SQ(n)`. Unlike an input bar, it has `INT_ON` set after a reset.
 class LedQ : public Barra {
  public:
-  explicit LedQ(Orologio& orologio) : Barra(orologio) {}
+  explicit LedQ(Orologio& orologio) : Barra(orologio, true) {}
 
   const std::string& Stato_Q() const { return stato_; }
   void Stato_Q(std::string_view testo) { Assegna(testo); }
@@ -96,11 +98,6 @@ class LedQ : public Barra {
   void Stato_QB(std::uint8_t valore) { Memorizza_Byte(valore); }  ///< storage only
   const std::string& Stato_QBitI() const { return lettura_; }     ///< leftmost character bit 7
   void Stato_QBitI(std::string_view testo) { Memorizza_Lettura(testo); }  ///< storage only
-  /// Unlike the input bar's, this one speaks again afterwards.
-  void LED_Reset() {
-    Spegni();
-    INT_ON = true;
-  }
 };
 
 }  // namespace tavorno

@@ -6,6 +6,19 @@
 
 namespace tavorno {
 
+namespace {
+class Dentro_Un_Tick {
+ public:
+  explicit Dentro_Un_Tick(bool& segno) : segno_(segno) { segno_ = true; }
+  ~Dentro_Un_Tick() { segno_ = false; }
+  Dentro_Un_Tick(const Dentro_Un_Tick&) = delete;
+  Dentro_Un_Tick& operator=(const Dentro_Un_Tick&) = delete;
+
+ private:
+  bool& segno_;
+};
+}  // namespace
+
 void Orologio::Iscrivi(Temporizzatore* timer) {
   timer_.push_back(timer);
 }
@@ -30,19 +43,13 @@ Temporizzatore* Orologio::Scaduto(std::int64_t limite) const {
   return primo;
 }
 
+/// Runs the ticks due up to `limite`, each at its own instant, and leaves the clock there.
 void Orologio::Avanza_Con_Tick(std::int64_t fino_a) {
-  in_tick_ = true;
-  // A tick may switch, add or remove timers, itself included, so nothing is remembered across it.
-  struct Fine {
-    Orologio& orologio;
-    ~Fine() { orologio.in_tick_ = false; }
-  } fine{*this};
+  const Dentro_Un_Tick dentro(in_tick_);
   while (Temporizzatore* timer = Scaduto(fino_a)) {
     adesso_ = std::max(adesso_, timer->scadenza_);
     timer->scadenza_ += timer->intervallo_;
-    const std::function<void()> tick = timer->tick_;  // the timer may not outlive its own tick
-    Ricalcola();
-    tick();
+    Esegui(*timer);
   }
   adesso_ = fino_a;
   Ricalcola();
@@ -50,13 +57,26 @@ void Orologio::Avanza_Con_Tick(std::int64_t fino_a) {
 
 void Orologio::Porta_A(std::int64_t istante) {
   if (in_tick_ || istante <= adesso_) return;
-  // Periods slept through are dropped: of each timer only the last due instant stays.
+  adesso_ = istante;
+  if (istante < prossimo_) return;
+  // Of the periods slept through only the last one of each timer stays.
   for (Temporizzatore* timer : timer_) {
     if (timer->scadenza_ < istante)
       timer->scadenza_ += (istante - timer->scadenza_) / timer->intervallo_ * timer->intervallo_;
   }
+  const Dentro_Un_Tick dentro(in_tick_);
+  while (Temporizzatore* timer = Scaduto(istante)) {
+    timer->scadenza_ += timer->intervallo_;
+    Esegui(*timer);
+  }
   Ricalcola();
-  Avanza(istante - adesso_);
+}
+
+/// A tick may switch, add or remove timers, itself included, so nothing is remembered across it.
+void Orologio::Esegui(const Temporizzatore& timer) {
+  const std::function<void()> tick = timer.tick_;
+  Ricalcola();
+  tick();
 }
 
 Temporizzatore::Temporizzatore(Orologio& orologio, int intervallo, std::function<void()> tick)

@@ -31,8 +31,8 @@ class Orologio {
       Avanza_Con_Tick(adesso_ + millisecondi);
   }
 
-  /// Real time: moves to `istante`. A timer that slept through several periods ticks once; an
-  /// instant in the past changes nothing.
+  /// Real time: moves to `istante`, and every tick runs there. A timer that slept through several
+  /// periods ticks once; an instant in the past changes nothing.
   void Porta_A(std::int64_t istante);
 
  private:
@@ -42,6 +42,7 @@ class Orologio {
   void Cancella(Temporizzatore* timer);
   void Ricalcola();
   void Avanza_Con_Tick(std::int64_t fino_a);
+  void Esegui(const Temporizzatore& timer);
   Temporizzatore* Scaduto(std::int64_t limite) const;
 
   std::int64_t adesso_ = 0;

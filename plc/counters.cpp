@@ -16,8 +16,10 @@ bool Fronte_Salita(bool acceso, std::uint8_t& memoria) {
 }  // namespace
 
 Esito Plc::Istr_CTU(Riga_PLC& riga) {
+  std::int16_t preset = 0;
+  if (!Preset(riga, preset)) return Esito::Errore;
   Riga_Contatore& contatore = Mem_C[riga.Num1];
-  if (!Preset(riga, contatore.PV)) return Esito::Errore;
+  contatore.PV = preset;
   if (Flusso(riga)) {
     contatore.Uscita = 0;
     contatore.Val = 0;
@@ -30,8 +32,10 @@ Esito Plc::Istr_CTU(Riga_PLC& riga) {
 }
 
 Esito Plc::Istr_CTD(Riga_PLC& riga) {
+  std::int16_t preset = 0;
+  if (!Preset(riga, preset)) return Esito::Errore;
   Riga_Contatore& contatore = Mem_C[riga.Num1];
-  if (!Preset(riga, contatore.PV)) return Esito::Errore;
+  contatore.PV = preset;
   if (riga.Abil_SCR == 1 && Stak[0] != 0) {
     contatore.Front_B = 1;
     contatore.Uscita = 0;
@@ -50,8 +54,10 @@ Esito Plc::Istr_CTD(Riga_PLC& riga) {
 }
 
 Esito Plc::Istr_CTUD(Riga_PLC& riga) {
+  std::int16_t preset = 0;
+  if (!Preset(riga, preset)) return Esito::Errore;
   Riga_Contatore& contatore = Mem_C[riga.Num1];
-  if (!Preset(riga, contatore.PV)) return Esito::Errore;
+  contatore.PV = preset;
   if (riga.Abil_SCR == 1 && Stak[0] != 0) {
     contatore.Uscita = 0;
     contatore.Val = 0;

@@ -236,7 +236,7 @@ struct Plc : Memoria {
   bool Sorgente_D(Area area, int num, std::int32_t& valore) const;
 
   bool Preset(const Riga_PLC& riga, std::int16_t& preset) const;
-  bool Preset_Timer(const Riga_PLC& riga, Riga_Timer& timer) const;
+  bool Preset_Timer(const Riga_PLC& riga, std::int16_t& preset) const;
   bool Sorgente_B_SM(const Riga_PLC& riga, std::int32_t& valore) const;
   Esito Concludi_Confronto(const Riga_PLC& riga, std::int32_t primo, std::int32_t secondo,
                            std::int16_t err);

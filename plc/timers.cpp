@@ -19,17 +19,17 @@ bool Plc::Preset(const Riga_PLC& riga, std::int16_t& preset) const {
   }
 }
 
-bool Plc::Preset_Timer(const Riga_PLC& riga, Riga_Timer& timer) const {
-  if (riga.Codice2 == Area::AC) {
-    timer.PT = A_16(Arrotonda(Mem_AC[riga.Num2]), "PT");
-    return true;
-  }
-  return Preset(riga, timer.PT);
+bool Plc::Preset_Timer(const Riga_PLC& riga, std::int16_t& preset) const {
+  if (riga.Codice2 != Area::AC) return Preset(riga, preset);
+  preset = A_16(Arrotonda(Mem_AC[riga.Num2]), "PT");
+  return true;
 }
 
 Esito Plc::Istr_TON(Riga_PLC& riga) {
+  std::int16_t preset = 0;
+  if (!Preset_Timer(riga, preset)) return Esito::Errore;
   Riga_Timer& timer = Mem_T[riga.Num1];
-  if (!Preset_Timer(riga, timer)) return Esito::Errore;
+  timer.PT = preset;
   if (timer.Val >= timer.PT) timer.Uscita = 1;
   if (!Flusso(riga)) {
     timer.Uscita = 0;
@@ -43,8 +43,10 @@ Esito Plc::Istr_TON(Riga_PLC& riga) {
 }
 
 Esito Plc::Istr_TOF(Riga_PLC& riga) {
+  std::int16_t preset = 0;
+  if (!Preset_Timer(riga, preset)) return Esito::Errore;
   Riga_Timer& timer = Mem_T[riga.Num1];
-  if (!Preset_Timer(riga, timer)) return Esito::Errore;
+  timer.PT = preset;
   const bool flusso = Flusso(riga);
   if (timer.Val >= timer.PT) {
     timer.Conta = 0;
@@ -64,8 +66,10 @@ Esito Plc::Istr_TOF(Riga_PLC& riga) {
 }
 
 Esito Plc::Istr_TONR(Riga_PLC& riga) {
+  std::int16_t preset = 0;
+  if (!Preset_Timer(riga, preset)) return Esito::Errore;
   Riga_Timer& timer = Mem_T[riga.Num1];
-  if (!Preset_Timer(riga, timer)) return Esito::Errore;
+  timer.PT = preset;
   if (timer.Val >= timer.PT) timer.Uscita = 1;
   if (!Flusso(riga)) {
     timer.Conta = 0;  // the time so far and the output stay: only R clears them

@@ -266,9 +266,9 @@ class Figlio {
 
 TEST_F(AtomicWrite, KilledAtAnyMomentLeavesOneCompleteContent) {
   const std::string zero = "vecchio";
-  const std::string uno(3U << 20U, 'u');
-  const std::string due(2U << 20U, 'd');
-  for (int messaggi = 0; messaggi <= 16; ++messaggi) {
+  const std::string uno(1U << 20U, 'u');
+  const std::string due(1U << 19U, 'd');
+  for (int messaggi = 0; messaggi <= 10; ++messaggi) {
     Scrivi("a.AWL", zero);
     const Figlio figlio(Percorso("a.AWL"), uno, due);
     ASSERT_TRUE(figlio.Uccidi_Dopo(messaggi));

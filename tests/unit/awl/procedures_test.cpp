@@ -139,6 +139,9 @@ TEST_F(Procedures, RemovingTheLastOfSomeLeavesItsTextOnScreen) {
   EXPECT_EQ(progetto.txtP, "NOT");
   progetto.Scrivi_Procedura("NOP");  // belongs to no procedure
   EXPECT_EQ(progetto.Tab_SBR[1].Testo, Testa("SBR_0") + Network(1));
+  progetto.Remove_Sub();  // and neither does a second command
+  EXPECT_EQ(Nomi(), Lista{"SBR_0"});
+  EXPECT_EQ(progetto.TabSP, Lista{"SBR_0"});
   progetto.Scegli_Procedura(1);
   EXPECT_EQ(progetto.txtP, Testa("SBR_0") + Network(1));
 }

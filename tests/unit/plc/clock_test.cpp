@@ -228,7 +228,7 @@ TEST_F(Clock, RealTimeDropsTheTicksItSleptThrough) {
   const auto a = Fai('a', 10);
   a->Enabled(true);
   orologio.Porta_A(95);
-  EXPECT_EQ(Prendi(), "a90 ");
+  EXPECT_EQ(Prendi(), "a95 ");
   EXPECT_EQ(orologio.Adesso(), 95);
   orologio.Porta_A(100);
   EXPECT_EQ(Prendi(), "a100 ");
@@ -243,7 +243,7 @@ TEST_F(Clock, RealTimeTicksEachTimerOnceAndInOrder) {
   const auto d = Fai('d', 300);
   for (const auto& timer : {&a, &b, &c, &d}) (*timer)->Enabled(true);
   orologio.Porta_A(250);
-  EXPECT_EQ(Prendi(), "a200 b240 c250 ");
+  EXPECT_EQ(Prendi(), "a250 b250 c250 ");
   orologio.Porta_A(300);
   EXPECT_EQ(Prendi(), "a300 b300 c300 d300 ");
 }
@@ -261,7 +261,17 @@ TEST_F(Clock, RealTimeDoesNotRunBackwards) {
   orologio.Porta_A(25);
   orologio.Porta_A(5);
   EXPECT_EQ(orologio.Adesso(), 25);
-  EXPECT_EQ(registro, "a20 ");
+  EXPECT_EQ(registro, "a25 ");
+}
+
+TEST_F(Clock, ATimerStartedInALateTickWaitsForItsFirstPeriod) {
+  const auto b = Fai('b', 10);
+  Temporizzatore a(orologio, 1000, [&] { b->Enabled(true); });
+  a.Enabled(true);
+  orologio.Porta_A(1900);
+  EXPECT_EQ(registro, "");
+  orologio.Porta_A(1910);
+  EXPECT_EQ(registro, "b1910 ");
 }
 
 TEST_F(Clock, RealTimeMovesAClockWithoutTimers) {

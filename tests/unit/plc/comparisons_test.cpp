@@ -191,7 +191,6 @@ struct Limite {
   int letto;
 };
 
-// clang-format off: one row, one line
 const Limite limiti[] = {
     {'B', "AtTheLimit", "VB1", 255, Bene, 255},
     {'B', "AboveTheLimit", "VB1", 256, Errore, 0},
@@ -216,7 +215,6 @@ const Limite limiti[] = {
     {'D', "OfANegativeHalf", "AC1", -2.5, Bene, -2},
     {'D', "BeyondTheCell", "AC1", 2147483648.0, Crollo, 0},
 };
-// clang-format on
 
 class ComparisonLimit : public Comparisons, public ::testing::WithParamInterface<Limite> {};
 

@@ -61,7 +61,6 @@ struct Esecuzione {
 
 // CTU: reset, count. CTD: load, count. CTUD: reset, down, up.
 // Counter: Val, PV, Uscita, Front_A, Front_B.
-// clang-format off: one row, one line
 const Esecuzione esecuzioni[] = {
     {"Idle", "CTU", 4, {0, 0, 1}, 1, 0, {2, 99, 0, 0, 1}, {2, 4, 0, 0, 1}},
     {"CountsAnEdge", "CTU", 4, {0, 1, 1}, 1, 0, {2, 99, 0, 0, 1}, {3, 4, 0, 1, 1}},
@@ -77,14 +76,7 @@ const Esecuzione esecuzioni[] = {
     {"FirstScanStillResets", "CTU", 4, {1, 0, 0}, 1, 1, {9, 99, 1, 0, 0}, {0, 4, 0, 0, 0}},
     {"DisabledIsNotReset", "CTU", 4, {1, 0, 0}, 0, 0, {9, 99, 1, 0, 0}, {9, 4, 1, 0, 0}},
     {"DisabledForgetsTheInput", "CTU", 4, {0, 1, 0}, 0, 0, {2, 99, 0, 1, 0}, {2, 4, 0, 0, 0}},
-    {"DisabledStillComparesItsPreset",
-     "CTU",
-     4,
-     {0, 0, 0},
-     0,
-     0,
-     {9, 99, 0, 0, 0},
-     {9, 4, 1, 0, 0}},
+    {"DisabledStillCompares", "CTU", 4, {0, 0, 0}, 0, 0, {9, 99, 0, 0, 0}, {9, 4, 1, 0, 0}},
     {"AtTheCeiling", "CTU", 4, {0, 1, 0}, 1, 0, {32766, 99, 1, 0, 0}, {32767, 4, 1, 1, 0}},
 
     {"Idle", "CTD", 4, {0, 0, 1}, 1, 0, {2, 99, 0, 0, 1}, {2, 4, 0, 0, 1}},
@@ -117,24 +109,9 @@ const Esecuzione esecuzioni[] = {
     {"CountsUpFromZeroInAReset", "CTUD", 4, {1, 0, 1}, 1, 0, {9, 99, 1, 0, 0}, {1, 4, 0, 0, 1}},
     {"CountsDownFromZeroInAReset", "CTUD", 4, {1, 1, 0}, 1, 0, {9, 99, 1, 0, 0}, {-1, 4, 0, 1, 0}},
     {"ResetByAnythingButZero", "CTUD", 4, {2, 0, 0}, 1, 0, {9, 99, 1, 0, 0}, {0, 4, 0, 0, 0}},
-    {"WithAPresetOfZeroIsOnAfterAReset",
-     "CTUD",
-     0,
-     {1, 0, 0},
-     1,
-     0,
-     {9, 99, 0, 0, 0},
-     {0, 0, 1, 0, 0}},
-    {"DisabledDoesNothingButCompare",
-     "CTUD",
-     4,
-     {1, 1, 1},
-     0,
-     0,
-     {9, 99, 0, 1, 1},
-     {9, 4, 1, 0, 0}},
+    {"OfZeroIsOnInAReset", "CTUD", 0, {1, 0, 0}, 1, 0, {9, 99, 0, 0, 0}, {0, 0, 1, 0, 0}},
+    {"DisabledOnlyCompares", "CTUD", 4, {1, 1, 1}, 0, 0, {9, 99, 0, 1, 1}, {9, 4, 1, 0, 0}},
 };
-// clang-format on
 
 class CounterExecution : public Counters, public ::testing::WithParamInterface<Esecuzione> {};
 

@@ -94,7 +94,6 @@ struct Regola_Run {
   bool altra_destinazione_errore;
 };
 
-// clang-format off: one row, one line
 const Regola_Run regole_run[] = {
     {"MOVB", false, " IB QB MB VB SMB K AC ", " VB AC ", false},
     {"MOVW", true, " IW QW MW VW T C AIW K AC ", " VW AQW AC ", false},
@@ -105,7 +104,6 @@ const Regola_Run regole_run[] = {
     {"BIW", true, " VB AC IB QB MB K ", " QB ", true},
     {"BTI", true, " VB IB QB MB SMB AC K ", " VW T C AC ", true},
 };
-// clang-format on
 
 const char* const aree[] = {"I",  "Q",  "M",  "S",  "SM", "T",   "C",   "IB", "QB", "MB", "SMB",
                             "VB", "IW", "QW", "MW", "VW", "AIW", "AQW", "VD", "AC", "K",  "V"};
@@ -212,7 +210,6 @@ struct Limite {
 };
 
 using enum Fine;
-// clang-format off: one row, one line
 const Limite limiti[] = {
     {"MOVB", "AtTheByteLimit", {"VB", 1}, 255, {"VB", 0}, Bene, 255},
     {"MOVB", "AboveTheByteLimit", {"VB", 1}, 256, {"VB", 0}, Errore, 0},
@@ -273,7 +270,6 @@ const Limite limiti[] = {
     {"BTI", "SetsThePresetOfATimer", {"K", 50}, 0, {"T", 37}, Bene, 50},
     {"BTI", "SetsThePresetOfACounter", {"K", 50}, 0, {"C", 20}, Bene, 50},
 };
-// clang-format on
 
 class MoveLimit : public Moves, public ::testing::WithParamInterface<Limite> {};
 

@@ -87,7 +87,6 @@ struct Esecuzione {
   std::int16_t fronte_dopo;
 };
 
-// clang-format off: one row, one line
 const Esecuzione esecuzioni[] = {
     {"TonStartsBelowItsPreset", "TON", true, 0, {9, 99, 1, 0}, {9, 10, 0, -1}, 0},
     {"TonStartsAtItsPreset", "TON", true, 0, {10, 99, 0, 0}, {10, 10, 1, -1}, 0},
@@ -108,13 +107,7 @@ const Esecuzione esecuzioni[] = {
     {"TofHeldSetsItsOutput", "TOF", true, 1, {0, 99, 0, 0}, {0, 10, 1, 0}, 1},
     {"TofHeldKeepsItsValue", "TOF", true, 1, {12, 99, 1, 0}, {12, 10, 1, 0}, 1},
     {"TofFallingStartsToTime", "TOF", false, 1, {0, 99, 1, 0}, {0, 10, 1, -1}, 0},
-    {"TofFallingAtItsPresetTimesWithoutOutput",
-     "TOF",
-     false,
-     1,
-     {10, 99, 1, 0},
-     {10, 10, 0, -1},
-     0},
+    {"TofFallingAtItsPresetTimesUnlit", "TOF", false, 1, {10, 99, 1, 0}, {10, 10, 0, -1}, 0},
     {"TofTimesBelowItsPreset", "TOF", false, 0, {9, 99, 1, -1}, {9, 10, 1, -1}, 0},
     {"TofEndsAtItsPreset", "TOF", false, 0, {10, 99, 1, -1}, {10, 10, 0, 0}, 0},
     {"TofEndsAboveItsPreset", "TOF", false, 0, {11, 99, 1, -1}, {11, 10, 0, 0}, 0},
@@ -128,7 +121,6 @@ const Esecuzione esecuzioni[] = {
     {"TonrWithoutFlowKeepsItsOutput", "TONR", false, 0, {9, 99, 1, -1}, {9, 10, 1, 0}, 0},
     {"TonrReachedWithoutFlowGoesOn", "TONR", false, 0, {10, 99, 0, -1}, {10, 10, 1, 0}, 0},
 };
-// clang-format on
 
 class TimerExecution : public Timers, public ::testing::WithParamInterface<Esecuzione> {};
 
