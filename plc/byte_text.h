@@ -5,6 +5,7 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <string>
 #include <string_view>
 
 // A byte written as eight characters '0' and '1', in its two orders.
@@ -31,6 +32,13 @@ inline std::string_view Testo_Bit(std::uint8_t byte) {
 /// The same byte in reading order: leftmost character bit 7.
 inline std::string_view Testo_Lettura(std::uint8_t byte) {
   return {dettaglio::testi_lettura[byte].data(), 8};
+}
+
+/// Sets `testo` to the reading-order text of a byte. In place, because markers and outputs are
+/// written again and again during a scan.
+inline void Scrivi_Lettura(std::string& testo, std::uint8_t byte) {
+  testo.resize(8);
+  Testo_Lettura(byte).copy(testo.data(), 8);
 }
 
 /// The digit at a place of a bit text; 0 for anything else and behind its end.

@@ -24,10 +24,12 @@ void Plc::Esegui_Riga() {
   Esito esito = Esegui_Ramo();
   for (int salti = 1; esito == Esito::Salto && salti < Salti_Di_Seguito; ++salti)
     esito = Esegui_Ramo();
-  if (esito == Esito::Avanti) [[likely]]
+  if (esito == Esito::Avanti) [[likely]] {
     PC = A_16(PC + 1, "PC");
-  else if (!Fine_Riga(esito))
+    if (Modo_Run != Modo::Step) return;  // the scan time changes at its end only
+  } else if (!Fine_Riga(esito)) {
     return;
+  }
   if (Modo_Run == Modo::Step) {
     etPc = PC;
     Segna(Segno_PC);
@@ -98,7 +100,7 @@ void Plc::Setta_Uscite() {
     std::copy_n(uscite.Bit_Img.Dati(), 8, uscite.Bit_Dir.Dati());
     const std::uint8_t byte = Byte_Di_Celle(uscite.Bit_Img.Dati());
     uscite.Val_B = byte;
-    if (uscite.Txt_B != Testo_Lettura(byte)) uscite.Txt_B = Testo_Lettura(byte);
+    Scrivi_Lettura(uscite.Txt_B, byte);
     SQ[static_cast<std::size_t>(riga)].Stato_Q(Testo_Bit(byte));
   }
 }
@@ -146,7 +148,7 @@ void Plc::Setta_Marker() {
     const std::uint8_t byte = Byte_Di_Celle(marker.Bit.Dati());
     if (marker.Val_B == byte && !marker.Txt_B.empty()) continue;
     marker.Val_B = byte;
-    marker.Txt_B = Testo_Lettura(byte);
+    Scrivi_Lettura(marker.Txt_B, byte);
   }
 }
 
