@@ -24,17 +24,15 @@ void Plc::Esegui_Riga() {
   Esito esito = Esegui_Ramo();
   for (int salti = 1; esito == Esito::Salto && salti < Salti_Di_Seguito; ++salti)
     esito = Esegui_Ramo();
-  if (esito == Esito::Avanti) [[likely]] {
+  if (esito == Esito::Avanti) [[likely]]
     PC = A_16(PC + 1, "PC");
-    if (Modo_Run != Modo::Step) return;  // the scan time changes at its end only
-  } else if (!Fine_Riga(esito)) {
+  else if (!Fine_Riga(esito))
     return;
-  }
   if (Modo_Run == Modo::Step) {
     etPc = PC;
     Segna(Segno_PC);
   }
-  if (Scelte.chkList && tempo_mostrato_ != Tempo_Ciclo) Mostra_Tempo();
+  if (tempo_mostrato_ != Tempo_Ciclo && Scelte.chkList) Mostra_Tempo();
   if (esito == Esito::Fine) Mem_SM[0].Bit[1] = 0;
 }
 

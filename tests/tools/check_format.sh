@@ -3,5 +3,5 @@
 # Fails when a source file is not as clang-format writes it. Usage: check_format.sh SOURCE_DIR
 set -euo pipefail
 cd "$1"
-find plc awl bench plants panel tests benchmarks \( -name '*.cpp' -o -name '*.h' \) -print0 2>/dev/null |
+find . -path ./build -prune -o \( -name '*.cpp' -o -name '*.h' \) -print0 |
   xargs -0 clang-format --dry-run --Werror

@@ -6,10 +6,12 @@ set -uo pipefail
 cd "$1" || exit 1
 shift
 bad=0
+folders=()
+for folder in plc awl bench plants; do [ -d "$folder" ] && folders+=("$folder"); done
 
 while IFS= read -r -d '' file; do
   if grep -HnE '^[[:space:]]*#[[:space:]]*include[[:space:]]*[<"](Q[A-Z]|Qt|Qsci/)' "$file"; then bad=1; fi
-done < <(find plc awl bench plants \( -name '*.cpp' -o -name '*.h' \) \
+done < <(find "${folders[@]}" \( -name '*.cpp' -o -name '*.h' \) \
   -not -path 'awl/ui/*' -not -path 'plants/host/*' -print0)
 
 for archive in "$@"; do

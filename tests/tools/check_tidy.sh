@@ -7,7 +7,9 @@ cd "$1"
 build=$2
 stamps=$build/tidy
 mkdir -p "$stamps"
-common=$({ cat .clang-tidy; find plc awl bench plants -name '*.h' -print0 | sort -z | xargs -0 cat; } | sha256sum)
+folders=()
+for folder in plc awl bench plants; do [ -d "$folder" ] && folders+=("$folder"); done
+common=$({ cat .clang-tidy; find "${folders[@]}" -name '*.h' -print0 | sort -z | xargs -0 cat; } | sha256sum)
 
 check() {
   local source=$1 stamp
@@ -19,5 +21,5 @@ check() {
 }
 export -f check
 export stamps common
-find plc awl bench plants -name '*.cpp' -not -path '*/ui/*' -not -path '*/host/*' -print0 |
+find "${folders[@]}" -name '*.cpp' -not -path '*/ui/*' -not -path '*/host/*' -print0 |
   sort -z | xargs -0 -P "$(nproc)" -I{} bash -c 'check {}'
