@@ -2,7 +2,7 @@
 // Nanoseconds per line of the interpreter: "per_riga" is the figure to quote.
 #include <benchmark/benchmark.h>
 
-#include "programs.h"
+#include "benchmarks/programs.h"
 
 namespace tavorno::misura {
 namespace {

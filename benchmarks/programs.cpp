@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "programs.h"
+#include "benchmarks/programs.h"
 
 #include <random>
 
