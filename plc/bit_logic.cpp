@@ -158,7 +158,8 @@ Esito Plc::Istr_Assegna(Riga_PLC& riga) {
       Aggiorna_IPQ(riga.Num1);
       return Esito::Avanti;
     case Area::M:
-      Aggiorna_Marker(Cambia(Mem_M[riga.Num1].Bit[riga.Bit1], static_cast<std::uint8_t>(valore)));
+      Marker_Scritto(riga.Num1,
+                     Cambia(Mem_M[riga.Num1].Bit[riga.Bit1], static_cast<std::uint8_t>(valore)));
       return Esito::Avanti;
     case Area::S:
       Mem_S[riga.Num1].Bit[riga.Bit1] = valore;
@@ -189,7 +190,7 @@ Esito Plc::Istr_S(Riga_PLC& riga) {
       bool cambiato = false;
       for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit)
         cambiato |= Cambia(Mem_M[riga.Num1].Bit[bit], 1);
-      Aggiorna_Marker(cambiato);
+      Marker_Scritto(riga.Num1, cambiato);
       return Esito::Avanti;
     }
     case Area::S:
@@ -228,7 +229,7 @@ Esito Plc::Istr_R(Riga_PLC& riga) {
           cambiato |= Cambia(Mem_M[riga.Num1 + 1].Bit[bit - 8], 0);
         }
       }
-      Aggiorna_Marker(cambiato);
+      if (cambiato || Mem_M[0].Txt_B.empty()) Setta_Marker();  // of two bytes
       return esito;
     }
     case Area::T:

@@ -224,11 +224,16 @@ struct Plc : Memoria {
   template <class Unisci>
   Esito Contatto_Immediato(const Riga_PLC& riga, Unisci unisci);
 
-  /// After a write to M by an instruction. Most writes leave the cell as it was, and then value and
-  /// text are up to date already, but for the first one, which finds no text.
-  void Aggiorna_Marker(bool cambiato) {
-    if (cambiato || Mem_M[0].Txt_B.empty()) Setta_Marker();
+  /// After a write to one row of M by an instruction. Most writes leave the cell as it was, and
+  /// then value and text are up to date already, but for the first one, which finds no text in any
+  /// row.
+  void Marker_Scritto(int riga, bool cambiato) {
+    if (Mem_M[0].Txt_B.empty())
+      Setta_Marker();
+    else if (cambiato)
+      Aggiorna_Marker(Mem_M[riga]);
   }
+  static void Aggiorna_Marker(Riga_M& marker);
 
   // operands.cpp: raw values before any limit; false for an area that the width cannot read
   bool Sorgente_B(Area area, int num, std::int32_t& valore) const;

@@ -141,13 +141,14 @@ void Plc::Aggiorna_IPQ(int riga) {
   Segna(Segno_Immagini);
 }
 
+void Plc::Aggiorna_Marker(Riga_M& marker) {
+  const std::uint8_t byte = Byte_Di_Celle(marker.Bit.Dati());
+  marker.Val_B = byte;
+  Scrivi_Lettura(marker.Txt_B, byte);
+}
+
 void Plc::Setta_Marker() {
-  for (Riga_M& marker : Mem_M) {
-    const std::uint8_t byte = Byte_Di_Celle(marker.Bit.Dati());
-    if (marker.Val_B == byte && !marker.Txt_B.empty()) continue;
-    marker.Val_B = byte;
-    Scrivi_Lettura(marker.Txt_B, byte);
-  }
+  for (Riga_M& marker : Mem_M) Aggiorna_Marker(marker);
 }
 
 void Plc::Byte_Bit(int valore, int riga) {
