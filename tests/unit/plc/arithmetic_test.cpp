@@ -5,38 +5,15 @@
 #include <string_view>
 #include <tuple>
 
-#include "cpu.h"
+#include "one_line.h"
 
 namespace tavorno::prova {
 namespace {
 
-/// How a line ends.
-enum class Fine { Bene, Errore, Crollo };
-using enum Fine;
-
-const char* const aree[] = {"I",  "Q",  "M",  "S",  "SM", "T",   "C",   "IB", "QB", "MB", "SMB",
-                            "VB", "IW", "QW", "MW", "VW", "AIW", "AQW", "VD", "AC", "K",  "V"};
-
-/// The operand of an area with a number, as written in a line.
-std::string Operando_Di(std::string_view area, int numero) {
-  const std::string testo = std::to_string(numero);
-  if (area == "K") return numero < 0 ? testo : "+" + testo;
-  const bool bit = area == "I" || area == "Q" || area == "M" || area == "S" || area == "SM";
-  return std::string(area) + testo + (bit ? ".1" : "");
-}
-
-bool Elencata(std::string_view elenco, std::string_view area) {
-  return elenco.find(" " + std::string(area) + " ") != std::string_view::npos;
-}
-
-void Metti(Memoria& m, std::string_view area, int n, double valore) {
-  const auto lungo = static_cast<std::int32_t>(static_cast<long long>(valore));
-  const auto corto = static_cast<std::int16_t>(lungo);
-  if (area == "VB") m.Mem_VB[n] = corto;
-  if (area == "VW") m.Mem_VW[n] = corto;
-  if (area == "VD") m.Mem_VD[n] = lungo;
-  if (area == "AC") m.Mem_AC[n] = static_cast<float>(valore);
-  if (area == "AIW") m.Mem_AIW[n] = lungo;
+/// Timers and counters are words to arithmetic, by their values.
+void Scrivi(Memoria& m, std::string_view area, int n, double valore) {
+  Metti(m, area, n, valore);
+  const auto corto = static_cast<std::int16_t>(static_cast<long long>(valore));
   if (area == "T") m.Mem_T[n].Val = corto;
   if (area == "C") m.Mem_C[n].Val = corto;
 }
@@ -57,11 +34,15 @@ Flag Flag_Di(long long valore) {
   return valore == 0 ? zero : valore < 0 ? negativo : positivo;
 }
 
-class Arithmetic : public Cpu {
+/// Gate, and every special bit before.
+constexpr std::pair<Porta, std::uint8_t> prove[] = {
+    {aperta, 0}, {aperta, 1}, {chiuse[0], 1}, {chiuse[1], 1}, {chiuse[2], 1}};
+
+class Arithmetic : public Una_Riga {
  protected:
   /// Rows 1 hold operands IN, rows 2 operands OUT; every special bit is `speciali`.
   void Semina(std::uint8_t speciali = 0) {
-    static_cast<Memoria&>(plc) = Memoria{};
+    Una_Riga::Semina();
     for (Riga_SM& riga : plc.Mem_SM) {
       for (std::uint8_t& bit : riga.Bit) bit = speciali;
     }
@@ -72,34 +53,6 @@ class Arithmetic : public Cpu {
       plc.Mem_VD[i] = plc.Mem_AIW[i] = 7;
       plc.Mem_AC[i] = 7;
     }
-    plc.IP_Q[0].Val_B = 255;
-    for (int cella = 0; cella <= 7; ++cella) plc.Stak[cella] = 1;
-  }
-
-  void Prepara(const std::string& riga) {
-    Carica({"NOP", riga, "NOP"});
-    plc.PC = 1;
-    plc.PLC_Acceso = -1;
-    avvisi.clear();
-  }
-
-  /// The line ends as told and leaves the whole memory as in `atteso`, but for what a Stop does.
-  void Attendi(Fine fine, Memoria atteso) {
-    if (fine == Crollo) {
-      EXPECT_THROW(plc.Esegui_Riga(), Fatale);
-      return;
-    }
-    plc.Esegui_Riga();
-    if (fine == Bene) {
-      atteso.PC = 2;
-      EXPECT_TRUE(avvisi.empty());
-    } else {
-      atteso.IP_Q[0].Val_B = 0;
-      EXPECT_FALSE(plc.PLC_Acceso);
-      ASSERT_EQ(avvisi.size(), 1U);
-      EXPECT_EQ(avvisi[0].Testo, Errore_Run_Time);
-    }
-    EXPECT_TRUE(plc == atteso);
   }
 };
 
@@ -135,23 +88,21 @@ TEST_P(ArithmeticTable, WritesItsSecondOperandAndFlagsUnderPowerFlowOnly) {
   for (const char* out : aree) {
     const bool out_letta = Elencata(operazione.OUT, out);
     const int valore_out = out_letta ? 60 : 0;
-    for (const auto& [cima, abilitata, speciali] :
-         {std::tuple{1, 1, 0}, {1, 1, 1}, {0, 1, 1}, {1, 0, 1}, {0, 0, 1}}) {
-      SCOPED_TRACE(std::string(out) + " top " + std::to_string(cima) + " enable " +
-                   std::to_string(abilitata) + " flags " + std::to_string(speciali));
-      Semina(static_cast<std::uint8_t>(speciali));
-      Prepara(std::string(operazione.istr) + " " + Operando_Di(in, 1) + ", " + Operando_Di(out, 2));
-      plc.Stak[0] = static_cast<std::int16_t>(cima);
-      plc.Prog[1].Abil_SCR = static_cast<std::int16_t>(abilitata);
-      Metti(plc, out, 2, 60);
+    for (const auto& [porta, speciali] : prove) {
+      SCOPED_TRACE(std::string(out) + " top " + std::to_string(porta.cima) + " enable " +
+                   std::to_string(porta.abilitata) + " flags " + std::to_string(speciali));
+      Semina(speciali);
+      Prepara(std::string(operazione.istr) + " " + Operando_Di(in, 1) + ", " + Operando_Di(out, 2),
+              porta);
+      Scrivi(plc, out, 2, 60);
       Memoria atteso = plc;
-      if (cima == 0 || abilitata == 0) {
-        Attendi(Bene, atteso);
+      if (!porta.Flusso()) {
+        Attendi(atteso);
         continue;
       }
       if ((!in_letta && operazione.IN_ignota_errore) ||
           (!out_letta && operazione.OUT_ignota_errore)) {
-        Attendi(Errore, atteso);
+        Attendi_Errore();
         continue;
       }
       const char segno = operazione.istr[0];
@@ -163,9 +114,9 @@ TEST_P(ArithmeticTable, WritesItsSecondOperandAndFlagsUnderPowerFlowOnly) {
                               : segno == '*' ? valore_out * valore_in
                                              : valore_out / valore_in;
         Metti_Flag(atteso, Flag_Di(risultato));
-        if (out_letta) Metti(atteso, out, 2, risultato);
+        if (out_letta) Scrivi(atteso, out, 2, risultato);
       }
-      Attendi(Bene, atteso);
+      Attendi(atteso);
     }
   }
 }
@@ -178,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(Of, ArithmeticTable,
                                   std::get<1>(riga.param);
                          });
 
-// ---- values and flags -------------------------------------------------------------
+// ---- values and flags ---------------------------------------------------------------------------
 
 struct Operando {
   const char* area = "";  // none
@@ -301,11 +252,11 @@ TEST_P(Calculation, LeavesValueAndFlagsAsItsRowSays) {
   for (const std::uint8_t speciali : {std::uint8_t{0}, std::uint8_t{1}}) {
     Semina(speciali);
     Prepara(std::string(istr) + " " + primo + Operando_Di(out.area, 2));
-    Metti(plc, area, 1, in.valore);
-    Metti(plc, out.area, 2, out.valore);
+    Scrivi(plc, area, 1, in.valore);
+    Scrivi(plc, out.area, 2, out.valore);
     Memoria atteso = plc;
     if (fine == Bene) Metti_Flag(atteso, flag);
-    if (dopo) Metti(atteso, out.area, 2, *dopo);
+    if (dopo) Scrivi(atteso, out.area, 2, *dopo);
     Attendi(fine, atteso);
   }
 }
@@ -327,7 +278,7 @@ TEST_F(Arithmetic, DivisionByZeroSetsItsFlagAndNothingElse) {
       plc.Mem_AC[1] = 0.5F;  // rounds to 0
       Memoria atteso = plc;
       atteso.Mem_SM[1].Bit[3] = 1;
-      Attendi(Bene, atteso);
+      Attendi(atteso);
     }
   }
 }
@@ -364,8 +315,7 @@ TEST_F(Arithmetic, FlagStaysUntilTheNextArithmeticLineUnderPowerFlow) {
   EXPECT_EQ(plc.Mem_VW[0], 7);
 }
 
-// ---- INC and DEC: every area
-// --------------------------------------------------------------------------------
+// ---- INC and DEC: every area --------------------------------------------------------------------
 
 struct Passo {
   const char* istr;
@@ -381,19 +331,15 @@ class StepTable : public Arithmetic, public ::testing::WithParamInterface<Passo_
 TEST_P(StepTable, ChangesItsOperandByOneUnderPowerFlowOnly) {
   const auto& [passo, area] = GetParam();
   const bool nota = area == passo.area || std::string_view(area) == "AC";
-  for (const auto& [cima, abilitata, speciali] :
-       {std::tuple{1, 1, 0}, {1, 1, 1}, {0, 1, 1}, {1, 0, 1}, {0, 0, 1}}) {
-    Semina(static_cast<std::uint8_t>(speciali));
-    Prepara(std::string(passo.istr) + " " + Operando_Di(area, 1));
-    plc.Stak[0] = static_cast<std::int16_t>(cima);
-    plc.Prog[1].Abil_SCR = static_cast<std::int16_t>(abilitata);
+  for (const auto& [porta, speciali] : prove) {
+    Semina(speciali);
+    Prepara(std::string(passo.istr) + " " + Operando_Di(area, 1), porta);
     Memoria atteso = plc;
-    const bool flusso = cima == 1 && abilitata == 1;
-    if (flusso && nota) {
-      Metti(atteso, area, 1, 7 + passo.passo);
+    if (porta.Flusso() && nota) {
+      Scrivi(atteso, area, 1, 7 + passo.passo);
       Metti_Flag(atteso, positivo);
     }
-    Attendi(flusso && !nota ? Errore : Bene, atteso);
+    Attendi(porta.Flusso() && !nota ? Errore : Bene, atteso);
   }
 }
 

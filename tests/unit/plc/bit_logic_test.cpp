@@ -2,8 +2,7 @@
 #include <algorithm>
 #include <tuple>
 
-#include "cpu.h"
-#include "filled_memory.h"
+#include "one_line.h"
 
 namespace tavorno::prova {
 
@@ -22,9 +21,6 @@ using BitLogic = Cpu;
 namespace {
 
 using Celle = std::vector<int>;
-
-// The six lower cells of the stack before each instruction.
-const Celle sotto = {0, 1, 1, 0, 1, 1};
 
 Celle Spinta(int valore, int cima, int seconda) {
   return {valore, cima, seconda, 0, 1, 1, 0, 1};
@@ -84,7 +80,7 @@ const Istruzione_Logica istruzioni[] = {
 }  // namespace
 
 class LogicInstruction
-    : public Cpu,
+    : public Una_Riga,
       public ::testing::WithParamInterface<std::tuple<Istruzione_Logica, int, int>> {};
 
 TEST_P(LogicInstruction, ChangesTheStackAsItsRowSaysAndNothingElse) {
@@ -93,24 +89,16 @@ TEST_P(LogicInstruction, ChangesTheStackAsItsRowSaysAndNothingElse) {
   const int x = caso >> 1 & 1;
   const int seconda = caso >> 2 & 1;
 
-  Carica({"NOP", istruzione.Riga});
+  Prepara(istruzione.Riga, {cima, 1 - disabilitata});  // reads do not look at the enable
   Riempi(plc, static_cast<std::uint8_t>(1 - x));
   // The other one of image and physical point holds the opposite.
   (istruzione.Immediata ? plc.IP_I[1].Bit_Dir : plc.IP_I[1].Bit_Img)[5] =
       static_cast<std::uint8_t>(x);
-  Celle prima = {cima, seconda};
-  prima.insert(prima.end(), sotto.begin(), sotto.end());
-  Scrivi_Pila(plc, prima);
-  plc.Prog[1].Abil_SCR = static_cast<std::int16_t>(1 - disabilitata);  // reads do not look at it
-  plc.PC = 1;
-
+  Scrivi_Pila(plc, {cima, seconda, 0, 1, 1, 0, 1, 1});
   Memoria attesa = plc;
-  attesa.PC = 2;
   Scrivi_Pila(attesa, istruzione.Dopo(cima, x, seconda));
-  plc.Esegui_Riga();
+  Attendi(attesa);
   EXPECT_EQ(Pila(), istruzione.Dopo(cima, x, seconda));
-  EXPECT_TRUE(attesa == plc);
-  EXPECT_TRUE(avvisi.empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, LogicInstruction,
@@ -182,19 +170,12 @@ TEST_F(BitLogic, NoOtherAreaHasBits) {
 
 // ---- soft failures ------------------------------------------------------------------------------
 
-class RefusedArea : public Cpu, public ::testing::WithParamInterface<const char*> {};
+class RefusedArea : public Una_Riga, public ::testing::WithParamInterface<const char*> {};
 
 TEST_P(RefusedArea, EndsTheLineWithTheRunTimeErrorAndNothingElse) {
-  Carica({"NOP", GetParam()});
   Riempi(plc, 0);
-  plc.Stak[0] = 1;
-  plc.PC = 1;
-  Memoria attesa = plc;
-  Uscite_Spente(attesa);
-  plc.Esegui_Riga();
-  EXPECT_TRUE(attesa == plc);
-  ASSERT_EQ(avvisi.size(), 1U);
-  EXPECT_EQ(avvisi[0].Testo, Errore_Run_Time);
+  Prepara(GetParam());
+  Attendi_Errore();
   EXPECT_NE(plc.Ferma, 0);
 }
 
@@ -256,14 +237,12 @@ const Riga_Fatale righe_fatali[] = {
 };
 }  // namespace
 
-class FatalLine : public Cpu, public ::testing::WithParamInterface<Riga_Fatale> {};
+class FatalLine : public Una_Riga, public ::testing::WithParamInterface<Riga_Fatale> {};
 
 TEST_P(FatalLine, NamesTheTableAndTheIndexAndKeepsWhatCameBefore) {
   const Riga_Fatale& riga = GetParam();
-  Carica({"NOP", riga.Riga});
   Riempi(plc, 0);
-  plc.Stak[0] = 1;
-  plc.PC = 1;
+  Prepara(riga.Riga);
   Memoria attesa = plc;
   riga.Prima(attesa);
   try {
@@ -317,25 +296,20 @@ const Fronte fronti[] = {
 
 }  // namespace
 
-class Edge : public Cpu, public ::testing::WithParamInterface<Fronte> {};
+class Edge : public Una_Riga, public ::testing::WithParamInterface<Fronte> {};
 
 TEST_P(Edge, IsSeenByTheMemoryOfItsOwnLineAndChangesNothingElse) {
   const Fronte& fronte = GetParam();
-  Carica({"EU", fronte.Istr, "ED"});
   Riempi(plc, 1);
+  Prepara({"EU", fronte.Istr, "ED"}, 1, {fronte.Cima, 0});
   plc.Prog[1].Fronte = static_cast<std::int16_t>(fronte.Fronte_Prima);
-  plc.Prog[1].Abil_SCR = 0;
   plc.Primo_Ciclo = static_cast<std::int16_t>(fronte.Primo_Ciclo);
-  plc.Stak[0] = static_cast<std::int16_t>(fronte.Cima);
-  plc.PC = 1;
   Memoria attesa = plc;
-  attesa.PC = 2;
   attesa.Prog[1].Fronte = static_cast<std::int16_t>(fronte.Fronte_Dopo);
   attesa.Stak[0] = static_cast<std::int16_t>(fronte.Cima_Dopo);
-  plc.Esegui_Riga();
+  Attendi(attesa);
   EXPECT_EQ(plc.Prog[1].Fronte, fronte.Fronte_Dopo);
   EXPECT_EQ(plc.Stak[0], fronte.Cima_Dopo);
-  EXPECT_TRUE(attesa == plc);
   EXPECT_EQ(plc.Primo_Ciclo, fronte.Primo_Ciclo);
 }
 

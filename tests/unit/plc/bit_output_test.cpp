@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <tuple>
 
-#include "cpu.h"
-#include "filled_memory.h"
+#include "one_line.h"
 
 namespace tavorno::prova {
 
@@ -124,27 +123,17 @@ const Uscita uscite[] = {
 
 }  // namespace
 
-class Output : public Cpu, public ::testing::WithParamInterface<std::tuple<Uscita, int, int>> {
- protected:
-  void Prepara(const std::string& riga, int cima, int abilitata, int riempimento) {
-    Carica({"NOP", riga});
-    Riempi(plc, static_cast<std::uint8_t>(riempimento));
-    plc.Stak[0] = static_cast<std::int16_t>(cima);
-    plc.Prog[1].Abil_SCR = static_cast<std::int16_t>(abilitata);
-    plc.PC = 1;
-  }
-};
+class Output : public Una_Riga,
+               public ::testing::WithParamInterface<std::tuple<Uscita, int, int>> {};
 
 TEST_P(Output, WritesWhatItsRowSaysAndNothingElse) {
   const auto& [uscita, flusso, riempimento] = GetParam();
+  Riempi(plc, static_cast<std::uint8_t>(riempimento));
   // Bit 0 of `flusso` is the top, bit 1 the enable of the line: power flows when both are on.
-  Prepara(uscita.Riga, flusso & 1, flusso >> 1, riempimento);
+  Prepara(uscita.Riga, {flusso & 1, flusso >> 1});
   Memoria attesa = plc;
-  attesa.PC = 2;
   uscita.Effetto(attesa, flusso == 3);
-  plc.Esegui_Riga();
-  EXPECT_TRUE(attesa == plc);
-  EXPECT_TRUE(avvisi.empty());
+  Attendi(attesa);
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, Output,

@@ -5,61 +5,15 @@
 #include <string>
 #include <tuple>
 
-#include "cpu.h"
+#include "one_line.h"
 
 namespace tavorno::prova {
 namespace {
 
-class Comparisons : public Cpu {
- protected:
-  Comparisons() {
-    std::int16_t n = 100;
-    for (Riga_IP& ingressi : plc.IP_I) ingressi.Val_B = ++n;
-    for (Riga_IP& uscite : plc.IP_Q) uscite.Val_B = ++n;
-    for (Riga_M& marker : plc.Mem_M) marker.Val_B = ++n;
-    for (Riga_SM& speciali : plc.Mem_SM) speciali.Val_B = ++n;
-    plc.IP_I[1].Txt_B = "00001011";
-    plc.IP_Q[1].Txt_B = "00001100";
-    plc.Mem_M[1].Txt_B = "00001101";
-    plc.Mem_VB[1] = ++n;
-    plc.Mem_VW[1] = ++n;
-    plc.Mem_VD[1] = ++n;
-    plc.Mem_AC[1] = ++n;
-    plc.Mem_T[1] = {++n, ++n, 1, 0};
-    plc.Mem_C[1] = {++n, ++n, 1, 1, 1};
-    plc.Mem_AIW[1] = ++n;
-    plc.Mem_AQW[1] = ++n;
-    for (std::uint8_t& bit : plc.Mem_SM[1].Bit) bit = 1;  // a comparison changes no flag
-  }
+using Comparisons = Una_Riga;
 
-  void Prepara(const std::string& riga, int cima = 0) {
-    Carica({"NOP", riga, "NOP"});
-    plc.PC = 1;
-    plc.PLC_Acceso = -1;
-    avvisi.clear();
-    for (int cella = 0; cella <= 7; ++cella) plc.Stak[cella] = cella % 3 == 0 ? 1 : 0;
-    plc.Stak[0] = static_cast<std::int16_t>(cima);
-  }
-
-  /// The line ends well and leaves the whole memory as in `atteso`.
-  void Attendi(Memoria atteso) {
-    atteso.PC = 2;
-    plc.Esegui_Riga();
-    EXPECT_TRUE(plc == atteso);
-    EXPECT_TRUE(avvisi.empty());
-  }
-
-  /// The line ends in the run-time error: the stack stands, and Stop has cleared the outputs.
-  void Attendi_Errore() {
-    Memoria atteso = plc;
-    for (Riga_IP& uscite : atteso.IP_Q) uscite.Val_B = 0;
-    plc.Esegui_Riga();
-    EXPECT_TRUE(plc == atteso);
-    EXPECT_FALSE(plc.PLC_Acceso);
-    ASSERT_EQ(avvisi.size(), 1U);
-    EXPECT_EQ(avvisi[0].Testo, Errore_Run_Time);
-  }
-};
+/// Off, so that a relation that holds shows on the top.
+constexpr Porta spenta{0, 1};
 
 void Spingi(Memoria& memoria, int valore) {
   for (int cella = 7; cella >= 1; --cella) memoria.Stak[cella] = memoria.Stak[cella - 1];
@@ -81,11 +35,11 @@ TEST_P(ComparisonMnemonic, JoinsTheStackWithTheRelationOfFirstToSecond) {
   for (const auto& [primo, secondo] :
        {std::pair{3, 5}, {5, 5}, {5, 3}, {-5, 3}, {3, -5}, {-5, -3}, {-3, -5}, {-5, -5}, {0, 0}}) {
     for (const int cima : {0, 1}) {
-      for (const bool abilitata : {false, true}) {
+      for (const int abilitata : {0, 1}) {
         SCOPED_TRACE(std::to_string(primo) + " with " + std::to_string(secondo) + ", top " +
                      std::to_string(cima));
-        Prepara(unione + larghezza + relazione + " " + celle + "8, " + celle + "9", cima);
-        plc.Prog[1].Abil_SCR = abilitata ? 1 : 0;  // contacts work in a disabled section too
+        Prepara(unione + larghezza + relazione + " " + celle + "8, " + celle + "9",
+                {cima, abilitata});  // contacts work in a disabled section too
         plc.Mem_VB[8] = plc.Mem_VW[8] = static_cast<std::int16_t>(primo);
         plc.Mem_VB[9] = plc.Mem_VW[9] = static_cast<std::int16_t>(secondo);
         plc.Mem_VD[8] = primo;
@@ -116,16 +70,6 @@ INSTANTIATE_TEST_SUITE_P(All, ComparisonMnemonic,
                          Nome_Mnemonico);
 
 // ---- operands -----------------------------------------------------------------------------------
-
-const char* const aree[] = {"I",  "Q",  "M",  "S",  "SM", "T",   "C",   "IB", "QB", "MB", "SMB",
-                            "VB", "IW", "QW", "MW", "VW", "AIW", "AQW", "VD", "AC", "K",  "V"};
-
-/// The operand of an area with the number 1, as written in a line.
-std::string Operando_Di(const std::string& area) {
-  if (area == "K") return "+1";
-  const bool bit = area == "I" || area == "Q" || area == "M" || area == "S" || area == "SM";
-  return area + "1" + (bit ? ".1" : "");
-}
 
 /// The values that the width reads; an area that is missing here is an error.
 std::map<std::string, int> Valori(const Memoria& m, char larghezza) {
@@ -158,9 +102,9 @@ TEST_P(ComparisonOperand, IsReadInBothPlacesOrIsAnErrorThatLeavesTheStack) {
   plc.Mem_VB[50] = plc.Mem_VW[50] = static_cast<std::int16_t>(letta ? valore->second : 0);
   plc.Mem_VD[50] = letta ? valore->second : 0;
   for (const std::string& operandi :
-       {Operando_Di(area) + ", " + cella, cella + ", " + Operando_Di(area)}) {
+       {Operando_Di(area, 1) + ", " + cella, cella + ", " + Operando_Di(area, 1)}) {
     SCOPED_TRACE(operandi);
-    Prepara(confronto + operandi);
+    Prepara(confronto + operandi, spenta);
     if (!letta) {
       Attendi_Errore();
       continue;
@@ -179,69 +123,55 @@ INSTANTIATE_TEST_SUITE_P(Width, ComparisonOperand,
                                   std::get<1>(riga.param);
                          });
 
-enum class Fine { Bene, Errore, Crollo };
-using enum Fine;
-
 struct Limite {
   char larghezza;
   const char* nome;
-  const char* operando;  // of the areas VB, VW, VD, AC, AIW, always with the number 1
+  const char* area;  // of the operand; its number is 1
   double valore;
   Fine fine;
   int letto;
 };
 
 const Limite limiti[] = {
-    {'B', "AtTheLimit", "VB1", 255, Bene, 255},
-    {'B', "AboveTheLimit", "VB1", 256, Errore, 0},
-    {'B', "Negative", "VB1", -32768, Bene, -32768},
-    {'B', "RoundedUnderTheLimit", "AC1", 254.5, Bene, 254},
-    {'B', "RoundedOverTheLimit", "AC1", 255.5, Errore, 0},
-    {'B', "FarAboveTheLimit", "AC1", 70000, Errore, 0},
-    {'B', "AtTheBottomOfTheCell", "AC1", -32768, Bene, -32768},
-    {'B', "BelowTheCell", "AC1", -32769, Crollo, 0},
-    {'W', "AtTheLimit", "AIW1", 32767, Bene, 32767},
-    {'W', "AboveTheLimit", "AIW1", 32768, Errore, 0},
-    {'W', "Negative", "VW1", -32768, Bene, -32768},
-    {'W', "RoundedUnderTheLimit", "AC1", 32766.5, Bene, 32766},
-    {'W', "RoundedOverTheLimit", "AC1", 32767.5, Errore, 0},
-    {'W', "AtTheBottomOfTheCell", "AC1", -32768, Bene, -32768},
-    {'W', "BelowTheCell", "AC1", -32769, Crollo, 0},
-    {'W', "AnalogBelowTheCell", "AIW1", -32769, Crollo, 0},
-    {'D', "OfTheLargestValue", "VD1", INT32_MAX, Bene, INT32_MAX},
-    {'D', "OfTheSmallestValue", "VD1", INT32_MIN, Bene, INT32_MIN},
-    {'D', "RoundedToTheEvenNeighbour", "AC1", 2.5, Bene, 2},
-    {'D', "RoundedToTheEvenNeighbourAbove", "AC1", 3.5, Bene, 4},
-    {'D', "OfANegativeHalf", "AC1", -2.5, Bene, -2},
-    {'D', "BeyondTheCell", "AC1", 2147483648.0, Crollo, 0},
+    {'B', "AtTheLimit", "VB", 255, Bene, 255},
+    {'B', "AboveTheLimit", "VB", 256, Errore, 0},
+    {'B', "Negative", "VB", -32768, Bene, -32768},
+    {'B', "RoundedUnderTheLimit", "AC", 254.5, Bene, 254},
+    {'B', "RoundedOverTheLimit", "AC", 255.5, Errore, 0},
+    {'B', "FarAboveTheLimit", "AC", 70000, Errore, 0},
+    {'B', "AtTheBottomOfTheCell", "AC", -32768, Bene, -32768},
+    {'B', "BelowTheCell", "AC", -32769, Crollo, 0},
+    {'W', "AtTheLimit", "AIW", 32767, Bene, 32767},
+    {'W', "AboveTheLimit", "AIW", 32768, Errore, 0},
+    {'W', "Negative", "VW", -32768, Bene, -32768},
+    {'W', "RoundedUnderTheLimit", "AC", 32766.5, Bene, 32766},
+    {'W', "RoundedOverTheLimit", "AC", 32767.5, Errore, 0},
+    {'W', "AtTheBottomOfTheCell", "AC", -32768, Bene, -32768},
+    {'W', "BelowTheCell", "AC", -32769, Crollo, 0},
+    {'W', "AnalogBelowTheCell", "AIW", -32769, Crollo, 0},
+    {'D', "OfTheLargestValue", "VD", INT32_MAX, Bene, INT32_MAX},
+    {'D', "OfTheSmallestValue", "VD", INT32_MIN, Bene, INT32_MIN},
+    {'D', "RoundedToTheEvenNeighbour", "AC", 2.5, Bene, 2},
+    {'D', "RoundedToTheEvenNeighbourAbove", "AC", 3.5, Bene, 4},
+    {'D', "OfANegativeHalf", "AC", -2.5, Bene, -2},
+    {'D', "BeyondTheCell", "AC", 2147483648.0, Crollo, 0},
 };
 
 class ComparisonLimit : public Comparisons, public ::testing::WithParamInterface<Limite> {};
 
 TEST_P(ComparisonLimit, ReadsItsOperandAsTheRowSays) {
-  const auto& [larghezza, nome, operando, valore, fine, letto] = GetParam();
-  const std::string testo = operando;
-  const auto intero = static_cast<long long>(valore);
-  if (testo == "VB1") plc.Mem_VB[1] = static_cast<std::int16_t>(intero);
-  if (testo == "VW1") plc.Mem_VW[1] = static_cast<std::int16_t>(intero);
-  if (testo == "VD1") plc.Mem_VD[1] = static_cast<std::int32_t>(intero);
-  if (testo == "AIW1") plc.Mem_AIW[1] = static_cast<std::int32_t>(intero);
-  if (testo == "AC1") plc.Mem_AC[1] = static_cast<float>(valore);
+  const auto& [larghezza, nome, area, valore, fine, letto] = GetParam();
+  const std::string testo = Operando_Di(area, 1);
+  Metti(plc, area, 1, valore);
   plc.Mem_VB[50] = plc.Mem_VW[50] = static_cast<std::int16_t>(letto);
   plc.Mem_VD[50] = letto;
   const std::string cella = std::string("V") + larghezza + "50";
   for (const std::string& operandi : {testo + ", " + cella, cella + ", " + testo}) {
     SCOPED_TRACE(operandi);
-    Prepara(std::string("LD") + larghezza + "= " + operandi);
-    if (fine == Crollo) {
-      EXPECT_THROW(plc.Esegui_Riga(), Fatale);
-    } else if (fine == Errore) {
-      Attendi_Errore();
-    } else {
-      Memoria atteso = plc;
-      Spingi(atteso, 1);
-      Attendi(atteso);
-    }
+    Prepara(std::string("LD") + larghezza + "= " + operandi, spenta);
+    Memoria atteso = plc;
+    if (fine == Bene) Spingi(atteso, 1);
+    Attendi(fine, atteso);
   }
 }
 
@@ -253,10 +183,10 @@ INSTANTIATE_TEST_SUITE_P(Operand, ComparisonLimit, ::testing::ValuesIn(limiti),
 TEST_F(Comparisons, WordOfABitAreaAboveTheLimitIsAnErrorAndAnEmptyTextIsFatal) {
   for (const char* operando : {"IW1", "QW1", "MW1"}) {
     SCOPED_TRACE(operando);
-    Prepara(std::string("LDW= ") + operando + ", +0");
+    Prepara(std::string("LDW= ") + operando + ", +0", spenta);
     plc.IP_I[1].Txt_B = plc.IP_Q[1].Txt_B = plc.Mem_M[1].Txt_B = "10000000";
     Attendi_Errore();
-    Prepara(std::string("LDW= ") + operando + ", +0");
+    Prepara(std::string("LDW= ") + operando + ", +0", spenta);
     plc.IP_I[1].Txt_B = plc.IP_Q[1].Txt_B = plc.Mem_M[1].Txt_B = "";
     EXPECT_THROW(plc.Esegui_Riga(), Fatale);
   }
@@ -267,7 +197,8 @@ TEST_F(Comparisons, OneFailingOperandIsEnoughAndTwoGiveOneMessage) {
     for (const char* operandi : {"VB7, +1", "+1, VB7", "VB7, VB7"}) {
       SCOPED_TRACE(std::string(connessione) + " " + operandi);
       plc.Mem_VB[7] = 256;
-      Prepara(std::string(connessione) + "B<> " + operandi, connessione[0] == 'A' ? 1 : 0);
+      Prepara(std::string(connessione) + "B<> " + operandi,
+              connessione[0] == 'A' ? aperta : spenta);
       Attendi_Errore();
     }
   }
@@ -297,6 +228,7 @@ TEST_F(Comparisons, ReadersSetTheErrorFlagAndNeverClearIt) {
 // ---- in a program -------------------------------------------------------------------------------
 
 TEST_F(Comparisons, CounterAtZeroEqualsZeroRightAfterRun) {
+  plc.Mem_C[0] = {};
   Carica({"LDW= C0, +0"});
   Run_Step();
   plc.CmdStep();

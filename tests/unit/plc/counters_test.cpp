@@ -2,39 +2,13 @@
 #include <cstdint>
 #include <string>
 
-#include "cpu.h"
+#include "one_line.h"
 
 namespace tavorno::prova {
 namespace {
 
-class Counters : public Cpu {
+class Counters : public Una_Riga {
  protected:
-  Counters() {
-    // Something in every cell that a counter could touch by mistake.
-    std::int16_t n = 100;
-    for (Riga_Contatore& contatore : plc.Mem_C) contatore = {++n, ++n, 1, 1, 1};
-    for (Riga_IP& uscite : plc.IP_Q) {
-      for (std::uint8_t& bit : uscite.Bit_Img) bit = 1;
-      uscite.Val_B = 255;
-    }
-    for (int cella = 0; cella <= 7; ++cella) plc.Stak[cella] = 1;
-  }
-
-  /// Puts the line at row 1, which reads no inputs, between two others.
-  void Prepara(const std::string& riga) {
-    Carica({"NOP", riga, "NOP"});
-    plc.PC = 1;
-    plc.PLC_Acceso = -1;
-  }
-
-  /// The line ends well and leaves the whole memory as in `atteso`.
-  void Attendi(Memoria atteso) {
-    atteso.PC = 2;
-    plc.Esegui_Riga();
-    EXPECT_TRUE(plc == atteso);
-    EXPECT_TRUE(avvisi.empty());
-  }
-
   /// Inputs I0.0, I0.1 and I0.2 as given, then one scan.
   void Scansione_Con(bool i0, bool i1, bool i2 = false) {
     Ingresso(0, 0, i0);
@@ -165,18 +139,8 @@ TEST_P(EveryCounter, RefusesAPresetFromAnyOtherAreaAccumulatorsAmongThem) {
        {"AC0", "I0.0", "Q0.0", "M0.0", "S0.0", "SM0.0", "T0",   "C0",   "IB0", "QB0",
         "MB0", "SMB0", "VB0",  "IW0",  "QW0",  "MW0",   "AIW0", "AQW0", "VD0", ""}) {
     SCOPED_TRACE(area);
-    avvisi.clear();
     Prepara(Riga_Con(std::string("C5, ") + area));
-    Memoria atteso = plc;
-    for (Riga_IP& uscite : atteso.IP_Q) {
-      for (int bit = 0; bit <= 7; ++bit) uscite.Bit_Dir[bit] = uscite.Bit_Img[bit] = 0;
-      uscite.Val_B = 0;
-    }
-    plc.Esegui_Riga();
-    EXPECT_TRUE(plc == atteso);
-    ASSERT_EQ(avvisi.size(), 1U);
-    EXPECT_EQ(avvisi[0].Testo, Errore_Run_Time);
-    EXPECT_FALSE(plc.PLC_Acceso);
+    Attendi_Errore();
   }
 }
 

@@ -4,13 +4,10 @@
 #include <string_view>
 #include <tuple>
 
-#include "cpu.h"
+#include "one_line.h"
 
 namespace tavorno::prova {
 namespace {
-
-/// How a line ends.
-enum class Fine { Bene, Errore, Crollo };
 
 void Scrivi_Bit(Memoria& memoria, int riga, int valore) {
   for (int bit = 0; bit <= 7; ++bit) {
@@ -19,69 +16,14 @@ void Scrivi_Bit(Memoria& memoria, int riga, int valore) {
   }
 }
 
-class Moves : public Cpu {
+class Moves : public Una_Riga {
  protected:
   Moves() { Semina(); }
 
-  /// A value of its own in every cell that a move may read or write, all below 256.
+  /// Outputs with bits of both kinds, since moves write them to either.
   void Semina() {
-    std::int16_t n = 100;
-    static_cast<Memoria&>(plc) = Memoria{};
-    for (Riga_IP& ingressi : plc.IP_I) ingressi.Val_B = ++n;
-    for (Riga_IP& uscite : plc.IP_Q) uscite.Val_B = ++n;
-    for (Riga_M& marker : plc.Mem_M) marker.Val_B = ++n;
-    for (Riga_SM& speciali : plc.Mem_SM) speciali.Val_B = ++n;
-    plc.IP_I[1].Txt_B = "00001011";
-    plc.IP_Q[1].Txt_B = "00001100";
-    plc.Mem_M[1].Txt_B = "00001101";
-    n = 150;
-    plc.Mem_VB[0] = ++n;
-    plc.Mem_VB[1] = ++n;
-    plc.Mem_VW[0] = ++n;
-    plc.Mem_VW[1] = ++n;
-    plc.Mem_VD[0] = ++n;
-    plc.Mem_VD[1] = ++n;
-    plc.Mem_AC[0] = ++n;
-    plc.Mem_AC[1] = ++n;
-    for (const int i : {0, 1}) {
-      plc.Mem_T[i] = {++n, ++n, 1, 0};
-      plc.Mem_C[i] = {++n, ++n, 1, 1, 1};
-      plc.Mem_AIW[i] = ++n;
-      plc.Mem_AQW[i] = ++n;
-      Scrivi_Bit(plc, i, 0xA5);
-    }
-    for (int cella = 0; cella <= 7; ++cella) plc.Stak[cella] = 1;
-    for (std::uint8_t& bit : plc.Mem_SM[1].Bit) bit = 1;  // a move changes no flag
-  }
-
-  void Prepara(const std::string& riga) {
-    Carica({"NOP", riga, "NOP"});
-    plc.PC = 1;
-    plc.PLC_Acceso = -1;
-    avvisi.clear();
-  }
-
-  /// The line ends as told and leaves the whole memory as in `atteso`, but for what a Stop does.
-  void Attendi(Fine fine, Memoria atteso) {
-    if (fine == Fine::Crollo) {
-      EXPECT_THROW(plc.Esegui_Riga(), Fatale);
-      return;
-    }
-    plc.Esegui_Riga();
-    if (fine == Fine::Bene) {
-      atteso.PC = 2;
-      EXPECT_TRUE(avvisi.empty());
-      EXPECT_TRUE(plc.PLC_Acceso);
-    } else {
-      for (const int riga : {0, 1}) {
-        Scrivi_Bit(atteso, riga, 0);
-        atteso.IP_Q[riga].Val_B = 0;
-      }
-      EXPECT_FALSE(plc.PLC_Acceso);
-      ASSERT_EQ(avvisi.size(), 1U);
-      EXPECT_EQ(avvisi[0].Testo, Errore_Run_Time);
-    }
-    EXPECT_TRUE(plc == atteso);
+    Una_Riga::Semina();
+    for (const int i : {0, 1}) Scrivi_Bit(plc, i, 0xA5);
   }
 };
 
@@ -105,16 +47,6 @@ const Regola_Run regole_run[] = {
     {"BTI", true, " VB IB QB MB SMB AC K ", " VW T C AC ", true},
 };
 
-const char* const aree[] = {"I",  "Q",  "M",  "S",  "SM", "T",   "C",   "IB", "QB", "MB", "SMB",
-                            "VB", "IW", "QW", "MW", "VW", "AIW", "AQW", "VD", "AC", "K",  "V"};
-
-/// The operand of an area with a number, as written in a line.
-std::string Operando_Di(const std::string& area, int numero) {
-  if (area == "K") return (numero < 0 ? "" : "+") + std::to_string(numero);
-  const bool bit = area == "I" || area == "Q" || area == "M" || area == "S" || area == "SM";
-  return area + std::to_string(numero) + (bit ? ".1" : "");
-}
-
 /// The value of a source with the number 1 as the seed set it.
 int Valore_Di(const Memoria& m, std::string_view istr, std::string_view area) {
   if (istr == "BIR" || area == "IB") return m.IP_I[1].Val_B;  // BIR reads inputs for any area
@@ -136,13 +68,9 @@ int Valore_Di(const Memoria& m, std::string_view istr, std::string_view area) {
 
 /// Puts a value into a cell as a destination takes it; limits below set their sources with it too.
 void Scrivi(Memoria& m, std::string_view area, int n, double valore) {
+  Metti(m, area, n, valore);
   const auto lungo = static_cast<std::int32_t>(static_cast<long long>(valore));
   const auto corto = static_cast<std::int16_t>(lungo);
-  if (area == "VB") m.Mem_VB[n] = corto;
-  if (area == "VW") m.Mem_VW[n] = corto;
-  if (area == "VD") m.Mem_VD[n] = lungo;
-  if (area == "AC") m.Mem_AC[n] = static_cast<float>(valore);
-  if (area == "AIW") m.Mem_AIW[n] = lungo;
   if (area == "AQW") m.Mem_AQW[n] = lungo;
   if (area == "IB") m.IP_I[n].Val_B = corto;
   if (area == "SMB") m.Mem_SM[n].Val_B = corto;
@@ -159,27 +87,23 @@ class MoveTable : public Moves, public ::testing::WithParamInterface<Coppia> {};
 
 TEST_P(MoveTable, MovesToEveryDestinationAsItsRowSaysAndOnlyThroughItsGate) {
   const auto& [regola, sorgente] = GetParam();
-  const auto elencata = [](std::string_view elenco, const std::string& area) {
-    return elenco.find(" " + area + " ") != std::string_view::npos;
-  };
   for (const char* destinazione : aree) {
-    for (const auto& [cima, abilitata] : {std::pair{0, 0}, {0, 1}, {1, 0}, {1, 1}}) {
-      SCOPED_TRACE(std::string(destinazione) + " top " + std::to_string(cima) + " enable " +
-                   std::to_string(abilitata));
+    for (const Porta& porta : {aperta, chiuse[0], chiuse[1], chiuse[2]}) {
+      SCOPED_TRACE(std::string(destinazione) + " top " + std::to_string(porta.cima) + " enable " +
+                   std::to_string(porta.abilitata));
       Semina();
       Prepara(std::string(regola.istr) + " " + Operando_Di(sorgente, 1) + ", " +
-              Operando_Di(destinazione, 0));
-      plc.Stak[0] = static_cast<std::int16_t>(cima);
-      plc.Prog[1].Abil_SCR = static_cast<std::int16_t>(abilitata);
+                  Operando_Di(destinazione, 0),
+              porta);
       Memoria atteso = plc;
-      Fine fine = Fine::Bene;
-      if (cima == 1 && (abilitata == 1 || !regola.con_flusso)) {
-        if (!elencata(regola.sorgenti, sorgente))
-          fine = Fine::Errore;
-        else if (elencata(regola.destinazioni, destinazione))
+      Fine fine = Bene;
+      if (regola.con_flusso ? porta.Flusso() : porta.cima == 1) {
+        if (!Elencata(regola.sorgenti, sorgente))
+          fine = Errore;
+        else if (Elencata(regola.destinazioni, destinazione))
           Scrivi(atteso, destinazione, 0, Valore_Di(plc, regola.istr, sorgente));
         else if (regola.altra_destinazione_errore)
-          fine = Fine::Errore;
+          fine = Errore;
       }
       Attendi(fine, atteso);
     }
@@ -209,7 +133,6 @@ struct Limite {
   double dopo;  // value of the destination, if the line ends well
 };
 
-using enum Fine;
 const Limite limiti[] = {
     {"MOVB", "AtTheByteLimit", {"VB", 1}, 255, {"VB", 0}, Bene, 255},
     {"MOVB", "AboveTheByteLimit", {"VB", 1}, 256, {"VB", 0}, Errore, 0},
@@ -323,7 +246,7 @@ TEST_F(Moves, AccumulatorIsReadToTheNearestIntegerAndAHalfToTheEvenOne) {
     plc.Mem_AC[1] = ac;
     Memoria atteso = plc;
     atteso.Mem_VD[0] = intero;
-    Attendi(Fine::Bene, atteso);
+    Attendi(atteso);
   }
 }
 

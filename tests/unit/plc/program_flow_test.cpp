@@ -3,42 +3,18 @@
 #include <string>
 #include <vector>
 
-#include "cpu.h"
+#include "one_line.h"
 
 namespace tavorno::prova {
 namespace {
 
-class ProgramFlow : public Cpu {
+class ProgramFlow : public Una_Riga {
  protected:
   ProgramFlow() {
-    // Something in every cell that a jump could touch by mistake.
-    std::int16_t n = 100;
-    for (Riga_Timer& timer : plc.Mem_T) timer = {++n, ++n, 1, -1};
-    for (int cella = 0; cella <= 7; ++cella) {
-      plc.Stak[cella] = cella % 2 == 0 ? 1 : 0;
+    for (Riga_Timer& timer : plc.Mem_T) timer.Conta = -1;
+    for (std::int16_t& parola : plc.Mem_VW) parola = 0;  // the programs below count in words
+    for (int cella = 0; cella <= 7; ++cella)
       plc.Stak_Rit[cella] = static_cast<std::int16_t>(3 + cella);
-    }
-    for (Riga_IP& uscite : plc.IP_Q) {
-      for (std::uint8_t& bit : uscite.Bit_Img) bit = 1;
-      uscite.Val_B = 255;
-    }
-  }
-
-  /// A program that stands at row `pc`, as in a run, with the given top and line enable.
-  void Prepara(const std::vector<std::string>& righe, int pc, int cima, bool abilitata = true) {
-    Carica(righe);
-    plc.PC = static_cast<std::int16_t>(pc);
-    plc.PLC_Acceso = -1;
-    plc.Stak[0] = static_cast<std::int16_t>(cima);
-    plc.Prog[pc].Abil_SCR = abilitata ? 1 : 0;
-    avvisi.clear();
-  }
-
-  /// One call of the interpreter leaves the whole memory as in `atteso`.
-  void Attendi(const Memoria& atteso) {
-    plc.Esegui_Riga();
-    EXPECT_TRUE(plc == atteso);
-    EXPECT_TRUE(avvisi.empty());
   }
 
   std::vector<int> Ritorni() const { return {plc.Stak_Rit.begin(), plc.Stak_Rit.end()}; }
@@ -134,17 +110,16 @@ class FlowLine : public ProgramFlow, public ::testing::WithParamInterface<Passag
 
 TEST_P(FlowLine, DoesAsItsRowSaysWhateverTheLineEnable) {
   const Passaggio& caso = GetParam();
-  for (const bool abilitata : {false, true}) {
+  for (const int abilitata : {0, 1}) {
     for (std::int16_t cella = 0; cella <= 7; ++cella)
       plc.Stak_Rit[cella] = static_cast<std::int16_t>(3 + cella);
     for (Riga_Timer& timer : plc.Mem_T) timer.Conta = -1;
-    Prepara(Programma_Con(caso.riga), 2, caso.cima, abilitata);
+    Prepara(Programma_Con(caso.riga), 2, {caso.cima, abilitata});
     Memoria atteso = plc;
-    atteso.PC = static_cast<std::int16_t>(caso.pc_dopo);
     // The return leads to row 3, a line of its own that runs in the same call.
     if (caso.dopo == Ritorna) plc.Prog[3] = atteso.Prog[3] = Riga("NOP");
     if (caso.dopo) caso.dopo(atteso);
-    Attendi(atteso);
+    Attendi(atteso, caso.pc_dopo);
   }
 }
 
@@ -152,22 +127,24 @@ INSTANTIATE_TEST_SUITE_P(Of, FlowLine, ::testing::ValuesIn(passaggi),
                          [](const auto& riga) { return std::string(riga.param.nome); });
 
 TEST_F(ProgramFlow, MendEndsTheScan) {
-  Carica({"NOP", "MEND", "NOP"});
-  plc.PC = 1;
+  Prepara("MEND");
   plc.Primo_Ciclo = -1;
   plc.Mem_SM[0].Bit[1] = 1;
   plc.N_Cicli = 4;
   plc.T_Inizio = 0;
   orologio.Avanza(30);
+  for (Riga_IP& uscite : plc.IP_Q) {
+    for (std::uint8_t& bit : uscite.Bit_Dir) bit = 0;  // the end of a scan lights them
+  }
   Memoria atteso = plc;
-  atteso.PC = 0;
   atteso.Mem_SM[0].Bit[1] = 0;
   atteso.Mem_SM[0].Bit[6] = 1;
   for (Riga_IP& uscite : atteso.IP_Q) {
     for (int bit = 0; bit <= 7; ++bit) uscite.Bit_Dir[bit] = 1;
     uscite.Txt_B = "11111111";
+    uscite.Val_B = 255;
   }
-  Attendi(atteso);
+  Attendi(atteso, 0);
   EXPECT_EQ(plc.N_Cicli, 5);
   EXPECT_EQ(plc.Primo_Ciclo, 0);
   EXPECT_EQ(plc.Tempo_Ciclo, 30);
@@ -188,13 +165,10 @@ TEST_F(ProgramFlow, MnemonicWithoutABranchStopsTheRunBehindItself) {
         "AR>",  "OR<",  "FOO",  "ld",   "NETWORK"}) {
     SCOPED_TRACE(istr);
     plc.IP_Q[0].Val_B = 255;
-    Prepara({"NOP", istr, "NOP"}, 1, 1);
+    Prepara(istr);
     Memoria atteso = plc;
     atteso.PC = 2;
-    for (Riga_IP& uscite : atteso.IP_Q) {
-      for (int bit = 0; bit <= 7; ++bit) uscite.Bit_Img[bit] = 0;
-      uscite.Val_B = 0;
-    }
+    Uscite_Spente(atteso);
     plc.Ferma = 0;
     plc.Esegui_Riga();
     EXPECT_TRUE(plc == atteso);
@@ -206,6 +180,7 @@ TEST_F(ProgramFlow, MnemonicWithoutABranchStopsTheRunBehindItself) {
     EXPECT_EQ(avvisi[0].Testo, std::string("Riga 1 : <") + istr +
                                    ">--> Istruzione non riconosciuta!\n"
                                    "Il Programma verrà terminato.");
+    avvisi.clear();
   }
 }
 
@@ -307,21 +282,27 @@ TEST_F(ProgramFlow, SecondReturnOfTwoNestedCallsRestartsTheProgramWithoutAnEndOf
   EXPECT_EQ(plc.Mem_VW[1], 1);
 }
 
+/// What line 0 does with all switches off.
+void Ingressi_Letti(Memoria& m) {
+  for (Riga_IP& ingressi : m.IP_I) {
+    ingressi.Txt_B = "00000000";
+    ingressi.Val_B = 0;
+  }
+}
+
 TEST_F(ProgramFlow, ReturnWithAnEmptyStackGoesToLineZero) {
   plc.Rit_Stak(0);
-  Prepara({"NOP", "NOP", "RET"}, 2, 0);
+  Prepara({"NOP", "NOP", "RET"}, 2, {0, 1});
   Memoria atteso = plc;
-  atteso.PC = 1;
-  for (Riga_IP& ingressi : atteso.IP_I) ingressi.Txt_B = "00000000";  // line 0 reads the inputs
-  Attendi(atteso);
+  Ingressi_Letti(atteso);
+  Attendi(atteso, 1);
 }
 
 TEST_F(ProgramFlow, JumpThatWasNotLinkedGoesToLineZero) {
-  Prepara({"NOP", "NOP", "JMP 1", "TON T5, +5"}, 2, 1);
+  Prepara({"NOP", "NOP", "JMP 1", "TON T5, +5"}, 2);
   Memoria atteso = plc;
-  atteso.PC = 1;
-  for (Riga_IP& ingressi : atteso.IP_I) ingressi.Txt_B = "00000000";
-  Attendi(atteso);
+  Ingressi_Letti(atteso);
+  Attendi(atteso, 1);
 }
 
 TEST_F(ProgramFlow, ProgramWithoutAnEndFailsBehindItsLastLine) {
@@ -336,14 +317,13 @@ TEST_F(ProgramFlow, ProgramWithoutAnEndFailsBehindItsLastLine) {
 TEST_F(ProgramFlow, LscrCopiesItsBitToTheLinesOfItsSectionOnly) {
   for (const std::int16_t bit : {std::int16_t{0}, std::int16_t{1}}) {
     for (const int cima : {0, 1}) {
-      for (const bool abilitata : {false, true}) {
-        Prepara({"NOP", "LSCR S1.3", "= Q0.0", "NOP", "SCRE", "LSCR S0.0", "NOP", "SCRE"}, 1, cima,
-                abilitata);
+      for (const int abilitata : {0, 1}) {
+        Prepara({"NOP", "LSCR S1.3", "= Q0.0", "NOP", "SCRE", "LSCR S0.0", "NOP", "SCRE"}, 1,
+                {cima, abilitata});
         for (const int riga : {0, 2, 3, 4, 6}) plc.Prog[riga].Abil_SCR = bit == 0 ? 1 : 0;
         plc.Mem_S[1].Bit[3] = bit;
         Memoria atteso = plc;
         atteso.Prog[2].Abil_SCR = atteso.Prog[3].Abil_SCR = bit;
-        atteso.PC = 2;
         Attendi(atteso);
       }
     }
@@ -351,10 +331,8 @@ TEST_F(ProgramFlow, LscrCopiesItsBitToTheLinesOfItsSectionOnly) {
 }
 
 TEST_F(ProgramFlow, EmptySectionEnablesNothing) {
-  Prepara({"NOP", "LSCR S1.3", "SCRE", "NOP"}, 1, 1);
-  Memoria atteso = plc;
-  atteso.PC = 2;
-  Attendi(atteso);
+  Prepara({"NOP", "LSCR S1.3", "SCRE", "NOP"}, 1);
+  Attendi(plc);
 }
 
 TEST_F(ProgramFlow, DisabledSectionWorksOnTheStackAndWritesZero) {
