@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The logic stack, contacts and outputs.
+#include "plc/byte_text.h"
 #include "plc/checked.h"
 #include "plc/plc.h"
 
@@ -141,14 +142,18 @@ Esito Plc::Istr_LPP(Riga_PLC& /*riga*/) {
 
 // ---- outputs ------------------------------------------------------------------------------------
 
-namespace {
-/// Writes a cell; true when that changed it.
-bool Cambia(std::uint8_t& cella, std::uint8_t valore) {
-  const bool diversa = cella != valore;
+void Plc::Scrivi_Marker(int riga, int bit, std::uint8_t valore) {
+  Riga_M& marker = Mem_M[riga];
+  std::uint8_t& cella = marker.Bit[bit];
+  if (cella == valore) return;
   cella = valore;
-  return diversa;
+  if (bit > 7) return;
+  const unsigned peso = 1U << bit;
+  const unsigned altri = static_cast<unsigned>(marker.Val_B) & ~peso;
+  const auto byte = static_cast<std::uint8_t>(valore != 0 ? altri | peso : altri);
+  marker.Val_B = byte;
+  Scrivi_Lettura(marker.Txt_B, byte);
 }
-}  // namespace
 
 Esito Plc::Istr_Assegna(Riga_PLC& riga) {
   const auto valore = static_cast<std::int16_t>(Stak[0] & riga.Abil_SCR);
@@ -158,8 +163,8 @@ Esito Plc::Istr_Assegna(Riga_PLC& riga) {
       Aggiorna_IPQ(riga.Num1);
       return Esito::Avanti;
     case Area::M:
-      Marker_Scritto(riga.Num1,
-                     Cambia(Mem_M[riga.Num1].Bit[riga.Bit1], static_cast<std::uint8_t>(valore)));
+      Inizia_Marker();
+      Scrivi_Marker(riga.Num1, riga.Bit1, static_cast<std::uint8_t>(valore));
       return Esito::Avanti;
     case Area::S:
       Mem_S[riga.Num1].Bit[riga.Bit1] = valore;
@@ -186,13 +191,10 @@ Esito Plc::Istr_S(Riga_PLC& riga) {
       for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit) IP_Q[riga.Num1].Bit_Img[bit] = 1;
       Aggiorna_IPQ(riga.Num1);
       return Esito::Avanti;
-    case Area::M: {
-      bool cambiato = false;
-      for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit)
-        cambiato |= Cambia(Mem_M[riga.Num1].Bit[bit], 1);
-      Marker_Scritto(riga.Num1, cambiato);
+    case Area::M:
+      Inizia_Marker();
+      for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit) Scrivi_Marker(riga.Num1, bit, 1);
       return Esito::Avanti;
-    }
     case Area::S:
       for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit) Mem_S[riga.Num1].Bit[bit] = 1;
       return Esito::Avanti;
@@ -215,23 +217,18 @@ Esito Plc::Istr_R(Riga_PLC& riga) {
     case Area::S:
       for (int bit = primo; flusso && bit <= ultimo; ++bit) Mem_S[riga.Num1].Bit[bit] = 0;
       return Esito::Avanti;
-    case Area::M: {
-      Esito esito = Esito::Avanti;
-      bool cambiato = false;
+    case Area::M:
+      Inizia_Marker();
       // Only here a reset runs over into the next byte, and there up to its cell 8.
       for (int bit = primo; flusso && bit <= ultimo && bit <= 16; ++bit) {
-        if (bit <= 7) {
-          cambiato |= Cambia(Mem_M[riga.Num1].Bit[bit], 0);
-        } else if (riga.Num1 + 1 > Mem_M.ultimo) {
-          esito = Esito::Errore;
-          break;
-        } else {
-          cambiato |= Cambia(Mem_M[riga.Num1 + 1].Bit[bit - 8], 0);
-        }
+        if (bit <= 7)
+          Scrivi_Marker(riga.Num1, bit, 0);
+        else if (riga.Num1 < Mem_M.ultimo)
+          Scrivi_Marker(riga.Num1 + 1, bit - 8, 0);
+        else
+          return Esito::Errore;
       }
-      if (cambiato || Mem_M[0].Txt_B.empty()) Setta_Marker();  // of two bytes
-      return esito;
-    }
+      return Esito::Avanti;
     case Area::T:
       if (flusso && primo <= ultimo) {
         Riga_Timer& timer = Mem_T[riga.Num1];

@@ -26,15 +26,15 @@ struct Ganci {
 };
 
 /// What changed since a window last looked. The CPU sets marks line by line, and a window takes
-/// them when it next refreshes its picture.
+/// them when it next refreshes its picture. The logic stack has no mark, since nearly every line
+/// changes it: a window that shows it reads it at each refresh.
 enum Segno : unsigned {
-  Segno_Pila = 1U << 0,       ///< `Stak`, while `chkVs` is ticked
-  Segno_Immagini = 1U << 1,   ///< `etIPI`, `etIPQ`
-  Segno_PC = 1U << 2,         ///< `etPc`
-  Segno_Tempo = 1U << 3,      ///< `etTime`
-  Segno_Lista = 1U << 4,      ///< `Lista_Scelta`
-  Segno_Comandi = 1U << 5,    ///< `Attivi`, `PLC_Acceso`, `Modo_Run`
-  Segno_Analogici = 1U << 6,  ///< analog words and voltages
+  Segno_Immagini = 1U << 0,   ///< `etIPI`, `etIPQ`
+  Segno_PC = 1U << 1,         ///< `etPc`
+  Segno_Tempo = 1U << 2,      ///< `etTime`
+  Segno_Lista = 1U << 3,      ///< `Lista_Scelta`
+  Segno_Comandi = 1U << 4,    ///< `Attivi`, `PLC_Acceso`, `Modo_Run`
+  Segno_Analogici = 1U << 5,  ///< analog words and voltages
 };
 
 }  // namespace tavorno

@@ -23,7 +23,6 @@ enum class Scala : std::uint8_t { Volt_10, mA_20, Nessuna };
 struct Opzioni {
   bool chkList = true;   ///< show the scan time at every line
   bool chkIP = false;    ///< show the input and output images
-  bool chkVs = false;    ///< show the logic stack
   bool chkStop = false;  ///< Ciclo: stop when the next line is `txtStop`
   bool chkSol = false;   ///< Ciclo: stop after `txtNC` scans
   int txtStop = 0;
@@ -224,16 +223,13 @@ struct Plc : Memoria {
   template <class Unisci>
   Esito Contatto_Immediato(const Riga_PLC& riga, Unisci unisci);
 
-  /// After a write to one row of M by an instruction. Most writes leave the cell as it was, and
-  /// then value and text are up to date already, but for the first one, which finds no text in any
-  /// row.
-  void Marker_Scritto(int riga, bool cambiato) {
-    if (Mem_M[0].Txt_B.empty())
-      Setta_Marker();
-    else if (cambiato)
-      Aggiorna_Marker(Mem_M[riga]);
+  /// Every instruction that writes M begins with this: its first one finds no text in any row.
+  void Inizia_Marker() {
+    if (Mem_M[0].Txt_B.empty()) Setta_Marker();
   }
-  static void Aggiorna_Marker(Riga_M& marker);
+  /// One cell of M and, when it changed, the value and the text of its byte. They follow from the
+  /// bit: gathering the eight cells again would wait for the one that was just written.
+  void Scrivi_Marker(int riga, int bit, std::uint8_t valore);
 
   // operands.cpp: raw values before any limit; false for an area that the width cannot read
   bool Sorgente_B(Area area, int num, std::int32_t& valore) const;
@@ -316,7 +312,6 @@ struct Plc : Memoria {
     default:
       break;
   }
-  if (Scelte.chkVs) Segna(Segno_Pila);
 }
 
 /// The report of a fatal end, in Italian (UTF-8): what, table or operation with index or value, the

@@ -141,14 +141,12 @@ void Plc::Aggiorna_IPQ(int riga) {
   Segna(Segno_Immagini);
 }
 
-void Plc::Aggiorna_Marker(Riga_M& marker) {
-  const std::uint8_t byte = Byte_Di_Celle(marker.Bit.Dati());
-  marker.Val_B = byte;
-  Scrivi_Lettura(marker.Txt_B, byte);
-}
-
 void Plc::Setta_Marker() {
-  for (Riga_M& marker : Mem_M) Aggiorna_Marker(marker);
+  for (Riga_M& marker : Mem_M) {
+    const std::uint8_t byte = Byte_Di_Celle(marker.Bit.Dati());
+    marker.Val_B = byte;
+    Scrivi_Lettura(marker.Txt_B, byte);
+  }
 }
 
 void Plc::Byte_Bit(int valore, int riga) {

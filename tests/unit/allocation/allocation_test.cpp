@@ -32,7 +32,7 @@ TEST_P(Allocation, DoesNotHappenPerLineNorPerScan) {
   Orologio orologio;
   Plc plc(orologio);
   Carica(plc, GetParam()(299));
-  plc.Scelte.chkIP = plc.Scelte.chkVs = plc.Scelte.chkList = true;
+  plc.Scelte.chkIP = plc.Scelte.chkList = true;
   const auto scansioni = [&](int quante) {
     for (const int fino_a = plc.N_Cicli + quante; plc.N_Cicli < fino_a;) plc.Esegui_Riga();
   };

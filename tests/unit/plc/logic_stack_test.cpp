@@ -195,15 +195,4 @@ TEST_F(LogicStack, AnyIndexOutsideTheEightCellsIsFatal) {
   }
 }
 
-TEST_F(LogicStack, IsMarkedForShowingOnlyWhileTheStackIsWatched) {
-  for (const bool chkVs : {false, true}) {
-    plc.Scelte.chkVs = chkVs;
-    for (int codice = 0; codice <= 8; ++codice) {
-      plc.Prendi_Segni();
-      plc.GestStak(static_cast<std::uint8_t>(codice), 1);
-      EXPECT_EQ((plc.Prendi_Segni() & Segno_Pila) != 0, chkVs) << "code " << codice;
-    }
-  }
-}
-
 }  // namespace tavorno::prova
