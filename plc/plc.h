@@ -262,7 +262,8 @@ struct Plc : Memoria {
 
   void Ferma_Timer(const Riga_PLC& riga);
   Esito Esegui_Ramo();
-  bool Fine_Riga(Esito esito);
+  void Fine_Diversa(Esito esito);
+  void Mostra_Riga();
   void Mostra_Tempo();
   void Avvisa(const Avviso& avviso) const;
   void Scegli_Modo(Modo modo);

@@ -20,28 +20,30 @@ namespace tavorno {
   return riga.Esegui(*this, riga);
 }
 
-void Plc::Esegui_Riga() {
-  Esito esito = Esegui_Ramo();
-  for (int salti = 1; esito == Esito::Salto && salti < Salti_Di_Seguito; ++salti)
-    esito = Esegui_Ramo();
-  if (esito == Esito::Avanti) [[likely]]
-    PC = A_16(PC + 1, "PC");
-  else if (!Fine_Riga(esito))
-    return;
+/// What every line that ends well shows.
+[[gnu::always_inline]] inline void Plc::Mostra_Riga() {
   if (Modo_Run == Modo::Step) {
     etPc = PC;
     Segna(Segno_PC);
   }
   if (tempo_mostrato_ != Tempo_Ciclo && Scelte.chkList) Mostra_Tempo();
-  if (esito == Esito::Fine) Mem_SM[0].Bit[1] = 0;
 }
 
-/// The ends of a line that are not just "on to the next one". False when nothing is to follow.
-bool Plc::Fine_Riga(Esito esito) {
+void Plc::Esegui_Riga() {
+  const Esito esito = Esegui_Ramo();
+  if (esito != Esito::Avanti) [[unlikely]]
+    return Fine_Diversa(esito);
+  PC = A_16(PC + 1, "PC");
+  Mostra_Riga();
+}
+
+/// A line that does not just end: a jump goes on at once, up to a line that is none.
+void Plc::Fine_Diversa(Esito esito) {
+  for (int salti = 1; esito == Esito::Salto; ++salti) {
+    if (salti == Salti_Di_Seguito) return;
+    esito = Esegui_Ramo();
+  }
   switch (esito) {
-    case Esito::Fine:
-      PC = 0;
-      return true;
     case Esito::Errore:
       Avvisa({"Run Time Error",
               "Run Time Error! Il programma sarà terminato!",
@@ -49,7 +51,7 @@ bool Plc::Fine_Riga(Esito esito) {
               Tasti::Ok,
               {}});
       mnuPlcStop();
-      return false;
+      return;
     case Esito::Ignota:
       Avvisa({"Errore in Esecuzione!",
               "Riga " + std::to_string(PC) + " : <" + A_Utf8(Prog[PC].Istr) +
@@ -60,9 +62,17 @@ bool Plc::Fine_Riga(Esito esito) {
       mnuPlcStop();
       Ferma = -1;
       PC = A_16(PC + 1, "PC");
-      return true;
-    default:  // a chain of jumps that is not followed further
-      return false;
+      Mostra_Riga();
+      return;
+    case Esito::Fine:
+      PC = 0;
+      Mostra_Riga();
+      Mem_SM[0].Bit[1] = 0;
+      return;
+    default:
+      PC = A_16(PC + 1, "PC");
+      Mostra_Riga();
+      return;
   }
 }
 
