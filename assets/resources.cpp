@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "assets/resources.h"
+
+#include <QDir>
+
+// Outside any namespace: the call refers to a function of the generated code.
+static void Iscrivi_Risorse() {
+  Q_INIT_RESOURCE(assets);
+}
+
+void tavorno::Apri_Risorse() {
+  Iscrivi_Risorse();
+}

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/controls/switch_row.h"
+
+#include <QLabel>
+#include <QPainter>
+
+#include "panel/controls/element.h"
+#include "panel/controls/toggle_switch.h"
+
+namespace tavorno {
+
+namespace {
+
+using Immagine = Interruttore::Immagine;
+
+constexpr double inizio = 52, passo = 26;
+
+}  // namespace
+
+SimI::SimI(QWidget* sopra) : QWidget(sopra), disegni_(QStringLiteral(":/panel/switch.svg")) {
+  picS0_ = new Parte(this, QStringLiteral("picS0"), QRectF(QPointF(0, 0), Misura),
+                     [this](QPainter& pennello) {
+                       pennello.setPen(QPen(sfondo_.darker(170), 1));
+                       pennello.setBrush(sfondo_);
+                       const QRectF piastra(0.5, 0.5, Misura.width() - 1, Misura.height() - 1);
+                       pennello.drawRoundedRect(piastra, 3, 3);
+                     });
+  etC_ = Crea_Etichetta(this, QStringLiteral("etC"));
+  QFont grassetto = etC_->font();
+  grassetto.setBold(true);
+  etC_->setFont(grassetto);
+  for (std::size_t i = 0; i < 8; ++i) {
+    const int bit = static_cast<int>(i);
+    etI_[i] = Crea_Etichetta(this, Con_Indice("etI", bit), QString::number(bit));
+    imgI0_[i] = new Interruttore(disegni_, this);
+    imgI0_[i]->setObjectName(Con_Indice("imgI0", bit));
+    imgI0_[i]->Rilasciato = [this, i] { Rilascia(i); };
+  }
+  Caption(QStringLiteral("I0"));
+  BackColor(palette().color(QPalette::Button));
+  Colora(*etC_, palette().color(QPalette::ButtonText));
+  ForeColor(palette().color(QPalette::ButtonText));
+}
+
+QString SimI::Caption() const {
+  return etC_->text();
+}
+
+void SimI::Caption(const QString& testo) {
+  etC_->setText(testo);
+  for (int i = 0; i < 8; ++i) {
+    const QString bit = QStringLiteral("%1.%2").arg(testo).arg(i);
+    QWidget& interruttore = *imgI0_[static_cast<std::size_t>(i)];
+    interruttore.setToolTip(QStringLiteral("Ingresso %1").arg(bit));
+    interruttore.setAccessibleName(QStringLiteral("Interruttore %1").arg(bit));
+  }
+}
+
+void SimI::BackColor(const QColor& colore) {
+  sfondo_ = colore;
+  picS0_->update();
+}
+
+void SimI::ForeColor(const QColor& colore) {
+  colore_ = colore;
+  for (QLabel* etichetta : etI_) Colora(*etichetta, colore);
+}
+
+void SimI::SIMI_Reset() {
+  accesi_.fill(false);
+  for (Interruttore* interruttore : imgI0_) interruttore->Mostra(Immagine::imgPOFF);
+}
+
+void SimI::Rilascia(std::size_t n) {
+  accesi_[n] = !accesi_[n];
+  imgI0_[n]->Mostra(accesi_[n] ? Immagine::imgPON : Immagine::imgPOFF);
+  std::string testo;
+  for (const bool acceso : accesi_) testo += acceso ? '1' : '0';
+  stato_ = testo;
+  if (SIMI_Int != 0) txtI_.Scrivi(testo, Change);
+}
+
+void SimI::resizeEvent(QResizeEvent*) {
+  const double scala = width() / static_cast<double>(Misura.width());
+  Disponi(*picS0_, QRectF(QPointF(0, 0), Misura), scala);
+  Disponi(*etC_, QRectF(4, 13, 44, 24), scala, 14);
+  for (std::size_t i = 0; i < 8; ++i) {
+    const double x = inizio + passo * static_cast<double>(i);
+    Disponi(*etI_[i], QRectF(x, 2, passo, 11), scala, 9);
+    Disponi(*imgI0_[i], QRectF(x, 13, passo, 36), scala);
+  }
+}
+
+}  // namespace tavorno

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/command_tables.h"
+
+#include <QAction>
+#include <QIcon>
+#include <QKeySequence>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <array>
+
+namespace tavorno {
+
+namespace {
+
+void Prepara(QAction& azione, const Voce_Menu& voce) {
+  azione.setObjectName(QString::fromUtf8(voce.Nome));
+  if (voce.Segno != Spunta::Senza) {
+    azione.setCheckable(true);
+    azione.setChecked(voce.Segno == Spunta::Messa);
+  }
+  if (*voce.Tasti != '\0') azione.setShortcut(QKeySequence(QString::fromUtf8(voce.Tasti)));
+}
+
+}  // namespace
+
+void Crea_Menu(QMainWindow& finestra, std::span<const Voce_Menu> voci) {
+  std::array<QMenu*, 3> aperto{};  // by level: the menu that takes entries of the next level
+  for (std::size_t i = 0; i < voci.size(); ++i) {
+    const Voce_Menu& voce = voci[i];
+    const auto livello = static_cast<std::size_t>(voce.Livello);
+    QMenu* sopra = livello > 0 ? aperto[livello - 1] : nullptr;
+    const QString testo = QString::fromUtf8(voce.Testo);
+    if (*voce.Nome == '\0') {
+      sopra->addSeparator();
+    } else if (livello == 0 || (i + 1 < voci.size() && voci[i + 1].Livello > voce.Livello)) {
+      QMenu* menu = sopra == nullptr ? finestra.menuBar()->addMenu(testo) : sopra->addMenu(testo);
+      Prepara(*menu->menuAction(), voce);
+      aperto[livello] = menu;
+    } else {
+      Prepara(*sopra->addAction(testo), voce);
+    }
+  }
+}
+
+QToolBar* Crea_Barra(QMainWindow& finestra, const char* nome, std::span<const Tasto_Barra> tasti) {
+  auto* barra = new QToolBar(&finestra);
+  barra->setObjectName(QString::fromUtf8(nome));
+  barra->setMovable(false);
+  barra->setContextMenuPolicy(Qt::PreventContextMenu);
+  barra->setIconSize(QSize(22, 22));
+  for (const Tasto_Barra& tasto : tasti) {
+    if (tasto.Stacco) barra->addSeparator();
+    const QIcon icona(QStringLiteral(":/icons/%1.svg").arg(QString::fromUtf8(tasto.Icona)));
+    const QString suggerimento = QString::fromUtf8(tasto.Suggerimento);
+    QAction* azione = barra->addAction(icona, suggerimento);
+    azione->setObjectName(QStringLiteral("%1(%2)").arg(nome, tasto.Chiave));
+    azione->setToolTip(suggerimento);
+    azione->setCheckable(tasto.Spunta);
+    barra->widgetForAction(azione)->setObjectName(azione->objectName());
+  }
+  finestra.addToolBar(Qt::TopToolBarArea, barra);
+  return barra;
+}
+
+QAction& Azione(const QObject& finestra, const QString& nome) {
+  auto* azione = finestra.findChild<QAction*>(nome);
+  if (azione == nullptr) qFatal("No command named %s", qPrintable(nome));
+  return *azione;
+}
+
+void Collega(const QObject& finestra, const QString& nome, std::function<void()> comando) {
+  QObject::connect(&Azione(finestra, nome), &QAction::triggered, &finestra, std::move(comando));
+}
+
+}  // namespace tavorno

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <span>
+
+class QAction;
+class QMainWindow;
+class QObject;
+class QToolBar;
+
+// Menus and tool bars are tables in their windows; these functions make them.
+namespace tavorno {
+
+enum class Spunta : unsigned char { Senza, Vuota, Messa };
+
+/// One row of a window's menus, in the order of the screen. `Livello` 0 is a title of the menu bar,
+/// 1 an entry of the title above, 2 an entry of the submenu above. An empty name is a separator.
+struct Voce_Menu {
+  int Livello;
+  const char* Nome;   ///< objectName of the action
+  const char* Testo;  ///< caption, "&" before the access key
+  Spunta Segno = Spunta::Senza;
+  const char* Tasti = "";  ///< short cut as QKeySequence reads it, may be empty
+};
+
+/// One button of a tool bar.
+struct Tasto_Barra {
+  const char* Chiave;        ///< objectName is the bar's name with the key in brackets: "tB1(New)"
+  const char* Suggerimento;  ///< tool tip
+  const char* Icona;         ///< file in :/icons/ without its extension
+  bool Spunta = false;       ///< the button can stand pressed
+  bool Stacco = false;       ///< a gap before it
+};
+
+void Crea_Menu(QMainWindow& finestra, std::span<const Voce_Menu> voci);
+
+/// A fixed bar at the top, with icons of one size.
+QToolBar* Crea_Barra(QMainWindow& finestra, const char* nome, std::span<const Tasto_Barra> tasti);
+
+/// The action of an entry, menu or button by its objectName. It must exist.
+QAction& Azione(const QObject& finestra, const QString& nome);
+
+/// Runs `comando` when the entry or button of that name is chosen.
+void Collega(const QObject& finestra, const QString& nome, std::function<void()> comando);
+
+}  // namespace tavorno

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/qt_dialogs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "widgets/text.h"
+
+namespace tavorno {
+
+namespace {
+
+QMessageBox::Icon Icona_Qt(Icona simbolo) {
+  switch (simbolo) {
+    case Icona::Critica:
+      return QMessageBox::Critical;
+    case Icona::Domanda:
+      return QMessageBox::Question;
+    case Icona::Nessuna:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+// "File AWL (*.AWL)|*.AWL" as the window library writes it; small letters count as well.
+QString Filtro_Qt(const std::string& filtro) {
+  const QStringList parti = Q(filtro).split('|');
+  if (parti.size() < 2) return Q(filtro);
+  QString nome = parti[0];
+  const QString maschera = parti[1];
+  nome.remove(QStringLiteral(" (%1)").arg(maschera));
+  return QStringLiteral("%1 (%2 %3)").arg(nome, maschera, maschera.toLower());
+}
+
+QWidget* O_Attiva(QWidget* sopra) {
+  return sopra != nullptr ? sopra : QApplication::activeWindow();
+}
+
+std::optional<File_Scelto> Scegli_File(QWidget* sopra, const Richiesta_File& richiesta) {
+  QFileDialog dialogo(O_Attiva(sopra));
+  dialogo.setObjectName(QStringLiteral("Scelta_File"));
+  dialogo.setOption(QFileDialog::DontUseNativeDialog);
+  dialogo.setNameFilter(Filtro_Qt(richiesta.Filtro));
+  if (richiesta.Salva) {
+    dialogo.setWindowTitle(QStringLiteral("Salva con nome"));
+    dialogo.setAcceptMode(QFileDialog::AcceptSave);
+    dialogo.setFileMode(QFileDialog::AnyFile);
+    dialogo.setDefaultSuffix(QFileInfo(Q(richiesta.Filtro).section('|', 1)).suffix());
+  } else {
+    dialogo.setWindowTitle(QStringLiteral("Apri"));
+    dialogo.setAcceptMode(QFileDialog::AcceptOpen);
+    dialogo.setFileMode(QFileDialog::ExistingFile);
+  }
+  // The folder of the last choice of the session is offered again.
+  static QString cartella = QDir::homePath();
+  dialogo.setDirectory(cartella);
+  if (!richiesta.Proposta.empty()) dialogo.selectFile(Q(richiesta.Proposta));
+  if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return std::nullopt;
+  const QFileInfo scelto(dialogo.selectedFiles().constFirst());
+  cartella = scelto.absolutePath();
+  return File_Scelto{Utf8(scelto.absoluteFilePath()), Utf8(scelto.fileName())};
+}
+
+}  // namespace
+
+Risposta Mostra_Avviso(QWidget* sopra, const Avviso& avviso) {
+  QMessageBox box(O_Attiva(sopra));
+  box.setObjectName(QStringLiteral("Avviso"));
+  box.setWindowTitle(Q(avviso.Titolo));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(Q(avviso.Testo));
+  box.setIcon(Icona_Qt(avviso.Simbolo));
+  if (!avviso.Dettagli.empty()) box.setDetailedText(Q(avviso.Dettagli));
+  switch (avviso.Scelte) {
+    case Tasti::Ok:
+      box.setStandardButtons(QMessageBox::Ok);
+      break;
+    case Tasti::Ok_Annulla:
+      box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+      break;
+    case Tasti::Si_No:
+      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+      box.setEscapeButton(QMessageBox::No);
+      break;
+  }
+  switch (box.exec()) {
+    case QMessageBox::Yes:
+      return Risposta::Si;
+    case QMessageBox::No:
+      return Risposta::No;
+    case QMessageBox::Cancel:
+      return Risposta::Annulla;
+    default:
+      return Risposta::Ok;
+  }
+}
+
+Dialoghi Dialoghi_Qt(QWidget* sopra) {
+  return {[sopra](const Avviso& avviso) { return Mostra_Avviso(sopra, avviso); },
+          [sopra](const Richiesta_File& richiesta) { return Scegli_File(sopra, richiesta); }};
+}
+
+}  // namespace tavorno

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "awl/dialogs.h"
+
+class QWidget;
+
+namespace tavorno {
+
+/// Message and file dialogs over the window `sopra`, which must outlive the result; over the active
+/// window if it is null.
+Dialoghi Dialoghi_Qt(QWidget* sopra = nullptr);
+
+/// One message box; returns when the user has answered. Closing it counts as the answer that
+/// changes nothing: Annulla, No, or Ok where there is no other.
+Risposta Mostra_Avviso(QWidget* sopra, const Avviso& avviso);
+
+}  // namespace tavorno
