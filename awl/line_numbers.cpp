@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "awl/line_numbers.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tavorno {
+
+namespace {
+
+// What the reader of a project takes for itself at the start of a line.
+constexpr std::array<std::string_view, 8> parole_del_file = {
+    "TITLE=",
+    "BEGIN",
+    "SUBROUTINE_BLOCK",
+    "END_SUBROUTINE_BLOCK",
+    "INTERRUPT_BLOCK",
+    "END_INTERRUPT_BLOCK",
+    "END_ORGANIZATION_BLOCK",
+    "ORGANIZATION_BLOCK",
+};
+
+/// The lines of a text; what stands behind the last line end is a line too, even when empty, as it
+/// is in an editor.
+std::vector<std::string_view> Linee(std::string_view testo) {
+  std::vector<std::string_view> linee;
+  std::size_t inizio = 0;
+  while (true) {
+    const std::size_t fine = testo.find_first_of("\r\n", inizio);
+    linee.push_back(testo.substr(inizio, fine - inizio));
+    if (fine == std::string_view::npos) return linee;
+    inizio = fine + (testo.substr(fine, 2) == "\r\n" ? 2 : 1);
+  }
+}
+
+}  // namespace
+
+bool Diventa_Riga(std::string_view linea, bool nome_vecchio) {
+  if (linea.starts_with("NETWORK")) return true;
+  if (std::ranges::any_of(parole_del_file, [&](auto parola) { return linea.starts_with(parola); }))
+    return false;
+  const std::size_t primo = linea.find_first_not_of(" \t");
+  if (primo == std::string_view::npos || linea.substr(primo, 2) == "//") return false;
+  const bool blocco = linea.starts_with("SBR") || linea.starts_with("INT");
+  if (blocco && linea.find_first_of(" \t") == std::string_view::npos) return nome_vecchio;
+  return true;
+}
+
+Numerazione::Numerazione(const Progetto& progetto) {
+  const auto vecchia = [&](std::size_t riga) {
+    return riga <= static_cast<std::size_t>(progetto.Righe_Src.ultimo) &&
+           !progetto.Righe_Src[static_cast<int>(riga)].Istr.empty();
+  };
+  const auto aggiungi = [&](const std::string& testo) {
+    const int numero_testo = static_cast<int>(testi_.size());
+    std::vector<std::string_view> linee = Linee(testo);
+    // The blanks in front of the whole text are not saved.
+    linee[0].remove_prefix(std::min(linee[0].find_first_not_of(' '), linee[0].size()));
+    std::vector<int> numeri;
+    numeri.reserve(linee.size());
+    for (const std::string_view linea : linee) {
+      const int posto = static_cast<int>(numeri.size());
+      const bool riga = Diventa_Riga(linea, vecchia(righe_.size()));
+      numeri.push_back(riga ? static_cast<int>(righe_.size()) : Nessuno);
+      if (riga) righe_.push_back({numero_testo, posto});
+    }
+    righe_.push_back({numero_testo, static_cast<int>(linee.size()) - 1});  // MEND or RET
+    testi_.push_back(std::move(numeri));
+  };
+
+  aggiungi(progetto.txtList);
+  for (int i = 1; i <= progetto.Num_SBR; ++i) {
+    righe_.push_back({i, 0});  // SBR
+    aggiungi(progetto.Tab_SBR[i].Testo);
+  }
+}
+
+const std::vector<int>& Numerazione::Numeri(int testo) const {
+  static const std::vector<int> nessuno;
+  if (testo < 0 || static_cast<std::size_t>(testo) >= testi_.size()) return nessuno;
+  return testi_[static_cast<std::size_t>(testo)];
+}
+
+std::optional<Posto_Riga> Numerazione::Posto(int numero) const {
+  if (numero < 0 || static_cast<std::size_t>(numero) >= righe_.size()) return std::nullopt;
+  return righe_[static_cast<std::size_t>(numero)];
+}
+
+}  // namespace tavorno

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "awl/ui/awl_lexer.h"
+#include "awl/ui/scintilla.h"
+
+class QMenu;
+
+namespace tavorno {
+
+/// A text of statement list: coloured, with the numbers of its rows in the margin, help while
+/// typing and marks of errors. It shows and edits; what the text means is others' business.
+class AwlEditor : public QsciScintilla {
+ public:
+  /// A listing is for reading only.
+  AwlEditor(Genere_Testo genere, const char* nome, QWidget* sopra);
+
+  std::function<void()> Cambiato;         ///< the user changed the text, undo included
+  std::function<void(int)> Linea_Scelta;  ///< a line (from 0) was double clicked or got Enter
+
+  /// The text in the code page of the files, lines joined by CR LF.
+  std::string Byte() const;
+  /// Makes the text this one, in one step that can be undone. Only what differs is replaced, so
+  /// that the caret keeps its place. Does not call `Cambiato`.
+  void Scrivi(const std::string& byte);
+  void Dimentica_Annulla() { SendScintilla(SCI_EMPTYUNDOBUFFER); }
+
+  /// Shows another text. Its undo history and its marks are its own.
+  void Mostra_Documento(const QsciDocument& documento);
+
+  /// Numbers in the margin by line, `Numerazione::Nessuno` for none; lines beyond have none.
+  void Numera(const std::vector<int>& numeri);
+  QString Numero_Mostrato(int linea) const;
+
+  /// Marks: where a row is now, though lines have come and gone above it.
+  int Segui(int linea);                ///< returns the handle of a mark that nobody sees
+  int Linea_Seguita(int segno) const;  ///< -1 when the line is gone
+  void Segna_Errore(int linea, const QString& messaggio);
+  void Togli_Segni();
+  bool Ha_Errore(int linea) const;
+
+  /// The caret at the beginning of a line, in sight, and the keyboard to this text.
+  void Vai_A(int linea);
+  void Vai_In_Fondo();
+
+  void Offri_Completamenti();  ///< a list, when the caret stands at the end of the first word
+  void Mostra_Suggerimento();  ///< a tip, when the caret's line begins with an instruction
+
+  /// What the right button offers.
+  std::unique_ptr<QMenu> Menu_Modifica();
+
+ protected:
+  void contextMenuEvent(QContextMenuEvent* evento) override;
+  void keyPressEvent(QKeyEvent* evento) override;
+
+ private:
+  void Prepara_Documento();
+  void Prepara_Vista();
+  void Prepara_Aiuti();
+  std::string Linea_Byte(int linea) const;  // UTF-8, without its end
+  void Dopo_Carattere(int carattere);
+  void Mostra_Suggerimento_A(int posizione, int x, int y);
+
+  Genere_Testo genere_;
+  bool scrive_ = false;  // a command, not the user, is changing the text
+};
+
+}  // namespace tavorno

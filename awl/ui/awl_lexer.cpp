@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "awl/ui/awl_lexer.h"
+
+#include <QFontDatabase>
+#include <algorithm>
+#include <array>
+
+#include "awl/ui/completion.h"
+#include "awl/ui/listing_line.h"
+#include "widgets/text.h"
+
+namespace tavorno {
+
+namespace {
+
+struct Aspetto {
+  int Stile;
+  const char* Nome;
+  QRgb Colore;
+  QRgb Fondo = 0xffffff;
+  bool Grassetto = false;
+  bool Corsivo = false;
+};
+
+// What is wrong differs from what is right by more than its colour: ground, weight or slant.
+constexpr std::array<Aspetto, 25> aspetti = {{
+    {stile::Normale, "Testo", 0x202428},
+    {stile::Commento, "Commento", 0x4f7a4f, 0xffffff, false, true},
+    {stile::Rete, "Segmento", 0x1d3557, 0xe9eff6, true},
+    {stile::Titolo_Rete, "Titolo del segmento", 0x1d3557, 0xe9eff6, false, true},
+    {stile::Operando, "Operando", 0x202428},
+    {stile::Costante, "Costante", 0x8a1c7c},
+    {stile::Non_Supportata, "Istruzione non supportata", 0x7a5b00, 0xfff3c9, false, true},
+    {stile::Sconosciuta, "Istruzione sconosciuta", 0xb00020, 0xffe1e1, true},
+    {stile::Numero_Listato, "Numero di riga", 0x6b7280},
+    {stile::Esito_Buono, "Riga corretta", 0x2b6e3f},
+    {stile::Esito_Errato, "Riga errata", 0xb00020, 0xffe1e1, true},
+    {stile::Messaggio, "Messaggio di errore", 0x8c0019, 0xfdecec},
+    {stile::Di(Famiglia::Contatti), "Contatti", 0x1a4fa0, 0xffffff, true},
+    {stile::Di(Famiglia::Uscite), "Uscite", 0xa63a12, 0xffffff, true},
+    {stile::Di(Famiglia::Pila), "Pila logica", 0x58448c, 0xffffff, true},
+    {stile::Di(Famiglia::Temporizzatori), "Temporizzatori", 0x7d5700, 0xffffff, true},
+    {stile::Di(Famiglia::Contatori), "Contatori", 0x6f4518, 0xffffff, true},
+    {stile::Di(Famiglia::Trasferimenti), "Trasferimenti", 0x00665a, 0xffffff, true},
+    {stile::Di(Famiglia::Conversioni), "Conversioni", 0x2d6a2d, 0xffffff, true},
+    {stile::Di(Famiglia::Confronti), "Confronti", 0x0b6487, 0xffffff, true},
+    {stile::Di(Famiglia::Aritmetica), "Aritmetica", 0x6a1b9a, 0xffffff, true},
+    {stile::Di(Famiglia::Logica), "Logica e scorrimento", 0x3c4a55, 0xffffff, true},
+    {stile::Di(Famiglia::Programma), "Controllo del programma", 0x8a1550, 0xffffff, true},
+    {stile::Di(Famiglia::Sequenze), "Controllo di sequenza", 0x35536e, 0xffffff, true},
+    {stile::Di(Famiglia::Interruzioni), "Interruzioni", 0x5d4037, 0xffffff, true},
+}};
+
+const Aspetto* Cerca_Aspetto(int numero) {
+  const auto* trovato = std::ranges::find(aspetti, numero, &Aspetto::Stile);
+  return trovato == aspetti.end() ? nullptr : trovato;
+}
+
+class Penna {
+ public:
+  Penna(std::string_view linea, const std::function<void(int, int)>& pezzo)
+      : linea_(linea), pezzo_(pezzo) {}
+
+  /// Everything up to a column gets this look.
+  void Fino_A(std::size_t colonna, int numero) {
+    colonna = std::min(colonna, linea_.size());
+    if (colonna <= posto_) return;
+    pezzo_(static_cast<int>(colonna - posto_), numero);
+    posto_ = colonna;
+  }
+  std::size_t Posto() const { return posto_; }
+  std::string_view Linea() const { return linea_; }
+
+ private:
+  std::string_view linea_;
+  const std::function<void(int, int)>& pezzo_;
+  std::size_t posto_ = 0;
+};
+
+int Stile_Istruzione(const Istruzione* istruzione) {
+  if (istruzione == nullptr) return stile::Sconosciuta;
+  return istruzione->Trattamento == Gruppo::Non_Supportata ? stile::Non_Supportata
+                                                           : stile::Di(istruzione->Gruppo_Manuale);
+}
+
+void Colora_Operandi(Penna& penna, std::size_t fine) {
+  constexpr std::string_view separatori = " \t,\r\n";
+  while (penna.Posto() < fine) {
+    const std::size_t inizio =
+        std::min(penna.Linea().find_first_not_of(separatori, penna.Posto()), fine);
+    penna.Fino_A(inizio, stile::Normale);
+    if (inizio == fine) return;
+    const bool costante =
+        std::string_view("0123456789+-").find(penna.Linea()[inizio]) != std::string_view::npos;
+    const std::size_t dopo = std::min(penna.Linea().find_first_of(separatori, inizio), fine);
+    penna.Fino_A(dopo, costante ? stile::Costante : stile::Operando);
+  }
+}
+
+/// An instruction line from the pen's place up to a column.
+void Colora_Istruzione(Penna& penna, std::size_t fine) {
+  const std::size_t prima = penna.Posto();
+  const std::string_view testo = penna.Linea().substr(prima, fine - prima);
+  if (testo.starts_with("NETWORK")) {
+    penna.Fino_A(std::min(testo.find('/'), testo.size()) + prima, stile::Rete);
+    penna.Fino_A(fine, stile::Titolo_Rete);
+    return;
+  }
+  if (testo.starts_with("TITLE=")) {
+    penna.Fino_A(fine, stile::Commento);
+    return;
+  }
+  const Prima_Parola parola = Trova_Prima_Parola(testo);
+  penna.Fino_A(parola.Inizio + prima, stile::Normale);
+  if (!parola.Vuota()) penna.Fino_A(parola.Fine + prima, Stile_Istruzione(Istruzione_Di(testo)));
+  // The writer of the file begins a comment at a single bar.
+  const std::size_t commento = std::min(testo.find('/', parola.Fine), testo.size());
+  Colora_Operandi(penna, commento + prima);
+  penna.Fino_A(fine, stile::Commento);
+}
+
+}  // namespace
+
+void Colora_Linea(Genere_Testo genere, std::string_view linea,
+                  const std::function<void(int, int)>& pezzo) {
+  Penna penna(linea, pezzo);
+  if (genere == Genere_Testo::Listato) {
+    const Riga_Listato riga = Leggi_Riga_Listato(linea);
+    if (riga.Valida) {
+      penna.Fino_A(linea.find('['), stile::Numero_Listato);
+      penna.Fino_A(riga.Testo - 2, riga.Errata ? stile::Esito_Errato : stile::Esito_Buono);
+      penna.Fino_A(riga.Testo, stile::Normale);
+      Colora_Istruzione(penna, riga.Avviso);
+      penna.Fino_A(linea.size(), stile::Messaggio);
+      return;
+    }
+  }
+  Colora_Istruzione(penna, linea.size());
+}
+
+AwlLexer::AwlLexer(Genere_Testo genere, QsciScintilla* editor)
+    : QsciLexerCustom(editor), genere_(genere) {
+  setDefaultFont(defaultFont(stile::Normale));
+}
+
+QString AwlLexer::description(int numero) const {
+  const Aspetto* aspetto = Cerca_Aspetto(numero);
+  return aspetto == nullptr ? QString() : Q(aspetto->Nome);
+}
+
+QColor AwlLexer::defaultColor(int numero) const {
+  const Aspetto* aspetto = Cerca_Aspetto(numero);
+  return aspetto == nullptr ? QColor(Qt::black) : QColor(aspetto->Colore);
+}
+
+QColor AwlLexer::defaultPaper(int numero) const {
+  const Aspetto* aspetto = Cerca_Aspetto(numero);
+  return aspetto == nullptr ? QColor(Qt::white) : QColor(aspetto->Fondo);
+}
+
+QFont AwlLexer::defaultFont(int numero) const {
+  QFont tipo(QStringLiteral("DejaVu Sans Mono"), 9);
+  tipo.setStyleHint(QFont::Monospace);
+  if (const Aspetto* aspetto = Cerca_Aspetto(numero)) {
+    tipo.setBold(aspetto->Grassetto);
+    tipo.setItalic(aspetto->Corsivo);
+  }
+  return tipo;
+}
+
+void AwlLexer::styleText(int inizio, int fine) {
+  const auto lunghezza = static_cast<std::size_t>(editor()->length());
+  const auto* byte = static_cast<const char*>(
+      editor()->SendScintillaPtrResult(QsciScintilla::SCI_GETCHARACTERPOINTER));
+  const std::string_view testo(byte, lunghezza);
+  auto posto = static_cast<std::size_t>(inizio);
+  startStyling(inizio);
+  while (posto < std::min(static_cast<std::size_t>(fine), lunghezza)) {
+    std::size_t dopo = std::min(testo.find('\n', posto), lunghezza - 1) + 1;
+    std::string_view linea = testo.substr(posto, dopo - posto);
+    const std::size_t fine_linea = std::min(linea.find_first_of("\r\n"), linea.size());
+    Colora_Linea(genere_, linea.substr(0, fine_linea),
+                 [this](int quanti, int numero) { setStyling(quanti, numero); });
+    if (fine_linea < linea.size())
+      setStyling(static_cast<int>(linea.size() - fine_linea), stile::Normale);
+    posto = dopo;
+  }
+}
+
+}  // namespace tavorno

@@ -1,0 +1,362 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The commands of the editor window.
+#include "awl/ui/main_window.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolBar>
+#include <utility>
+
+#include "awl/ui/dialog_frame.h"
+#include "awl/ui/listing_line.h"
+#include "awl/ui/main_window_tables.h"
+#include "widgets/command_tables.h"
+#include "widgets/qt_dialogs.h"
+#include "widgets/text.h"
+
+namespace tavorno {
+
+namespace {
+
+/// The reasons of `Avvio_File` that do something of their own.
+enum Avvio : int { Modifica = 1, Da_Capo = 2, Da_File = 3, Vista_Lista = 5 };
+
+/// The pointer shows an hourglass while a file is read, but not over a question.
+class Clessidra {
+ public:
+  ~Clessidra() { Togli(); }
+  void Metti() {
+    if (!std::exchange(messa_, true)) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  }
+  void Togli() {
+    if (std::exchange(messa_, false)) QGuiApplication::restoreOverrideCursor();
+  }
+
+ private:
+  bool messa_ = false;
+};
+
+}  // namespace
+
+FrmMain::FrmMain(Progetto& progetto, Plc& plc, Legami_Editor legami)
+    : p_(progetto), plc_(plc), legami_(std::move(legami)) {
+  if (!p_.Chiedi.Mostra && !p_.Chiedi.Scegli_File) {
+    p_.Chiedi = Dialoghi_Qt(this);
+    dialoghi_propri_ = true;
+  }
+  p_.Pagina = 0;
+  p_.stB = {"File:", "", "Errori: ----"};
+  p_.etNR = {"0", "0", "0"};
+  p_.Lista_Comp.clear();
+  if (p_.TabSP.empty()) p_.TabSP.assign(1, "");
+  documenti_.Adegua(p_.Num_SBR);
+  Crea_Controlli();
+  Collega_Comandi();
+  Collega_Testi();
+  Specchia();
+  txtList->Dimentica_Annulla();
+  txtP->Dimentica_Annulla();
+}
+
+FrmMain::~FrmMain() {
+  // The controls outlive what their signals would touch.
+  for (QObject* controllo : {static_cast<QObject*>(SSTb2), static_cast<QObject*>(TabSP)})
+    controllo->disconnect(this);
+  if (dialoghi_propri_) p_.Chiedi = {};
+}
+
+void FrmMain::Avvia(int Avvio_File) {
+  avvio_ = Avvio_File;
+  const bool vuoto = Copia_Progetto(p_).Vuota();
+  switch (Avvio_File) {
+    case Modifica:
+      Rileggi();
+      break;
+    case Da_File:
+      Apri();
+      break;
+    case Vista_Lista: {
+      std::string lista = "//\r\n//\r\n";
+      for (int i = 0; i < p_.CPU.NRighe; ++i) lista += p_.Righe_Src[i].Testo_CPU + "\r\n";
+      p_.Scrivi_Main(lista);
+      break;
+    }
+    default:
+      p_.Num_SBR = 0;
+      p_.TabSP.assign(1, "");
+      p_.Scheda = 0;
+      p_.txtList.clear();
+      p_.txtP.clear();
+      p_.Formattato = 0;
+      p_.Gestione_Voci(0);
+      documenti_.Svuota();
+      if (Avvio_File == Da_Capo) Nuovo();
+      break;
+  }
+  p_.Pagina = 0;
+  Specchia();
+  // The texts that a window opens with are where its undo ends, unless there was something before.
+  if (perso_ || (Avvio_File == Da_File && !vuoto)) return;
+  txtList->Dimentica_Annulla();
+  txtP->Dimentica_Annulla();
+}
+
+void FrmMain::Collega_Comandi() {
+  const auto comando = [this](const char* nome, auto funzione) {
+    Collega(*this, QString::fromUtf8(nome), funzione);
+  };
+  comando("mnuFileNew", [this] { Nuovo(); });
+  comando("mnuFileOpen", [this] { Apri(); });
+  comando("mnuFileSave", [this] {
+    p_.mnuFileSave();
+    Specchia();
+  });
+  comando("mnuFileTxtImp", [this] { Inserimento([this] { p_.mnuFileTxtImp(); }); });
+  comando("mnuFileTxtExp", [this] { p_.mnuFileTxtExp(); });
+  comando("mnufiltxtT", [this] { p_.mnufiltxtT(); });
+  comando("mnuFileStp", [this] { legami_.Mostra_Stampe(); });
+  comando("mnuFileEnd", [this] {
+    plc_.Ferma = -1;
+    p_.Carica_CPU = 0;
+    close();
+  });
+  comando("mnuPlcCompile", [this] { Compila([this] { p_.mnuPlcCompile(); }); });
+  comando("mnuPlcCarica", [this] {
+    Compila([this] { p_.mnuPlcCarica(); });
+    if (p_.Compilato) close();
+  });
+  const auto mostra = [this](QWidget& barra, bool visibile) {
+    barra.setVisible(visibile);
+    layout()->activate();  // else the window may not shrink yet
+    Regola_Altezza();
+  };
+  comando("mnuViewTB",
+          [this, mostra] { mostra(*tB1, Azione(*this, QStringLiteral("mnuViewTB")).isChecked()); });
+  comando("mnuViewSTB", [this, mostra] {
+    mostra(*statusBar(), Azione(*this, QStringLiteral("mnuViewSTB")).isChecked());
+  });
+  for (int i = 0; i < Pagina_Nascosta; ++i)
+    Collega(*this, QStringLiteral("mnuViewC(%1)").arg(i), [this, i] { SSTb2->setCurrentIndex(i); });
+  comando("MnuHLPIndex", [this] { legami_.Mostra_Aiuto(QStringLiteral("Index-AWL.htm")); });
+  comando("MnuHlpList", [this] { legami_.Mostra_Aiuto(QStringLiteral("SET_IST.htm")); });
+  comando("MnuHLPInfo", [this] { legami_.Mostra_Info(); });
+  comando("tB1(Centra)", [this] {
+    QRect cornice = frameGeometry();
+    cornice.moveCenter(screen()->availableGeometry().center());
+    move(cornice.topLeft());
+  });
+
+  for (const Tasto_Voce& coppia : Tasti_Delle_Voci()) {
+    QAction& tasto = Azione(*this, QString::fromUtf8(coppia.Tasto));
+    QAction& voce = Azione(*this, QString::fromUtf8(coppia.Voce));
+    connect(&tasto, &QAction::triggered, &voce, &QAction::trigger);
+    connect(&voce, &QAction::enabledChanged, &tasto, &QAction::setEnabled);
+  }
+  Azione(*this, QStringLiteral("MnuHLPIndex")).setEnabled(bool(legami_.Mostra_Aiuto));
+  Azione(*this, QStringLiteral("MnuHlpList")).setEnabled(bool(legami_.Mostra_Aiuto));
+  Azione(*this, QStringLiteral("MnuHLPInfo")).setEnabled(bool(legami_.Mostra_Info));
+}
+
+void FrmMain::Collega_Testi() {
+  const auto pulsante = [this](const char* nome, auto funzione) {
+    auto* tasto = findChild<QPushButton*>(QString::fromUtf8(nome));
+    connect(tasto, &QPushButton::clicked, this, funzione);
+    return tasto;
+  };
+  pulsante("CmdNet(0)", [this] { Network(0); });
+  pulsante("CmdNet(1)", [this] { Network(1); });
+  pulsante("cmdSub", [this] {
+    Inserimento([this] { p_.New_Sub(); });
+    txtP->Vai_In_Fondo();
+  });
+  pulsante("cmdDelP", [this] { Rimozione(); });
+  pulsante("cmdTest", [this] { legami_.Mostra_Debug(); })->setEnabled(bool(legami_.Mostra_Debug));
+
+  txtList->Cambiato = [this] { Testo_Cambiato(*txtList); };
+  txtP->Cambiato = [this] { Testo_Cambiato(*txtP); };
+  txtLst->Linea_Scelta = [this](int linea) {
+    const Riga_Listato riga = Leggi_Riga_Listato(Utf8(txtLst->text(linea)));
+    if (riga.Valida) Vai_A_Riga(riga.Numero);
+  };
+  connect(SSTb2, &QTabWidget::currentChanged, this, [this](int pagina) { Cambia_Pagina(pagina); });
+  // A click counts on the tab in front as well: the text on screen may be a removed procedure's.
+  connect(TabSP, &QTabBar::tabBarClicked, this, [this](int i) { Scegli_Procedura(i + 1); });
+  connect(TabSP, &QTabBar::currentChanged, this, [this](int i) { Scegli_Procedura(i + 1); });
+
+  // The Tab key belongs to the texts; these keys lead out of them.
+  const auto tasti = [this](const char* sequenza, bool avanti) {
+    auto* scorciatoia = new QShortcut(QKeySequence(QString::fromUtf8(sequenza)), this);
+    connect(scorciatoia, &QShortcut::activated, this,
+            [this, avanti] { focusNextPrevChild(avanti); });
+  };
+  tasti("F6", true);
+  tasti("Shift+F6", false);
+}
+
+// ---- commands -----------------------------------------------------------------------------------
+
+/// A command that may read a project: rows keep their texts by place, and what a failed read takes
+/// away is kept.
+void FrmMain::Lettura(const std::function<void()>& comando) {
+  const Copia_Progetto prima(p_);
+  comando();
+  if (p_.Err_Lettura && !prima.Vuota() && p_.txtList.empty() && p_.Num_SBR == 0) {
+    if (!perso_ || documenti_.Quanti() > 0) perso_ = Perso{prima, documenti_};
+    documenti_.Svuota();
+    segni_.Dimentica();
+    return;
+  }
+  if (!p_.Err_Lettura) perso_.reset();
+  documenti_.Adegua(p_.Num_SBR);
+}
+
+void FrmMain::Apri() {
+  Clessidra clessidra;
+  {
+    const Intorno_Ai_Dialoghi intorno(
+        p_.Chiedi, [&] { clessidra.Togli(); }, [&] { clessidra.Metti(); });
+    Lettura([this] { p_.mnuFileOpen(); });
+  }
+  if (!p_.Annulla) segni_.Dimentica();
+  Specchia();
+}
+
+/// The project that the CPU was loaded from, as if its file had been chosen.
+void FrmMain::Rileggi() {
+  const auto domanda = p_.Chiedi.Scegli_File;
+  p_.Chiedi.Scegli_File = [this](const Richiesta_File&) {
+    return File_Scelto{p_.File_Progetto, p_.File_Titolo};
+  };
+  Apri();
+  p_.Chiedi.Scegli_File = domanda;
+}
+
+void FrmMain::Nuovo() {
+  p_.Annulla = 0;
+  p_.mnuFileNew(avvio_ != Da_Capo);
+  if (!p_.Annulla) segni_.Dimentica();
+  Specchia();
+}
+
+void FrmMain::Compila(const std::function<void()>& comando) {
+  const std::string vecchia = std::exchange(p_.Lista_Comp, {});
+  {
+    // The result stands on its page before the box that tells it.
+    const Intorno_Ai_Dialoghi intorno(
+        p_.Chiedi,
+        [this] {
+          if (!p_.Lista_Comp.empty()) Specchia_Esiti();
+        },
+        [] {});
+    Lettura(comando);
+  }
+  if (p_.Lista_Comp.empty())
+    p_.Lista_Comp = vecchia;  // there was no compile
+  else
+    segni_.Prendi(p_, documenti_);
+  Specchia();
+}
+
+/// A command that may add a procedure.
+void FrmMain::Inserimento(const std::function<void()>& comando) {
+  const int prima = p_.Num_SBR;
+  comando();
+  if (p_.Num_SBR > prima) {
+    if (prima == 0) documenti_.Svuota();
+    documenti_.Inserisci(p_.Scheda);
+  }
+  Specchia();
+}
+
+void FrmMain::Rimozione() {
+  const int prima = p_.Num_SBR;
+  const int tolta = p_.Scheda;
+  p_.Remove_Sub();
+  if (p_.Num_SBR < prima) documenti_.Togli(tolta);
+  Specchia();
+}
+
+void FrmMain::Network(int indice) {
+  p_.CmdNet(indice);
+  Specchia();
+  (indice == 0 ? txtList : txtP)->Vai_In_Fondo();
+}
+
+void FrmMain::Scegli_Procedura(int scheda) {
+  if (specchia_) return;
+  p_.Scegli_Procedura(scheda);
+  Specchia();
+}
+
+void FrmMain::Cambia_Pagina(int pagina) {
+  if (pagina == Pagina_Nascosta) {
+    SSTb2->setCurrentIndex(Pagina_Listato);
+    return;
+  }
+  p_.Pagina = pagina;
+  if (!specchia_) Specchia();
+  if (SSTb2->tabBar()->hasFocus()) return;  // the arrow keys are at work
+  const std::array<AwlEditor*, 3> testi = {txtList, txtP, txtLst};
+  testi.at(static_cast<std::size_t>(pagina))->setFocus(Qt::OtherFocusReason);
+}
+
+void FrmMain::Vai_A_Riga(int numero) {
+  const int chiave = segni_.Chiave(numero);
+  AwlEditor* testo = txtList;
+  if (chiave != Segni_Errori::Chiave_Main) {
+    const int procedura = documenti_.Riga(chiave);
+    if (procedura == 0) return;
+    if (procedura != p_.Scheda) Scegli_Procedura(procedura);
+    testo = txtP;
+  }
+  SSTb2->setCurrentIndex(testo == txtList ? 0 : 1);
+  testo->Vai_A(segni_.Linea(*testo, numero));
+}
+
+/// The text of a project that a failed read took away is back: so are its procedures.
+void FrmMain::Riprendi_Perso() {
+  if (!perso_ || p_.Num_SBR != 0) return;
+  const Copia_Progetto& copia = perso_->Progetto;
+  const bool tornato = (!copia.Main.empty() && p_.txtList == copia.Main) ||
+                       (!copia.Procedura.empty() && p_.txtP == copia.Procedura);
+  if (!tornato) return;
+  copia.Rimetti(p_);
+  documenti_ = perso_->Documenti;
+  documenti_.Adegua(p_.Num_SBR);
+  perso_.reset();
+  Specchia();
+}
+
+// ---- window -------------------------------------------------------------------------------------
+
+void FrmMain::closeEvent(QCloseEvent* evento) {
+  evento->accept();
+  if (!std::exchange(chiusa_, true) && legami_.Mostra_Pannello) legami_.Mostra_Pannello();
+}
+
+void FrmMain::resizeEvent(QResizeEvent* evento) {
+  QMainWindow::resizeEvent(evento);
+  Regola_Altezza();
+}
+
+void FrmMain::changeEvent(QEvent* evento) {
+  QMainWindow::changeEvent(evento);
+  if (evento->type() == QEvent::WindowStateChange && tB1 != nullptr) Regola_Altezza();
+}
+
+void FrmMain::showEvent(QShowEvent* evento) {
+  QMainWindow::showEvent(evento);
+  if (evento->spontaneous()) return;  // back from the task bar
+  chiusa_ = false;
+  Regola_Altezza();
+  txtList->setFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace tavorno

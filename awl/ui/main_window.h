@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMainWindow>
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "awl/project.h"
+#include "awl/ui/awl_editor.h"
+#include "awl/ui/error_marks.h"
+#include "awl/ui/procedure_documents.h"
+#include "awl/ui/project_copy.h"
+#include "plc/plc.h"
+
+class QCheckBox;
+class QHBoxLayout;
+class QLabel;
+class QTabBar;
+class QTabWidget;
+class QToolBar;
+
+namespace tavorno {
+
+struct Pulsante;
+
+/// The windows that the editor can ask for. An empty one switches its command off.
+struct Legami_Editor {
+  std::function<void()> Mostra_Pannello;  ///< called once, when the window closes
+  std::function<void()> Mostra_Debug, Mostra_Stampe, Mostra_Info;
+  std::function<void(const QString& pagina)> Mostra_Aiuto;  ///< a file of the help folder
+};
+
+/// The editor's window. The project is the master copy of all that it shows; the window gives the
+/// commands and mirrors the result.
+class FrmMain : public QMainWindow {
+ public:
+  /// The window's own displays begin anew; the project's texts stay. When the project has no
+  /// dialogs yet it gets this window's, for as long as the window lives.
+  FrmMain(Progetto& progetto, Plc& plc, Legami_Editor legami);
+  ~FrmMain() override;
+
+  /// Why the window opens: 1 reads the loaded project again, 2 begins a new one, 3 asks for a file,
+  /// 5 shows the compiled list; any other starts empty.
+  void Avvia(int Avvio_File);
+
+  /// Goes to the line that row `numero` of the last compile came from.
+  void Vai_A_Riga(int numero);
+
+ protected:
+  void closeEvent(QCloseEvent* evento) override;
+  void resizeEvent(QResizeEvent* evento) override;
+  void changeEvent(QEvent* evento) override;
+  void showEvent(QShowEvent* evento) override;
+
+ private:
+  // main_window_layout.cpp
+  void Crea_Controlli();
+  QWidget* Crea_Pagina_Main();
+  QWidget* Crea_Pagina_Procedure();
+  QWidget* Crea_Pagina_Listato();
+  QWidget* Crea_Spunte();
+  void Crea_Stato();
+  void Aggiungi_Pulsante(QHBoxLayout& riga, const Pulsante& pulsante);
+  void Mostra_Data_Ora();
+  int Altezza_Normale() const;
+  void Regola_Altezza();
+
+  // main_window.cpp: commands
+  void Collega_Comandi();
+  void Collega_Testi();
+  void Lettura(const std::function<void()>& comando);
+  void Apri();
+  void Rileggi();
+  void Nuovo();
+  void Compila(const std::function<void()>& comando);
+  void Inserimento(const std::function<void()>& comando);
+  void Rimozione();
+  void Network(int indice);
+  void Scegli_Procedura(int scheda);
+  void Cambia_Pagina(int pagina);
+  void Riprendi_Perso();
+
+  // main_window_mirror.cpp: what the project holds, on the screen
+  void Specchia();
+  void Specchia_Esiti();
+  bool Specchia_Schede();
+  void Specchia_Voci();
+  void Specchia_Numeri();
+  void Testo_Cambiato(AwlEditor& editor);
+
+  Progetto& p_;
+  Plc& plc_;
+  Legami_Editor legami_;
+  bool dialoghi_propri_ = false;
+  int avvio_ = 0;
+  bool salva_attivo_ = false;
+  bool chiusa_ = false;
+  bool specchia_ = false;  // the controls change because the project did, not the other way round
+
+  AwlEditor* txtList = nullptr;
+  AwlEditor* txtP = nullptr;
+  AwlEditor* txtLst = nullptr;
+  QTabWidget* SSTb2 = nullptr;
+  QTabBar* TabSP = nullptr;
+  QToolBar* tB1 = nullptr;
+  QWidget* picF = nullptr;
+  QWidget* opzioni_ = nullptr;
+  std::array<QLabel*, 3> etNR{};
+  std::array<QLabel*, 5> pannelli_{};
+  std::array<QCheckBox*, 2> chkCom{};
+
+  Documenti_Procedure documenti_;
+  Segni_Errori segni_;
+  /// What a failed read took away, with the texts of its procedures.
+  struct Perso {
+    Copia_Progetto Progetto;
+    Documenti_Procedure Documenti;
+  };
+  std::optional<Perso> perso_;
+};
+
+}  // namespace tavorno

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <span>
+
+#include "widgets/command_tables.h"
+
+// The editor window's captions, in the order of the screen.
+namespace tavorno {
+
+std::span<const Voce_Menu> Menu_Editor();
+std::span<const Tasto_Barra> Barra_Editor();
+
+/// A button of the tool bar that gives the same command as an entry of the menus.
+struct Tasto_Voce {
+  const char* Tasto;
+  const char* Voce;
+};
+std::span<const Tasto_Voce> Tasti_Delle_Voci();
+
+/// A push button below a text.
+struct Pulsante {
+  const char* Nome;
+  const char* Testo;
+  int Larghezza;      ///< in twips
+  const char* Tasti;  ///< short cut
+  const char* Suggerimento;
+};
+
+inline constexpr std::array<const char*, 4> Pagine_Editor = {" Main", " Procedure", " List Error",
+                                                             "Tab 3"};
+inline constexpr int Pagina_Listato = 2;
+inline constexpr int Pagina_Nascosta = 3;
+
+inline constexpr std::array<Pulsante, 2> Pulsanti_Main = {{
+    {"CmdNet(0)", "Inserisci Network", 1515, "Ctrl+Return",
+     "Aggiunge un segmento in fondo al programma principale"},
+    {"cmdTest", "Finestra Test", 1155, "F9", "Mostra lo stato delle aree di memoria e delle righe"},
+}};
+
+inline constexpr std::array<Pulsante, 3> Pulsanti_Procedure = {{
+    {"CmdNet(1)", "Inserisci Network", 1515, "Ctrl+Return",
+     "Aggiunge un segmento in fondo alla procedura"},
+    {"cmdSub", "Inserisci SBR", 1155, "Ctrl+Shift+Return", "Aggiunge una procedura al progetto"},
+    {"cmdDelP", "Rimuovi SBR", 1155, "", "Toglie dal progetto la procedura scelta"},
+}};
+
+/// Labels of the listing's page, each with the name of the label that shows its value.
+struct Etichetta_Valore {
+  const char* Nome;
+  const char* Testo;
+  const char* Valore;
+};
+inline constexpr std::array<Etichetta_Valore, 3> Etichette_Listato = {{
+    {"etg(18)", "Istruzioni Compilate :", "etNR(0)"},
+    {"etg(19)", "Errori Rilevati :", "etNR(1)"},
+    {"etg(20)", "Righe Totali lette nel progetto :", "etNR(2)"},
+}};
+
+inline constexpr std::array<const char*, 2> Spunte_Commenti = {
+    "Inserisci commenti di riga nel listato CPU",
+    "Inserisci commenti di Network  nel listato CPU",
+};
+
+inline constexpr int Pannelli_Stato = 5;
+
+}  // namespace tavorno

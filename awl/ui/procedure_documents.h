@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vector>
+
+#include "awl/ui/scintilla.h"
+
+namespace tavorno {
+
+/// One text of the editor for each procedure, so that each keeps its own undo history. They stand
+/// in the order of `Tab_SBR` and move with its rows.
+class Documenti_Procedure {
+ public:
+  /// As after a read: rows keep their text by place.
+  void Adegua(int quante);
+  void Inserisci(int riga);
+  void Togli(int riga);
+  void Svuota() { documenti_.clear(); }
+  int Quanti() const { return static_cast<int>(documenti_.size()); }
+
+  const QsciDocument& Di(int riga) const;
+  bool Prima_Volta(int riga);  ///< true at the first call for that text
+  /// A number that stays with the text wherever it moves, from 1 and never used twice.
+  int Chiave(int riga) const;
+  int Riga(int chiave) const;  ///< 0 when that text is gone
+
+ private:
+  struct Documento {
+    QsciDocument Testo;
+    int Chiave = 0;
+    bool Mostrato = false;
+  };
+  Documento Nuovo() { return {QsciDocument(), ++ultima_chiave_, false}; }
+
+  std::vector<Documento> documenti_;  // row 1 is at 0
+  int ultima_chiave_ = 0;
+};
+
+}  // namespace tavorno

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Nothing that a command takes away is out of reach of the undo key.
+#include "editor/editor_bed.h"
+
+namespace tavorno::prova {
+
+namespace {
+
+using Lista = std::vector<std::string>;
+
+class Undo : public Banco_Editor {
+ public:
+  const std::string due_procedure =
+      Blocco_Main({"NETWORK 1", "LD I0.0"}) + Blocco_SBR(0, {"NOT"}) + Blocco_SBR(1, {"NOP"});
+
+  /// What the deferred part of a command needs to end.
+  static void Lascia_Finire() { QCoreApplication::processEvents(); }
+};
+
+}  // namespace
+
+TEST_F(Undo, EachProcedureKeepsItsOwnHistory) {
+  Avvia_Con(due_procedure);
+  Comanda("mnuViewC(1)");
+  const std::string prima = txtP().Byte();
+  Batti_In_Fondo(txtP(), "EU");
+  Clicca_Scheda(1);
+  EXPECT_FALSE(txtP().isUndoAvailable());
+  const std::string seconda = txtP().Byte();
+  Batti_In_Fondo(txtP(), "ED");
+  txtP().undo();
+  EXPECT_EQ(txtP().Byte(), seconda);
+  Clicca_Scheda(0);
+  EXPECT_TRUE(txtP().isUndoAvailable());
+  txtP().undo();
+  EXPECT_EQ(txtP().Byte(), prima);
+  EXPECT_EQ(progetto.Tab_SBR[1].Testo, prima);
+  EXPECT_EQ(progetto.Tab_SBR[2].Testo, seconda);
+}
+
+TEST_F(Undo, HistoriesMoveWithTheirProcedures) {
+  Avvia_Con(Blocco_Main({"NETWORK 1"}) + Blocco_SBR(0, {"NOT"}) + Blocco_SBR(2, {"NOP"}));
+  Comanda("mnuViewC(1)");
+  Clicca_Scheda(1);
+  const std::string prima = txtP().Byte();
+  Batti_In_Fondo(txtP(), "EU");
+  Premi("cmdSub");  // SBR_1, in front of the edited one
+  EXPECT_EQ(Schede(), (Lista{"SBR_0", "SBR_1", "SBR_2"}));
+  Clicca_Scheda(0);
+  Premi("cmdDelP");
+  EXPECT_EQ(Schede(), (Lista{"SBR_1", "SBR_2"}));
+  Clicca_Scheda(1);
+  EXPECT_EQ(txtP().Byte(), prima + "EU");
+  txtP().undo();
+  EXPECT_EQ(txtP().Byte(), prima);
+}
+
+TEST_F(Undo, ANewProjectCanBeTakenBack) {
+  Avvia_Con(due_procedure);
+  const std::string prima = txtList().Byte();
+  Comanda("mnuFileNew");
+  EXPECT_NE(txtList().Byte(), prima);
+  txtList().undo();
+  EXPECT_EQ(txtList().Byte(), prima);
+  EXPECT_EQ(progetto.Testo_Main, prima);
+}
+
+TEST_F(Undo, TheRewritingOfACompileCanBeTakenBack) {
+  Avvia_Con(due_procedure);
+  txtList().Vai_In_Fondo();
+  txtList().insert("ld   i0.1\r\n");
+  const std::string scritto = txtList().Byte();
+  Scegli("salvato.AWL");
+  Comanda("mnuPlcCompile");
+  EXPECT_EQ(txtList().Byte().find("ld   i0.1"), std::string::npos);
+  txtList().undo();
+  EXPECT_EQ(txtList().Byte(), scritto);
+  txtList().redo();
+  EXPECT_NE(txtList().Byte().find("LD     I0.1"), std::string::npos);
+}
+
+TEST_F(Undo, TheLastProcedureRemovedComesBackOnScreen) {
+  Avvia(2);
+  Comanda("mnuViewC(1)");
+  Premi("cmdSub");
+  const std::string prima = txtP().Byte();
+  Premi("cmdDelP");
+  EXPECT_EQ(txtP().Byte(), "");
+  txtP().undo();
+  EXPECT_EQ(txtP().Byte(), prima);
+}
+
+// ---- failed reads -------------------------------------------------------------------------------
+
+struct Caso_Perdita {
+  const char* nome;
+  bool compila;    // the read of a compile, else of another file
+  bool procedura;  // the undo is given on the procedure's text, else on the Main's
+};
+
+class FailedRead : public Undo, public testing::WithParamInterface<Caso_Perdita> {};
+
+TEST_P(FailedRead, ComesBackWithAllProcedures) {
+  Avvia_Con(due_procedure);
+  Comanda("mnuViewC(1)");
+  Clicca_Scheda(1);
+  Batti_In_Fondo(txtP(), "EU");
+  if (GetParam().compila) {
+    txtList().Vai_In_Fondo();
+    txtList().insert("MOVW VW0,VW2 123456789012345678901234567890\r\n");
+    Scegli("salvato.AWL");
+    Comanda("mnuPlcCompile");
+  }
+  const std::string main = GetParam().compila ? "" : txtList().Byte();
+  const Riga_SBR prima = progetto.Tab_SBR[1];
+  if (!GetParam().compila) {
+    Scegli_Da_Aprire("niente", "guasto.AWL");
+    Comanda("mnuFileOpen");
+  }
+  EXPECT_EQ(Testi_Avvisi().back(),
+            "Errore!: Impossibile Caricare il progetto per errori nel formato!");
+  EXPECT_FALSE(risponditore.Avvisi.back().Dettagli.empty());
+  EXPECT_EQ(txtList().Byte(), "");
+  EXPECT_EQ(txtP().Byte(), "");
+  EXPECT_EQ(progetto.Num_SBR, 0);
+  EXPECT_EQ(Schede(), Lista{""});
+  EXPECT_FALSE(Voce("mnuPlcCompile").isEnabled());
+
+  (GetParam().procedura ? txtP() : txtList()).undo();
+  Lascia_Finire();
+  if (!main.empty()) {
+    EXPECT_EQ(txtList().Byte(), main);
+  }
+  EXPECT_FALSE(txtList().Byte().empty());
+  EXPECT_NE(txtP().Byte().find("EU"), std::string::npos);
+  EXPECT_EQ(progetto.Num_SBR, 2);
+  EXPECT_EQ(progetto.Tab_SBR[2].Testo, txtP().Byte());
+  EXPECT_EQ(Schede(), (Lista{"SBR_0", "SBR_1"}));
+  EXPECT_EQ(TabSP().currentIndex(), 1);
+  EXPECT_TRUE(Voce("mnuPlcCompile").isEnabled());
+  EXPECT_EQ(progetto.File_Titolo, "prova.AWL");
+  EXPECT_EQ(progetto.Modificato, -1);
+  Clicca_Scheda(0);
+  EXPECT_NE(txtP().Byte().find("NOT"), std::string::npos);
+  if (!GetParam().compila) {
+    EXPECT_EQ(progetto.Tab_SBR[1], prima);
+  }
+  Clicca_Scheda(1);
+  txtP().undo();  // the restored texts have kept what was typed before
+  EXPECT_NE(txtP().Byte(), progetto.Tab_SBR[1].Testo);
+}
+
+INSTANTIATE_TEST_SUITE_P(Reads, FailedRead,
+                         testing::Values(Caso_Perdita{"CompileMain", true, false},
+                                         Caso_Perdita{"CompileProcedure", true, true},
+                                         Caso_Perdita{"OpenMain", false, false},
+                                         Caso_Perdita{"OpenProcedure", false, true}),
+                         [](const auto& caso) { return std::string(caso.param.nome); });
+
+TEST_F(Undo, AFailedReadAtTheStartComesBackToo) {
+  progetto.Scrivi_Main("//mio\r\nNOT\r\n");
+  progetto.New_Sub();
+  progetto.File_Progetto = Percorso("assente.AWL");
+  Avvia(1);
+  EXPECT_EQ(txtList().Byte(), "");
+  txtList().undo();
+  Lascia_Finire();
+  EXPECT_EQ(txtList().Byte(), "//mio\r\nNOT\r\n");
+  EXPECT_EQ(Schede(), Lista{"SBR_0"});
+  EXPECT_EQ(txtP().text(0), "// SBR_0\r\n");
+}
+
+TEST_F(Undo, ProceduresMadeSinceAreNotOverwritten) {
+  Avvia_Con(due_procedure);
+  Scegli_Da_Aprire("niente", "guasto.AWL");
+  Comanda("mnuFileOpen");
+  Comanda("mnuViewC(1)");
+  Premi("cmdSub");
+  txtList().undo();
+  Lascia_Finire();
+  EXPECT_NE(txtList().Byte(), "");
+  EXPECT_EQ(Schede(), Lista{"SBR_0"});
+  EXPECT_EQ(txtP().text(0), "// SBR_0\r\n");
+}
+
+}  // namespace tavorno::prova
