@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <span>
+
+#include "panel/windows/bit_row.h"
+#include "panel/windows/status_window.h"
+#include "plc/plc.h"
+#include "widgets/text.h"
+
+// The controls of the element status window.
+namespace tavorno {
+
+namespace {
+
+constexpr int bit_di_un_byte = 8;
+
+struct Riga_IO {
+  const char* Nome;
+  const char* Bit;
+  const char* Valore;
+  int Indice;
+};
+
+constexpr Riga_IO righe_ingressi[] = {{"IB0:", "etIW", "etIB", 0}, {"IB1:", "etIW", "etIB", 1}};
+constexpr Riga_IO righe_uscite[] = {{"QB0:", "etQW", "etQB", 0}, {"QB1:", "etQW", "etQB", 1}};
+
+constexpr int scelte_timer[] = {32, 33, 37, 38};
+constexpr int scelte_contatori[] = {0, 1, 2};
+
+QGridLayout* Griglia(QGroupBox& riquadro) {
+  auto* griglia = new QGridLayout(&riquadro);
+  griglia->setContentsMargins(8, 4, 8, 6);
+  griglia->setHorizontalSpacing(6);
+  griglia->setVerticalSpacing(3);
+  return griglia;
+}
+
+QLabel* Testata_Bit() {
+  auto* testata = new Riga_Bit({}, bit_di_un_byte, Riga_Bit::Contenuto::Testata);
+  testata->setText(Q(".7  .6  .5  .4 .3 .2  .1  .0"));
+  return testata;
+}
+
+QComboBox* Lista(const QString& nome, const char* suggerimento) {
+  auto* lista = new QComboBox;
+  lista->setObjectName(nome);
+  lista->setToolTip(Q(suggerimento));
+  return lista;
+}
+
+/// Runs `scelta` with the selected index, now and whenever it changes.
+template <class Scelta>
+void Segui(QComboBox& lista, Scelta scelta) {
+  QObject::connect(&lista, &QComboBox::currentIndexChanged, &lista, scelta);
+  scelta(lista.currentIndex());
+}
+
+}  // namespace
+
+struct FrmStatiL::Tabella_Colonne {
+  const char* Nome;
+  const char* Scelta;
+  const char* Valore;
+  const char* Preset;
+  const char* Bit;
+  const char* Suggerimento;
+  int Ultimo;
+  std::span<const int> Scelte;
+};
+
+struct FrmStatiL::Tabella_V {
+  const char* Nome;
+  const char* Scelta;
+  const char* Numero;
+  const char* Valore;
+  bool Due;  // two neighbours, their controls numbered
+};
+
+FrmStatiL::Byte FrmStatiL::Riga_Byte(QGridLayout& griglia, int riga, const QString& bit,
+                                     const QString& valore, const QString& nome_letto) {
+  auto* cifre = new Riga_Bit(bit, bit_di_un_byte);
+  QLabel* numero = Campo_Valore(valore, 3);
+  numero->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  numero->setAccessibleName(nome_letto);
+  griglia.addWidget(cifre, riga, 1);
+  griglia.addWidget(numero, riga, 2);
+  return {Visto<std::string>(cifre), Visto_Numero(numero)};
+}
+
+QGroupBox* FrmStatiL::Riquadro_IO() {
+  auto* riquadro = new QGroupBox(Q("Stato I/O"));
+  QGridLayout* griglia = Griglia(*riquadro);
+  griglia->addWidget(Testata_Bit(), 0, 1);
+  int riga = 1;
+  const auto metti = [&](std::span<const Riga_IO> righe, std::vector<Byte>& byte) {
+    for (const Riga_IO& io : righe) {
+      griglia->addWidget(Etichetta(Q(io.Nome)), riga, 0);
+      byte.push_back(Riga_Byte(*griglia, riga++, Con_Indice(io.Bit, io.Indice),
+                               Con_Indice(io.Valore, io.Indice), Q(io.Nome)));
+    }
+  };
+  metti(righe_ingressi, ingressi_);
+  metti(righe_uscite, uscite_);
+  // Its bits stand above those of the markers, whose names share their column with a list.
+  griglia->setColumnMinimumWidth(0, cmbM1_->sizeHint().width());
+  return riquadro;
+}
+
+QGroupBox* FrmStatiL::Riquadro_M() {
+  auto* riquadro = new QGroupBox(Q("Stato M"));
+  QGridLayout* griglia = Griglia(*riquadro);
+  cmbM1_ = Lista("cmbM1", "Primo byte M mostrato");
+  cmbM1_->addItems({Q("M00"), Q("M01")});
+  griglia->addWidget(cmbM1_, 0, 0);
+  griglia->addWidget(Testata_Bit(), 0, 1);
+  std::vector<QLabel*> nomi;
+  for (int k = 0; k < 4; ++k) {
+    nomi.push_back(Etichetta({}));
+    nomi.back()->setObjectName(Con_Indice("etM1", k));
+    griglia->addWidget(nomi.back(), k + 1, 0);
+    marker_.push_back(Riga_Byte(*griglia, k + 1, Con_Indice("etM", k), Con_Indice("etmb", k), {}));
+  }
+  Segui(*cmbM1_, [nomi](int primo) {
+    for (QLabel* nome : nomi) nome->setText(QStringLiteral("M%1").arg(primo++));
+  });
+  return riquadro;
+}
+
+std::vector<FrmStatiL::Colonna> FrmStatiL::Metti_Colonne(QGridLayout& griglia, int riga,
+                                                         const Tabella_Colonne& tabella) {
+  int sotto = riga;
+  for (const char* nome : {tabella.Nome, "Valore :", "Set :", "Bit :"})
+    griglia.addWidget(Etichetta(Q(nome)), sotto++, 0);
+  std::vector<Colonna> colonne;
+  int i = 0;
+  for (const int scelto : tabella.Scelte) {
+    QComboBox* lista = Lista(Con_Indice(tabella.Scelta, i), tabella.Suggerimento);
+    for (int n = 0; n <= tabella.Ultimo; ++n) lista->addItem(QString::number(n));
+    lista->setCurrentIndex(scelto);
+    QLabel* valore = Campo_Valore(Con_Indice(tabella.Valore, i), 6);
+    QLabel* preset = Campo_Valore(Con_Indice(tabella.Preset, i), 6);
+    auto* bit = new Riga_Bit(Con_Indice(tabella.Bit, i), 1);
+    ++i;
+    griglia.addWidget(lista, riga, i);
+    griglia.addWidget(valore, riga + 1, i);
+    griglia.addWidget(preset, riga + 2, i);
+    griglia.addWidget(bit, riga + 3, i);
+    colonne.push_back({lista, Visto_Numero(valore), Visto_Numero(preset), Visto_Numero(bit)});
+  }
+  return colonne;
+}
+
+QGroupBox* FrmStatiL::Riquadro_Colonne() {
+  auto* riquadro = new QGroupBox(Q("Timer/Counter"));
+  QGridLayout* griglia = Griglia(*riquadro);
+  const Tabella_Colonne timer{"Txx :",  "cmbIndT",   "etTmrV",
+                              "etTmrS", "etTmrB",    "Temporizzatore mostrato: valori in scatti",
+                              40,       scelte_timer};
+  const Tabella_Colonne contatori{
+      "Cxx :", "cmbIndC", "etCV", "etCS", "etCB", "Contatore mostrato", 20, scelte_contatori};
+  timer_ = Metti_Colonne(*griglia, 0, timer);
+  griglia->setRowMinimumHeight(4, 10);
+  contatori_ = Metti_Colonne(*griglia, 5, contatori);
+  for (int colonna = 1; colonna <= 4; ++colonna) griglia->setColumnStretch(colonna, 1);
+  return riquadro;
+}
+
+FrmStatiL::Memoria_V FrmStatiL::Metti_V(QGridLayout& griglia, int riga, const Tabella_V& tabella) {
+  Memoria_V memoria;
+  memoria.Scelta = Lista(tabella.Scelta, "Prima cella mostrata");
+  for (int n = 0; n <= 100; ++n)
+    memoria.Scelta->addItem(QStringLiteral("%1").arg(n, 3, 10, QLatin1Char('0')));
+  griglia.addWidget(Etichetta(Q(tabella.Nome), memoria.Scelta), riga, 0);
+  griglia.addWidget(memoria.Scelta, riga, 1);
+  std::vector<QLabel*> numeri;
+  for (int k = 0; k < (tabella.Due ? 2 : 1); ++k) {
+    const auto nome = [&](const char* base) {
+      return tabella.Due ? Con_Indice(base, k) : QString::fromLatin1(base);
+    };
+    auto* numero = Etichetta({});
+    numero->setObjectName(nome(tabella.Numero));
+    numero->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    numero->setMinimumWidth(numero->fontMetrics().horizontalAdvance(Q("100")));
+    QLabel* valore = Campo_Valore(nome(tabella.Valore), 11);
+    griglia.addWidget(numero, riga + k, 2);
+    griglia.addWidget(valore, riga + k, 3);
+    numeri.push_back(numero);
+    memoria.Celle.emplace_back(valore);
+  }
+  Segui(*memoria.Scelta, [numeri](int prima) {
+    for (QLabel* numero : numeri) numero->setText(QString::number(prima++));
+  });
+  return memoria;
+}
+
+QGroupBox* FrmStatiL::Riquadro_Memorie() {
+  auto* riquadro = new QGroupBox(Q("Memorie/Accumulatori"));
+  QGridLayout* griglia = Griglia(*riquadro);
+  griglia->setColumnStretch(3, 1);
+  vb_ = Metti_V(*griglia, 0, {"VB:", "cmbVb", "etnB", "etDVB", true});
+  vw_ = Metti_V(*griglia, 2, {"VW:", "cmbVW", "etnw", "etDVw", true});
+  vd_ = Metti_V(*griglia, 4, {"VD:", "cmbVD", "etnd", "etDVd", false});
+  griglia->setRowMinimumHeight(5, 10);
+  for (int k = 0; k < 4; ++k) {
+    const QString nome = QStringLiteral("AC%1:").arg(k);
+    QLabel* valore = Campo_Valore(Con_Indice("etAC", k), 13);
+    griglia->addWidget(Etichetta(nome, valore), 6 + k, 0);
+    griglia->addWidget(valore, 6 + k, 1, 1, 3);
+    ac_.emplace_back(valore);
+  }
+  return riquadro;
+}
+
+}  // namespace tavorno
