@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plants/link.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace tavorno {
+
+namespace {
+
+constexpr std::uint8_t impianto_al_posto = 2;  // modes of PLC_Sportello
+constexpr std::uint8_t interruttori = 3;
+
+}  // namespace
+
+Collegamento::Collegamento(Plc& plc, Stato_Impianto& stato, const Esercizio& esercizio,
+                           std::function<void(std::uint8_t)> sportello)
+    : plc_(plc), stato_(stato), esercizio_(esercizio), sportello_(std::move(sportello)) {
+  if (!esercizio_.Crea) throw std::invalid_argument(std::string("no plant ") + esercizio_.Classe);
+  for (const Cursore& cursore : esercizio_.Cursori) valori_.push_back(cursore.Inizio);
+
+  stato_.Impianto_Nr = static_cast<std::uint8_t>(esercizio_.Indice);
+  LED_Reset();  // which also lets the output bars speak
+  if (sportello_) sportello_(impianto_al_posto);
+  stato_.Impianto_Aperto = -1;
+
+  macchina_ = esercizio_.Crea(plc_);
+  for (std::size_t n = 0; n < 2; ++n) {
+    prima_[n] = plc_.SQ[n].Change;
+    plc_.SQ[n].Change = [this, n] {
+      if (prima_[n]) prima_[n]();
+      Uscite_Cambiate();
+    };
+  }
+}
+
+Collegamento::~Collegamento() {
+  Chiudi();
+}
+
+void Collegamento::Carica() {
+  macchina_->Change = [this] { Ingressi_Cambiati(); };
+  if (esercizio_.Attivare) macchina_->Regola(esercizio_.Attivare, 1);
+  if (std::ranges::any_of(esercizio_.Cursori, &Cursore::Al_Caricamento)) Scrivi_Cursori();
+  Ingressi_Cambiati();
+}
+
+void Collegamento::Chiudi() {
+  if (!aperto_) return;
+  aperto_ = false;
+  LED_Reset();
+  if (sportello_) sportello_(interruttori);
+  stato_ = {};
+  macchina_->Change = nullptr;
+  for (std::size_t n = 0; n < 2; ++n) plc_.SQ[n].Change = prima_[n];
+}
+
+void Collegamento::chkSim(bool spuntato) {
+  chkSim_ = spuntato;
+  if (!esercizio_.Ascolta_chkSim) return;
+  if (sportello_) sportello_(spuntato ? interruttori : impianto_al_posto);
+  if (!spuntato) Ingressi_Cambiati();
+}
+
+void Collegamento::Muovi(std::size_t numero, int valore) {
+  const Cursore& cursore = esercizio_.Cursori[numero];
+  valori_.at(numero) = std::clamp(valore, cursore.Minimo, cursore.Massimo);
+  Scrivi_Cursori();
+}
+
+void Collegamento::Scrivi_Cursori() {
+  for (std::size_t n = 0; n < valori_.size(); ++n) {
+    const Cursore& cursore = esercizio_.Cursori[n];
+    if (cursore.Scrive)
+      macchina_->Regola(cursore.Scrive, cursore.Zero + cursore.Pendenza * valori_[n]);
+  }
+}
+
+void Collegamento::Ingressi_Cambiati() {
+  if (chkSim_) return;
+  const std::string ingressi = macchina_->Stato_I();
+  plc_.SI[0].Stato_I(ingressi.substr(0, 8));
+  plc_.SI[1].Stato_I(ingressi.substr(8));
+  if (!esercizio_.Analogici) return;
+  const std::optional<float> volt[] = {macchina_->ME_AIW0, macchina_->ME_AIW2, macchina_->ME_AIW4};
+  for (int canale = 0; const std::optional<float>& valore : volt) {
+    if (valore) plc_.Volt_AI[canale] = *valore;
+    ++canale;
+  }
+}
+
+void Collegamento::Uscite_Cambiate() {
+  macchina_->Stato_Q(plc_.SQ[0].Stato_Q() + plc_.SQ[1].Stato_Q());
+}
+
+void Collegamento::LED_Reset() {
+  for (LedI& barra : plc_.SI) barra.LED_Reset();
+  for (LedQ& barra : plc_.SQ) barra.LED_Reset();
+}
+
+}  // namespace tavorno

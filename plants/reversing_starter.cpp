@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plants/reversing_starter.h"
+
+namespace tavorno {
+
+namespace {
+
+constexpr const char* forza = "D.Click per forzare cambiamento di stato";
+
+// clang-format off
+constexpr Riga_Figura figure[] = {
+    // name, left, top, width, height, picture at first, tool tip
+    {"linKM1",      825, 1130, 1770,  600},
+    {"linKM2",     2205, 1130,  390,  600},
+    {"imgKm1",      300,  840,  930,  360, "imgKMOF", forza},
+    {"imgKM2",     1680,  840,  930,  360, "imgKMOF", forza},
+    {"ImgTer",     2100, 1830,  600,  300, "ImgRTOF", "Click per simulare intervento"},
+    {"imgM",       1770, 2310, 1320,  780, "imgMOF"},
+    {"etM",         840, 2655,  900,  240},
+    {"imgKM1a",    4170,  405,  300,  360, "imgAuxA", "Contatto ausiliario KM1, I0.0"},
+    {"imgKM2a",    6990,  405,  300,  360, "imgAuxA", "Contatto ausiliario KM2, I0.4"},
+    {"imgStop",    3900, 1530,  540,  540, "imgPGr0", "Stop, I0.1"},
+    {"imgStart",   5240, 1530,  540,  540, "imgVOFF", "Marcia avanti, I0.2"},
+    {"imgInd",     6580, 1530,  540,  540, "imgVOFF", "Marcia indietro, I0.3"},
+    {"ImgEm",      7920, 1530,  540,  540, "imgROFF", "Emergenza, I0.6"},
+    {"imgLS",      3930, 2460,  480,  480, Lampada_Spenta, "Lampada blu, Q0.2"},
+    {"imgLI",      4935, 2460,  480,  480, Lampada_Spenta, "Lampada verde, Q0.3"},
+    {"imgLA",      5940, 2460,  480,  480, Lampada_Spenta, "Lampada verde, Q0.4"},
+    {"imgLRt",     6945, 2460,  480,  480, Lampada_Spenta, "Lampada gialla, Q0.5"},
+    {"imgLAttesa", 7950, 2460,  480,  480, Lampada_Spenta, "Lampada rossa, Q0.6"},
+};
+
+constexpr Riga_Pulsante pulsanti[] = {
+    // name, input, down, up, picture down, picture up
+    {"imgStop",  2, '0', '1', "imgPGr1", "imgPGr0"},
+    {"imgStart", 3, '1', '0', "imgVON",  "imgVOFF"},
+    {"imgInd",   4, '1', '0', "imgVON",  "imgVOFF"},
+    {"ImgEm",    7, '0', '1', "imgRON",  "imgROFF"},
+};
+
+constexpr Riga_Commutatore termici[] = {{"ImgTer", 6, '0', '1', "imgRTON", "ImgRTOF"}};
+
+constexpr Riga_Contattore km1 = {"imgKm1", "imgKM1a", "linKM1", 1, 1};
+constexpr Riga_Contattore km2 = {"imgKM2", "imgKM2a", "linKM2", 2, 5};
+
+constexpr Riga_Lampada hl1 = {"imgLA",      5, "imgLV"};
+constexpr Riga_Lampada hl2 = {"imgLI",      4, "imgLV"};
+constexpr Riga_Lampada hl3 = {"imgLS",      3, "imgLB"};
+constexpr Riga_Lampada hl4 = {"imgLRt",     6, "imgLG"};
+constexpr Riga_Lampada hl5 = {"imgLAttesa", 7, "imgLR"};
+// clang-format on
+
+}  // namespace
+
+INV::INV() : Impianto(figure, "0100011000000000", Invio::Se_Diverso) {
+  Caption("Nastro Due");
+  Monta(pulsanti);
+  Monta(termici);
+  Disegno[km1.Nome].Doppio_Clic = [this] { KMAStato(km1_eccitato_ ? "0" : "1"); };
+  Disegno[km2.Nome].Doppio_Clic = [this] { KMIStato(km2_eccitato_ ? "0" : "1"); };
+}
+
+void INV::KMAStato(std::string_view stato) {
+  km1_eccitato_ = stato != "0";
+  Mostra(km1, km1_eccitato_);
+  Concludi();
+}
+
+void INV::KMIStato(std::string_view stato) {
+  km2_eccitato_ = stato != "0";
+  Mostra(km2, km2_eccitato_);
+  Concludi();
+}
+
+void INV::Concludi() {
+  Disegno["imgM"].Picture = km1_eccitato_ || km2_eccitato_ ? "imgMON" : "imgMOF";
+  Invia();
+}
+
+void INV::SET_HL1(std::string_view stato) {
+  Mostra(hl1, stato);
+}
+void INV::SET_HL2(std::string_view stato) {
+  Mostra(hl2, stato);
+}
+void INV::SET_HL3(std::string_view stato) {
+  Mostra(hl3, stato);
+}
+void INV::SET_HL4(std::string_view stato) {
+  Mostra(hl4, stato);
+}
+void INV::SET_HL5(std::string_view stato) {
+  Mostra(hl5, stato);
+}
+
+void INV::Applica_Uscite() {
+  KMAStato(Uscita(km1.Uscita));
+  KMIStato(Uscita(km2.Uscita));
+  SET_HL1(Uscita(hl1.Uscita));
+  SET_HL2(Uscita(hl2.Uscita));
+  SET_HL3(Uscita(hl3.Uscita));
+  SET_HL4(Uscita(hl4.Uscita));
+  SET_HL5(Uscita(hl5.Uscita));
+}
+
+}  // namespace tavorno

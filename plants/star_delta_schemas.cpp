@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plants/star_delta.h"
+
+namespace tavorno {
+
+namespace {
+
+constexpr const char* forza = "DClick per forzare cambiamento di Stato";
+constexpr const char* interviene = "Click per simulare intervento";
+
+// clang-format off
+constexpr Riga_Figura figure_st[] = {
+    // name, left, top, width, height, picture at first, tool tip
+    {"lin(0)",    765, 1130,  390,  950},
+    {"lin(1)",   1965, 1130,  390, 1150},
+    {"lin(2)",   1965, 1130, 1590, 1150},
+    {"KM(0)",     240,  840,  930,  360, "imgKMOF", forza},
+    {"KM(1)",    1440,  840,  930,  360, "imgKMOF", forza},
+    {"KM(2)",    2640,  840,  930,  360, "imgKMOF", forza},
+    {"imgRt",     660, 1470,  600,  300, "ImgRTOF", interviene},
+    {"imgM",      330, 2070, 1320,  780, "imgMOFF"},
+    {"imgS",     1020, 2385,  300,  300},
+    {"imgT",     1020, 2385,  300,  300},
+    {"KMa(0)",   5862,  405,  300,  360, "imgAuxA", "Contatto ausiliario KM1, I0.2"},
+    {"KMa(1)",   6498,  405,  300,  360, "imgAuxA", "Contatto ausiliario KM3, I0.3"},
+    {"KMa(2)",   7134,  405,  300,  360, "imgAuxA", "Contatto ausiliario KM2, I0.4"},
+    {"imgStop",  4440, 1440,  540,  540, "imgPGr0", "Stop, I0.0"},
+    {"imgStart", 6120, 1440,  540,  540, "imgVOFF", "Start, I0.1"},
+    {"ImgEm",    7800, 1440,  540,  540, "imgROFF", "Emergenza, I0.6"},
+    {"imgLS",    4470, 2295,  480,  480, Lampada_Spenta, "Lampada blu, Q0.3"},
+    {"imgLSt",   5590, 2295,  480,  480, Lampada_Spenta, "Lampada verde, Q0.4"},
+    {"imgLTri",  6710, 2295,  480,  480, Lampada_Spenta, "Lampada verde, Q0.5"},
+    {"imgLRt",   7830, 2295,  480,  480, Lampada_Spenta, "Lampada gialla, Q0.6"},
+};
+
+constexpr Riga_Contattore contattori_st[] = {
+    // name, contact, wire, output, input
+    {"KM(0)", "KMa(0)", "lin(0)", 1, 3},
+    {"KM(1)", "KMa(1)", "lin(1)", 3, 4},
+    {"KM(2)", "KMa(2)", "lin(2)", 2, 5},
+};
+
+constexpr Riga_Lampada lampade_st[] = {
+    {"imgLSt",  5, "imgLV"},
+    {"imgLTri", 6, "imgLV"},
+    {"imgLS",   4, "imgLB"},
+    {"imgLRt",  7, "imgLG"},
+};
+
+constexpr Riga_Pulsante pulsanti_st[] = {
+    // name, input, down, up, picture down, picture up
+    {"imgStop",  1, '0', '1', "imgPGr1", "imgPGr0"},
+    {"imgStart", 2, '1', '0', "imgVON",  "imgVOFF"},
+    {"ImgEm",    7, '0', '1', "imgRON",  "imgROFF"},
+};
+
+constexpr Riga_Commutatore termici_st[] = {{"imgRt", 6, '0', '1', "imgRTON", "ImgRTOF"}};
+
+constexpr Riga_Figura figure_st2[] = {
+    {"lin(0)",    705, 1130,  390, 1010},
+    {"lin(1)",   1725, 1130,  390, 1210},
+    {"lin(2)",   1725, 1130, 1410, 1210},
+    {"lin(3)",   3765, 1130,  390, 1010},
+    {"KM(0)",     180,  840,  930,  360, "imgKMOF", forza},
+    {"KM(1)",    1200,  840,  930,  360, "imgKMOF", forza},
+    {"KM(2)",    2220,  840,  930,  360, "imgKMOF", forza},
+    {"KM(3)",    3240,  840,  930,  360, "imgKMOF", forza},
+    {"imgRt",     600, 1470,  600,  300, "ImgRTOF", interviene},
+    {"imgRt2",   3660, 1470,  600,  300, "ImgRTOF", interviene},
+    {"imgM",      270, 2130, 1320,  780, "imgMOFF"},
+    {"imgS",      960, 2445,  300,  300},
+    {"imgT",      960, 2445,  300,  300},
+    {"imgM2",    3330, 2130, 1320,  780, "imgM1OFF"},
+    {"KMa(0)",   5964,  405,  300,  360, "imgAuxA", "Contatto ausiliario KM1, I0.2"},
+    {"KMa(1)",   7404,  405,  300,  360, "imgAuxA", "Contatto ausiliario KM3, I0.6"},
+    {"KMa(2)",   7764,  405,  300,  360, "imgAuxA", "Contatto ausiliario KM2, I0.7"},
+    {"KMa(3)",   6684,  405,  300,  360, "imgAuxA", "Contatto ausiliario KM4, I0.4"},
+    {"imgStop",  5040, 1470,  540,  540, "imgPGr0", "Arresto, I0.0"},
+    {"imgStart", 6040, 1470,  540,  540, "imgVOFF", "Marcia motore M1, I0.1"},
+    {"imgSM2",   7040, 1470,  540,  540, "imgVOFF", "Marcia motore M2, I0.3"},
+    {"ImgEm",    8040, 1470,  540,  540, "imgROFF", "Emergenza, I0.5"},
+    {"imgLS1",   4920, 2370,  480,  480, Lampada_Spenta, "Lampada blu motore M1, Q0.4"},
+    {"imgLM1",   5580, 2370,  480,  480, Lampada_Spenta, "Lampada verde motore M1, Q0.5"},
+    {"imgLS2",   6240, 2370,  480,  480, Lampada_Spenta, "Lampada blu motore M2, Q0.6"},
+    {"imgLM2",   6900, 2370,  480,  480, Lampada_Spenta, "Lampada verde motore M2, Q0.7"},
+    {"imgLRt1",  7560, 2370,  480,  480, Lampada_Spenta, "Lampada gialla motore M1, Q1.0"},
+    {"imgLRt2",  8220, 2370,  480,  480, Lampada_Spenta, "Lampada gialla motore M2, Q1.1"},
+};
+
+constexpr Riga_Contattore contattori_st2[] = {
+    {"KM(0)", "KMa(0)", "lin(0)", 1, 3},
+    {"KM(1)", "KMa(1)", "lin(1)", 3, 7},
+    {"KM(2)", "KMa(2)", "lin(2)", 2, 8},
+    {"KM(3)", "KMa(3)", "lin(3)", 4, 5},
+};
+
+constexpr Riga_Lampada lampade_st2[] = {
+    {"imgLM2",   8, "imgLV"},
+    {"imgLS2",   7, "imgLB"},
+    {"imgLRt2", 10, "imgLG"},
+    {"imgLM1",   6, "imgLV"},
+    {"imgLS1",   5, "imgLB"},
+    {"imgLRt1",  9, "imgLG"},
+};
+
+constexpr Riga_Pulsante pulsanti_st2[] = {
+    {"imgStop",  1, '0', '1', "imgPGr1", "imgPGr0"},
+    {"imgStart", 2, '1', '0', "imgVON",  "imgVOFF"},
+    {"imgSM2",   4, '1', '0', "imgVON",  "imgVOFF"},
+    {"ImgEm",    6, '0', '1', "imgRON",  "imgROFF"},
+};
+
+constexpr Riga_Commutatore termici_st2[] = {
+    {"imgRt",   9, '0', '1', "imgRTON", "ImgRTOF"},
+    {"imgRt2", 10, '0', '1', "imgRTON", "ImgRTOF"},
+};
+// clang-format on
+
+}  // namespace
+
+const Schema_Avviatore Schema_ST = {"1000011000000000", figure_st,   contattori_st,
+                                    lampade_st,         pulsanti_st, termici_st};
+const Schema_Avviatore Schema_ST2 = {"1000010011000000", figure_st2,   contattori_st2,
+                                     lampade_st2,        pulsanti_st2, termici_st2};
+
+}  // namespace tavorno
