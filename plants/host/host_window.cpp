@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plants/host/host_window.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QVBoxLayout>
+#include <array>
+
+#include "plants/host/picture_widget.h"
+#include "plc/number_text.h"
+#include "widgets/naming.h"
+#include "widgets/text.h"
+#include "widgets/twips.h"
+
+namespace tavorno {
+
+namespace {
+
+// Our shades of the two numbered colours of the table, light enough to read on.
+const QColor verde_ingressi(0xcb, 0xee, 0xd2);
+const QColor celeste_uscite(0xcc, 0xec, 0xf2);
+
+bool Uscita(const Riga_IO& riga) {
+  return riga.Indirizzo[0] == 'Q' || (riga.Indirizzo[0] == 'A' && riga.Indirizzo[1] == 'Q');
+}
+
+}  // namespace
+
+Finestra_Impianto::Finestra_Impianto(std::unique_ptr<Collegamento> collegamento)
+    : collegamento_(std::move(collegamento)), altezza_(collegamento_->Tabella().Altezza_Chiusa) {
+  const Esercizio& esercizio = collegamento_->Tabella();
+  setObjectName(Q(esercizio.Host));
+  setWindowTitle(Q(esercizio.Titolo));
+  const QString disegni =
+      QStringLiteral(":/plants/US-%1.svg").arg(esercizio.Indice, 2, 10, QChar('0'));
+  quadro_ = Chiama(Q(esercizio.Nome), new Quadro(collegamento_->Macchina(), disegni));
+
+  auto* righe = new QVBoxLayout(this);
+  righe->setContentsMargins(0, 0, 0, 0);
+  righe->setSpacing(0);
+  righe->addWidget(quadro_, 1);
+  righe->addWidget(Crea_Comandi());
+  righe->addWidget(schede_ = qobject_cast<QTabWidget*>(Crea_Schede()));
+  schede_->setVisible(false);
+
+  move(0, 0);
+  resize(quadro_->sizeHint().width(), Px(altezza_));
+  quadro_->setFocus();
+}
+
+// The picture looks at the plant, so it goes first.
+Finestra_Impianto::~Finestra_Impianto() {
+  delete quadro_;
+}
+
+void Finestra_Impianto::closeEvent(QCloseEvent* evento) {
+  evento->accept();
+  collegamento_->Chiudi();
+  if (Chiusa) Chiusa();
+}
+
+QWidget* Finestra_Impianto::Crea_Comandi() {
+  auto* riga = new QWidget;
+  auto* posti = new QHBoxLayout(riga);
+  posti->setContentsMargins(10, 6, 10, 6);
+
+  auto* chkSim = Chiama(QStringLiteral("chkSim"),
+                        new QCheckBox(QStringLiteral("Usa Simulatore PLC per gli Ingressi")));
+  chkSim->setToolTip(
+      QStringLiteral("Gli ingressi arrivano dagli interruttori del PLC e non "
+                     "dall'impianto"));
+  connect(chkSim, &QCheckBox::clicked, this,
+          [this](bool spuntato) { collegamento_->chkSim(spuntato); });
+  auto* chkIO = Chiama(QStringLiteral("chkIO"), new QCheckBox(Q(collegamento_->Tabella().Voce_IO)));
+  chkIO->setToolTip(QStringLiteral("Mostra la tabella degli ingressi e delle uscite"));
+  connect(chkIO, &QCheckBox::toggled, this, &Finestra_Impianto::Apri_Tabella);
+  auto* cmdSch = Chiama(QStringLiteral("cmdSch"), new QPushButton(QStringLiteral("Info")));
+  cmdSch->setToolTip(QStringLiteral("Schema Elettrico"));
+  connect(cmdSch, &QPushButton::clicked, this, [this] {
+    if (Mostra_Aiuto) Mostra_Aiuto(collegamento_->Tabella().Pagina);
+  });
+  auto* cmdEnd = Chiama(QStringLiteral("cmdEnd"), new QPushButton(QStringLiteral("Chiudi")));
+  cmdEnd->setToolTip(QStringLiteral("Termina"));
+  connect(cmdEnd, &QPushButton::clicked, this, &QWidget::close);
+
+  posti->addWidget(chkSim);
+  posti->addSpacing(16);
+  posti->addWidget(chkIO);
+  posti->addStretch();
+  posti->addWidget(cmdSch);
+  posti->addWidget(cmdEnd);
+  return riga;
+}
+
+QWidget* Finestra_Impianto::Crea_Schede() {
+  auto* schede = Chiama(QStringLiteral("SSTab1"), new QTabWidget);
+  schede->addTab(Assegna_IO(), Q(Scheda_1));
+  schede->addTab(Impostazioni(), Q(collegamento_->Tabella().Scheda_2));
+  const Esercizio& esercizio = collegamento_->Tabella();
+  schede->setFixedHeight(Px(esercizio.Altezza_Aperta - esercizio.Altezza_Chiusa));
+  return schede;
+}
+
+QWidget* Finestra_Impianto::Assegna_IO() {
+  const auto righe = collegamento_->Tabella().Righe_IO;
+  auto* FGr = Chiama(QStringLiteral("FGr"), new QTableWidget(static_cast<int>(righe.size()), 4));
+  FGr->setHorizontalHeaderLabels({QString(), QStringLiteral("Simbolo"), QStringLiteral("Indirizzo"),
+                                  QStringLiteral("Commento")});
+  FGr->verticalHeader()->hide();
+  FGr->verticalHeader()->setDefaultSectionSize(FGr->fontMetrics().height() + 4);
+  FGr->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  FGr->setSelectionBehavior(QAbstractItemView::SelectRows);
+  constexpr std::array larghezze{400, 700, 700, 3300};
+  for (int colonna = 0; colonna < 4; ++colonna)
+    FGr->setColumnWidth(colonna, Px(larghezze[static_cast<std::size_t>(colonna)]));
+  FGr->horizontalHeader()->setStretchLastSection(true);
+
+  for (int n = 0; n < static_cast<int>(righe.size()); ++n) {
+    const Riga_IO& riga = righe[static_cast<std::size_t>(n)];
+    const std::array testi{Q(Numero_Con_Spazio(n + 1)), Q(riga.Simbolo), Q(riga.Indirizzo),
+                           Q(riga.Commento)};
+    for (int colonna = 0; colonna < 4; ++colonna) {
+      auto* cella = new QTableWidgetItem(testi[static_cast<std::size_t>(colonna)]);
+      if (colonna == 1 || colonna == 2) {
+        cella->setBackground(Uscita(riga) ? celeste_uscite : verde_ingressi);
+        cella->setForeground(Qt::black);
+      }
+      FGr->setItem(n, colonna, cella);
+    }
+  }
+  return FGr;
+}
+
+QWidget* Finestra_Impianto::Impostazioni() {
+  auto* pagina = new QWidget;
+  auto* righe = new QVBoxLayout(pagina);
+  const auto cursori = collegamento_->Tabella().Cursori;
+  if (cursori.empty())
+    righe->addWidget(new QLabel(QStringLiteral("Questo impianto non ha impostazioni.")));
+  for (std::size_t n = 0; n < cursori.size(); ++n) {
+    const Cursore& cursore = cursori[n];
+    auto* cornice = new QGroupBox(Q(cursore.Cornice));
+    auto* posti = new QHBoxLayout(cornice);
+    auto* slider = Chiama(Q(cursore.Nome), new QSlider(Qt::Horizontal));
+    slider->setRange(cursore.Minimo, cursore.Massimo);
+    slider->setSingleStep(cursore.Passo_Piccolo);
+    slider->setPageStep(cursore.Passo_Grande);
+    slider->setValue(collegamento_->Valore(n));
+    slider->setTickPosition(QSlider::TicksBelow);
+    auto* valore = new QLabel(QString::number(slider->value()));
+    valore->setMinimumWidth(valore->fontMetrics().horizontalAdvance(QStringLiteral("000")));
+    connect(slider, &QSlider::valueChanged, this, [this, n, valore](int nuovo) {
+      valore->setText(QString::number(nuovo));
+      collegamento_->Muovi(n, nuovo);
+    });
+    posti->addWidget(slider);
+    posti->addWidget(valore);
+    righe->addWidget(cornice);
+  }
+  righe->addStretch();
+  return pagina;
+}
+
+/// The height shows or hides the table. What the user has made the window larger by stays.
+void Finestra_Impianto::Apri_Tabella(bool aperta) {
+  const Esercizio& esercizio = collegamento_->Tabella();
+  const int prima = altezza_;
+  altezza_ = aperta ? esercizio.Altezza_Aperta : esercizio.Altezza_Chiusa;
+  const int voluta = height() + Px(altezza_) - Px(prima);
+  schede_->setVisible(aperta);
+  layout()->activate();  // else the window may not shrink yet
+  if (!isMaximized() && !isFullScreen()) resize(width(), voluta);
+}
+
+}  // namespace tavorno

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The hand of the user on a plant's picture.
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QToolTip>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "plants/host/picture_widget.h"
+#include "widgets/text.h"
+
+namespace tavorno {
+
+namespace {
+
+constexpr int scatto_rotella = 120;  // of a wheel, in eighths of a degree
+
+}  // namespace
+
+bool Quadro::Si_Opera(const Figura& figura) const {
+  return figura.Visible() &&
+         (figura.Operabile() || impianto_.Trova_Regolatore(figura.Nome) != nullptr);
+}
+
+Figura* Quadro::Figura_A(const QPointF& punto) {
+  for (auto vista = viste_.rbegin(); vista != viste_.rend(); ++vista) {
+    if (Si_Opera(*vista->Di) && Posto(*vista->Di).contains(punto)) return vista->Di;
+  }
+  return nullptr;
+}
+
+bool Quadro::Gira(const Figura& figura, int passi) {
+  const Regolatore* regolatore = impianto_.Trova_Regolatore(figura.Nome);
+  return regolatore != nullptr &&
+         impianto_.Regola(figura.Nome, regolatore->Valore + passi * regolatore->Passo);
+}
+
+void Quadro::Premi(Figura* figura) {
+  premuta_ = figura;
+  if (figura != nullptr) impianto_.Premi(figura->Nome);
+}
+
+void Quadro::Rilascia(bool sopra) {
+  if (premuta_ == nullptr) return;
+  const std::string nome = premuta_->Nome;
+  premuta_ = nullptr;
+  impianto_.Rilascia(nome);
+  if (sopra) impianto_.Clic(nome);
+}
+
+// ---- mouse --------------------------------------------------------------------------------------
+
+void Quadro::mousePressEvent(QMouseEvent* evento) {
+  if (evento->button() != Qt::LeftButton) return;
+  Figura* figura = Figura_A(evento->position());
+  if (figura == nullptr) return;
+  fuoco_ = Q(figura->Nome);
+  update();
+  // An up/down has its two buttons one above the other.
+  if (Gira(*figura, evento->position().y() < Posto(*figura).center().y() ? 1 : -1)) return;
+  Premi(figura);
+}
+
+void Quadro::mouseReleaseEvent(QMouseEvent* evento) {
+  if (evento->button() == Qt::LeftButton) Rilascia(Figura_A(evento->position()) == premuta_);
+}
+
+void Quadro::mouseDoubleClickEvent(QMouseEvent* evento) {
+  Figura* figura = Figura_A(evento->position());
+  // Two quick presses of a push button are two presses.
+  if (figura == nullptr || !impianto_.Doppio_Clic(figura->Nome)) mousePressEvent(evento);
+}
+
+void Quadro::mouseMoveEvent(QMouseEvent* evento) {
+  setCursor(Figura_A(evento->position()) != nullptr ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void Quadro::wheelEvent(QWheelEvent* evento) {
+  const Figura* figura = Figura_A(evento->position());
+  const int passi = evento->angleDelta().y() / scatto_rotella;
+  if (figura == nullptr || passi == 0 || !Gira(*figura, passi)) evento->ignore();
+}
+
+bool Quadro::event(QEvent* evento) {
+  if (evento->type() != QEvent::ToolTip) return QWidget::event(evento);
+  auto* aiuto = static_cast<QHelpEvent*>(evento);
+  const Figura* figura = Figura_A(aiuto->pos());
+  if (figura == nullptr || figura->ToolTip().empty())
+    QToolTip::hideText();
+  else
+    QToolTip::showText(aiuto->globalPos(), Q(figura->ToolTip()), this,
+                       Posto(*figura).toAlignedRect());
+  return true;
+}
+
+// ---- keys ---------------------------------------------------------------------------------------
+
+std::vector<Quadro::Vista*> Quadro::Operabili() {
+  std::vector<Vista*> operabili;
+  for (Vista& vista : viste_) {
+    if (Si_Opera(*vista.Di)) operabili.push_back(&vista);
+  }
+  return operabili;
+}
+
+Quadro::Vista* Quadro::A_Fuoco() {
+  for (Vista* vista : Operabili()) {
+    if (Q(vista->Di->Nome) == fuoco_) return vista;
+  }
+  return nullptr;
+}
+
+bool Quadro::focusNextPrevChild(bool avanti) {
+  const std::vector<Vista*> operabili = Operabili();
+  const auto ora = std::find(operabili.begin(), operabili.end(), A_Fuoco());
+  auto quale = ora == operabili.end() ? -1 : static_cast<int>(ora - operabili.begin());
+  if (quale < 0)
+    quale = avanti ? 0 : static_cast<int>(operabili.size()) - 1;
+  else
+    quale += avanti ? 1 : -1;
+  update();
+  if (quale < 0 || quale >= static_cast<int>(operabili.size())) {
+    fuoco_.clear();
+    return QWidget::focusNextPrevChild(avanti);
+  }
+  fuoco_ = Q(operabili[static_cast<std::size_t>(quale)]->Di->Nome);
+  return true;
+}
+
+void Quadro::keyPressEvent(QKeyEvent* evento) {
+  const Vista* vista = A_Fuoco();
+  if (vista == nullptr) return QWidget::keyPressEvent(evento);
+  switch (evento->key()) {
+    case Qt::Key_Space:
+      if (!evento->isAutoRepeat()) Premi(vista->Di);
+      return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      impianto_.Doppio_Clic(vista->Di->Nome);
+      return;
+    case Qt::Key_Up:
+      Gira(*vista->Di, 1);
+      return;
+    case Qt::Key_Down:
+      Gira(*vista->Di, -1);
+      return;
+    default:
+      QWidget::keyPressEvent(evento);
+  }
+}
+
+void Quadro::keyReleaseEvent(QKeyEvent* evento) {
+  if (evento->key() != Qt::Key_Space)
+    QWidget::keyReleaseEvent(evento);
+  else if (!evento->isAutoRepeat())
+    Rilascia(true);
+}
+
+void Quadro::focusOutEvent(QFocusEvent* evento) {
+  // Nobody can let go of a button in a window that has no keyboard.
+  if (evento->reason() != Qt::MouseFocusReason) Rilascia(false);
+  update();
+  QWidget::focusOutEvent(evento);
+}
+
+}  // namespace tavorno

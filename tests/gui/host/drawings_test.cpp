@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Plants and their drawings belong together: every figure has its group, every group is driven by
+// its plant.
+#include "plants/host/drawings.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QXmlStreamReader>
+#include <random>
+#include <set>
+
+#include "plants/exercises.h"
+#include "plants/host/picture_widget.h"
+#include "widgets/text.h"
+
+namespace tavorno {
+namespace {
+
+QString File_Di(const Esercizio& esercizio) {
+  return QStringLiteral(":/plants/US-%1.svg").arg(esercizio.Indice, 2, 10, QChar('0'));
+}
+
+/// The ids of the groups right below the root.
+std::set<QString> Gruppi(const QString& file) {
+  QFile aperto(file);
+  std::set<QString> ids;
+  if (!aperto.open(QIODevice::ReadOnly)) return ids;
+  QXmlStreamReader xml(&aperto);
+  for (int livello = 0; !xml.atEnd();) {
+    const auto segno = xml.readNext();
+    if (segno == QXmlStreamReader::StartElement && ++livello == 2 && xml.name() == u"g")
+      ids.insert(xml.attributes().value("id").toString());
+    if (segno == QXmlStreamReader::EndElement) --livello;
+  }
+  EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+  return ids;
+}
+
+struct Disegni_Di : ::testing::TestWithParam<int> {
+  const Esercizio& esercizio = Tabella_Esercizi()[static_cast<std::size_t>(GetParam())];
+  std::set<QString> gruppi = Gruppi(File_Di(esercizio));
+  Orologio orologio;
+  Plc plc{orologio};
+  std::unique_ptr<Impianto> impianto = esercizio.Crea(plc);
+
+  bool Solo_Testo(const Figura& figura) {
+    return !figura.Caption().empty() && !gruppi.contains(Q(figura.Nome));
+  }
+  void Guarda(std::set<QString>& visti) {
+    for (Figura& figura : impianto->Disegno) {
+      if (!figura.Visible() || Solo_Testo(figura)) continue;
+      const QString gruppo = Quadro::Gruppo(figura);
+      EXPECT_TRUE(gruppi.contains(gruppo)) << "no group " << gruppo.toStdString();
+      visti.insert(gruppo);
+    }
+  }
+};
+
+TEST_P(Disegni_Di, EveryFigureHasItsGroupAndEveryGroupIsDriven) {
+  ASSERT_FALSE(gruppi.empty());
+  ASSERT_TRUE(Disegni(File_Di(esercizio)).Valido());
+  std::set<QString> visti{QStringLiteral("fondo")};
+  impianto->Change = [] {};
+  Guarda(visti);
+  // A user who tries everything on a machine whose program has gone wild.
+  std::mt19937 caso(20);  // always the same
+  const auto uno_di = [&](int quanti) {
+    return std::uniform_int_distribution<int>(0, quanti - 1)(caso);
+  };
+  std::vector<std::string> nomi;
+  for (const Figura& figura : impianto->Disegno) nomi.push_back(figura.Nome);
+  for (int giro = 0; giro < 6000; ++giro) {
+    const std::string& nome = nomi[static_cast<std::size_t>(uno_di(static_cast<int>(nomi.size())))];
+    switch (uno_di(6)) {
+      case 0:
+        impianto->Premi(nome);
+        Guarda(visti);
+        impianto->Rilascia(nome);
+        impianto->Clic(nome);
+        break;
+      case 1:
+        impianto->Doppio_Clic(nome);
+        break;
+      case 2: {
+        std::string uscite(16, '0');
+        for (char& bit : uscite) bit = uno_di(4) == 0 ? '1' : '0';
+        impianto->Stato_Q(uscite);
+        break;
+      }
+      case 3:
+        if (const Regolatore* regolatore = impianto->Trova_Regolatore(nome))
+          impianto->Regola(nome, uno_di(2) ? regolatore->Massimo : regolatore->Minimo);
+        break;
+      default:
+        orologio.Avanza(uno_di(3000));
+    }
+    Guarda(visti);
+    if (HasFailure()) return;
+  }
+  for (const QString& gruppo : gruppi)
+    EXPECT_TRUE(visti.contains(gruppo)) << "nobody drives " << gruppo.toStdString();
+}
+
+TEST_P(Disegni_Di, NothingIsDrawnOutsideThePicture) {
+  const Disegni disegni(File_Di(esercizio));
+  for (const QString& gruppo : gruppi) {
+    const QRectF limiti = disegni.Limiti(gruppo);
+    EXPECT_TRUE(disegni.Misura().adjusted(-30, -30, 30, 30).contains(limiti))
+        << gruppo.toStdString();
+  }
+}
+
+std::vector<int> Con_Impianto() {
+  std::vector<int> indici;
+  for (const Esercizio& esercizio : Tabella_Esercizi()) {
+    if (esercizio.Crea != nullptr) indici.push_back(esercizio.Indice);
+  }
+  return indici;
+}
+
+INSTANTIATE_TEST_SUITE_P(Esercizi, Disegni_Di, ::testing::ValuesIn(Con_Impianto()));
+
+TEST(Colours, NumberedOnesTakeOurShadeAndOthersStay) {
+  EXPECT_EQ(Tinta(Tavolozza(12)), QColor(0xd3, 0x30, 0x2f));
+  EXPECT_EQ(Tinta(0x030201), QColor(1, 2, 3));
+}
+
+TEST(Drawings, AFileThatIsNotThereDrawsNothing) {
+  EXPECT_FALSE(Disegni(QStringLiteral(":/plants/none.svg")).Valido());
+}
+
+}  // namespace
+}  // namespace tavorno

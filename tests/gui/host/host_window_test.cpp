@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The host window of every exercise, from the table.
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTableWidget>
+
+#include "host/host_bed.h"
+#include "plc/number_text.h"
+#include "widgets/text.h"
+#include "widgets/twips.h"
+
+namespace tavorno {
+namespace {
+
+std::vector<int> Con_Impianto() {
+  std::vector<int> indici;
+  for (const Esercizio& esercizio : Tabella_Esercizi()) {
+    if (esercizio.Crea != nullptr) indici.push_back(esercizio.Indice);
+  }
+  return indici;
+}
+
+struct Host : ::testing::TestWithParam<int> {
+  Banco_Host banco{GetParam()};
+  const Esercizio& esercizio = Tabella_Esercizi()[static_cast<std::size_t>(GetParam())];
+};
+INSTANTIATE_TEST_SUITE_P(Esercizi, Host, ::testing::ValuesIn(Con_Impianto()));
+
+TEST_P(Host, NamesAndTextsComeFromTheTable) {
+  EXPECT_EQ(banco.finestra->objectName(), esercizio.Host);
+  EXPECT_EQ(banco.finestra->windowTitle(), Q(esercizio.Titolo));
+  EXPECT_EQ(banco.Disegno().objectName(), esercizio.Nome);
+  EXPECT_EQ(banco.Trova<QCheckBox>("chkSim").text(), "Usa Simulatore PLC per gli Ingressi");
+  EXPECT_EQ(banco.Trova<QCheckBox>("chkIO").text(), Q(esercizio.Voce_IO));
+  EXPECT_EQ(banco.Trova<QPushButton>("cmdSch").text(), "Info");
+  EXPECT_EQ(banco.Trova<QPushButton>("cmdSch").toolTip(), "Schema Elettrico");
+  EXPECT_EQ(banco.Trova<QPushButton>("cmdEnd").text(), "Chiudi");
+  EXPECT_EQ(banco.Trova<QPushButton>("cmdEnd").toolTip(), "Termina");
+  const auto& schede = banco.Trova<QTabWidget>("SSTab1");
+  EXPECT_EQ(schede.tabText(0), " Assegnazioni I/0");
+  EXPECT_EQ(schede.tabText(1), Q(esercizio.Scheda_2));
+}
+
+TEST_P(Host, TheTickShowsTheTableByTheHeightAlone) {
+  EXPECT_EQ(banco.finestra->height(), Px(esercizio.Altezza_Chiusa));
+  EXPECT_FALSE(banco.Trova<QTabWidget>("SSTab1").isVisible());
+  const int larghezza = banco.finestra->width();
+  banco.Trova<QCheckBox>("chkIO").click();
+  EXPECT_EQ(banco.finestra->Altezza(), esercizio.Altezza_Aperta);
+  EXPECT_NEAR(banco.finestra->height(), Px(esercizio.Altezza_Aperta), 1);
+  EXPECT_TRUE(banco.Trova<QTabWidget>("SSTab1").isVisible());
+  banco.Trova<QCheckBox>("chkIO").click();
+  EXPECT_EQ(banco.finestra->Altezza(), esercizio.Altezza_Chiusa);
+  EXPECT_NEAR(banco.finestra->height(), Px(esercizio.Altezza_Chiusa), 1);
+  EXPECT_EQ(banco.finestra->width(), larghezza);
+}
+
+TEST_P(Host, TheGridHoldsTheTableOfInputsAndOutputs) {
+  const auto& FGr = banco.Trova<QTableWidget>("FGr");
+  ASSERT_EQ(FGr.rowCount(), static_cast<int>(esercizio.Righe_IO.size()));
+  ASSERT_EQ(FGr.columnCount(), 4);
+  EXPECT_EQ(FGr.horizontalHeaderItem(1)->text(), "Simbolo");
+  EXPECT_EQ(FGr.horizontalHeaderItem(2)->text(), "Indirizzo");
+  EXPECT_EQ(FGr.horizontalHeaderItem(3)->text(), "Commento");
+  for (int n = 0; n < FGr.rowCount(); ++n) {
+    const Riga_IO& riga = esercizio.Righe_IO[static_cast<std::size_t>(n)];
+    EXPECT_EQ(FGr.item(n, 0)->text(), Q(Numero_Con_Spazio(n + 1)));
+    EXPECT_EQ(FGr.item(n, 1)->text(), Q(riga.Simbolo));
+    EXPECT_EQ(FGr.item(n, 2)->text(), Q(riga.Indirizzo));
+    EXPECT_EQ(FGr.item(n, 3)->text(), Q(riga.Commento));
+    const bool uscita = riga.Indirizzo[0] == 'Q' || std::string_view(riga.Indirizzo, 2) == "AQ";
+    const QColor fondo = FGr.item(n, 2)->background().color();
+    EXPECT_EQ(fondo, FGr.item(n, 1)->background().color());
+    EXPECT_EQ(fondo.blue() > fondo.green(), uscita) << "outputs are cyan, inputs green";
+  }
+}
+
+TEST_P(Host, TheSettingsMoveTheirSliders) {
+  for (std::size_t n = 0; n < esercizio.Cursori.size(); ++n) {
+    const Cursore& cursore = esercizio.Cursori[n];
+    auto& slider = banco.Trova<QSlider>(Q(cursore.Nome));
+    EXPECT_EQ(slider.minimum(), cursore.Minimo);
+    EXPECT_EQ(slider.maximum(), cursore.Massimo);
+    EXPECT_EQ(slider.value(), cursore.Inizio);
+    slider.setValue(cursore.Massimo);
+    EXPECT_EQ(banco.finestra->Fili().Valore(n), cursore.Massimo);
+    const auto* cornice = qobject_cast<QGroupBox*>(slider.parentWidget());
+    ASSERT_NE(cornice, nullptr);
+    EXPECT_EQ(cornice->title(), Q(cursore.Cornice));
+  }
+}
+
+TEST_P(Host, InfoAsksForThePageOfTheExercise) {
+  QString pagina;
+  banco.finestra->Mostra_Aiuto = [&](const char* chiesta) { pagina = chiesta; };
+  banco.Trova<QPushButton>("cmdSch").click();
+  EXPECT_EQ(pagina, Q(esercizio.Pagina));
+}
+
+TEST_P(Host, ClosingTakesTheWiresAway) {
+  EXPECT_EQ(banco.stato.Impianto_Aperto, -1);
+  EXPECT_EQ(banco.stato.Impianto_Nr, esercizio.Indice);
+  bool chiusa = false;
+  banco.finestra->Chiusa = [&] { chiusa = true; };
+  banco.Trova<QPushButton>("cmdEnd").click();
+  EXPECT_TRUE(chiusa);
+  EXPECT_EQ(banco.stato.Impianto_Aperto, 0);
+  EXPECT_EQ(banco.stato.Impianto_Nr, 0);
+  EXPECT_EQ(banco.sportello, (std::vector<int>{2, 3}));
+}
+
+TEST_P(Host, TheSwitchesTakeOverWhileTheTickIsSet) {
+  auto& chkSim = banco.Trova<QCheckBox>("chkSim");
+  const std::string dell_impianto = banco.plc.SI[0].Stato_I();
+  chkSim.click();
+  EXPECT_TRUE(banco.finestra->Fili().chkSim());
+  banco.plc.SI[0].Stato_I("10101010");
+  EXPECT_EQ(banco.plc.SI[0].Stato_I(), "10101010");
+  chkSim.click();
+  EXPECT_FALSE(banco.finestra->Fili().chkSim());
+  if (esercizio.Ascolta_chkSim) {
+    EXPECT_EQ(banco.plc.SI[0].Stato_I(), dell_impianto);
+    EXPECT_EQ(banco.sportello, (std::vector<int>{2, 3, 2}));
+  } else {
+    EXPECT_EQ(banco.sportello, (std::vector<int>{2})) << "nothing listens to the tick";
+  }
+}
+
+}  // namespace
+}  // namespace tavorno

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Mouse and keys on a plant's picture, and what it draws.
+#include <QHelpEvent>
+#include <QPainter>
+
+#include "host/host_bed.h"
+
+namespace tavorno {
+namespace {
+
+struct Picture : ::testing::Test {
+  Banco_Host banco{0};  // a motor with one contactor
+  Quadro& quadro = banco.Disegno();
+
+  char Ingresso(int posizione) {
+    return banco.Macchina().Stato_I()[static_cast<std::size_t>(posizione - 1)];
+  }
+  std::string Immagine(const char* figura) { return banco.Macchina().Disegno[figura].Picture; }
+};
+
+TEST_F(Picture, AHeldButtonStaysHeld) {
+  QTest::mousePress(&quadro, Qt::LeftButton, {}, banco.Centro("imgStart"));
+  EXPECT_EQ(Ingresso(2), '1');
+  EXPECT_EQ(Immagine("imgStart"), "imgVON");
+  EXPECT_EQ(banco.plc.SI[0].Stato_I(), "11011000");
+  QTest::mouseRelease(&quadro, Qt::LeftButton, {}, QPoint(2, 2));
+  EXPECT_EQ(Ingresso(2), '0') << "let go outside";
+}
+
+TEST_F(Picture, AClickTripsTheRelay) {
+  QTest::mouseClick(&quadro, Qt::LeftButton, {}, banco.Centro("ImgTer"));
+  EXPECT_EQ(Ingresso(4), '0');
+  QTest::mouseClick(&quadro, Qt::LeftButton, {}, banco.Centro("ImgTer"));
+  EXPECT_EQ(Ingresso(4), '1');
+}
+
+TEST_F(Picture, ADoubleClickForcesTheContactor) {
+  banco.plc.SQ[0].Stato_Q("10000000");
+  EXPECT_EQ(Ingresso(3), '1');
+  QTest::mouseDClick(&quadro, Qt::LeftButton, {}, banco.Centro("imgKM"));
+  EXPECT_EQ(Ingresso(3), '0');
+  EXPECT_EQ(Immagine("imgKM"), "imgKMOF");
+}
+
+TEST_F(Picture, TwoQuickPressesOfAButtonAreTwoPresses) {
+  int volte = 0;
+  const auto prima = banco.Macchina().Change;
+  banco.Macchina().Change = [&] {
+    prima();
+    volte += Ingresso(2) == '1';
+  };
+  QTest::mousePress(&quadro, Qt::LeftButton, {}, banco.Centro("imgStart"));
+  QTest::mouseRelease(&quadro, Qt::LeftButton, {}, banco.Centro("imgStart"));
+  QTest::mouseDClick(&quadro, Qt::LeftButton, {}, banco.Centro("imgStart"));
+  QTest::mouseRelease(&quadro, Qt::LeftButton, {}, banco.Centro("imgStart"));
+  EXPECT_GE(volte, 2);
+  EXPECT_EQ(Ingresso(2), '0');
+}
+
+TEST_F(Picture, TheKeyboardReachesAndWorksEverything) {
+  banco.finestra->activateWindow();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return banco.finestra->isActiveWindow(); }, 20000));
+  quadro.setFocus();
+  bool premuto = false;
+  for (int passo = 0; passo < 12 && !premuto; ++passo) {
+    QTest::keyClick(&quadro, Qt::Key_Tab);
+    QTest::keyPress(&quadro, Qt::Key_Space);
+    premuto = Ingresso(2) == '1';
+    QTest::keyRelease(&quadro, Qt::Key_Space);
+  }
+  EXPECT_TRUE(premuto) << "Start was not reached";
+  EXPECT_EQ(Ingresso(2), '0');
+}
+
+TEST_F(Picture, OnlyWhatCanBeOperatedIsUnderTheHand) {
+  EXPECT_EQ(quadro.Figura_A(QPointF(2, 2)), nullptr);
+  ASSERT_NE(quadro.Figura_A(banco.Centro("imgStop")), nullptr);
+  EXPECT_EQ(quadro.Figura_A(banco.Centro("imgStop"))->Nome, "imgStop");
+  EXPECT_EQ(quadro.Figura_A(banco.Centro("imgLM")), nullptr) << "a lamp";
+  QTest::mouseMove(&quadro, banco.Centro("imgStop"));
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return quadro.cursor().shape() == Qt::PointingHandCursor; }, 20000));
+}
+
+TEST_F(Picture, ALampLightsUpOnTheScreen) {
+  const auto grab = [&] { return quadro.grab().toImage(); };
+  const QPoint punto = banco.Centro("imgLM");
+  const QColor spenta = grab().pixelColor(punto);
+  banco.plc.SQ[0].Stato_Q("00100000");
+  const QColor accesa = grab().pixelColor(punto);
+  EXPECT_GT(accesa.green(), spenta.green() + 60);
+  banco.plc.SQ[0].Stato_Q("00000000");
+  EXPECT_EQ(grab().pixelColor(punto), spenta);
+}
+
+TEST_F(Picture, AWireTurnsRed) {
+  const auto rossi = [&] {
+    const QImage immagine =
+        quadro.grab(quadro.Posto(banco.Macchina().Disegno["linKM"]).toRect()).toImage();
+    int quanti = 0;
+    for (int y = 0; y < immagine.height(); ++y) {
+      for (int x = 0; x < immagine.width(); ++x) {
+        const QColor colore = immagine.pixelColor(x, y);
+        quanti += colore.red() > 180 && colore.green() < 90;
+      }
+    }
+    return quanti;
+  };
+  const int prima = rossi();
+  banco.plc.SQ[0].Stato_Q("10000000");
+  EXPECT_GT(rossi(), prima + 10);
+}
+
+TEST_F(Picture, ItGrowsWithItsWindow) {
+  const QRectF prima = quadro.Posto(banco.Macchina().Disegno["imgM"]);
+  quadro.resize(quadro.sizeHint() * 2);
+  const QRectF dopo = quadro.Posto(banco.Macchina().Disegno["imgM"]);
+  EXPECT_NEAR(dopo.width(), 2 * prima.width(), 1);
+}
+
+}  // namespace
+}  // namespace tavorno
