@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/application.h"
+
+#include <cstdlib>
+
+namespace tavorno {
+
+bool Applicazione::notify(QObject* oggetto, QEvent* evento) {
+  try {
+    return QApplication::notify(oggetto, evento);
+  } catch (const Fatale& fatale) {
+    // While the report is on the screen other events still come by; a second failure changes
+    // nothing.
+    if (finita_) return true;
+    finita_ = true;
+    if (Fine_Fatale) Fine_Fatale(fatale);
+    // Not exit(): the call stack below is that of an interrupted run, and nothing on it may go on.
+    std::_Exit(Stato_Fatale);
+  }
+}
+
+}  // namespace tavorno

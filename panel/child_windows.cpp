@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/child_windows.h"
+
+#include "awl/ui/main_window.h"
+#include "panel/controls/cpu_front.h"
+#include "panel/documents/about_window.h"
+#include "panel/documents/print_window.h"
+#include "panel/windows/analog_window.h"
+#include "panel/windows/debug_window.h"
+#include "panel/windows/settings_window.h"
+#include "panel/windows/status_window.h"
+#include "plants/host/host_window.h"
+#include "widgets/twips.h"
+
+namespace tavorno {
+
+namespace {
+
+/// Brings a window to the front; makes it first when it is not there.
+template <class Crea>
+void Mostra(QPointer<QWidget>& finestra, Crea crea) {
+  if (!finestra) {
+    finestra = crea();
+    finestra->setAttribute(Qt::WA_DeleteOnClose);
+  }
+  finestra->show();
+  finestra->raise();
+  finestra->activateWindow();
+}
+
+}  // namespace
+
+Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
+    : pannello_(pannello), plc_(plc), progetto_(progetto), guida_(guida) {
+  Legami_Pannello legami;
+  legami.Mostra_Editor = [this](int avvio_file) { Mostra_Editor(avvio_file); };
+  legami.Mostra_Impostazioni = [this] { Mostra_Impostazioni(); };
+  legami.Mostra_Analogici = [this] { Mostra_Analogici(); };
+  legami.Mostra_Stati = [this] { Mostra_Stati(); };
+  legami.Mostra_Info = [this] { Mostra_Info(); };
+  legami.Mostra_Impianto = [this](int indice) { Apri_Impianto(indice); };
+  legami.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
+  pannello_.Collega_Finestre(std::move(legami));
+}
+
+Finestre::~Finestre() {
+  for (const QPointer<QWidget>& finestra :
+       {impianto_, editor_, impostazioni_, analogici_, stati_, debug_, aiuto_})
+    delete finestra.data();
+}
+
+void Finestre::Mostra_Editor(int avvio_file) {
+  const bool nuova = editor_.isNull();
+  Mostra(editor_, [this] {
+    Legami_Editor legami;
+    legami.Mostra_Pannello = [this] {
+      pannello_.show();
+      pannello_.raise();
+      pannello_.activateWindow();
+      pannello_.Attivata();
+    };
+    legami.Mostra_Debug = [this] { Mostra_Debug(); };
+    legami.Mostra_Stampe = [this] { Mostra_Stampe(); };
+    legami.Mostra_Info = [this] { Mostra_Info(); };
+    legami.Mostra_Aiuto = [this](const QString& pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
+    return new FrmMain(progetto_, plc_, std::move(legami));
+  });
+  if (nuova) static_cast<FrmMain*>(editor_.data())->Avvia(avvio_file);
+}
+
+void Finestre::Mostra_Impostazioni() {
+  Mostra(impostazioni_, [this] {
+    return new FrmSetPLC(plc_, Sim_Contraves, [this](bool contraves) {
+      pannello_.Controlli().Fronte->Sim_I(1).setVisible(!contraves);
+      pannello_.Controlli().Fronte->Sim_C().setVisible(contraves);
+    });
+  });
+}
+
+void Finestre::Mostra_Analogici() {
+  Mostra(analogici_, [this] { return new FrmSimAI(plc_); });
+}
+
+void Finestre::Mostra_Stati() {
+  Mostra(stati_, [this] { return new FrmStatiL(plc_, &pannello_); });
+}
+
+void Finestre::Apri_Impianto(int indice) {
+  pannello_.setCursor(Qt::WaitCursor);
+  auto collegamento = std::make_unique<Collegamento>(
+      plc_, impianto_aperto_, Tabella_Esercizi()[static_cast<std::size_t>(indice)],
+      [this](std::uint8_t modo) { pannello_.PLC_Sportello(modo); });
+  Collegamento& fili = *collegamento;
+  pannello_.Segna_Impianto(indice);
+  Mostra(impianto_, [&] { return new Finestra_Impianto(std::move(collegamento)); });
+  auto& finestra = static_cast<Finestra_Impianto&>(*impianto_);
+  finestra.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Panel + pagina); };
+  finestra.Chiusa = [this] {
+    pannello_.Segna_Impianto(-1);
+    if (stati_) stati_->close();
+  };
+  Mostra_Stati();
+  static_cast<FrmStatiL&>(*stati_).Poni(Twip(finestra.frameGeometry().width()) + 30, 0);
+  fili.Carica();
+  finestra.activateWindow();
+  pannello_.unsetCursor();
+}
+
+void Finestre::Mostra_Debug() {
+  Mostra(debug_, [this] { return new FrmDebug(progetto_); });
+}
+
+void Finestre::Mostra_Stampe() {
+  FrmStampe(progetto_).exec();
+}
+
+void Finestre::Mostra_Info() {
+  FrmAbaut(QApplication::activeWindow()).exec();
+}
+
+void Finestre::Mostra_Aiuto(const QString& indirizzo) {
+  guida_.Url_Help = indirizzo;
+  const bool nuova = aiuto_.isNull();
+  Mostra(aiuto_, [this] { return new FrmBrowser(guida_); });
+  if (!nuova) static_cast<FrmBrowser*>(aiuto_.data())->Vai(indirizzo);
+}
+
+}  // namespace tavorno

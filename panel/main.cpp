@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The process entry: makes the objects, connects them, runs.
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QStyleFactory>
+#include <QTranslator>
+#include <cstdio>
+
+#include "assets/resources.h"
+#include "panel/application.h"
+#include "panel/child_windows.h"
+#include "panel/run_driver.h"
+#include "widgets/qt_dialogs.h"
+
+using namespace tavorno;
+
+int main(int argc, char** argv) {
+  Applicazione applicazione(argc, argv);
+  Applicazione::setApplicationName(QStringLiteral("Tavorno"));
+  Applicazione::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  Applicazione::setQuitOnLastWindowClosed(false);
+  Apri_Risorse();
+  Applicazione::setWindowIcon(QIcon(QStringLiteral(":/icons/tavorno.svg")));
+  QTranslator italiano;
+  if (italiano.load(QStringLiteral("qtbase_it"),
+                    QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    Applicazione::installTranslator(&italiano);
+
+  Orologio orologio;
+  Plc plc(orologio);
+  Progetto progetto(plc, Dialoghi_Qt());
+  plc.Hook.Mostra = [](const Avviso& avviso) { Mostra_Avviso(nullptr, avviso); };
+  const QString cartella = Applicazione::applicationDirPath();
+  Guida guida{cartella + "/HTML/", cartella + "/HTML/Panel/", {}};
+
+  FrmPLC pannello(plc, progetto);
+  Guida_Corsa corsa(plc, [&pannello] { pannello.Aggiorna(); });
+  const Finestre finestre(pannello, plc, progetto, guida);
+
+  applicazione.Fine_Fatale = [&](const Fatale& fatale) {
+    corsa.Ferma();
+    const std::string rapporto = Rapporto_Fatale(fatale, plc);
+    std::fprintf(stderr, "%s\n", rapporto.c_str());
+    Mostra_Avviso(&pannello, {"Errore!", rapporto, Icona::Critica, Tasti::Ok, {}});
+  };
+  pannello.show();
+  return Applicazione::exec();
+}

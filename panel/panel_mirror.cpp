@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The panel as a mirror of the CPU: reads, never commands.
+#include <QAction>
+#include <QCheckBox>
+#include <QFrame>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QToolButton>
+
+#include "panel/controls/cpu_front.h"
+#include "panel/panel_window.h"
+#include "panel/program_list.h"
+#include "plc/number_text.h"
+#include "widgets/command_tables.h"
+#include "widgets/text.h"
+
+namespace tavorno {
+
+namespace {
+
+void Scrivi(QLabel& etichetta, const QString& testo) {
+  if (etichetta.text() != testo) etichetta.setText(testo);
+}
+
+void Colora(QLabel& etichetta, QPalette::ColorRole ruolo, QColor colore) {
+  if (etichetta.palette().color(ruolo) == colore) return;
+  QPalette colori = etichetta.palette();
+  colori.setColor(ruolo, colore);
+  etichetta.setPalette(colori);
+}
+
+}  // namespace
+
+void FrmPLC::Aggiorna() {
+  const unsigned segni = plc_.Prendi_Segni();
+  if (segni & Segno_Comandi) Mostra_Comandi();
+  if (segni & Segno_Lista) c_.listSrc->Scegli(plc_.Lista_Scelta);
+  if (segni & Segno_PC) Scrivi(*c_.etPc, QString::number(plc_.etPc));
+  if (segni & Segno_Tempo) Scrivi(*c_.etTime, Q(plc_.etTime));
+  if (segni & Segno_Immagini) Mostra_Immagini();
+  if (segni & Segno_Analogici) Mostra_Analogici();
+  if (c_.chkVs->isChecked()) Mostra_Pila();
+}
+
+void FrmPLC::Mostra_Comandi() {
+  if (acceso_mostrato_ != plc_.PLC_Acceso) PLC_Stato();
+  const Comandi& attivi = plc_.Attivi;
+  Azione(*this, "mnuPlcRun").setEnabled(attivi.mnuPlcRun);
+  Azione(*this, "mnuPlcStop").setEnabled(attivi.mnuPlcStop);
+  const struct {
+    const char* voce;
+    const char* tasto;
+    bool attivo;
+    Modo modo;
+  } modi[] = {{"mnuPlcCont", "tB1(Cont)", attivi.mnuPlcCont, Modo::Cont},
+              {"mnuPLCCiclo", "tB1(Ciclo)", attivi.mnuPlcCiclo, Modo::Ciclo},
+              {"mnuPlcStep", "tB1(Step)", attivi.mnuPlcStep, Modo::Step}};
+  for (const auto& riga : modi) {
+    for (const char* nome : {riga.voce, riga.tasto}) {
+      Azione(*this, nome).setEnabled(riga.attivo);
+      Azione(*this, nome).setChecked(riga.modo == plc_.Modo_Run);
+    }
+  }
+  Azione(*this, "tB1(Run)").setChecked(plc_.PLC_Acceso);
+  Azione(*this, "tB1(Stop)").setChecked(!plc_.PLC_Acceso);
+  Azione(*this, "mnuPLCPiu").setEnabled(attivi.CmdStep);
+  c_.CmdStep->setEnabled(attivi.CmdStep);
+  c_.cmdRest->setEnabled(attivi.cmdRest);
+  c_.SSTb3->setCurrentIndex(attivi.SSTb3);
+  c_.chkList->setChecked(plc_.Scelte.chkList);
+  Mostra_Modo();
+  Mostra_Tempo_Acceso();
+}
+
+void FrmPLC::PLC_Stato() {
+  const bool acceso = plc_.PLC_Acceso != 0;
+  acceso_mostrato_ = plc_.PLC_Acceso;
+  c_.Fronte->Stato(acceso);
+  for (const char* nome :
+       {"mnuFileNew", "mnuFileOpen", "mnuFileEdit", "tB1(New)", "tB1(Open)", "tB1(Save)"}) {
+    Azione(*this, nome).setEnabled(!acceso);
+  }
+}
+
+void FrmPLC::Mostra_Modo() {
+  static constexpr const char* nomi[] = {"Continuo", "Step", "Singolo Ciclo"};
+  Scrivi(*c_.stB[2], QStringLiteral("%1  -  %2")
+                         .arg(plc_.PLC_Acceso ? QStringLiteral("RUN") : QStringLiteral("STOP"),
+                              QString::fromUtf8(nomi[static_cast<int>(plc_.Modo_Run)])));
+}
+
+void FrmPLC::Mostra_Tempo_Acceso() {
+  const QColor verde(0x55, 0xf0, 0x6c);
+  const QColor grigio(0x80, 0x88, 0x90);
+  Colora(*c_.etTime, c_.etTime->foregroundRole(), plc_.Scelte.chkList ? verde : grigio);
+}
+
+void FrmPLC::Mostra_Immagini() {
+  for (std::size_t i = 0; i < 2; ++i) {
+    Scrivi(*c_.etIPI[i], Q(plc_.etIPI[i]));
+    Scrivi(*c_.etIPQ[i], Q(plc_.etIPQ[i]));
+  }
+}
+
+void FrmPLC::Mostra_Pila() {
+  const bool accesa = c_.chkVs->isChecked();
+  for (std::size_t i = 0; i < c_.etS.size(); ++i) {
+    Colora(*c_.etS[i], QPalette::Window,
+           accesa ? QColor(0x80, 0xff, 0xff) : QColor(0x80, 0x80, 0x80));
+    Scrivi(*c_.etS[i], accesa ? QString::number(plc_.Stak[static_cast<int>(i)]) : QString());
+  }
+}
+
+void FrmPLC::Mostra_Analogici() {
+  for (std::size_t n = 0; n < 3; ++n) {
+    const int canale = static_cast<int>(n);
+    Scrivi(*c_.etAI[n], QString::number(plc_.Mem_AIW[2 * canale]));
+    Scrivi(*c_.etAIV[n], Q(Formato(plc_.Volt_AI[canale], "0.0#")));
+  }
+  for (std::size_t n = 0; n < 2; ++n) {
+    const int canale = static_cast<int>(n);
+    Scrivi(*c_.etAQ[n], QString::number(plc_.Mem_AQW[2 * canale]));
+    Scrivi(*c_.etAQV[n], Q(Formato(plc_.Volt_AQ[canale], "0.0#")));
+  }
+}
+
+}  // namespace tavorno

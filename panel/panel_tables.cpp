@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/panel_tables.h"
+
+#include <array>
+
+namespace tavorno {
+
+namespace {
+
+constexpr std::array menu{
+    Voce_Menu{0, "mnuFile", "&File"},
+    Voce_Menu{1, "mnuFileNew", "&Nuovo Progetto", Spunta::Senza, "Ctrl+N"},
+    Voce_Menu{1, "mnuFileOpen", "&Apri Progetto", Spunta::Senza, "Ctrl+O"},
+    Voce_Menu{1, "mnuFileEdit", "&Modifica Progetto", Spunta::Senza, "Ctrl+E"},
+    Voce_Menu{1, "", ""},
+    Voce_Menu{1, "mnuFileEnd", "&Termina", Spunta::Senza, "Ctrl+Q"},
+    Voce_Menu{0, "mnuPlc", "&PLC"},
+    Voce_Menu{1, "mnuPlcRun", "&RUN", Spunta::Senza, "F5"},
+    Voce_Menu{1, "mnuPlcStop", "&STOP", Spunta::Senza, "Shift+F5"},
+    Voce_Menu{1, "", ""},
+    Voce_Menu{1, "mnuPlcStep", "&Esegui in Step", Spunta::Vuota},
+    Voce_Menu{1, "mnuPlcCont", "Esegui in &Continuo", Spunta::Messa},
+    Voce_Menu{1, "mnuPLCCiclo", "Esegui Sin&golo Ciclo", Spunta::Vuota},
+    Voce_Menu{1, "", ""},
+    Voce_Menu{1, "mnuPLCPiu", "Avanza di un &passo", Spunta::Senza, "F10"},
+    Voce_Menu{0, "mnuView", "&Visualizza"},
+    Voce_Menu{1, "mnuViewTB", "&Tool Bar", Spunta::Messa},
+    Voce_Menu{1, "mnuViewSTB", "&Status Bar", Spunta::Messa},
+    Voce_Menu{1, "", ""},
+    Voce_Menu{1, "mnuViewSet", "Finestra &Impostazioni PLC"},
+    Voce_Menu{1, "mnuViewKOP", "Finestra &Scalaro"},
+    Voce_Menu{1, "", ""},
+    Voce_Menu{1, "mnuViewIO", "Simulatore Ingressi A&nalogici"},
+    Voce_Menu{1, "mnuViewStati", "Finestra Stati &Elementi"},
+    Voce_Menu{0, "mnuProgetti", "&Simulatori Processi"},
+    Voce_Menu{0, "MnuHLP", "&Help"},
+    Voce_Menu{1, "mnuHlpGen", "&Indice", Spunta::Senza, "F1"},
+    Voce_Menu{1, "mnuHlpSet", "&Set Istruzioni"},
+    Voce_Menu{1, "", ""},
+    Voce_Menu{1, "mnuInfAb", "&About"},
+};
+
+constexpr std::array barra{
+    Tasto_Barra{"New", "Nuovo Progetto", "New"},
+    Tasto_Barra{"Open", "Apri Progetto", "Open"},
+    Tasto_Barra{"Save", "Modifica File Corrente", "Edit"},
+    Tasto_Barra{"Run", "Run PLC", "Run", true, true},
+    Tasto_Barra{"Stop", "Stop PLC", "Stop", true},
+    Tasto_Barra{"Step", "Step Mode", "Step", true, true},
+    Tasto_Barra{"Ciclo", "Esecuzione Singolo Ciclo", "Ciclo", true},
+    Tasto_Barra{"Cont", "Modo Continuo", "Cont", true},
+    Tasto_Barra{"SetPLC", "Impostazioni PLC", "SetPLC", false, true},
+    Tasto_Barra{"SetIst", "Set Istruzioni supportate", "SetIst"},
+    Tasto_Barra{"Debug", "Stoto Elementi", "Debug"},
+    Tasto_Barra{"Centra", "Centra Finestra", "Centra", false, true},
+    Tasto_Barra{"Info", "Informazioni", "Info"},
+    Tasto_Barra{"Termina", "Termina", "Termina"},
+};
+
+constexpr std::array voci_della_barra{
+    Tasto_Di_Voce{"New", "mnuFileNew"},     Tasto_Di_Voce{"Open", "mnuFileOpen"},
+    Tasto_Di_Voce{"Save", "mnuFileEdit"},   Tasto_Di_Voce{"Run", "mnuPlcRun"},
+    Tasto_Di_Voce{"Stop", "mnuPlcStop"},    Tasto_Di_Voce{"Step", "mnuPlcStep"},
+    Tasto_Di_Voce{"Ciclo", "mnuPLCCiclo"},  Tasto_Di_Voce{"Cont", "mnuPlcCont"},
+    Tasto_Di_Voce{"SetPLC", "mnuViewSet"},  Tasto_Di_Voce{"SetIst", "mnuHlpSet"},
+    Tasto_Di_Voce{"Debug", "mnuViewStati"}, Tasto_Di_Voce{"Info", "mnuInfAb"},
+    Tasto_Di_Voce{"Termina", "mnuFileEnd"},
+};
+
+}  // namespace
+
+std::span<const Voce_Menu> Menu_Pannello() {
+  return menu;
+}
+std::span<const Tasto_Barra> Barra_Pannello() {
+  return barra;
+}
+std::span<const Tasto_Di_Voce> Voci_Della_Barra() {
+  return voci_della_barra;
+}
+
+}  // namespace tavorno

@@ -1,0 +1,301 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The commands of the panel.
+#include "panel/panel_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QFrame>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QProcess>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QSlider>
+#include <QStandardPaths>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QWindow>
+
+#include "panel/controls/cpu_front.h"
+#include "panel/panel_tables.h"
+#include "panel/program_list.h"
+#include "plants/exercises.h"
+#include "plc/byte_text.h"
+#include "widgets/command_tables.h"
+#include "widgets/naming.h"
+#include "widgets/text.h"
+
+namespace tavorno {
+
+FrmPLC::FrmPLC(Plc& plc, Progetto& progetto) : plc_(plc), progetto_(progetto) {
+  setObjectName(QStringLiteral("frmPLC"));
+  setWindowTitle(QStringLiteral(" Simulatore PLC Siemens S7-200."));
+  Crea_Menu(*this, Menu_Pannello());
+  Crea_Menu_Processi();
+  c_ = Crea_Controlli(*this, plc_);
+
+  Scrivi_Stato(QStringLiteral("List: "));
+  c_.frSP->setVisible(false);
+  Collega_Comandi();
+  Collega_Barra();
+  Collega_Controlli();
+  PLC_Stato();
+  Mostra_Comandi();
+  Mostra_Pila();
+  Attivata();
+  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &FrmPLC::Fuoco_A);
+}
+
+void FrmPLC::Scrivi_Stato(const QString& lista) {
+  c_.stB[0]->setText(QStringLiteral("File: ") + Q(progetto_.File_Titolo));
+  c_.stB[1]->setText(lista + QString::number(plc_.NRighe));
+}
+
+void FrmPLC::Collega_Finestre(Legami_Pannello legami) {
+  legami_ = std::move(legami);
+  const struct {
+    const char* voce;
+    std::function<void()> apri;
+    bool esiste;
+  } voci[] = {
+      {"mnuFileNew", [this] { Apri_Editor(2); }, legami_.Mostra_Editor != nullptr},
+      {"mnuFileOpen", [this] { Apri_Editor(3); }, legami_.Mostra_Editor != nullptr},
+      {"mnuFileEdit", [this] { Modifica(); }, legami_.Mostra_Editor != nullptr},
+      {"mnuViewSet", legami_.Mostra_Impostazioni, legami_.Mostra_Impostazioni != nullptr},
+      {"mnuViewIO", legami_.Mostra_Analogici, legami_.Mostra_Analogici != nullptr},
+      {"mnuViewStati", legami_.Mostra_Stati, legami_.Mostra_Stati != nullptr},
+      {"mnuInfAb", legami_.Mostra_Info, legami_.Mostra_Info != nullptr},
+      {"mnuHlpGen", [this] { legami_.Mostra_Aiuto("Index.htm"); }, legami_.Mostra_Aiuto != nullptr},
+      {"mnuHlpSet", [this] { legami_.Mostra_Aiuto("SET_IST.htm"); },
+       legami_.Mostra_Aiuto != nullptr},
+  };
+  for (const auto& riga : voci) {
+    if (riga.esiste) Collega(*this, riga.voce, riga.apri);
+  }
+}
+
+// ---- menus --------------------------------------------------------------------------------------
+
+void FrmPLC::Collega_Comandi() {
+  Collega(*this, "mnuFileEnd", [this] { close(); });
+  Comando_Di_Corsa("mnuPlcRun", [this] { plc_.mnuPlcRun(); });
+  Comando_Di_Corsa("mnuPlcStop", [this] { plc_.mnuPlcStop(); });
+  Comando_Di_Corsa("mnuPLCCiclo", [this] { plc_.mnuPlcCiclo(); });
+  Comando_Di_Corsa("mnuPLCPiu", [this] { plc_.CmdStep(); });
+  Comando_Di_Corsa("mnuPlcStep", [this] {
+    c_.frSP->setVisible(true);
+    plc_.mnuPlcStep();
+  });
+  Comando_Di_Corsa("mnuPlcCont", [this] {
+    c_.frSP->setVisible(false);
+    plc_.mnuPlcCont();
+  });
+  Collega(*this, "mnuViewTB", [this] { c_.tB1->setVisible(!c_.tB1->isVisibleTo(this)); });
+  Collega(*this, "mnuViewSTB",
+          [this] { statusBar()->setVisible(!statusBar()->isVisibleTo(this)); });
+  Collega(*this, "mnuViewKOP", [this] { Apri_Scalaro(); });
+}
+
+/// A command that may start a run begins in an event of its own: the menu or button it was given
+/// with is done by then, while the run may go on for hours.
+void FrmPLC::Comando_Di_Corsa(const QString& voce, std::function<void()> comando) {
+  Collega(*this, voce, [this, voce, comando = std::move(comando)] {
+    // A choice ticks its entry by itself; what is ticked follows from the CPU.
+    plc_.Segna(Segno_Comandi);
+    if (Si_Puo(voce)) Piu_Tardi(comando);
+  });
+}
+
+void FrmPLC::Piu_Tardi(std::function<void()> comando) {
+  QMetaObject::invokeMethod(
+      this,
+      [this, comando = std::move(comando)] {
+        comando();
+        Aggiorna();
+      },
+      Qt::QueuedConnection);
+}
+
+void FrmPLC::Apri_Editor(int avvio_file) {
+  legami_.Mostra_Editor(avvio_file);
+}
+
+void FrmPLC::Modifica() {
+  plc_.mnuPlcStop();
+  Aggiorna();
+  c_.listSrc->clear();
+  for (const char* nome : {"mnuPlc", "mnuFileEdit", "tB1(Run)", "tB1(Save)"})
+    Azione(*this, nome).setEnabled(false);
+  Apri_Editor(1);
+}
+
+void FrmPLC::Apri_Scalaro() {
+  const QString programma = QStandardPaths::findExecutable(QStringLiteral("Scalaro.exe"));
+  if (!programma.isEmpty() && QProcess::startDetached(programma, {})) return;
+  progetto_.Chiedi.Mostra({"Attenzione!",
+                           programma.isEmpty()
+                               ? "Il programma \"Scalaro.exe\" non è installato in questo computer."
+                               : "Il programma \"Scalaro.exe\" non può essere avviato.",
+                           Icona::Critica,
+                           Tasti::Ok,
+                           {}});
+}
+
+void FrmPLC::closeEvent(QCloseEvent* evento) {
+  // A run in progress sees the flag behind the present line and leaves; the event loops follow.
+  plc_.Ferma = -1;
+  evento->accept();
+  QCoreApplication::quit();
+}
+
+void FrmPLC::Crea_Menu_Processi() {
+  QMenu* menu = Azione(*this, "mnuProgetti").menu();
+  for (const Esercizio& esercizio : Tabella_Esercizi()) {
+    QAction* voce =
+        Chiama(Con_Indice("mnuPrj", esercizio.Indice), menu->addAction(Q(esercizio.Voce)));
+    voce->setCheckable(true);
+    const int indice = esercizio.Indice;
+    connect(voce, &QAction::triggered, this, [this, indice] { legami_.Mostra_Impianto(indice); });
+  }
+  Segna_Impianto(-1);
+}
+
+void FrmPLC::Segna_Impianto(int indice) {
+  for (const Esercizio& esercizio : Tabella_Esercizi()) {
+    QAction& voce = Azione(*this, Con_Indice("mnuPrj", esercizio.Indice));
+    voce.setChecked(esercizio.Indice == indice);
+    voce.setEnabled(indice < 0 && esercizio.Crea != nullptr);
+  }
+}
+
+// ---- tool bar -----------------------------------------------------------------------------------
+
+void FrmPLC::Collega_Barra() {
+  for (const Tasto_Di_Voce& tasto : Voci_Della_Barra()) {
+    const QString voce = QString::fromUtf8(tasto.Voce);
+    Collega(*this, QStringLiteral("tB1(%1)").arg(tasto.Chiave),
+            [this, voce] { Premi_Tasto(voce); });
+  }
+  Collega(*this, "tB1(Centra)", [this] {
+    const QRect schermo = screen()->availableGeometry();
+    move(schermo.center() - QPoint(frameGeometry().width() / 2, frameGeometry().height() / 2));
+  });
+}
+
+bool FrmPLC::Si_Puo(const QString& voce) const {
+  const bool di_corsa = voce.startsWith(QStringLiteral("mnuPlc"), Qt::CaseInsensitive);
+  return Azione(*this, voce).isEnabled() && (!di_corsa || Azione(*this, "mnuPlc").isEnabled());
+}
+
+void FrmPLC::Premi_Tasto(const QString& voce) {
+  if (Si_Puo(voce)) Azione(*this, voce).trigger();
+  Mostra_Comandi();  // a button that stays pressed shows the CPU's state and not the click
+}
+
+// ---- controls -----------------------------------------------------------------------------------
+
+void FrmPLC::Collega_Controlli() {
+  for (std::size_t i = 0; i < 2; ++i) {
+    SimI& interruttori = c_.Fronte->Sim_I(static_cast<int>(i));
+    interruttori.Change = [this, i, &interruttori] { plc_.SI[i].Stato_I(interruttori.Stato_I()); };
+  }
+  SimC& contraves = c_.Fronte->Sim_C();
+  contraves.Change = [this, &contraves] { plc_.SI[1].Stato_I(contraves.SimC_Stato()); };
+
+  connect(c_.listSrc, &QListWidget::itemClicked, this, [this] {
+    if (!plc_.PLC_Acceso) c_.txtStop->setText(QString::number(c_.listSrc->currentRow()));
+  });
+
+  connect(c_.chkList, &QCheckBox::toggled, this, [this](bool acceso) {
+    plc_.Scelte.chkList = acceso;
+    Mostra_Tempo_Acceso();
+  });
+  connect(c_.chkIP, &QCheckBox::toggled, this, [this](bool acceso) {
+    plc_.Scelte.chkIP = acceso;
+    c_.picII->setVisible(acceso);
+  });
+  connect(c_.chkVs, &QCheckBox::toggled, this, &FrmPLC::Mostra_Pila);
+
+  // The two stop conditions exclude each other.
+  connect(c_.chkStop, &QCheckBox::toggled, this, [this](bool acceso) {
+    plc_.Scelte.chkStop = acceso;
+    if (acceso) c_.chkSol->setChecked(false);
+    c_.chkSol->setEnabled(!acceso);
+  });
+  connect(c_.chkSol, &QCheckBox::toggled, this, [this](bool acceso) {
+    plc_.Scelte.chkSol = acceso;
+    if (acceso) c_.chkStop->setChecked(false);
+    c_.chkStop->setEnabled(!acceso);
+  });
+  connect(c_.txtStop, &QLineEdit::textChanged, this,
+          [this](const QString& testo) { plc_.Scelte.txtStop = testo.toInt(); });
+  connect(c_.txtNC, &QLineEdit::textChanged, this,
+          [this](const QString& testo) { plc_.Scelte.txtNC = testo.toInt(); });
+
+  connect(c_.CmdStep, &QPushButton::clicked, this,
+          [this] { Azione(*this, "mnuPLCPiu").trigger(); });
+  connect(c_.cmdRest, &QPushButton::clicked, this,
+          [this] { Piu_Tardi([this] { plc_.cmdRest(); }); });
+
+  for (std::size_t i = 0; i < 2; ++i) {
+    connect(c_.SlidP[i], &QSlider::valueChanged, this, [this, i](int valore) {
+      c_.etPa[i]->setText(QString::number(valore));
+      plc_.Mem_SM[28 + static_cast<int>(i)].Val_B = static_cast<std::uint8_t>(valore);
+      c_.Fronte->Aggiorna_Vano();
+    });
+    const QString unita = i == 0 ? QStringLiteral("Volt") : QStringLiteral("mA");
+    const Scala scala = i == 0 ? Scala::Volt_10 : Scala::mA_20;
+    connect(c_.opzAI[i], &QRadioButton::clicked, this, [this, unita, scala] {
+      plc_.Scelte.opzAI = scala;
+      c_.Fronte->Aggiorna_Vano();
+      for (QLabel* etichetta : c_.etg1) etichetta->setText(unita);
+    });
+    connect(c_.opzAQ[i], &QRadioButton::clicked, this, [this, unita, scala] {
+      plc_.Scelte.opzAQ = scala;
+      c_.Fronte->Aggiorna_Vano();
+      for (QLabel* etichetta : c_.etg2) etichetta->setText(unita);
+    });
+  }
+}
+
+void FrmPLC::PLC_Sportello(std::uint8_t modo) {
+  c_.Fronte->PLC_Sportello(modo);
+}
+
+// ---- activation ---------------------------------------------------------------------------------
+
+void FrmPLC::Attivata() {
+  const bool caricata = progetto_.Carica_CPU != 0;
+  if (caricata) {
+    std::vector<std::string> righe;
+    for (int i = 0; i <= plc_.NRighe; ++i) righe.push_back(progetto_.Righe_Src[i].Testo_CPU);
+    c_.listSrc->Riempi(righe);
+    c_.listSrc->Scegli(plc_.Lista_Scelta);
+    Scrivi_Stato(QStringLiteral("List:"));
+    plc_.Init_PLC();
+  }
+  for (const char* nome : {"mnuPlc", "mnuFileEdit", "tB1(Run)", "tB1(Save)"})
+    Azione(*this, nome).setEnabled(caricata);
+  plc_.Attivi.cmdRest = false;
+  c_.cmdRest->setEnabled(false);
+}
+
+void FrmPLC::Fuoco_A(const QWindow* finestra) {
+  const QWidget* ora = nullptr;
+  for (const QWidget* candidata : QApplication::topLevelWidgets()) {
+    if (finestra != nullptr && candidata->windowHandle() == finestra) ora = candidata;
+  }
+  // No window of ours: another program. A message box or a menu: no coming and going.
+  if (finestra != nullptr && (ora == nullptr || !ora->objectName().startsWith("frm"))) return;
+  if (ora == this && prima_ != nullptr && prima_ != this) Attivata();
+  prima_ = ora;
+}
+
+}  // namespace tavorno
