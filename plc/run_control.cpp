@@ -213,10 +213,10 @@ void Plc::Tick_T100m() {
 void Plc::Tick_timIO() {
   constexpr int fondo_scala = 32000;
   if (Scelte.opzAI != Scala::Nessuna) {
-    const float portata = Scelte.opzAI == Scala::Volt_10 ? 10.0F : 20.0F;
+    const double portata = Scelte.opzAI == Scala::Volt_10 ? 10 : 20;
     for (int n = 0; n <= 2; ++n)
       Mem_AIW[2 * n] =
-          A_32(static_cast<long long>(std::floor(Volt_AI[n] * fondo_scala / portata)), "Mem_AIW");
+          A_32(static_cast<long long>(std::floor(Volt_AI[n] * double{fondo_scala} / portata)), "Mem_AIW");
   }
   const int portata = Scelte.opzAQ == Scala::Volt_10 ? 10 : 20;
   for (int n = 0; n <= 1; ++n)

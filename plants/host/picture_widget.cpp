@@ -31,6 +31,7 @@ Quadro::Quadro(Impianto& impianto, const QString& file, QWidget* sopra)
   ritmo_.setInterval(Ritmo);
   ritmo_.setTimerType(Qt::PreciseTimer);
   ritmo_.callOnTimeout(this, &Quadro::Ridisegna_Cambiate);
+  impianto_.Disegno.Prendi_Cambiate();  // what the making of the plant changed; all is drawn anyway
   impianto_.Disegno.Cambiata = [this] {
     if (!ritmo_.isActive()) ritmo_.start();
   };

@@ -65,6 +65,13 @@ focus() {
 }
 
 keys() { xdotool key --delay 30 "$@"; }
+write_lines() {
+  local line
+  for line in "$@"; do
+    xdotool type --delay 20 "$line"
+    keys Return
+  done
+}
 
 # Waits for the program's own end and checks its status.
 ends_with() {
@@ -98,4 +105,29 @@ load_project() {
   answer '^Attenzione!$'
   wait_gone 'Editor AWL'
   focus 'Simulatore PLC'
+}
+
+# Types a path into the file dialog of a title and closes it.
+choose_file() {
+  focus "$1"
+  keys ctrl+a
+  xdotool type --delay 10 "$2"
+  keys Return
+  wait_gone "$1"
+}
+
+# A piece of a window as it looks now, in pixels from the window's corner. Usage: piece WINDOW WxH+X+Y FILE
+piece() {
+  import -window "$(visible "$1" | tail -1)" -crop "$2" +repage "$3"
+}
+# Usage: looks_like WINDOW WxH+X+Y FILE; true when the piece is the same picture
+looks_like() {
+  piece "$1" "$2" "$work/now.png"
+  [ "$(compare -metric AE "$3" "$work/now.png" null: 2>&1)" = 0 ]
+}
+looks_unlike() { ! looks_like "$@"; }
+
+# Clicks a place of a window with the left button. Usage: click_at WINDOW X Y
+click_at() {
+  xdotool mousemove --window "$(visible "$1" | tail -1)" "$2" "$3" click 1
 }

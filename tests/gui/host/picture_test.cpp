@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Mouse and keys on a plant's picture, and what it draws.
 #include <QHelpEvent>
-#include <QPainter>
+#include <QPaintEvent>
+#include <QRegion>
 
 #include "host/host_bed.h"
 
@@ -91,6 +92,30 @@ TEST_F(Picture, ALampLightsUpOnTheScreen) {
   EXPECT_GT(accesa.green(), spenta.green() + 60);
   banco.plc.SQ[0].Stato_Q("00000000");
   EXPECT_EQ(grab().pixelColor(punto), spenta);
+}
+
+/// The places of a widget that were painted.
+struct Dipinto : QObject {
+  QRegion Posti;
+  bool eventFilter(QObject*, QEvent* evento) override {
+    if (evento->type() == QEvent::Paint) Posti += static_cast<QPaintEvent*>(evento)->region();
+    return false;
+  }
+};
+
+TEST_F(Picture, WhatChangesIsPaintedAgainAndNothingElse) {
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(banco.finestra.get(), 20000));
+  QCoreApplication::processEvents();
+  Dipinto dipinto;
+  quadro.installEventFilter(&dipinto);
+  for (const char* uscite : {"00100000", "00000000"}) {
+    dipinto.Posti = {};
+    banco.plc.SQ[0].Stato_Q(uscite);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !dipinto.Posti.isEmpty(); }, 20000));
+    EXPECT_TRUE(dipinto.Posti.contains(banco.Centro("imgLM")));
+    EXPECT_FALSE(dipinto.Posti.contains(banco.Centro("imgLA")));
+    EXPECT_FALSE(dipinto.Posti.contains(banco.Centro("imgM")));
+  }
 }
 
 TEST_F(Picture, AWireTurnsRed) {

@@ -12,6 +12,7 @@
 #include <QToolBar>
 
 #include "panel/panel_bed.h"
+#include "plants/exercises.h"
 
 namespace tavorno {
 namespace {
@@ -86,6 +87,44 @@ TEST_F(Testi_Pannello, MenuEntriesInOrder) {
   }
   for (const auto& [menu, quante] : posto)
     EXPECT_EQ(Azione(pannello, menu).menu()->actions().size(), quante) << menu.toStdString();
+}
+
+TEST_F(Testi_Pannello, ShortCuts) {
+  const std::map<QString, QString> attesi = {{"mnuFileNew", "Ctrl+N"},  {"mnuFileOpen", "Ctrl+O"},
+                                             {"mnuFileEdit", "Ctrl+E"}, {"mnuFileEnd", "Ctrl+Q"},
+                                             {"mnuPlcRun", "F5"},       {"mnuPlcStop", "Shift+F5"},
+                                             {"mnuPLCPiu", "F10"},      {"mnuHlpGen", "F1"}};
+  std::map<QString, QString> presenti;
+  for (const QAction* azione : pannello.findChildren<QAction*>()) {
+    if (!azione->shortcut().isEmpty())
+      presenti[azione->objectName()] = azione->shortcut().toString();
+  }
+  EXPECT_EQ(presenti, attesi);
+}
+
+TEST_F(Testi_Pannello, TheExercisesInTheirOrder) {
+  const auto menu = Azione(pannello, "mnuProgetti").menu()->actions();
+  ASSERT_EQ(menu.size(), 18);
+  for (const Esercizio& esercizio : Tabella_Esercizi()) {
+    const QAction& voce = *menu[esercizio.Indice];
+    EXPECT_EQ(voce.objectName(), QStringLiteral("mnuPrj(%1)").arg(esercizio.Indice));
+    EXPECT_EQ(voce.text(), QString::fromUtf8(esercizio.Voce));
+    EXPECT_TRUE(voce.isCheckable());
+    EXPECT_FALSE(voce.isChecked());
+    EXPECT_EQ(voce.isEnabled(), esercizio.Crea != nullptr);
+  }
+}
+
+TEST_F(Testi_Pannello, AnOpenExerciseLocksTheMenu) {
+  pannello.Segna_Impianto(2);
+  for (const Esercizio& esercizio : Tabella_Esercizi()) {
+    const QString nome = QStringLiteral("mnuPrj(%1)").arg(esercizio.Indice);
+    EXPECT_FALSE(Azione(pannello, nome).isEnabled());
+    EXPECT_EQ(Azione(pannello, nome).isChecked(), esercizio.Indice == 2);
+  }
+  pannello.Segna_Impianto(-1);
+  EXPECT_TRUE(Azione(pannello, "mnuPrj(0)").isEnabled());
+  EXPECT_FALSE(Azione(pannello, "mnuPrj(2)").isChecked());
 }
 
 TEST_F(Testi_Pannello, ToolBarInOrder) {
