@@ -1,0 +1,346 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plants/garage.h"
+
+#include <cmath>
+#include <string>
+
+#include "plants/garage_figures.h"
+
+namespace tavorno {
+
+using namespace garage;
+
+namespace {
+
+constexpr const char* default_ingressi = "0001000100010001";
+constexpr const char* default_uscite = "0000000000000000";
+constexpr int periodo = 100;  // of every timer, ms
+
+constexpr Colore rosso = Tavolozza(12), verde = Tavolozza(10), verde_scuro = Tavolozza(2);
+constexpr Colore giallo = Tavolozza(14), giallo_scuro = 49344, grigio = Tavolozza(8);
+constexpr Colore blu_scuro = Tavolozza(1), riposo = Tavolozza(15);
+
+// Positions of the cars, twips.
+constexpr float ingresso_left = 960, ingresso_top = 4500;
+constexpr float uscita_left = 3600, uscita_top = 1500;
+constexpr float corsia = 2340;  // of the lane that all spaces open to
+constexpr float passo_retromarcia = 80;
+constexpr int prima_fila = 3;  // spaces up to this one lie above the lane, the others below
+
+}  // namespace
+
+/// One way through the wall with its motor, and what sees a car there.
+struct ctr_Garage::Corsia {
+  const char *Sensore, *Lampada_Sensore;
+  int Presenza;  ///< input of the sensor
+  const char *Raggio, *Lampada_Raggio;
+  int Interrotto;  ///< input of the photocell
+  const char *Motore, *Contatto_Termico;
+  int Termico;             ///< input of the thermal relay
+  int Apertura, Chiusura;  ///< inputs of the auxiliary contacts
+};
+
+struct ctr_Garage::Contattore {
+  int Uscita, Ingresso;
+  const char *Nome, *Contatto;
+  Temporizzatore ctr_Garage::*Moto;
+  const Corsia* Di;
+  bool Ferma;  ///< letting go, it shows the motor at rest even if its twin holds
+};
+
+/// A barrier on its way to one of its ends.
+struct ctr_Garage::Sbarra {
+  const char* Nome;
+  float Verso, Limite;
+  int Lasciato;  ///< input of the limit switch that it leaves
+  const char* Spia_Lasciato;
+  int Raggiunto;  ///< input of the one that it reaches
+  const char* Spia_Raggiunto;
+  std::int16_t ctr_Garage::*Aperta;
+  std::int16_t Alla_Fine;                  ///< that flag at the end
+  Temporizzatore ctr_Garage::*Via_Libera;  ///< car that then drives; nullptr for none
+};
+
+// clang-format off
+const ctr_Garage::Corsia ctr_Garage::entrata_ = {
+    "shI", "imgLTI",  2, "linFC(0)", "imgLFC0",  5, "imgMI", "imgFR(0)",  8,  6,  7};
+const ctr_Garage::Corsia ctr_Garage::uscita_ = {
+    "shU", "imgLTU", 10, "linFC(1)", "imgLFCU", 13, "imgMU", "imgFR(1)", 16, 15, 14};
+
+const ctr_Garage::Contattore ctr_Garage::contattori_[] = {
+    {1,  6, "shKM(0)", "imgKMa(0)", &ctr_Garage::timSBIOpen,  &entrata_, true},
+    {2,  7, "shKM(1)", "imgKMa(1)", &ctr_Garage::timSBIClose, &entrata_, false},
+    {7, 14, "shKM(3)", "imgKMa(3)", &ctr_Garage::timSBUClose, &uscita_,  false},
+    {8, 15, "shKM(2)", "imgKMa(2)", &ctr_Garage::timSBUOpen,  &uscita_,  false},
+};
+
+const ctr_Garage::Sbarra ctr_Garage::apre_ingresso_ = {
+    "shS0",  1, 1800,  3, "shSQ2",  4, "shSQ3", &ctr_Garage::Sbarra_I_Aperta, -1, &ctr_Garage::Timer1};
+const ctr_Garage::Sbarra ctr_Garage::chiude_ingresso_ = {
+    "shS0", -1,  660,  4, "shSQ3",  3, "shSQ2", &ctr_Garage::Sbarra_I_Aperta,  0, nullptr};
+const ctr_Garage::Sbarra ctr_Garage::apre_uscita_ = {
+    "shS1", -1, 1740, 11, "shSQ5", 12, "shSQ6", &ctr_Garage::Sbarra_U_Aperta, -1, &ctr_Garage::timOut2};
+const ctr_Garage::Sbarra ctr_Garage::chiude_uscita_ = {
+    "shS1",  1, 2940, 12, "shSQ6", 11, "shSQ5", &ctr_Garage::Sbarra_U_Aperta,  0, nullptr};
+// clang-format on
+
+ctr_Garage::ctr_Garage(Orologio& orologio)
+    : Impianto(figure, default_ingressi, Invio::Doppio),
+      timSBIOpen(orologio, periodo, [this] { Muovi(apre_ingresso_); }),
+      timSBIClose(orologio, periodo, [this] { Muovi(chiude_ingresso_); }),
+      timSBUOpen(orologio, periodo, [this] { Muovi(apre_uscita_); }),
+      timSBUClose(orologio, periodo, [this] { Muovi(chiude_uscita_); }),
+      Timer1(orologio, periodo, [this] { Tick_Timer1(); }),
+      Timer2(orologio, periodo, [this] { Tick_Timer2(); }),
+      timOut0(orologio, periodo, [this] { Tick_timOut0(); }),
+      timOut1(orologio, periodo, [this] { Tick_timOut1(); }),
+      timOut2(orologio, periodo, [this] { Tick_timOut2(); }) {
+  for (const Contattore& contattore : contattori_) Disegno[contattore.Nome].FillColor = riposo;
+  for (const Riga_Lampeggiante& lampada : lampeggianti)
+    Disegno[lampada.Nome].FillColor = giallo_scuro;
+  for (int n = 0; n < 16; ++n)
+    Disegno("etI", n).Caption = "I" + std::to_string(n / 8) + "." + std::to_string(n % 8);
+  Disegno["cmdIng"].Caption = "Nuovo Ingresso";
+  Disegno["cmdReset"].Caption = "Reset";
+  Riposo();
+
+  Monta(pulsanti);
+  Disegno["imgPSB(0)"].Clic = [this] { SB1_Premuto(); };
+  Disegno["cmdIng"].Clic = [this] { cmdIng(); };
+  Disegno["cmdReset"].Clic = [this] { cmdReset(); };
+  for (int posto = 1; posto <= Posti; ++posto)
+    Disegno("imgM", posto).Clic = [this, posto] { Esci(posto); };
+  Disegno[entrata_.Motore].Clic = [this] { Termico(entrata_); };
+  Disegno[uscita_.Motore].Clic = [this] { Termico(uscita_); };
+
+  Regolatori["ME_Speed"] = {[this](double valore) {
+                              const auto passo = static_cast<float>(std::lrint(valore));
+                              Passo_Sbarra = passo;
+                              Passo_Auto = passo + 0.8F;
+                            },
+                            0, -32768, 32767};
+  Regolatori["ME_DisabilitaI"] = {[this](double) {
+    for (int n = 0; n < 16; ++n) Disegno("etI", n).ForeColor = grigio;
+  }};
+}
+
+void ctr_Garage::Applica_Uscite() {
+  for (const Contattore& contattore : contattori_) {
+    if (Uscita_Cambiata(contattore.Uscita)) Comanda(contattore, Uscita(contattore.Uscita) == "1");
+  }
+  for (const Riga_Lampada& lampada : lampade) {
+    if (Uscita_Cambiata(lampada.Uscita)) Mostra(lampada, Uscita(lampada.Uscita));
+  }
+  for (const Riga_Lampeggiante& lampada : lampeggianti) {
+    if (!Uscita_Cambiata(lampada.Uscita)) continue;
+    const bool accesa = Uscita(lampada.Uscita) == "1";
+    Disegno[lampada.Nome].FillColor = accesa ? giallo : giallo_scuro;
+    Disegno[lampada.Nome].Picture = accesa ? "imgLG" : Lampada_Spenta;
+  }
+}
+
+void ctr_Garage::Comanda(const Contattore& contattore, bool eccitato) {
+  Ingresso(contattore.Ingresso, eccitato ? '1' : '0');
+  Disegno[contattore.Nome].FillColor = eccitato ? rosso : riposo;
+  Disegno[contattore.Contatto].Picture = eccitato ? "imgAuxC" : "imgAuxA";
+  const bool gira = eccitato || (!contattore.Ferma && Comandato(*contattore.Di));
+  Disegno[contattore.Di->Motore].Picture = gira ? "imgMON" : "imgMOF";
+  (this->*contattore.Moto).Enabled(eccitato);
+  Invia();
+}
+
+void ctr_Garage::Muovi(const Sbarra& sbarra) {
+  Figura& barra = Disegno[sbarra.Nome];
+  barra.Left = barra.Left + sbarra.Verso * Passo_Sbarra;
+  Ingresso(sbarra.Lasciato, '1');
+  Disegno[sbarra.Spia_Lasciato].FillColor = verde_scuro;
+  if ((barra.Left - sbarra.Limite) * sbarra.Verso >= 0) {
+    this->*sbarra.Aperta = sbarra.Alla_Fine;
+    Ingresso(sbarra.Raggiunto, '0');
+    Disegno[sbarra.Spia_Raggiunto].FillColor = rosso;
+    if (sbarra.Via_Libera) (this->*sbarra.Via_Libera).Enabled(true);
+  }
+  Invia();
+}
+
+void ctr_Garage::Corsia_Occupata(const Corsia& corsia, bool occupata) {
+  Disegno[corsia.Sensore].FillColor = occupata ? giallo : riposo;
+  Disegno[corsia.Lampada_Sensore].Picture = occupata ? "imgLG" : Lampada_Spenta;
+  Ingresso(corsia.Presenza, occupata ? '1' : '0');
+}
+
+void ctr_Garage::Fotocellula(const Corsia& corsia, bool interrotta) {
+  Disegno[corsia.Raggio].FillColor = interrotta ? blu_scuro : giallo;
+  Disegno[corsia.Lampada_Raggio].Picture = interrotta ? "imgLG" : Lampada_Spenta;
+  Ingresso(corsia.Interrotto, interrotta ? '1' : '0');
+}
+
+bool ctr_Garage::Comandato(const Corsia& corsia) const {
+  return Ingresso(corsia.Apertura) == '1' || Ingresso(corsia.Chiusura) == '1';
+}
+
+// A tripped relay only tells of itself; stopping the motor is the program's work.
+void ctr_Garage::Termico(const Corsia& corsia) {
+  const bool scatta = Ingresso(corsia.Termico) == '1';
+  Disegno[corsia.Motore].Picture = scatta ? "imgMRT" : Comandato(corsia) ? "imgMON" : "imgMOF";
+  Disegno[corsia.Contatto_Termico].Picture = scatta ? "aperto" : "chiuso";
+  Ingresso(corsia.Termico, scatta ? '0' : '1');
+  Invia();
+}
+
+// ---- a car comes in -----------------------------------------------------------------------------
+
+void ctr_Garage::cmdIng() {
+  entra.Visible = true;
+  Corsia_Occupata(entrata_, true);
+  Disegno["cmdIng"].Visible = false;
+  Auto_Pronta = -1;
+  Invia();
+}
+
+void ctr_Garage::SB1_Premuto() {
+  if (Auto_In_Ingresso == -1 || Auto_Pronta == 0 || Posti_Occupati == Posti) return;
+  Auto_In_Ingresso = -1;
+  for (std::int16_t posto = Posti; posto >= 1; --posto) {
+    if (Posto_Occupato.at(static_cast<std::size_t>(posto)) == 0) Posto_Scelto = posto;
+  }
+}
+
+void ctr_Garage::Tick_Timer1() {
+  entra.Top = entra.Top - Passo_Auto;
+  const float y = entra.Top;
+  if (y < 3780) Corsia_Occupata(entrata_, false);
+  if (y < corsia) {
+    Timer1.Enabled(false);
+    Timer2.Enabled(true);
+  }
+  Fotocellula(entrata_, y < 3360 && y > 2820);
+  Invia();
+}
+
+// Before the first accepted car there is no chosen space, and the hidden car parks nowhere.
+void ctr_Garage::Tick_Timer2() {
+  const Figura& posto = Disegno("imgM", Posto_Scelto);
+  entra.Left = posto.Left;
+  if (Posto_Scelto <= prima_fila) {
+    entra.Top = entra.Top - Passo_Auto;
+    if (entra.Top < 1380) Parcheggia();
+  } else {
+    entra.Top = entra.Top + passo_retromarcia;
+    if (entra.Top >= 3300) Parcheggia();
+  }
+}
+
+void ctr_Garage::Parcheggia() {
+  Timer2.Enabled(false);
+  Disegno("imgM", Posto_Scelto).Visible = true;
+  entra.Visible = false;
+  entra.Left = ingresso_left;
+  entra.Top = ingresso_top;
+  Posto_Occupato.at(static_cast<std::size_t>(Posto_Scelto)) = -1;
+  Conta(1);
+  if (Posti_Occupati == Posti) {
+    Disegno["EtInf"].Caption = "OCCUPATO";
+    Disegno["EtInf"].ForeColor = rosso;
+  }
+  Disegno["cmdIng"].Visible = true;
+  Auto_In_Ingresso = 0;
+}
+
+void ctr_Garage::Conta(int variazione) {
+  Posti_Occupati = static_cast<std::int16_t>(Posti_Occupati + variazione);
+  Disegno["etPosti"].Caption = std::to_string(Posti - Posti_Occupati);
+}
+
+void ctr_Garage::Libero() {
+  Disegno["EtInf"].Caption = "LIBERO";
+  Disegno["EtInf"].ForeColor = verde;
+}
+
+// ---- a car goes out -----------------------------------------------------------------------------
+
+void ctr_Garage::Esci(int posto) {
+  if (Auto_In_Uscita == -1) return;
+  Figura& parcheggiata = Disegno("imgM", posto);
+  Posto_Uscita = static_cast<std::int16_t>(posto);
+  esce.Left = parcheggiata.Left;
+  esce.Top = parcheggiata.Top;
+  esce.Visible = true;
+  parcheggiata.Visible = false;
+  timOut0.Enabled(true);
+  Auto_In_Uscita = -1;
+}
+
+void ctr_Garage::Tick_timOut0() {
+  const bool sopra = Posto_Uscita <= prima_fila;
+  esce.Top = esce.Top + (sopra ? Passo_Auto : -Passo_Auto);
+  if (sopra ? esce.Top > corsia : esce.Top < corsia) {
+    timOut0.Enabled(false);
+    timOut1.Enabled(true);
+  }
+}
+
+void ctr_Garage::Tick_timOut1() {
+  esce.Left = uscita_left;
+  esce.Top = esce.Top - Passo_Auto;
+  if (esce.Top > uscita_top) return;
+  esce.Top = uscita_top;
+  timOut1.Enabled(false);
+  Corsia_Occupata(uscita_, true);
+  Invia();
+}
+
+void ctr_Garage::Tick_timOut2() {
+  esce.Top = esce.Top - Passo_Auto;
+  const float y = esce.Top;
+  if (y <= 840) Corsia_Occupata(uscita_, false);
+  Fotocellula(uscita_, y < 300 && y > -240);
+  if (y <= -600) {
+    timOut2.Enabled(false);
+    esce.Visible = false;
+    Posto_Occupato.at(static_cast<std::size_t>(Posto_Uscita)) = 0;
+    Conta(-1);
+    Disegno["cmdIng"].Visible = true;
+    Libero();
+    Auto_In_Uscita = 0;
+  }
+  Invia();
+}
+
+// ---- reset --------------------------------------------------------------------------------------
+
+/// No car, closed barriers, nothing tripped: how the picture starts, and what a reset goes back to.
+void ctr_Garage::Riposo() {
+  for (int posto = 0; posto <= Posti; ++posto) Disegno("imgM", posto).Visible = false;
+  entra.Left = ingresso_left;
+  entra.Top = ingresso_top;
+  esce.Visible = false;
+  for (const Corsia* corsia : {&entrata_, &uscita_}) {
+    Corsia_Occupata(*corsia, false);
+    Fotocellula(*corsia, false);
+    Disegno[corsia->Contatto_Termico].Picture = "chiuso";
+    Disegno[corsia->Motore].Picture = "imgMOF";
+  }
+  for (const Sbarra* sbarra : {&chiude_ingresso_, &chiude_uscita_}) {
+    Disegno[sbarra->Nome].Left = sbarra->Limite;
+    Disegno[sbarra->Spia_Raggiunto].FillColor = rosso;
+    Disegno[sbarra->Spia_Lasciato].FillColor = verde_scuro;
+  }
+  Libero();
+  Disegno["etPosti"].Caption = std::to_string(Posti);
+  Disegno["cmdIng"].Visible = true;
+}
+
+void ctr_Garage::cmdReset() {
+  Stato_I(default_ingressi);
+  Stato_Q(default_uscite);
+  for (Temporizzatore* timer : {&Timer1, &Timer2, &timOut0, &timOut1, &timOut2})
+    timer->Enabled(false);
+  Riposo();
+  Posto_Occupato.fill(0);
+  Posti_Occupati = 0;
+  Sbarra_I_Aperta = Sbarra_U_Aperta = 0;
+  Auto_In_Ingresso = Auto_In_Uscita = Auto_Pronta = 0;
+}
+
+}  // namespace tavorno

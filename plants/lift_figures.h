@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plants/parts.h"
+#include "plants/scene.h"
+
+// Where the parts of the lift stand, in the order in which they are drawn.
+namespace tavorno::ascensore {
+
+constexpr const char* pulsante_su = "imgRil";    // a key of the service box, at rest
+constexpr const char* pulsante_giu = "imgPrem";  // and down
+
+// clang-format off
+constexpr Riga_Figura figure[] = {
+    // name, left, top, width, height, picture at first, tool tip
+    {"lin2",       1200,  780,   15,  240},
+    {"lin1",       2565,  780,   15, 3960},
+    {"imgP",       2400, 4740,  360,  660},
+    {"imgC",        660, 1020, 1095,  810},
+    {"linFC",       720, 1560,  975,   30},
+    {"ShP(0)",      660, 1140,  555,  660},
+    {"ShP(1)",     1200, 1140,  555,  660},
+    {"imgLFC",     1050, 1320,  315,  480, "libera", "Persona tra le porte (fotocellula B1), I1.6"},
+    {"imgM",       1080,  180,  660,  540, "imgMOF"},
+    {"imgSu",      1860,  390,  210,  300},
+    {"imgGiu",     2100,  390,  210,  300},
+
+    {"imgSC(0)",   2160, 4560,  180,  120, "spento"},
+    {"imgSC(1)",   2160, 3360,  180,  120, "spento"},
+    {"imgSC(2)",   2160, 2160,  180,  120, "spento"},
+    {"imgSC(3)",   2160,  980,  180,  120, "acceso"},
+
+    {"EtP(0)",     3000, 4740,  300,  300},
+    {"EtP(1)",     3000, 3540,  300,  300},
+    {"EtP(2)",     3000, 2340,  300,  300},
+    {"EtP(3)",     3000, 1160,  300,  300},
+    {"shFcP(0)",   3060, 5100,  180,  120},
+    {"shFcP(1)",   3060, 3900,  180,  120},
+    {"shFcP(2)",   3060, 2700,  180,  120},
+    {"shFcP(3)",   3060, 1520,  180,  120},
+    {"imgPP(0)",   3480, 1220,  360,  360, "imgBOFF", "Chiamata terzo piano (SB4), I1.0"},
+    {"imgPP(1)",   3480, 2400,  360,  360, "imgBOFF", "Chiamata secondo piano (SB3), I0.7"},
+    {"imgPP(2)",   3480, 3600,  360,  360, "imgBOFF", "Chiamata primo piano (SB2), I0.6"},
+    {"imgPP(3)",   3480, 4800,  360,  360, "imgBOFF", "Chiamata piano terra (SB1), I0.5"},
+    {"imgLP(0)",   3960, 4800,  360,  360, Lampada_Spenta, "Lampada piano terra (HL1), Q0.4"},
+    {"imgLP(1)",   3960, 3600,  360,  360, Lampada_Spenta, "Lampada primo piano (HL2), Q0.5"},
+    {"imgLP(2)",   3960, 2400,  360,  360, Lampada_Spenta, "Lampada secondo piano (HL3), Q0.6"},
+    {"imgLP(3)",   3960, 1220,  360,  360, Lampada_Spenta, "Lampada terzo piano (HL4), Q0.7"},
+
+    {"imgPC(4)",   5100,  540,  420,  420, "imgROFF", "Arresto cabina (SB5), I1.1"},
+    {"imgPC(3)",   5100, 1080,  420,  420, "imgBOFF", "Mandata terzo piano (SB6), I1.2"},
+    {"imgPC(2)",   5100, 1620,  420,  420, "imgBOFF", "Mandata secondo piano (SB7), I1.3"},
+    {"imgPC(1)",   5100, 2160,  420,  420, "imgBOFF", "Mandata primo piano (SB8), I1.4"},
+    {"imgPC(0)",   5100, 2700,  420,  420, "imgBOFF", "Mandata piano terra (SB9), I1.5"},
+    {"imgLC(3)",   5730, 1080,  420,  420, Lampada_Spenta, "Lampada cabina terzo piano (HL5), Q1.0"},
+    {"imgLC(2)",   5730, 1620,  420,  420, Lampada_Spenta, "Lampada cabina secondo piano (HL6), Q1.1"},
+    {"imgLC(1)",   5730, 2160,  420,  420, Lampada_Spenta, "Lampada cabina primo piano (HL7), Q1.2"},
+    {"imgLC(0)",   5730, 2700,  420,  420, Lampada_Spenta, "Lampada cabina piano terra (HL8), Q1.3"},
+    {"imgLOver",   5100, 3240,  420,  420, Lampada_Spenta, "Sovraccarico cabina (HL9), Q1.4"},
+    {"imgLAlarm",  5730, 3240,  420,  420, Lampada_Spenta, "Malfunzionamento (HL10), Q1.5"},
+
+    {"shFcP(4)",   4860, 4500,  180,  180, "", "Porte chiuse (SQ5), I0.4"},
+    {"shFcP(5)",   4860, 4800,  180,  180, "", "Porte aperte (SQ6), I1.7"},
+    {"EtPos",      5640, 5070,  780,  240},
+
+    {"Label3",     6840,  300, 1980,  240},
+    {"imgCom",     6960,  660,  600,  600, "imgCS", "Selettore SA1: servizio o manutenzione"},
+    {"imgLAl",     8040,  720,  480,  480, Lampada_Spenta},
+    {"etIn(1)",    6840, 1380, 1980,  240},
+    {"etIn(2)",    6840, 1620, 1980,  240},
+    {"cmdSu",      6900, 2040,  900,  480, pulsante_su, "Salita a mano, in manutenzione"},
+    {"cmdGiu",     7860, 2040,  900,  480, pulsante_su, "Discesa a mano, in manutenzione"},
+    {"cmdOpen",    6900, 2640,  900,  480, pulsante_su, "Chiude le porte a mano, in manutenzione"},
+    {"cmdClose",   7860, 2640,  900,  480, pulsante_su, "Apre le porte a mano, in manutenzione"},
+
+    {"Label5",     6840, 3660, 1980,  240},
+    {"EtCC",       6960, 4080,  900,  360},
+    {"UpD1",       7980, 3960,  540,  600, "", "Carico della cabina (T_P), AIW0"},
+};
+
+constexpr Riga_Pulsante pulsanti[] = {
+    // name, input, down, up, picture down, picture up
+    {"imgPP(0)",  9, '1', '0', "imgBON", "imgBOFF"},
+    {"imgPP(1)",  8, '1', '0', "imgBON", "imgBOFF"},
+    {"imgPP(2)",  7, '1', '0', "imgBON", "imgBOFF"},
+    {"imgPP(3)",  6, '1', '0', "imgBON", "imgBOFF"},
+    {"imgPC(0)", 14, '1', '0', "imgBON", "imgBOFF"},
+    {"imgPC(1)", 13, '1', '0', "imgBON", "imgBOFF"},
+    {"imgPC(2)", 12, '1', '0', "imgBON", "imgBOFF"},
+    {"imgPC(3)", 11, '1', '0', "imgBON", "imgBOFF"},
+    {"imgPC(4)", 10, '0', '1', "imgRON", "imgROFF"},
+};
+
+constexpr Riga_Lampada lampade[] = {
+    {"imgLP(0)",   5, "imgLG"},
+    {"imgLP(1)",   6, "imgLG"},
+    {"imgLP(2)",   7, "imgLG"},
+    {"imgLP(3)",   8, "imgLG"},
+    {"imgLC(3)",   9, "imgLG"},
+    {"imgLC(2)",  10, "imgLG"},
+    {"imgLC(1)",  11, "imgLG"},
+    {"imgLC(0)",  12, "imgLG"},
+    {"imgLOver",  13, "imgLR"},
+    {"imgLAlarm", 14, "imgLR"},
+};
+// clang-format on
+
+}  // namespace tavorno::ascensore
