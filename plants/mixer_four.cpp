@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plants/mixer_four.h"
+
+#include <algorithm>
+#include <string>
+
+namespace tavorno {
+
+namespace {
+
+constexpr const char* scatta = "Click per simulare intervento";
+constexpr const char* manca = "Tenere premuto per simulare la mancanza di prodotto";
+
+// clang-format off
+// name, left, top, width, height, picture at first, tool tip
+//
+// imgTG(n) leads from the tank of a product to its valve, imgTOP from the valves to the pump, imgTVP
+// from the pump into the mixing tank.
+constexpr Riga_Figura figure[] = {
+    {"imgLiquido", 3480, 2699, 1500, 1},
+    {"shL",       3480, 2700, 1500,    0},
+    {"imgSp",     3720,  900,  240,  240},
+    {"ShDos",     3810, 2280,  840,  240, "imgDos4"},
+    {"imgVasca",  3420,  780, 1620, 2040},
+    {"imgTG(0)",   360,  900,   60,  840, "imgTOF"},
+    {"imgTG(1)",   900,  900,   60,  840, "imgTOF"},
+    {"imgTG(2)",  1440,  900,   60,  840, "imgTOF"},
+    {"imgTG(3)",  1980,  900,   60,  840, "imgTOF"},
+    {"imgTG(4)",  2700, 2700, 1560,  360, "imgTOF"},
+    {"imgTOP",     360, 1710, 2040,   60, "imgTOF"},
+    {"imgTVP",    2760,  480, 1140, 1290, "imgTOF"},
+    {"imgV(0)",    270, 1080,  480,  360, "imgEVOF"},
+    {"imgV(1)",    810, 1080,  480,  360, "imgEVOF"},
+    {"imgV(2)",   1350, 1080,  480,  360, "imgEVOF"},
+    {"imgV(3)",   1890, 1080,  480,  360, "imgEVOF"},
+    {"imgV(4)",   3060, 2640,  360,  480, "imgEVOF"},
+    {"imgM(0)",   2280, 1500,  480,  480, "imgMOF", scatta},
+    {"imgM(1)",   3990,  120,  480,  480, "imgMOF", scatta},
+    {"imgTr",     2880, 1080,  300,  300, "imgTrOF"},
+    {"EtP",       2880, 1920,  480,  180},
+    {"etGP(0)",    180,  540,  420,  240, "", manca},
+    {"etGP(1)",    720,  540,  420,  240, "", manca},
+    {"etGP(2)",   1260,  540,  420,  240, "", manca},
+    {"etGP(3)",   1800,  540,  420,  240, "", manca},
+    {"imgTL(0)",  5115, 2605,  150,  150},
+    {"imgTL(1)",  5115, 2225,  150,  150},
+    {"imgTL(2)",  5115, 1825,  150,  150},
+    {"imgTL(3)",  5115, 1425,  150,  150},
+    {"imgTL(4)",  5115, 1025,  150,  150},
+    {"etcap",      420, 2520,  480,  180},
+    {"etAI",      1440, 2520,  480,  180},
+    {"imgSB(0)",  5670,  480,  480,  480, "imgSBOF", "SB1 Start ciclo, I0.0"},
+    {"imgSB(1)",  6210,  480,  480,  480, "imgSBOF", "SB2 Stop Ciclo, I0.5"},
+    {"imgSB(2)",  6750,  480,  480,  480, "imgSBOF", "SB3 Reset ind. manutenzione, I0.7"},
+    {"imgCom",    7290,  480,  480,  480, "imgComOF", "SA Scarico miscela, I1.2"},
+    {"ImgEm",     7830,  480,  480,  480, "imgROFF", "SB4 Emergenza esterna, I1.3"},
+    {"imgCEM",    8370,  480,  480,  480, "imgCC", "Contatto di SB4, I1.3"},
+    {"imgL(7)",   5730, 1500,  360,  360, Lampada_Spenta, "HL0 rossa, Manutenzione M1, Q0.7"},
+    {"imgL(8)",   6750, 1500,  360,  360, Lampada_Spenta, "HL1 rossa, Manutenzione M2, Q1.0"},
+    {"imgL(0)",   7770, 1500,  360,  360, Lampada_Spenta, "HL2 verde, Ciclo Attivo, Q1.1"},
+    {"imgL(4)",   5730, 2040,  360,  360, Lampada_Spenta, "HL6 blu, Fine Ciclo, Q1.2"},
+    {"imgL(1)",   6750, 2040,  360,  360, Lampada_Spenta, "HL3 verde, Serbatoio in scarico, Q1.3"},
+    {"imgL(2)",   7770, 2040,  360,  360, Lampada_Spenta, "HL4 verde, Motore M1 ON, Q1.4"},
+    {"imgL(3)",   5730, 2580,  360,  360, Lampada_Spenta, "HL5 verde, Motore M2 ON, Q1.5"},
+    {"imgL(5)",   6750, 2580,  360,  360, Lampada_Spenta, "HL7 gialla, Termico M1 Scattato, Q1.6"},
+    {"imgL(6)",   7770, 2580,  360,  360, Lampada_Spenta, "HL8 gialla, Termico M2 Scattato, Q1.7"},
+};
+
+constexpr Riga_Mandata mandate[] = {
+    {{"ME_SpedP", 300, 300}, 13, "imgTr", "EtP", nullptr, nullptr, nullptr, nullptr}};
+
+// SL0 and SL1 to SL4
+constexpr int livelli[] = {7, 2, 3, 4, 5};
+
+constexpr Riga_Livello righe_livello[] = {
+    {0,            "01111", "10000"},
+    {39,           "11111", "00000"},
+    {79,           "10111", "01000"},
+    {119,          "10011", "01100"},
+    {160,          "10001", "01110"},
+    {Senza_Limite, "10000", "01111"},
+};
+
+constexpr Riga_Lampada lampade[] = {
+    {"imgL(7)",  8, "imgLR"}, {"imgL(8)",  9, "imgLR"}, {"imgL(0)", 10, "imgLV"},
+    {"imgL(4)", 11, "imgLB"}, {"imgL(1)", 12, "imgLV"}, {"imgL(2)", 13, "imgLV"},
+    {"imgL(3)", 14, "imgLV"}, {"imgL(5)", 15, "imgLG"}, {"imgL(6)", 16, "imgLG"},
+};
+
+constexpr Riga_Pulsante pulsanti[] = {
+    {"imgSB(0)", 1, '1', '0', "imgSBON", "imgSBOF"},
+    {"imgSB(1)", 6, '0', '1', "imgSBON", "imgSBOF"},
+    {"imgSB(2)", 8, '1', '0', "imgSBON", "imgSBOF"},
+};
+
+constexpr Riga_Commutatore commutatori[] = {
+    {"imgM(0)",  9, '0', '1', "imgFR", "imgMOF"},
+    {"imgM(1)", 10, '0', '1', "imgFR", "imgMOF"},
+    {"imgCom",  11, '1', '0', "imgComON", "imgComOF"},
+};
+// clang-format on
+
+constexpr Schema_Serbatoio schema = {
+    .Stato_I = "0111110011010000",
+    .Figure = figure,
+    .Fondo = 2700,
+    .Mandate = mandate,
+    .Scarico = {"ME_SpedS", 200, 200},
+    .Vuoto_Scarico = 1,
+    .Livelli = livelli,
+    .Righe_Livello = righe_livello,
+    .etTL = nullptr,
+    .etAI = "etAI",
+    .Motore_Agitatore = "imgM(1)",
+    .Lampade = lampade,
+    .Pulsanti = pulsanti,
+    .Commutatori = commutatori,
+};
+
+constexpr int SB4 = 12;  // input of the emergency button
+
+}  // namespace
+
+ctr_Mis4::ctr_Mis4(Orologio& orologio) : Serbatoio_Agitato(schema, orologio) {
+  Disegno["etAI"].ForeColor = Verde_Display;
+  Disegno["etAI"].Caption = "0.00";
+  Disegno["imgSp"].Visible = false;
+  Monta_Emergenza(SB4);
+  Monta_Mancanza();
+}
+
+// Any letter stops whatever flows.
+void ctr_Mis4::Monta_Mancanza() {
+  for (int n = 0; n < 4; ++n) {
+    Figura& etGP = Disegno("etGP", n);
+    etGP.Caption = std::string(1, static_cast<char>('A' + n));
+    etGP.Premi = [this, &etGP] {
+      etGP.ForeColor = 255;
+      Prodotto_Ok = 0;
+    };
+    etGP.Rilascia = [this, &etGP] {
+      etGP.ForeColor = Tavolozza(0);
+      Prodotto_Ok = -1;
+    };
+  }
+}
+
+void ctr_Mis4::Comanda(int uscita, bool eccitata) {
+  if (uscita <= 4) return Comanda_Prodotto(static_cast<std::size_t>(uscita - 1), eccitata);
+  if (uscita == 5) return Agita(eccitata);
+  if (uscita == 6) return Comanda_Pompa_P1(eccitata);
+  Comanda_Scarico(eccitata);
+}
+
+// A valve that falls stops the fill, even while another stands open and the pump runs.
+void ctr_Mis4::Comanda_Prodotto(std::size_t valvola, bool aperta) {
+  valvole_.at(valvola) = aperta;
+  Disegno("imgV", static_cast<int>(valvola)).Picture = Elettrovalvola(aperta);
+  Carica(aperta && pompa_);
+}
+
+void ctr_Mis4::Comanda_Pompa_P1(bool accesa) {
+  pompa_ = accesa;
+  Disegno["imgM(0)"].Picture = Motore(accesa);
+  Carica(accesa && std::ranges::find(valvole_, true) != valvole_.end());
+}
+
+void ctr_Mis4::Carica(bool attivo) {
+  for (int n = 0; n < 4; ++n)
+    Disegno("imgTG", n).Picture = Tubo(attivo && valvole_.at(static_cast<std::size_t>(n)));
+  Disegno["imgTOP"].Picture = Tubo(attivo);
+  Disegno["imgTVP"].Picture = Tubo(attivo);
+  Disegno["imgSp"].Visible = attivo;
+  if (attivo)
+    Avvia_Carico(0);
+  else
+    Ferma_Carico(0);
+}
+
+// A tank that is empty when the valve opens is not drained later either, until the valve opens
+// again.
+void ctr_Mis4::Comanda_Scarico(bool aperta) {
+  const bool scorre = aperta && !Vasca_Vuota();
+  Disegno["imgV(4)"].Picture = Elettrovalvola(aperta);
+  Disegno["imgTG(4)"].Picture = Tubo(scorre);
+  Scarica(scorre);
+}
+
+// The timer runs on: what comes in meanwhile goes out at once.
+void ctr_Mis4::Scaricato(bool vuota) {
+  Disegno["imgTG(4)"].Picture = Tubo(!vuota);
+}
+
+}  // namespace tavorno

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plants/mixer_two.h"
+
+namespace tavorno {
+
+namespace {
+
+// clang-format off
+// name, left, top, width, height, picture at first, tool tip
+constexpr Riga_Figura figure[] = {
+    {"imgLiquido", 2700, 2759, 1500, 1},
+    {"shL",       2700, 2760, 1500,    0},
+    {"imgSp(0)",  2880,  960,  240,  240},
+    {"imgSp(1)",  2760, 1080,  240,  180},
+    {"imgSp(2)",  2760, 2280,  360,  360},
+    {"ShDos",     3030, 2340,  840,  240, "imgDos4"},
+    {"imgVasca",  2640,  840, 1620, 2100},
+    {"imgT1",      660,  660, 2400,  300, "imgTOF"},
+    {"imgT2",      660, 1020, 2160,  720, "imgTOF"},
+    {"imgT3",     3390, 2820, 1800,  270, "imgTOF"},
+    {"imgT4",      480, 2580, 2580,  120, "imgTOF"},
+    {"imgM(0)",    780,  480,  480,  480, "imgMOF"},
+    {"imgM(1)",    780, 1440,  480,  480, "imgMOF"},
+    {"imgM(2)",   3210,  120,  480,  480, "imgMOF"},
+    {"imgV1",     1380,  360,  360,  480, "imgEVOF"},
+    {"imgV2",     1380, 1320,  360,  480, "imgEVOF"},
+    {"imgV3",     4560, 2670,  360,  480, "imgEVOF"},
+    {"imgV4",     1140, 2280,  360,  480, "imgEVOF"},
+    {"imgTr(0)",  1890,  570,  300,  300, "imgTrOF"},
+    {"imgTr(1)",  1890, 1530,  300,  300, "imgTrOF"},
+    {"EtP(0)",    1800,  930,  480,  180},
+    {"EtP(1)",    1800, 1890,  480,  180},
+    {"imgTL(0)",  4335, 2565,  150,  150},
+    {"imgTL(1)",  4335, 1885,  150,  150},
+    {"imgTL(2)",  4335, 1085,  150,  150},
+    {"etTL",      4500, 1440,  480,  180},
+    {"etcap",     4500,  330,  480,  180, "", "Tenere premuto per l'indirizzo del livello"},
+    {"etGI",      4560,  120,  420,  150},
+    {"etAI",      4500,  690,  480,  180},
+    {"ImgEm",     5520,  390,  540,  540, "imgROFF", "SB1 Emergenza esterna, I0.4"},
+    {"imgCEM",    6180,  390,  540,  540, "imgCC", "Contatto di SB1, I0.4"},
+    {"imgCom",    6840,  390,  540,  540, "imgComOF", "SA Manuale/Automatico, I0.5"},
+    {"imgSB(0)",  7500,  390,  540,  540, "imgSBOF", "SB11 Start automatico, I0.6"},
+    {"imgSB(1)",  8160,  390,  540,  540, "imgSBOF", "SB10 Stop automatico, I0.7"},
+    {"imgSB(2)",  5445, 1575,  390,  390, "imgSBOF", "SB2 Start Carico prodotto 1 in manuale, I1.0"},
+    {"imgSB(3)",  5865, 1575,  390,  390, "imgSBOF", "SB3 Stop Carico prodotto 1 in manuale, I1.1"},
+    {"imgSB(4)",  6285, 1575,  390,  390, "imgSBOF", "SB4 Start Carico prodotto 2 in manuale, I1.2"},
+    {"imgSB(5)",  6705, 1575,  390,  390, "imgSBOF", "SB5 Stop Carico prodotto 2 in manuale, I1.3"},
+    {"imgSB(6)",  7125, 1575,  390,  390, "imgSBOF", "SB6 Start Mescolatore-Vapore in manuale, I1.4"},
+    {"imgSB(7)",  7545, 1575,  390,  390, "imgSBOF", "SB7 Stop Mescolatore-Vapore in manuale, I1.5"},
+    {"imgSB(8)",  7965, 1575,  390,  390, "imgSBOF", "SB8 Start Scarico Miscela in manuale, I1.6"},
+    {"imgSB(9)",  8385, 1575,  390,  390, "imgSBOF", "SB9 Stop Scarico Miscela in manuale, I1.7"},
+    {"imgL(0)",   5475, 2400,  330,  330, Lampada_Spenta, "HL1 verde, Q0.6"},
+    {"imgL(1)",   5895, 2400,  330,  330, Lampada_Spenta, "HL2 verde, Q0.7"},
+    {"imgL(2)",   6315, 2400,  330,  330, Lampada_Spenta, "HL3 verde, Q1.0"},
+    {"imgL(3)",   6735, 2400,  330,  330, Lampada_Spenta, "HL4 verde, Q1.1"},
+    {"imgL(4)",   7155, 2400,  330,  330, Lampada_Spenta, "HL5 gialla, Q1.2"},
+    {"imgL(5)",   7575, 2400,  330,  330, Lampada_Spenta, "HL6 blu, Q1.3"},
+    {"imgL(6)",   7995, 2400,  330,  330, Lampada_Spenta, "HL7 blu, Q1.4"},
+    {"imgL(7)",   8415, 2400,  330,  330, Lampada_Spenta, "HL8 rossa, Q1.5"},
+};
+
+constexpr Riga_Mandata mandate[] = {
+    {{"ME_SpedP1", 200, 200}, 1, "imgTr(0)", "EtP(0)", "imgM(0)", "imgV1", "imgT1", "imgSp(0)"},
+    {{"ME_SpedP2", 200, 200}, 2, "imgTr(1)", "EtP(1)", "imgM(1)", "imgV2", "imgT2", "imgSp(1)"},
+};
+
+constexpr int livelli[] = {3, 4};
+
+constexpr Riga_Livello righe_livello[] = {
+    {0,            "00", "100"},
+    {79,           "01", "000"},
+    {160,          "10", "010"},
+    {Senza_Limite, "11", "001"},
+};
+
+constexpr Riga_Lampada lampade[] = {
+    {"imgL(0)",  7, "imgLV"}, {"imgL(1)",  8, "imgLV"}, {"imgL(2)",  9, "imgLV"},
+    {"imgL(3)", 10, "imgLV"}, {"imgL(4)", 11, "imgLG"}, {"imgL(5)", 12, "imgLB"},
+    {"imgL(6)", 13, "imgLB"}, {"imgL(7)", 14, "imgLR"},
+};
+
+constexpr Riga_Pulsante pulsanti[] = {
+    {"imgSB(0)",  7, '1', '0', "imgSBON", "imgSBOF"},
+    {"imgSB(1)",  8, '0', '1', "imgSBON", "imgSBOF"},
+    {"imgSB(2)",  9, '1', '0', "imgSBON", "imgSBOF"},
+    {"imgSB(3)", 10, '0', '1', "imgSBON", "imgSBOF"},
+    {"imgSB(4)", 11, '1', '0', "imgSBON", "imgSBOF"},
+    {"imgSB(5)", 12, '0', '1', "imgSBON", "imgSBOF"},
+    {"imgSB(6)", 13, '1', '0', "imgSBON", "imgSBOF"},
+    {"imgSB(7)", 14, '0', '1', "imgSBON", "imgSBOF"},
+    {"imgSB(8)", 15, '1', '0', "imgSBON", "imgSBOF"},
+    {"imgSB(9)", 16, '0', '1', "imgSBON", "imgSBOF"},
+};
+
+constexpr Riga_Commutatore commutatori[] = {{"imgCom", 6, '1', '0', "imgComON", "imgComOF"}};
+// clang-format on
+
+constexpr Schema_Serbatoio schema = {
+    .Stato_I = "0000100101010101",
+    .Figure = figure,
+    .Fondo = 2760,
+    .Mandate = mandate,
+    .Scarico = {"ME_SpedS", 100, 100},
+    .Vuoto_Scarico = 1,
+    .Livelli = livelli,
+    .Righe_Livello = righe_livello,
+    .etTL = "etTL",
+    .etAI = "etAI",
+    .Motore_Agitatore = "imgM(2)",
+    .Lampade = lampade,
+    .Pulsanti = pulsanti,
+    .Commutatori = commutatori,
+};
+
+constexpr int SB1 = 5;  // input of the emergency button
+
+}  // namespace
+
+ctr_Mis2::ctr_Mis2(Orologio& orologio) : Serbatoio_Agitato(schema, orologio) {
+  for (const char* nome : {"etTL", "etAI"}) Disegno[nome].ForeColor = Verde_Display;
+  Disegno["etAI"].Caption = "0.00";
+  Disegno["imgSp(2)"].Visible = false;
+  Monta_Emergenza(SB1);
+
+  Figura& etGI = Disegno["etGI"];
+  etGI.Caption = "AIW0";
+  etGI.Visible = false;
+  Disegno["etcap"].Premi = [&etGI] { etGI.Visible = true; };
+  Disegno["etcap"].Rilascia = [&etGI] { etGI.Visible = false; };
+}
+
+void ctr_Mis2::Comanda(int uscita, bool eccitata) {
+  switch (uscita) {
+    case 1:
+      return Comanda_Valvola(0, eccitata);
+    case 2:
+      return Comanda_Pompa(0, eccitata);
+    case 3:
+      return Comanda_Pompa(1, eccitata);
+    case 4:
+      return Comanda_Valvola(1, eccitata);
+    case 5:
+      return Comanda_Scarico(eccitata);
+    case 6:
+      return Agita(eccitata);
+    case 15:
+      return Comanda_Vapore(eccitata);
+    default:
+      return;
+  }
+}
+
+// A tank that is empty when the valve opens is not drained later either, until the valve opens
+// again.
+void ctr_Mis2::Comanda_Scarico(bool aperta) {
+  const bool scorre = aperta && !Vasca_Vuota();
+  Disegno["imgV3"].Picture = Elettrovalvola(aperta);
+  Disegno["imgT3"].Picture = Tubo(scorre);
+  Scarica(scorre);
+}
+
+// The timer runs on: what comes in meanwhile goes out at once.
+void ctr_Mis2::Scaricato(bool vuota) {
+  Disegno["imgT3"].Picture = Tubo(!vuota);
+}
+
+void ctr_Mis2::Comanda_Vapore(bool aperta) {
+  Disegno["imgV4"].Picture = Elettrovalvola(aperta);
+  Disegno["imgT4"].Picture = Tubo(aperta);
+  Disegno["imgSp(2)"].Visible = aperta;
+}
+
+}  // namespace tavorno

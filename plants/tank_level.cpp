@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plants/tank_level.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace tavorno {
+
+namespace {
+
+// clang-format off
+// name, left, top, width, height, picture at first, tool tip
+constexpr Riga_Figura figure[] = {
+    {"shL1",        600, 1935, 1680,  465},
+    {"shL2",       3480, 1770, 1680,  165},
+    {"imgVasca",    540, 1320, 1800, 1140},
+    {"imgSpruzzo",  780,  900,  240,  540},
+    {"shSerb",     3420,  375, 1800, 1560},
+    {"linR1",       540, 2400, 1800,   60},
+    {"imgTubi",    2280,  240, 1560, 2040, "imgTOF"},
+    {"imgV1",      360,  315,  360,  450, "imgEVOF"},
+    {"shV1",       450,  354,  180,  150},
+    {"imgP1",      2520, 2010,  480,  480, "imgMOF", "Click per simulare intervento"},
+    {"imgV3",     4230, 1995,  360,  450, "imgEVOF"},
+    {"shV3",      4320, 2034,  180,  150},
+    {"imgMax1",     345, 1500,  150,  150},
+    {"imgMin1",     345, 2280,  150,  150},
+    {"imgMax2",    5265,  555,  150,  150},
+    {"imgMed",     5265, 1160,  150,  150},
+    {"imgMin2",   5265, 1810,  150,  150},
+    {"imgCom(0)", 6000,  270,  480,  480, "imgComOF", "SA1 Automatico/Manuale, I0.6"},
+    {"imgAlt(0)", 6720,  270,  480,  480, "imgSBOF", "SB1 Pulsante, I0.7"},
+    {"imgCom(1)", 7440,  270,  480,  480, "imgComOF", "SA2 Comando Manuale elettrov. YV1, I1.0"},
+    {"imgCom(2)", 8160,  270,  480,  480, "imgComOF", "SA3 Comando Manuale elettrov. YV2, I1.1"},
+    {"imgCom(3)", 6000, 1140,  480,  480, "imgComOF", "SA4 Comando Manuale Pompa P1, I1.2"},
+    {"imgAlt(1)", 6720, 1140,  480,  480, "imgSBOF", "SB3 Stop Automatico, I1.3"},
+    {"imgSB6",    7440, 1140,  480,  480, "imgSBOF", "SB2 Start Automatico, I1.4"},
+    {"imgHL1",    6075, 2040,  330,  330, Lampada_Spenta, "HL1 verde, Pompa ON, Q0.3"},
+    {"imgHL2",    6795, 2040,  330,  330, Lampada_Spenta, "HL2 gialla, Termico Scattato, Q0.4"},
+    {"imgHL3",    7515, 2040,  330,  330, Lampada_Spenta, "HL3 rossa, Vasca di Carico Vuota, Q0.5"},
+    {"imgHL4",    8235, 2040,  330,  330, Lampada_Spenta, "HL4 blu, Modo Automatico, Q0.6"},
+};
+
+constexpr Riga_Commutatore commutatori[] = {
+    {"imgP1",      3, '0', '1', "imgFR", "imgMOF"},
+    {"imgCom(0)",  7, '1', '0', "imgComON", "imgComOF"},
+    {"imgCom(1)",  9, '1', '0', "imgComON", "imgComOF"},
+    {"imgCom(2)", 10, '1', '0', "imgComON", "imgComOF"},
+    {"imgCom(3)", 11, '1', '0', "imgComON", "imgComOF"},
+};
+
+constexpr Riga_Pulsante pulsanti[] = {
+    {"imgAlt(0)",  8, '0', '1', "imgSBON", "imgSBOF"},
+    {"imgAlt(1)", 12, '0', '1', "imgSBON", "imgSBOF"},
+    {"imgSB6",    13, '1', '0', "imgSBON", "imgSBOF"},
+};
+
+constexpr Riga_Lampada lampade[] = {
+    {"imgHL1", 4, "imgLV"}, {"imgHL2", 5, "imgLG"}, {"imgHL3", 6, "imgLR"}, {"imgHL4", 7, "imgLB"},
+};
+// clang-format on
+
+constexpr int SL1 = 1, SL2 = 2, SL3 = 4, SL4 = 5, SL5 = 6;  // inputs of the level switches
+constexpr int intervallo = 200;                             // ms, of all three timers
+constexpr int carico = 8, pompata = 5, scarico = 7;         // twips per tick
+constexpr Colore accesa = 255, spenta = 16512;
+constexpr Colore in_tensione = Tavolozza(12), a_riposo = Tavolozza(15);
+
+std::int16_t Altezza(float twip) {
+  return static_cast<std::int16_t>(twip);
+}
+
+void Sposta(std::int16_t& livello, int twip) {
+  livello = static_cast<std::int16_t>(
+      std::min<int>(livello + twip, std::numeric_limits<std::int16_t>::max()));
+}
+
+/// The liquid in a tank; what would lie below the bottom stays as a puddle.
+void Mostra(Figura& liquido, std::int16_t fondo, std::int16_t& livello) {
+  liquido.Top = static_cast<float>(fondo - livello);
+  if (livello < 0) livello = 5;
+  liquido.Height = static_cast<float>(livello);
+}
+
+}  // namespace
+
+Ctr_Level0::Ctr_Level0(Orologio& orologio)
+    : Impianto(figure, "1111110100010000", Invio::Doppio),
+      fondo_vasca_(Altezza(Disegno["linR1"].Top)),
+      fondo_serbatoio_(Altezza(Disegno["shSerb"].Top + Disegno["shSerb"].Height)),
+      livello_vasca_(Altezza(shL1.Height)),
+      livello_serbatoio_(Altezza(shL2.Height)),
+      timEV1_(orologio, intervallo,
+              [this] {
+                Sposta(livello_vasca_, carico);
+                Aggiorna_Vasca();
+              }),
+      timEV2_(orologio, intervallo,
+              [this] {
+                if (serbatoio_vuoto_) return;
+                Sposta(livello_serbatoio_, -scarico);
+                Aggiorna_Serbatoio();
+              }),
+      timP1_(orologio, intervallo, [this] { Pompa(); }) {
+  Disegno["imgSpruzzo"].Visible = false;
+  for (const char* nome : {"imgMax1", "imgMin1", "imgMax2", "imgMed", "imgMin2"})
+    Disegno[nome].FillColor = spenta;
+  Monta(commutatori);
+  Monta(pulsanti);
+}
+
+void Ctr_Level0::Applica_Uscite() {
+  for (int uscita = 1; uscita <= 3; ++uscita) {
+    if (!Uscita_Cambiata(uscita)) continue;
+    const bool eccitata = Uscita(uscita) == "1";
+    if (uscita == 1) Comanda_YV1(eccitata);
+    if (uscita == 2) Comanda_KM1(eccitata);
+    if (uscita == 3) Comanda_YV2(eccitata);
+  }
+  for (const Riga_Lampada& lampada : lampade)
+    if (Uscita_Cambiata(lampada.Uscita)) Impianto::Mostra(lampada, Uscita(lampada.Uscita));
+}
+
+void Ctr_Level0::Comanda_YV1(bool aperta) {
+  timEV1_.Enabled(aperta);
+  Disegno["imgV1"].Picture = aperta ? "imgEVON" : "imgEVOF";
+  Disegno["shV1"].FillColor = aperta ? in_tensione : a_riposo;
+  Disegno["imgSpruzzo"].Visible = aperta;
+}
+
+void Ctr_Level0::Comanda_KM1(bool accesa_ora) {
+  pompa_on_ = accesa_ora;
+  timP1_.Enabled(accesa_ora);
+  Disegno["imgP1"].Picture = accesa_ora ? "imgMON" : "imgMOF";
+  Mostra_Tubi();
+}
+
+void Ctr_Level0::Comanda_YV2(bool aperta) {
+  scarico_on_ = aperta;
+  timEV2_.Enabled(aperta);
+  shV3.FillColor = aperta ? in_tensione : a_riposo;
+  Mostra_Scarico();
+}
+
+// Run dry, the pump turns and moves nothing.
+void Ctr_Level0::Pompa() {
+  if (vasca_vuota_) return;
+  Sposta(livello_vasca_, -pompata);
+  Sposta(livello_serbatoio_, pompata);
+  Aggiorna_Vasca();
+  Aggiorna_Serbatoio();
+}
+
+// A switch is operated by a level strictly beyond its limit. Between the two limits it stays as it
+// was.
+void Ctr_Level0::Micro(int ingresso, Figura& spia, bool azionato) {
+  Ingresso(ingresso, azionato ? '0' : '1');
+  spia.FillColor = azionato ? accesa : spenta;
+}
+
+void Ctr_Level0::Aggiorna_Vasca() {
+  tavorno::Mostra(shL1, fondo_vasca_, livello_vasca_);
+  if (livello_vasca_ > 825 || livello_vasca_ < 725)
+    Micro(SL1, Disegno["imgMax1"], livello_vasca_ > 825);
+  if (livello_vasca_ < 45 || livello_vasca_ > 145) {
+    vasca_vuota_ = livello_vasca_ < 45 ? -1 : 0;
+    Mostra_Tubi();
+    Micro(SL2, Disegno["imgMin1"], vasca_vuota_ != 0);
+  }
+  Invia();
+}
+
+void Ctr_Level0::Aggiorna_Serbatoio() {
+  tavorno::Mostra(shL2, fondo_serbatoio_, livello_serbatoio_);
+  Micro(SL4, Disegno["imgMed"], livello_serbatoio_ > 700);
+  if (livello_serbatoio_ > 1305 || livello_serbatoio_ < 1205)
+    Micro(SL5, Disegno["imgMax2"], livello_serbatoio_ > 1305);
+  if (livello_serbatoio_ < 50 || livello_serbatoio_ > 80) {
+    serbatoio_vuoto_ = livello_serbatoio_ < 50 ? -1 : 0;
+    Mostra_Scarico();
+    Micro(SL3, Disegno["imgMin2"], serbatoio_vuoto_ != 0);
+  }
+  Invia();
+}
+
+void Ctr_Level0::Mostra_Tubi() {
+  Disegno["imgTubi"].Picture = pompa_on_ && !vasca_vuota_ ? "imgTON" : "imgTOF";
+}
+
+void Ctr_Level0::Mostra_Scarico() {
+  Disegno["imgV3"].Picture = !scarico_on_ ? "imgEVOF" : serbatoio_vuoto_ ? "imgEVVU" : "imgEVON";
+}
+
+}  // namespace tavorno
