@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plants/parts.h"
+#include "plants/scene.h"
+
+// Where the parts of the axis stand, in the order in which they are drawn.
+namespace tavorno::asse {
+
+// clang-format off
+constexpr Riga_Figura figure[] = {
+    // name, left, top, width, height, picture at first, tool tip
+    {"ImgRiga",  1310,  210, 6260,  240},
+    {"ShPerno",  1140,  705, 6690,  150, "filetto_4"},
+    {"imgFCI",   1050, 1020,  300,  360, "riposo", "Click per simulare il fuori corsa indietro (SQ1), I0.5"},
+    {"imgFCA",   7530, 1020,  300,  360, "riposo", "Click per simulare il fuori corsa avanti (SQ2), I0.6"},
+    {"shI",      1380, 1185,  120,  120},
+    {"shA",      7380, 1185,  120,  120},
+    {"shC",      1320,  570,  360,  450},
+    {"ShIndP",   1440,  450,  120,  120},
+    {"shRif",    4380,   90,  120,  120},
+
+    {"shAP",     2730, 1620,  150,  150},
+    {"imgL0",     300, 1890,  480,  480, Lampada_Spenta, "Alimentazione di potenza (AC), Q0.2"},
+    {"imgL2",     960, 1890,  480,  480, Lampada_Spenta, "Marcia avanti (MA), Q0.0"},
+    {"imgL1",    1620, 1890,  480,  480, Lampada_Spenta, "Marcia indietro (MI), Q0.1"},
+    {"EtVc",     2280, 2010,  600,  240},
+    {"cmdV2",     480, 2640,  960,  210, "rilasciato", "Muove l'asse indietro senza il PLC, finché premuto"},
+    {"cmdV1",    1620, 2640,  960,  210, "rilasciato", "Muove l'asse avanti senza il PLC, finché premuto"},
+
+    {"EtPos",    4440, 1740,  600,  240},
+    {"EtRif",    4440, 2190,  600,  240},
+    {"UpD1",     5100, 2145,  270,  330, "", "Riferimento (AIW2): da 0 a 10 V a passi di 0,1 V"},
+    {"EtIst",    4440, 2640,  600,  240},
+    {"UpD2",     5100, 2595,  270,  330, "", "Isteresi (AIW4): da 0 a 0,1 V a passi di 0,001 V"},
+
+    {"imgP(0)",  5850, 1725,  480,  480, "imgVOFF", "Start controllo, I0.0"},
+    {"imgP(1)",  6450, 1725,  480,  480, "imgROFF", "Stop controllo, I0.1"},
+    {"imgP(2)",  7050, 1725,  480,  480, "imgBOFF", "Avanti manuale (SB1), I0.2"},
+    {"imgP(3)",  7650, 1725,  480,  480, "imgBOFF", "Indietro manuale (SB2), I0.3"},
+    {"imgCom",   8250, 1725,  480,  480, "imgCS", "Selettore automatico/manuale (SB3), I0.4"},
+    {"imgL(0)",  5850, 2490,  420,  420, Lampada_Spenta, "Lampada (HL1), Q0.3"},
+    {"imgL(1)",  6345, 2490,  420,  420, Lampada_Spenta, "Lampada blu (HL2), Q0.4"},
+    {"imgL(2)",  6840, 2490,  420,  420, Lampada_Spenta, "Lampada verde (HL3), Q0.5"},
+    {"imgL(3)",  7335, 2490,  420,  420, Lampada_Spenta, "Lampada verde (HL4), Q0.6"},
+    {"imgL(4)",  7830, 2490,  420,  420, Lampada_Spenta, "Lampada blu (HL5), Q0.7"},
+    {"imgL(5)",  8325, 2490,  420,  420, Lampada_Spenta, "Lampada rossa (HL6), Q1.0"},
+};
+
+constexpr Riga_Pulsante pulsanti[] = {
+    // name, input, down, up, picture down, picture up
+    {"imgP(0)", 1, '1', '0', "imgVON", "imgVOFF"},
+    {"imgP(1)", 2, '0', '1', "imgRON", "imgROFF"},
+    {"imgP(2)", 3, '1', '0', "imgBON", "imgBOFF"},
+    {"imgP(3)", 4, '1', '0', "imgBON", "imgBOFF"},
+};
+
+constexpr Riga_Commutatore selettori[] = {{"imgCom", 5, '1', '0', "imgCD", "imgCS"}};
+
+constexpr Riga_Lampada lampade[] = {
+    {"imgL(0)", 4, "imgLN"},
+    {"imgL(1)", 5, "imgLB"},
+    {"imgL(2)", 6, "imgLV"},
+    {"imgL(3)", 7, "imgLV"},
+    {"imgL(4)", 8, "imgLB"},
+    {"imgL(5)", 9, "imgLR"},
+};
+// clang-format on
+
+}  // namespace tavorno::asse

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plants/crossing.h"
+
+namespace tavorno {
+
+namespace {
+
+// clang-format off
+constexpr Riga_Figura figure[] = {
+    // name, left, top, width, height, picture at first, tool tip
+    {"imgR",     6360,  180,  480,  480, "imgR0", "Lampada rossa veicoli (HL1), Q0.2"},
+    {"imgG",     6360,  690,  480,  480, "imgG0", "Lampada gialla veicoli (HL2), Q0.3"},
+    {"imgV",     6360, 1200,  480,  480, "imgV0", "Lampada verde veicoli (HL3), Q0.4"},
+    {"imgP1",    7980,  240,  600,  600, "imgP(1)", "Lampada rossa pedonale (HL4), Q0.0"},
+    {"imgP2",    7980,  960,  600,  600, "imgP(3)", "Lampada verde pedonale (HL5), Q0.1"},
+    {"imgSB(0)", 4020,   60,  360,  360, "imgROFF", "Prenotazione pedone (SB2), I0.0"},
+    {"imgSB(1)", 1680, 1440,  360,  360, "imgROFF", "Prenotazione pedone (SB1), I0.1"},
+};
+
+constexpr Riga_Pulsante pulsanti[] = {
+    // name, input, down, up, picture down, picture up
+    {"imgSB(0)", 1, '1', '0', "imgRON", "imgROFF"},
+    {"imgSB(1)", 2, '1', '0', "imgRON", "imgROFF"},
+};
+
+struct Riga_Luce {
+  const char* Nome;
+  int Uscita;
+  const char* Accesa;
+  const char* Spenta;
+};
+
+constexpr Riga_Luce luci[] = {
+    {"imgP1", 1, "imgP(0)", "imgP(1)"},
+    {"imgP2", 2, "imgP(2)", "imgP(3)"},
+    {"imgR",  3, "imgR1",   "imgR0"},
+    {"imgG",  4, "imgG1",   "imgG0"},
+    {"imgV",  5, "imgV1",   "imgV0"},
+};
+// clang-format on
+
+}  // namespace
+
+ctr_Semaf1::ctr_Semaf1() : Impianto(figure, "0000000000000000", Invio::Doppio) {
+  Monta(pulsanti);
+}
+
+void ctr_Semaf1::Applica_Uscite() {
+  for (const Riga_Luce& luce : luci) {
+    if (Uscita_Cambiata(luce.Uscita))
+      Disegno[luce.Nome].Picture = Uscita(luce.Uscita) == "1" ? luce.Accesa : luce.Spenta;
+  }
+}
+
+}  // namespace tavorno

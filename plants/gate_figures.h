@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "plants/parts.h"
+#include "plants/scene.h"
+
+// Where the parts of the gate stand, in the order in which they are drawn.
+namespace tavorno::cancello {
+
+constexpr const char* nota_termico = "Click per simulare l'intervento del relè termico (FR), I0.5";
+
+constexpr const char* chiave_a_riposo = "imgC0";
+
+// clang-format off
+constexpr Riga_Figura figure[] = {
+    // name, left, top, width, height, picture at first, tool tip
+    {"shP1",      840, 1320,  435,  930},
+    {"ShP2",     3600, 1320,  435,  930},
+    {"picP",     1155, 1440,  105,  780, "riposo", "Costa pneumatica di sicurezza (SQ3), I0.6"},
+    {"shL",       960, 1140,  180,  180},
+    {"imgSir",    810,  990,  480,  360},
+    {"Label2",   1740, 1230, 1440,  210},
+    {"shKM1",    2340,  720, 1860,  345},
+    {"shKM2",    3840,  720,  375,  345},
+    {"imgKm1",   1800,  480,  930,  240, "imgKMOF"},
+    {"imgKM2",   3300,  480,  930,  240, "imgKMOF"},
+    {"imgM",     5220,  705,  480,  480, "imgMOF", nota_termico},
+    {"imgFR",    4695,  765,  195,  375, "ImgRTOF"},
+    {"shC",      1290, 2250,  180,  240, "operato"},
+    {"shA",      5760, 2250,  180,  240, "riposo"},
+    {"linFC",    1740, 2355, 1560,   30},
+    {"imgLFC",   3300, 2280,  180,  210, "imgLFCOF"},
+    {"picFC",    2220, 2265,  600,  240, "libera", "Ostacolo davanti alla fotocellula (B), I0.1"},
+
+    {"etCom(1)", 6270,  345,  240,  330, "", "Selettore a chiave in posizione 1 (SA_1), I0.7"},
+    {"imgCom",   6570,  240,  540,  540, chiave_a_riposo},
+    {"etCom(2)", 7170,  345,  240,  330, "", "Selettore a chiave in posizione 2 (SA_2), I1.0"},
+    {"imgSB(2)", 7950,  240,  540,  540, "imgVOFF", "Pulsante (SB1), I1.1"},
+    {"imgL",     6450, 1200,  180,  180, "imgLOF"},
+    {"imgSB(0)", 6780, 1080,  420,  420, "imgBOFF", "Telecomando (SB2), I1.2"},
+    {"imgSB(1)", 7950, 1020,  540,  540, "imgROFF", "Pulsante normalmente chiuso (SB3), I1.3"},
+    {"imgHL1",   6300, 1785,  480,  480, Lampada_Spenta, "Lampada verde (HL1), Q0.4"},
+    {"imgHL2",   7230, 1785,  480,  480, Lampada_Spenta, "Lampada gialla (HL2), Q0.5"},
+    {"imgHL3",   8160, 1785,  480,  480, Lampada_Spenta, "Lampada blu (HL3), Q0.6"},
+
+    {"imgC",     1260, 1500, 2400,  720},
+};
+
+constexpr Riga_Pulsante pulsanti[] = {
+    // name, input, down, up, picture down, picture up
+    {"imgSB(1)", 12, '0', '1', "imgRON", "imgROFF"},
+    {"imgSB(2)", 10, '1', '0', "imgVON", "imgVOFF"},
+};
+
+/// A side of the key selector, which springs back.
+struct Riga_Selettore {
+  const char* Nome;
+  int Posizione;  ///< of the input
+  const char* Picture;
+};
+
+constexpr Riga_Selettore selettore[] = {
+    {"etCom(1)", 8, "imgC1"},
+    {"etCom(2)", 9, "imgC2"},
+};
+
+constexpr Riga_Lampada lampade[] = {
+    {"imgHL1", 5, "imgLV"},
+    {"imgHL2", 6, "imgLG"},
+    {"imgHL3", 7, "imgLB"},
+};
+// clang-format on
+
+}  // namespace tavorno::cancello
