@@ -3,11 +3,14 @@
 
 #include <iomanip>
 #include <memory>
+#include <optional>
 
 #include "bench/arguments.h"
 #include "bench/json_report.h"
+#include "bench/plant_options.h"
 #include "bench/session.h"
 #include "bench/virtual_run.h"
+#include "plants/link.h"
 #include "plc/codepage.h"
 
 namespace tavorno {
@@ -28,6 +31,18 @@ Uso:
       --scansione MS     tempo virtuale di una scansione (1..10000, normalmente 1)
       --ingressi LISTA   ingressi nel tempo, per esempio "0:I0.1=1,500:I0.1=0";
                          un canale analogico in volt: "800:AI0=2.5"
+      --impianto N       collega l'impianto dell'esercizio N (0..17): gli ingressi
+                         li dà lui, e accanto agli indirizzi si leggono i simboli
+      --mani LISTA       ciò che la mano fa sull'impianto, con i nomi delle figure:
+                         "500:premi:imgStart,700:rilascia:imgStart"  un pulsante
+                         "3000:clic:ImgTer"      un relè termico, un commutatore
+                         "4000:doppio:imgKM"     un contattore forzato
+                         "5000:regola:UpD1=3"    un regolatore o un cursore
+                         Un nome sbagliato fa elencare quelli che ci sono.
+
+  tavorno-banco prova PROGETTO.AWL... SCRIPT.lua... [opzioni]
+      Esamina progetti con uno script e assegna i punti; le opzioni e le
+      funzioni degli script sono in "tavorno-banco prova --help".
 
   tavorno-banco --help
       Questo testo.
@@ -88,12 +103,9 @@ int Comando_Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& 
   Limiti limiti;
   limiti.Durata = argomenti.Numero("--ms", limiti.Durata, 1, 86'400'000);
   limiti.Scansione = static_cast<int>(argomenti.Numero("--scansione", limiti.Scansione, 1, 10000));
-  std::vector<Evento_Ingresso> ingressi;
-  if (argomenti.Ha("--ingressi")) {
-    std::string errore;
-    ingressi = Leggi_Ingressi(argomenti.Testo("--ingressi", ""), errore);
-    if (!errore.empty()) throw Uso_Errato(errore);
-  }
+  const Esercizio* esercizio = Impianto_Di(argomenti);
+  std::vector<Evento_Ingresso> ingressi = Ingressi_Di(argomenti, esercizio);
+  std::vector<Gesto> mani = Mani_Di(argomenti, esercizio);
 
   const auto seduta = Apri_E_Compila(Un_File(argomenti), err);
   if (!seduta) return Uscita_Illeggibile;
@@ -104,10 +116,21 @@ int Comando_Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& 
   }
   seduta->Avvisi.clear();
 
+  Stato_Impianto stato;
+  std::optional<Collegamento> impianto;
+  if (esercizio) impianto.emplace(seduta->plc, stato, *esercizio);
+
   Corsa corsa(seduta->plc, limiti);
   corsa.Ingressi = std::move(ingressi);
-  corsa.Cambio = [&out](std::int64_t ms, char area, int byte, int bit, bool acceso) {
-    out << std::setw(8) << ms << " ms  " << area << byte << '.' << bit << " = " << acceso << '\n';
+  corsa.Mani = std::move(mani);
+  if (impianto) corsa.Impianto_Collegato = &*impianto;
+  corsa.Cambio = [&](std::int64_t ms, char area, int byte, int bit, bool acceso) {
+    out << std::setw(8) << ms << " ms  " << Nome_Punto(area, byte, bit, esercizio) << " = "
+        << acceso << '\n';
+  };
+  corsa.Senza_Effetto = [&](std::int64_t ms, const Gesto& gesto) {
+    out << std::setw(8) << ms << " ms  " << gesto.Come_Testo()
+        << ": nessun effetto, la figura ora è nascosta\n";
   };
   const Fine_Corsa fine = corsa.Esegui();
 
@@ -148,7 +171,9 @@ int Banco(const std::vector<std::string>& argomenti, std::ostream& out, std::ost
     }
     if (comando == "compila") return Comando_Compila(Argomenti(resto, {}, {"--json"}), out, err);
     if (comando == "esegui")
-      return Comando_Esegui(Argomenti(resto, {"--ms", "--scansione", "--ingressi"}, {}), out, err);
+      return Comando_Esegui(
+          Argomenti(resto, {"--ms", "--scansione", "--ingressi", "--impianto", "--mani"}, {}), out,
+          err);
     throw Uso_Errato("comando sconosciuto: " + comando);
   } catch (const Uso_Errato& errore) {
     err << "tavorno-banco: " << errore.what() << " (tavorno-banco --help per l'aiuto)\n";

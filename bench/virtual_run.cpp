@@ -1,42 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/virtual_run.h"
 
-#include <algorithm>
-#include <charconv>
 #include <optional>
 #include <string_view>
+
+#include "bench/entry_reader.h"
 
 namespace tavorno {
 
 namespace {
-
-/// Takes an entry apart from the left; once something does not fit, all that follows fails too.
-class Voce {
- public:
-  explicit Voce(std::string_view testo) : testo_(testo) {}
-
-  bool Inizia_Con(std::string_view segno) {
-    if (!buona_ || !testo_.starts_with(segno)) return false;
-    testo_.remove_prefix(segno.size());
-    return true;
-  }
-  void Vuole(std::string_view segno) { buona_ = Inizia_Con(segno); }
-
-  template <class T>
-  T Numero(T minimo, T massimo) {
-    T valore{};
-    const auto [fine, errore] =
-        std::from_chars(testo_.data(), testo_.data() + testo_.size(), valore);
-    buona_ = buona_ && errore == std::errc{} && valore >= minimo && valore <= massimo;
-    if (buona_) testo_.remove_prefix(static_cast<std::size_t>(fine - testo_.data()));
-    return valore;
-  }
-  bool Finita_Bene() const { return buona_ && testo_.empty(); }
-
- private:
-  std::string_view testo_;
-  bool buona_ = true;
-};
 
 /// One entry of the list; empty when it is not well formed.
 std::optional<Evento_Ingresso> Leggi_Ingresso(std::string_view testo) {
@@ -64,26 +36,16 @@ std::optional<Evento_Ingresso> Leggi_Ingresso(std::string_view testo) {
 }  // namespace
 
 std::vector<Evento_Ingresso> Leggi_Ingressi(const std::string& testo, std::string& errore) {
-  std::vector<Evento_Ingresso> eventi;
-  std::size_t inizio = 0;
-  while (inizio <= testo.size()) {
-    const std::size_t fine = std::min(testo.find(',', inizio), testo.size());
-    const std::string voce = testo.substr(inizio, fine - inizio);
-    const auto evento = Leggi_Ingresso(voce);
-    if (!evento) {
-      errore = "ingresso non valido \"" + voce + "\": si scrive 500:I0.1=1 oppure 500:AI0=2.5";
-      return {};
-    }
-    eventi.push_back(*evento);
-    inizio = fine + 1;
-  }
-  std::ranges::stable_sort(eventi, {}, &Evento_Ingresso::Ms);
+  std::optional<std::string> errata;
+  std::vector<Evento_Ingresso> eventi = Leggi_Lista(testo, Leggi_Ingresso, errata);
+  if (errata)
+    errore = "ingresso non valido \"" + *errata + "\": si scrive 500:I0.1=1 oppure 500:AI0=2.5";
   return eventi;
 }
 
 Corsa::Corsa(Plc& plc, Limiti limiti) : plc_(plc), limiti_(limiti) {}
 
-void Corsa::Applica_Ingressi() {
+void Corsa::Applica_Eventi() {
   while (prossimo_ingresso_ < Ingressi.size() && Ingressi[prossimo_ingresso_].Ms <= Tempo()) {
     const Evento_Ingresso& evento = Ingressi[prossimo_ingresso_++];
     if (evento.Analogico) {
@@ -94,6 +56,11 @@ void Corsa::Applica_Ingressi() {
     std::string stato = barra.Stato_I();
     stato[static_cast<std::size_t>(evento.Bit)] = evento.Acceso ? '1' : '0';
     barra.Stato_I(stato);
+  }
+  while (Impianto_Collegato && prossimo_gesto_ < Mani.size() &&
+         Mani[prossimo_gesto_].Ms <= Tempo()) {
+    const Gesto& gesto = Mani[prossimo_gesto_++];
+    if (!Esegui_Gesto(gesto, *Impianto_Collegato) && Senza_Effetto) Senza_Effetto(Tempo(), gesto);
   }
 }
 
@@ -108,7 +75,7 @@ void Corsa::Prima_Della_Riga() {
   scansioni_viste_ = plc_.N_Cicli;
   righe_ = 0;
   plc_.Tempo.Avanza(limiti_.Scansione);
-  Applica_Ingressi();
+  Applica_Eventi();
   if (Tempo() >= limiti_.Durata) plc_.Ferma = -1;
 }
 
@@ -139,10 +106,11 @@ Fine_Corsa Corsa::Esegui() {
   }
   plc_.Hook.Cedi = [this] { Prima_Della_Riga(); };
   inizio_ = plc_.Tempo.Adesso();
-  Applica_Ingressi();
 
   Fine_Corsa fine = Fine_Corsa::Tempo;
   try {
+    if (Impianto_Collegato) Impianto_Collegato->Carica();
+    Applica_Eventi();
     plc_.mnuPlcCont();
     plc_.mnuPlcRun();
     if (senza_mend_)

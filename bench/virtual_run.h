@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/hands.h"
 #include "plc/plc.h"
 
 namespace tavorno {
@@ -40,6 +41,7 @@ enum class Fine_Corsa {
 };
 
 /// Runs the loaded program from Run on, in mode Cont, and tells every change of an input or output.
+/// A plant, where there is one, is alive from before Run to the end.
 class Corsa {
  public:
   Corsa(Plc& plc, Limiti limiti);
@@ -48,19 +50,24 @@ class Corsa {
   std::function<void(std::int64_t, char, int, int, bool)> Cambio;
   std::vector<Evento_Ingresso> Ingressi;  ///< sorted by time
 
+  Collegamento* Impianto_Collegato = nullptr;  ///< opened, and not yet loaded; nullptr: none
+  std::vector<Gesto> Mani;  ///< sorted by time; without a plant they are not done
+  /// Called with the time in ms since Run and a movement that nothing felt.
+  std::function<void(std::int64_t, const Gesto&)> Senza_Effetto;
+
   Fine_Corsa Esegui();
   std::int64_t Tempo() const { return plc_.Tempo.Adesso() - inizio_; }
   const std::string& Rapporto() const { return rapporto_; }  ///< of a fatal end
 
  private:
   void Prima_Della_Riga();
-  void Applica_Ingressi();
+  void Applica_Eventi();
   void Confronta(char area, std::array<std::uint8_t, 2>& visti, int byte, std::uint8_t adesso);
 
   Plc& plc_;
   Limiti limiti_;
   std::int64_t inizio_ = 0;
-  std::size_t prossimo_ingresso_ = 0;
+  std::size_t prossimo_ingresso_ = 0, prossimo_gesto_ = 0;
   std::int32_t scansioni_viste_ = 0;
   std::int64_t righe_ = 0;  // of this scan
   bool senza_mend_ = false;

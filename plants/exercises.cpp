@@ -3,9 +3,19 @@
 
 #include <array>
 
+#include "plants/axis.h"
+#include "plants/crossing.h"
+#include "plants/garage.h"
+#include "plants/gate.h"
+#include "plants/lift.h"
+#include "plants/mixer_four.h"
+#include "plants/mixer_heated.h"
+#include "plants/mixer_two.h"
 #include "plants/motor_starter.h"
+#include "plants/pneumatic_bench.h"
 #include "plants/reversing_starter.h"
 #include "plants/star_delta.h"
+#include "plants/tank_level.h"
 
 namespace tavorno {
 
@@ -23,9 +33,36 @@ std::unique_ptr<Impianto> Crea_INV(Plc&) {
   return std::make_unique<INV>();
 }
 
+std::unique_ptr<Impianto> Crea_Garage(Plc& plc) {
+  return std::make_unique<ctr_Garage>(plc.Tempo);
+}
+
+std::unique_ptr<Impianto> Crea_Ascensore(Plc& plc) {
+  return std::make_unique<ctr_Ascensore>(plc.Tempo);
+}
+
+/// Plants that need only the clock.
+template <class Macchina>
+std::unique_ptr<Impianto> Crea_Su_Orologio(Plc& plc) {
+  return std::make_unique<Macchina>(plc.Tempo);
+}
+
+std::unique_ptr<Impianto> Crea_Semaforo(Plc&) {
+  return std::make_unique<ctr_Semaf1>();
+}
+
+std::unique_ptr<Impianto> Crea_Assi(Plc& plc) {
+  return std::make_unique<ctr_Assi>(plc);
+}
+
 template <const Schema_Avviatore& schema>
 std::unique_ptr<Impianto> Crea_ST(Plc&) {
   return std::make_unique<ST>(schema);
+}
+
+template <const Schema_Pneumatico& schema>
+std::unique_ptr<Impianto> Crea_Pneumatico(Plc& plc) {
+  return std::make_unique<Banco_Pneumatico>(schema, plc.Tempo);
 }
 
 // clang-format off
@@ -97,72 +134,72 @@ std::array<Esercizio, 18> Esercizi() {
        "frm1P", "S1", "Pist_1", "US-04.htm",
        " 04-Ciclo elettropneumatico con un cilindro.",
        "ME_StatoI", "ME_StatoQ", 4575, 6645, ass, impostazioni,
-       aria_5, false, true, nullptr, Righe_IO_04(), nullptr},
+       aria_5, false, true, nullptr, Righe_IO_04(), Crea_Pneumatico<Schema_Pist_1>},
       {5, "05-Ciclo Elettropneumatico con due cilindri e valvole bistabili",
        "frmCicloQ", "P1", "CicloQ", "US-05.htm",
        " 05-Ciclo Elettropneumatico con due cilindri.",
        "ME_StatoI", "ME_StatoQ", 4575, 6645, ass, impostazioni,
-       aria_5, false, true, nullptr, Righe_IO_05(), nullptr},
+       aria_5, false, true, nullptr, Righe_IO_05(), Crea_Pneumatico<Schema_CicloQ>},
       {6, "06-Ciclo Elettropneumatico con tre cilindri e valvole bistabili",
        "frm3P", "P3", "Pist_3", "US-06.htm",
        " 06-Ciclo Elettropneumatico con tre cilindri e valvole bistabili.",
        "ME_StatoI", "ME_StatoQ", 3780, 5820, ass_2, impostazioni,
-       aria_5, false, true, nullptr, Righe_IO_06(), nullptr},
+       aria_5, false, true, nullptr, Righe_IO_06(), Crea_Pneumatico<Schema_Pist_3>},
       {7, "07-Ciclo elettropneumatico con 4 cilindri e valvole bistabili",
        "frm4P", "P4", "Pist_4", "US-07.htm",
        " 07-Ciclo Elettropneumatico con quattro cilindri.",
        "ME_StatoI", "ME_StatoQ", 5955, 8010, ass_2, impostazioni,
-       aria_2, false, true, nullptr, Righe_IO_07(), nullptr},
+       aria_2, false, true, nullptr, Righe_IO_07(), Crea_Pneumatico<Schema_Pist_4>},
       {8, "08-Controllo Livello serbatoio",
        "frmLivello", "LV", "Ctr_Level0", "US-08.htm",
        " 08-Controllo Livello Serbatoio.",
        "ME_StatoI", "ME_StatoQ", 3765, 5775, assegnaz, impostazioni,
-       {}, false, true, nullptr, Righe_IO_08(), nullptr},
+       {}, false, true, nullptr, Righe_IO_08(), Crea_Su_Orologio<Ctr_Level0>},
       {9, "09-Cancello Automatico",
        "frmCancello", "CA", "Ctr_Canc", "US-09.htm",
        " 09-Automazione Cancello Elettrico.",
        "ME_StatoI", "ME_StatoQ", 3555, 5565, assegnaz, impostazioni,
-       {}, false, true, nullptr, Righe_IO_09(), nullptr},
+       {}, false, true, nullptr, Righe_IO_09(), Crea_Su_Orologio<Ctr_Canc>},
       {10, "10-Miscelatore di due liquidi con controllo temperatura",
        "frmMiscela", "ML", "ctr_Misc", "US-10.htm",
        " 10-Miscelatore di due liquidi con controllo temperatura.",
        "ME_StatiI", "ME_StatoQ", 5400, 7425, assegnaz, impostazioni,
-       pompe_10, true, true, nullptr, Righe_IO_10(), nullptr},
+       pompe_10, true, true, nullptr, Righe_IO_10(), Crea_Su_Orologio<ctr_Misc>},
       {11, "11-Garage Automatico",
        "frmGar", "GA", "ctr_Garage", "US-11.htm",
        " 11-Garage automatico.",
        "ME_StatoI", "ME_StatoQ", 6210, 8310, assegnaz, impostazioni,
-       garage, false, true, nullptr, Righe_IO_11(), nullptr},
+       garage, false, true, nullptr, Righe_IO_11(), Crea_Garage},
       {12, "12-Miscelatore di due liquidi ",
        "frmMisc2", "ML", "ctr_Mis2", "US-12.htm",
        " 12-Miscelatore di due liquidi",
        "ME_StatoI", "ME_StatoQ", 3795, 5865, assegnaz, impostazioni,
-       pompe_12, true, true, nullptr, Righe_IO_12(), nullptr},
+       pompe_12, true, true, nullptr, Righe_IO_12(), Crea_Su_Orologio<ctr_Mis2>},
       {13, "13-Miscelatore a quattro ingressi",
        "frmMisc4", "MS", "ctr_Mis4", "US-13.htm",
        " 13-Miscelatore di liquidi a quattro ingressi.",
        "ME_StatoI", "ME_StatoQ", 4305, 6375, assegnaz, impostazioni,
-       pompe_13, true, true, nullptr, Righe_IO_13(), nullptr},
+       pompe_13, true, true, nullptr, Righe_IO_13(), Crea_Su_Orologio<ctr_Mis4>},
       {14, "14-Ascensore didattico",
        "frmAsc", "MS", "ctr_Ascensore", "US-14.htm",
        " 14-Ascensore didattico a quattro piani.",
        "ME_StatoI", "ME_StatoQ", 5955, 8025, assegnaz, impostazioni,
-       ascensore, true, true, nullptr, Righe_IO_14(), nullptr},
+       ascensore, true, true, nullptr, Righe_IO_14(), Crea_Ascensore},
       {15, "15-Ciclo elettropneumatico con tre cilindri e valvole monostabili",
        "frmPist32", "MS", "ctr_Pist_32", "US-15.htm",
        " 15-Ciclo elettropneumatico con tre cilindri e valvole monostabili.",
        "ME_StatoI", "ME_StatoQ", 3600, 5685, ass, impostazioni,
-       aria_15, false, true, nullptr, Righe_IO_15(), nullptr},
+       aria_15, false, true, nullptr, Righe_IO_15(), Crea_Pneumatico<Schema_ctr_Pist_32>},
       {16, "16-Semaforo Pedonale",
        "frmSemaf1", "CA", "ctr_Semaf1", "US-16.htm",
        " 16-Semaforo Pedonale.",
        "ME_StatoI", "ME_StatoQ", 2865, 4725, assegnaz, impostazioni,
-       {}, false, false, nullptr, Righe_IO_16(), nullptr},
+       {}, false, false, nullptr, Righe_IO_16(), Crea_Semaforo},
       {17, "17-Controllo analogico di posizione",
        "frmAssi", "MS", "ctr_Assi", "US-17.htm",
        " 17-Controllo di Posizione.",
        "ME_StatoI", "ME_StatoQ", 4095, 6210, assegnaz, impostazioni,
-       {}, false, true, "Enabled", Righe_IO_17(), nullptr},
+       {}, false, true, "Enabled", Righe_IO_17(), Crea_Assi},
   }};
 }
 // clang-format on

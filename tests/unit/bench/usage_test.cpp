@@ -10,7 +10,8 @@ TEST_F(Usage, HelpNamesEveryCommandAndOption) {
            {"--help"}, {"-h"}, {"compila", "--help"}, {"esegui", "--help"}}) {
     EXPECT_EQ(Comando(parole), 0);
     for (const char* parola :
-         {"compila", "esegui", "--json", "--ms", "--scansione", "--ingressi", "Stato di uscita"})
+         {"compila", "esegui", "--json", "--ms", "--scansione", "--ingressi", "--impianto",
+          "--mani", "premi:", "rilascia:", "clic:", "doppio:", "regola:", "Stato di uscita"})
       EXPECT_NE(out.find(parola), std::string::npos) << parola;
   }
 }

@@ -1,0 +1,46 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# The first exercise as a student meets it: opened from the menu with its program running, Start
+# pressed in the picture; contactor and lamp follow, hold, and fall with Stop.
+# Usage: plant_in_run.sh PROGRAM PROJECT
+source "$(dirname "$0")/screen.sh"
+
+# In the picture at 100 %: coil of the contactor, green lamp, Start and Stop.
+coil=24x24+81+111
+lamp=20x20+727+200
+button=12x12+452+204
+start='457 210'
+stop='365 210'
+plant='00-Marcia/arresto'
+
+# Held until the parts look as they should, since a tap may be shorter than a scan.
+# Usage: press X Y TEST
+press() {
+  xdotool mousemove --window "$(visible "$plant" | tail -1)" "$1" "$2" mousedown 1
+  for part in coil lamp; do wait_until "$part $3" "$3" "$plant" "${!part}" "$work/$part.png"; done
+  xdotool mouseup 1
+}
+
+open_screen
+start_program "$1"
+load_project "$2"
+keys F5
+keys alt+s Return
+focus "$plant"
+wait_window 'Indicatori Stato'
+for part in coil lamp button; do piece "$plant" "${!part}" "$work/$part.png"; done
+# shellcheck disable=SC2086
+press $start looks_unlike
+wait_until 'the button to rise' looks_like "$plant" "$button" "$work/button.png"
+for part in coil lamp; do
+  looks_unlike "$plant" "${!part}" "$work/$part.png" || fail "the $part does not hold"
+done
+# shellcheck disable=SC2086
+press $stop looks_like
+keys alt+F4
+wait_gone "$plant"
+wait_gone 'Indicatori Stato'
+focus 'Simulatore PLC'
+keys ctrl+q
+ends_with 0
+echo "started, held and stopped"

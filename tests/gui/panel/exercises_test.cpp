@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The exercises through the menu of the panel, with all the windows that open and close with them.
+#include "plants/exercises.h"
+
+#include "panel/child_windows.h"
+#include "panel/panel_bed.h"
+
+namespace tavorno {
+namespace {
+
+struct Esercizi_Dal_Menu : Banco_Pannello {
+  Guida guida;
+  Finestre finestre{pannello, plc, progetto, guida};
+
+  static QWidget* Finestra(const QString& nome) {
+    for (QWidget* finestra : QApplication::topLevelWidgets()) {
+      if (finestra->objectName() == nome && finestra->isVisible()) return finestra;
+    }
+    return nullptr;
+  }
+  QString Voce(int indice) { return QStringLiteral("mnuPrj(%1)").arg(indice); }
+};
+
+TEST_F(Esercizi_Dal_Menu, EachOpensAndClosesWithItsWindows) {
+  for (const Esercizio& esercizio : Tabella_Esercizi()) {
+    if (esercizio.Crea == nullptr) continue;
+    SCOPED_TRACE(esercizio.Titolo);
+    Azione(pannello, Voce(esercizio.Indice)).trigger();
+    QWidget* host = Finestra(esercizio.Host);
+    QWidget* stati = Finestra("frmStatiL");
+    ASSERT_NE(host, nullptr);
+    ASSERT_NE(stati, nullptr);
+    EXPECT_EQ(host->pos(), QPoint(0, 0));
+    EXPECT_GE(stati->x(), host->width());
+    EXPECT_EQ(stati->y(), 0);
+    EXPECT_TRUE(Azione(pannello, Voce(esercizio.Indice)).isChecked());
+    EXPECT_FALSE(Azione(pannello, Voce(0)).isEnabled());
+    EXPECT_FALSE(c.Fronte->Sim_I(0).isVisibleTo(&pannello));
+    EXPECT_NE(pannello.cursor().shape(), Qt::WaitCursor);
+
+    host->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(Finestra(esercizio.Host), nullptr);
+    EXPECT_EQ(Finestra("frmStatiL"), nullptr);
+    EXPECT_FALSE(Azione(pannello, Voce(esercizio.Indice)).isChecked());
+    EXPECT_TRUE(Azione(pannello, Voce(0)).isEnabled());
+    EXPECT_TRUE(c.Fronte->Sim_I(0).isVisibleTo(&pannello));
+    EXPECT_FALSE(c.Fronte->Sim_C().isVisibleTo(&pannello));
+  }
+}
+
+TEST_F(Esercizi_Dal_Menu, TheDefaultsOfAPlantReachTheInputsAtOnce) {
+  Azione(pannello, Voce(0)).trigger();
+  EXPECT_EQ(plc.SI[0].Stato_I(), "10011000");
+  EXPECT_EQ(plc.SI[1].Stato_I(), "00000000");
+  Finestra("frmMA")->close();
+}
+
+TEST_F(Esercizi_Dal_Menu, AThumbwheelGivesWayToTheSwitchesWhenAPlantCloses) {
+  finestre.Mostra_Impostazioni();
+  Finestra("frmSetPLC")->findChild<QAbstractButton*>("opzSim(1)")->click();
+  Finestra("frmSetPLC")->findChild<QAbstractButton*>("cmdSet")->click();
+  EXPECT_TRUE(c.Fronte->Sim_C().isVisibleTo(&pannello));
+  EXPECT_EQ(finestre.Sim_Contraves, -1);
+  Azione(pannello, Voce(0)).trigger();
+  Finestra("frmMA")->close();
+  EXPECT_FALSE(c.Fronte->Sim_C().isVisibleTo(&pannello));
+  EXPECT_TRUE(c.Fronte->Sim_I(1).isVisibleTo(&pannello));
+  EXPECT_EQ(finestre.Sim_Contraves, -1);
+}
+
+TEST_F(Esercizi_Dal_Menu, ThePanelAndTheEditorOpenEveryOtherWindow) {
+  finestre.Mostra_Analogici();
+  finestre.Mostra_Stati();
+  finestre.Mostra_Debug();
+  finestre.Mostra_Editor(2);
+  for (const char* nome : {"frmSimAI", "frmStatiL", "frmDebug", "frmMain"})
+    EXPECT_NE(Finestra(nome), nullptr) << nome;
+  finestre.Mostra_Editor(2);  // the same window comes to the front
+  int quante = 0;
+  for (const QWidget* finestra : QApplication::topLevelWidgets())
+    quante += finestra->objectName() == "frmMain" && finestra->isVisible();
+  EXPECT_EQ(quante, 1);
+  pannello.hide();
+  Finestra("frmMain")->close();
+  EXPECT_TRUE(pannello.isVisible()) << "the editor leads back to the panel";
+}
+
+}  // namespace
+}  // namespace tavorno
