@@ -37,6 +37,17 @@ focus 'Editor AWL'
 picture editor-errors 'Editor AWL'
 keys alt+v f m
 picture editor-annotations 'Editor AWL'
+keys ctrl+p
+picture print 'Stampe Progetto'
+keys Escape
+wait_gone 'Stampe Progetto'
+focus 'Editor AWL'
+click_at 'Editor AWL' $((837 * QT_SCALE_FACTOR)) $((456 * QT_SCALE_FACTOR))  # its only way in
+picture debug 'Finestra Test'
+focus 'Finestra Test'
+keys Escape
+wait_gone 'Finestra Test'
+focus 'Editor AWL'
 keys ctrl+q
 wait_gone 'Editor AWL'
 load_project "$examples/semaforo.AWL"
