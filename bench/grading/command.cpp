@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bench/grading/command.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <iostream>
+#include <thread>
+
+#include "awl/file_io.h"
+#include "bench/arguments.h"
+#include "bench/commands.h"
+#include "bench/grading/grader.h"
+#include "bench/grading/reports.h"
+#include "bench/grading/script_functions.h"
+#include "bench/grading/trace.h"
+
+namespace tavorno {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* aiuto =
+    R"(tavorno-banco prova: esamina progetti con uno o più script, in tempo virtuale.
+
+Uso:
+  tavorno-banco prova PROGETTO.AWL... SCRIPT.lua... [opzioni]
+      I file .lua sono gli script, gli altri i progetti; di una cartella si
+      esaminano tutti i file .AWL, anche quelli nelle sue sottocartelle.
+      Con un solo progetto stampa ogni caso; con più progetti li esamina insieme
+      su tutti i processori e stampa una riga per ciascuno.
+      --impianto N       l'esercizio collegato alla CPU (0..17)
+      --caso NOME        esegue soltanto la prova con questo nome
+      --junit FILE       rapporto JUnit XML, un testcase per ogni prova
+      --csv FILE         tabella dei punti, una riga per progetto
+      --json             stampa il rapporto in JSON
+      --vcd FILE         ingressi e uscite nel tempo, per GTKWave (un solo progetto)
+      --svg FILE         diagramma dei tempi (un solo progetto)
+      --processi N       quanti progetti alla volta (normalmente i processori)
+
+Funzioni degli script (Lua 5.4, senza file, processi e rete):
+)";
+
+constexpr const char* stati = R"(
+Stato di uscita: 0 tutte le prove superate, 1 qualcuna no, 2 progetto o script
+illeggibile, 64 uso errato.
+)";
+
+constexpr std::uintmax_t script_massimo = 1024 * 1024;
+
+class Illeggibile : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+std::string Estensione(const fs::path& file) {
+  std::string estensione = file.extension().string();
+  for (char& c : estensione) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return estensione;
+}
+
+Sorgente_Script Leggi_Script(const std::string& file) {
+  std::error_code errore;
+  if (fs::file_size(file, errore) > script_massimo && !errore)
+    throw Illeggibile(file + ": lo script è troppo grande.");
+  Contenuto_File contenuto = Leggi_File(file);
+  if (!contenuto.Errore.empty())
+    throw Illeggibile(file + ": impossibile leggere lo script: " + contenuto.Errore + ".");
+  std::string nome = fs::path(file).filename().string();
+  std::ranges::replace(nome, ':', '_');  // ends the name in the messages of the language
+  Sorgente_Script script{nome, std::move(contenuto.Byte)};
+  if (script.Testo.starts_with("\xEF\xBB\xBF")) script.Testo.erase(0, 3);
+  const std::string sbaglio = Errore_Di_Sintassi(script);
+  if (!sbaglio.empty()) throw Illeggibile(file + ": " + sbaglio);
+  return script;
+}
+
+/// The projects of a folder, in the order of their paths.
+void Aggiungi_Cartella(const std::string& cartella, std::vector<std::string>& progetti) {
+  std::vector<std::string> trovati;
+  std::error_code errore;
+  const auto opzioni = fs::directory_options::skip_permission_denied;
+  for (fs::recursive_directory_iterator voce(cartella, opzioni, errore), fine;
+       !errore && voce != fine; voce.increment(errore)) {
+    if (voce->is_regular_file(errore) && Estensione(voce->path()) == ".awl")
+      trovati.push_back(voce->path().string());
+  }
+  if (trovati.empty()) throw Illeggibile(cartella + ": la cartella non contiene progetti .AWL.");
+  std::ranges::sort(trovati);
+  progetti.insert(progetti.end(), trovati.begin(), trovati.end());
+}
+
+/// What the command line names.
+struct Incarico {
+  std::vector<std::string> Progetti;
+  bool Molti = false;
+  Verifiche Con;
+};
+
+Incarico Leggi_Incarico(const Argomenti& argomenti) {
+  Incarico incarico;
+  std::vector<std::string> altri;
+  for (const std::string& file : argomenti.File()) {
+    if (Estensione(file) == ".lua" && !fs::is_directory(file))
+      incarico.Con.Script.push_back(Leggi_Script(file));
+    else
+      altri.push_back(file);
+  }
+  if (altri.empty()) throw Uso_Errato("manca il file del progetto");
+  if (incarico.Con.Script.empty()) throw Uso_Errato("manca lo script (un file .lua)");
+  incarico.Molti = altri.size() > 1;
+  for (const std::string& file : altri) {
+    std::error_code errore;
+    if (fs::is_directory(file, errore)) {
+      incarico.Molti = true;
+      Aggiungi_Cartella(file, incarico.Progetti);
+    } else {
+      incarico.Progetti.push_back(file);
+    }
+  }
+  incarico.Con.Solo_Caso = argomenti.Testo("--caso", "");
+  if (argomenti.Ha("--impianto")) {
+    const auto numero = static_cast<std::size_t>(argomenti.Numero("--impianto", 0, 0, 17));
+    incarico.Con.Impianto = &Tabella_Esercizi()[numero];
+    if (!incarico.Con.Impianto->Crea)
+      throw Uso_Errato("l'impianto " + std::to_string(numero) + " non è disponibile");
+  }
+  return incarico;
+}
+
+void Scrivi_Rapporto(const std::string& file, const std::string& testo) {
+  const std::string errore = Scrivi_File(file, testo);
+  if (!errore.empty()) throw std::runtime_error("impossibile scrivere \"" + file + "\": " + errore);
+}
+
+std::vector<Esito_Progetto> Esamina_Molti(const Incarico& incarico, unsigned processi, bool righe,
+                                          std::ostream& out, std::ostream& err) {
+  std::vector<Esito_Progetto> esiti;
+  // Nobody wants the progress in a file.
+  const bool terminale = &err == &std::cerr && ::isatty(STDERR_FILENO) == 1;
+  const std::size_t tutti = incarico.Progetti.size();
+  Esamina_Tutti(
+      incarico.Progetti, incarico.Con, processi,
+      [&](const Esito_Progetto& esito) {
+        if (terminale) err << "\r\033[K";
+        if (righe) Stampa_Riga(out, esito);
+        esiti.push_back(esito);
+      },
+      [&](std::size_t fatti) {
+        if (!terminale) return;
+        out.flush();
+        err << "esaminati " << fatti << " di " << tutti << std::flush;
+        if (fatti == tutti) err << "\r\033[K";
+      });
+  return esiti;
+}
+
+void Stampa_Somma(std::ostream& out, const std::vector<Esito_Progetto>& esiti) {
+  const auto superati = std::ranges::count_if(esiti, &Esito_Progetto::Superato);
+  out << "Superati " << superati << " progetti su " << esiti.size() << ".\n";
+}
+
+int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
+  const Incarico incarico = Leggi_Incarico(argomenti);
+  const bool json = argomenti.Ha("--json");
+  const bool tracce = argomenti.Ha("--vcd") || argomenti.Ha("--svg");
+  if (incarico.Molti && tracce)
+    throw Uso_Errato("le opzioni --vcd e --svg vogliono un solo progetto");
+  const auto processi = static_cast<unsigned>(
+      argomenti.Numero("--processi", std::max(1U, std::thread::hardware_concurrency()), 1, 256));
+
+  std::vector<Esito_Progetto> esiti;
+  if (incarico.Molti) {
+    esiti = Esamina_Molti(incarico, processi, !json, out, err);
+    if (!json) Stampa_Somma(out, esiti);
+  } else {
+    Traccia traccia(incarico.Con.Impianto);
+    const std::string& progetto = incarico.Progetti.front();
+    esiti.push_back(Esamina(progetto, incarico.Con, tracce ? &traccia : nullptr));
+    if (!json) Stampa_Progetto(out, esiti.front());
+    if (argomenti.Ha("--vcd")) Scrivi_Rapporto(argomenti.Testo("--vcd", ""), Testo_Vcd(traccia));
+    if (argomenti.Ha("--svg"))
+      Scrivi_Rapporto(argomenti.Testo("--svg", ""),
+                      Diagramma_Svg(traccia, fs::path(progetto).filename().string()));
+  }
+  if (json) out << Rapporto_Json(esiti) << '\n';
+  if (argomenti.Ha("--junit"))
+    Scrivi_Rapporto(argomenti.Testo("--junit", ""), Rapporto_Junit(esiti));
+  if (argomenti.Ha("--csv")) Scrivi_Rapporto(argomenti.Testo("--csv", ""), Rapporto_Csv(esiti));
+
+  if (!incarico.Molti && esiti.front().Illeggibile) return Uscita_Illeggibile;
+  return std::ranges::all_of(esiti, &Esito_Progetto::Superato) ? Uscita_Buona : Uscita_Errori;
+}
+
+}  // namespace
+
+std::string Aiuto_Prova() {
+  std::string testo = aiuto;
+  for (const Riga_Funzione& riga : Funzioni_Script())
+    testo += std::string("  ") + riga.Uso + "\n      " + riga.Aiuto + "\n";
+  return testo + stati;
+}
+
+int Comando_Prova(const std::vector<std::string>& parole, std::ostream& out, std::ostream& err) {
+  if (std::ranges::any_of(parole, [](const auto& p) { return p == "--help" || p == "-h"; })) {
+    out << Aiuto_Prova();
+    return Uscita_Buona;
+  }
+  try {
+    return Esegui(
+        Argomenti(parole,
+                  {"--impianto", "--caso", "--junit", "--csv", "--vcd", "--svg", "--processi"},
+                  {"--json"}),
+        out, err);
+  } catch (const Uso_Errato& errore) {
+    err << "tavorno-banco: " << errore.what() << " (tavorno-banco prova --help per l'aiuto)\n";
+    return Uscita_Uso;
+  } catch (const Illeggibile& errore) {
+    err << errore.what() << '\n';
+    return Uscita_Illeggibile;
+  } catch (const std::exception& errore) {
+    err << "tavorno-banco: " << errore.what() << '\n';
+    return Uscita_Errori;
+  }
+}
+
+}  // namespace tavorno

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The scripts of the exercises hold for the solved projects, and see what is broken in them.
+#include "grading_bed.h"
+
+namespace tavorno::prova {
+
+const std::filesystem::path esempi =
+    std::filesystem::path(__FILE__).parent_path() / "../../../examples";
+
+struct Esempio {
+  int Numero;
+  std::string Nome() const { return (Numero < 10 ? "us0" : "us") + std::to_string(Numero); }
+};
+void PrintTo(const Esempio& esempio, std::ostream* dove) {
+  *dove << esempio.Nome();
+}
+
+Esito_Progetto Esamina_Esempio(const Esempio& esempio, const std::string& progetto) {
+  Verifiche verifiche;
+  verifiche.Script.push_back(
+      {esempio.Nome() + ".lua", Banco_Esami::Leggi(esempi / (esempio.Nome() + ".lua"))});
+  verifiche.Impianto = &Tabella_Esercizi()[static_cast<std::size_t>(esempio.Numero)];
+  return Esamina(progetto, verifiche);
+}
+
+/// Every exercise that has a script.
+std::vector<Esempio> Esempi() {
+  std::vector<Esempio> trovati;
+  for (int numero = 0; numero < 18; ++numero) {
+    const Esempio esempio{numero};
+    if (std::filesystem::exists(esempi / (esempio.Nome() + ".lua"))) trovati.push_back(esempio);
+  }
+  return trovati;
+}
+
+class SolvedProject : public Banco_Esami, public ::testing::WithParamInterface<Esempio> {};
+
+TEST_P(SolvedProject, PassesEveryCaseWithFullMarks) {
+  const Esito_Progetto esito =
+      Esamina_Esempio(GetParam(), (esempi / (GetParam().Nome() + ".AWL")).string());
+  EXPECT_GE(esito.Casi.size(), 3);
+  for (const Caso& caso : esito.Casi) {
+    EXPECT_TRUE(caso.Superato()) << caso.Nome << ": " << caso.Rilievi[0].Testo;
+    EXPECT_EQ(caso.Punti, caso.Massimo) << caso.Nome;
+  }
+  EXPECT_GT(esito.Massimo(), 10);
+}
+
+INSTANTIATE_TEST_SUITE_P(Examples, SolvedProject, ::testing::ValuesIn(Esempi()));
+
+/// One thing broken in a solved project: the first line that begins like this becomes another, or
+/// goes.
+struct Mutazione {
+  Esempio Di;
+  const char* Riga;
+  const char* Diventa;  // "" removes the line
+};
+void PrintTo(const Mutazione& mutazione, std::ostream* dove) {
+  *dove << mutazione.Di.Nome() << ": " << mutazione.Riga << " -> " << mutazione.Diventa;
+}
+
+class BrokenProject : public Banco_Esami, public ::testing::WithParamInterface<Mutazione> {};
+
+TEST_P(BrokenProject, IsSeenByTheScript) {
+  const Mutazione& m = GetParam();
+  std::string testo = Leggi(esempi / (m.Di.Nome() + ".AWL"));
+  const std::size_t inizio = testo.find(std::string("\n") + m.Riga);
+  ASSERT_NE(inizio, std::string::npos) << "the solved project has no such line";
+  std::size_t fine = testo.find_first_of("\r\n", inizio + 1);
+  if (*m.Diventa == '\0') fine = testo.find('\n', inizio + 1);
+  testo.replace(inizio + (*m.Diventa ? 1 : 0), fine - inizio - (*m.Diventa ? 1 : 0), m.Diventa);
+  const Esito_Progetto esito = Esamina_Esempio(m.Di, File("mutato.AWL", testo));
+  EXPECT_FALSE(esito.Illeggibile);
+  EXPECT_FALSE(esito.Superato());
+  EXPECT_LT(esito.Punti(), esito.Massimo());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Contacts, BrokenProject,
+    ::testing::Values(Mutazione{{0}, "A I0.3", "AN I0.3"}, Mutazione{{0}, "A I0.0", "AN I0.0"},
+                      Mutazione{{1}, "A I0.6", "AN I0.6"}, Mutazione{{1}, "LDN I0.5", "LD I0.5"},
+                      Mutazione{{2}, "O I0.2", "ON I0.2"}, Mutazione{{3}, "A I0.5", "AN I0.5"},
+                      Mutazione{{4}, "A I0.2", "AN I0.2"}, Mutazione{{5}, "A I0.7", "AN I0.7"},
+                      Mutazione{{6}, "LD I0.6", "LDN I0.6"}, Mutazione{{7}, "A I0.7", "AN I0.7"},
+                      Mutazione{{15}, "A I0.5", "AN I0.5"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Lines, BrokenProject,
+    ::testing::Values(Mutazione{{0}, "O I0.2", ""}, Mutazione{{0}, "A I0.4", ""},
+                      Mutazione{{0}, "= Q0.1", ""}, Mutazione{{1}, "= Q0.1", ""},
+                      Mutazione{{2}, "A I0.5", ""}, Mutazione{{3}, "A I1.1", ""}));
+
+INSTANTIATE_TEST_SUITE_P(Times, BrokenProject,
+                         ::testing::Values(Mutazione{{1}, "TON T37 +20", "TON T37 +2"},
+                                           Mutazione{{2}, "TON T37 +50", "TON T37 +100"},
+                                           Mutazione{{3}, "TON T37 +50", "TON T37 +10"},
+                                           Mutazione{{4}, "TON T37 +10", "TON T37 +30"},
+                                           Mutazione{{5}, "TON T37 +100", "TON T37 +10"},
+                                           Mutazione{{6}, "TON T37 +150", "TON T37 +15"},
+                                           Mutazione{{7}, "TON T37 +300", "TON T37 +30"},
+                                           Mutazione{{15}, "TON T37 +150", "TON T37 +15"}));
+
+}  // namespace tavorno::prova
