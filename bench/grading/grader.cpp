@@ -50,6 +50,7 @@ Esito_Progetto Esamina(const std::string& percorso, const Verifiche& verifiche, 
     ambiente.Impianto = verifiche.Impianto;
     ambiente.Registra = traccia;
     ambiente.Solo_Caso = verifiche.Solo_Caso;
+    ambiente.Basta_Un_Errore = verifiche.Basta_Un_Errore;
     ambiente.Limiti = verifiche.Limiti;
     ambiente.Inizio = verifiche.Inizio;
     Prepara(*seduta, percorso, ambiente, esito);

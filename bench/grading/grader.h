@@ -14,7 +14,8 @@ namespace tavorno {
 struct Verifiche {
   std::vector<Sorgente_Script> Script;
   const Esercizio* Impianto = nullptr;
-  std::string Solo_Caso;  ///< empty: all
+  std::string Solo_Caso;         ///< empty: all
+  bool Basta_Un_Errore = false;  ///< cases behind the first that fails are not run
   Limiti_Script Limiti;
   Scorte Inizio;
 };

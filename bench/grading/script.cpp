@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/grading/script.h"
 
+#include <algorithm>
 #include <lua5.4/lua.hpp>
 
 #include "bench/grading/lua_messages.h"
@@ -65,6 +66,8 @@ Caso& Esame::Adesso() {
 
 bool Esame::Inizia(const std::string& nome) {
   if (In_Prova && !ambiente_.Solo_Caso.empty() && nome != ambiente_.Solo_Caso) return false;
+  const bool fallito = !std::ranges::all_of(casi_, &Caso::Superato);
+  if (In_Prova && ambiente_.Basta_Un_Errore && fallito) return false;
   if (In_Prova && static_cast<int>(casi_.size()) >= ambiente_.Limiti.Casi) {
     In_Prova = false;
     throw Errore_Script("lo script ha più di " + std::to_string(ambiente_.Limiti.Casi) + " casi");

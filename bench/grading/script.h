@@ -26,9 +26,10 @@ struct Ambiente_Script {
   std::string Motivo;                  ///< why there is none
   std::string Listato;                 ///< and the listing of its errors
   const Esercizio* Impianto = nullptr;
-  Traccia* Registra = nullptr;  ///< gets every case, one behind the other; may be nullptr
-  std::string Solo_Caso;        ///< the only case to run; empty: all
-  Scorte Inizio;                ///< what each script may spend
+  Traccia* Registra = nullptr;   ///< gets every case, one behind the other; may be nullptr
+  std::string Solo_Caso;         ///< the only case to run; empty: all
+  bool Basta_Un_Errore = false;  ///< no case behind the first that fails
+  Scorte Inizio;                 ///< what each script may spend
   Limiti_Script Limiti;
 };
 
