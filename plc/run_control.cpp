@@ -216,7 +216,8 @@ void Plc::Tick_timIO() {
     const double portata = Scelte.opzAI == Scala::Volt_10 ? 10 : 20;
     for (int n = 0; n <= 2; ++n)
       Mem_AIW[2 * n] =
-          A_32(static_cast<long long>(std::floor(Volt_AI[n] * double{fondo_scala} / portata)), "Mem_AIW");
+          A_32(static_cast<long long>(std::floor(Volt_AI[n] * double{fondo_scala} / portata)),
+               "Mem_AIW");
   }
   const int portata = Scelte.opzAQ == Scala::Volt_10 ? 10 : 20;
   for (int n = 0; n <= 1; ++n)
