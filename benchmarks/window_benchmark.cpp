@@ -66,6 +66,7 @@ struct Sguardi {
   bool Stati = false;     // the status window is open
   bool Spunte = false;    // stack and images are ticked
   bool Attesa = false;    // the run waits at the top of its scan
+  bool Motore = false;    // the first exercise is open and wired to the measured program
   bool Impianto = false;  // four cylinders at work, with the solved project of that exercise
 };
 
@@ -99,6 +100,12 @@ double Con_Pannello(double secondi, Sguardi sguardi) {
   Stato_Impianto stato;
   std::unique_ptr<Finestra_Impianto> impianto;
   if (sguardi.Impianto) impianto = Apri_Cilindri(cpu, stato);
+  if (sguardi.Motore) {
+    impianto = std::make_unique<Finestra_Impianto>(
+        std::make_unique<Collegamento>(cpu.plc, stato, Tabella_Esercizi()[0]));
+    impianto->Fili().Carica();
+    impianto->show();
+  }
   QApplication::processEvents();
   QTimer::singleShot(static_cast<int>(secondi * 1000), &pannello, [&] { cpu.plc.mnuPlcStop(); });
   return Righe_Al_Secondo(cpu.plc, secondi, [&] { cpu.plc.mnuPlcRun(); });
@@ -126,6 +133,7 @@ int main(int argc, char** argv) {
       {"panel", [&] { return Con_Pannello(secondi, {}); }},
       {"panel, stack and images", [&] { return Con_Pannello(secondi, {.Spunte = true}); }},
       {"panel and status window", [&] { return Con_Pannello(secondi, {.Stati = true}); }},
+      {"panel and open plant", [&] { return Con_Pannello(secondi, {.Motore = true}); }},
   };
   // Round by round, so that a noisy moment of the machine meets every case.
   std::map<const char*, std::vector<double>> misure;
