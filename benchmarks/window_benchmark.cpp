@@ -52,11 +52,9 @@ double Righe_Al_Secondo(Plc& plc, double secondi, const std::function<void()>& c
 // The run loop with a yield that only looks at the time: what the windows are compared with.
 double Senza_Finestre(double secondi) {
   Cpu cpu;
-  int righe = 0;
   const auto fine = Orario::now() + std::chrono::duration<double>(secondi);
+  cpu.plc.Hook.Righe_Per_Cessione = Guida_Corsa::Righe_Per_Sguardo;
   cpu.plc.Hook.Cedi = [&] {
-    if (++righe < Guida_Corsa::Righe_Per_Sguardo) return;
-    righe = 0;
     if (Orario::now() > fine) cpu.plc.mnuPlcStop();
   };
   return Righe_Al_Secondo(cpu.plc, secondi, [&] { cpu.plc.mnuPlcRun(); });

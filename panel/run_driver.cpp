@@ -9,11 +9,12 @@ namespace tavorno {
 Guida_Corsa::Guida_Corsa(Plc& plc, std::function<void()> aggiorna) : plc_(plc) {
   cronometro_.start();
   plc_.Hook.Cedi = [this] { Cedi(); };
+  plc_.Hook.Righe_Per_Cessione = Righe_Per_Sguardo;
 
   // A stopped CPU has a living plant, a cover that slides and blinking lamps: they need the clock.
   riposo_.setTimerType(Qt::PreciseTimer);
   riposo_.setInterval(A_Riposo);
-  riposo_.callOnTimeout([this] { Porta_Al_Presente(); });
+  riposo_.callOnTimeout([this] { Porta_Al_Presente(Adesso()); });
   riposo_.start();
 
   schermo_.setTimerType(Qt::PreciseTimer);
@@ -24,6 +25,7 @@ Guida_Corsa::Guida_Corsa(Plc& plc, std::function<void()> aggiorna) : plc_(plc) {
 
 Guida_Corsa::~Guida_Corsa() {
   plc_.Hook.Cedi = nullptr;
+  plc_.Hook.Righe_Per_Cessione = 1;
 }
 
 void Guida_Corsa::Ferma() {
@@ -31,21 +33,22 @@ void Guida_Corsa::Ferma() {
   schermo_.stop();
 }
 
-void Guida_Corsa::Porta_Al_Presente() {
-  plc_.Tempo.Porta_A(std::chrono::duration_cast<std::chrono::milliseconds>(Adesso()).count());
+void Guida_Corsa::Porta_Al_Presente(Istante adesso) {
+  plc_.Tempo.Porta_A(std::chrono::duration_cast<std::chrono::milliseconds>(adesso).count());
 }
 
-void Guida_Corsa::Cima() {
-  const Istante fine = scansione_ + std::chrono::milliseconds{1};
-  if (Attesa && Adesso() < fine) std::this_thread::sleep_for(fine - Adesso());
-  scansione_ = Adesso();
-  Guarda();
-}
-
-void Guida_Corsa::Guarda() {
-  righe_ = 0;
-  Porta_Al_Presente();
-  if (Adesso() - eventi_ < Eventi) return;
+void Guida_Corsa::Cedi() {
+  Istante adesso = Adesso();
+  if (plc_.PC == 0) {
+    const Istante fine = scansione_ + std::chrono::milliseconds{1};
+    if (Attesa && adesso < fine) {
+      std::this_thread::sleep_for(fine - adesso);
+      adesso = Adesso();
+    }
+    scansione_ = adesso;
+  }
+  Porta_Al_Presente(adesso);
+  if (adesso - eventi_ < Eventi) return;
   QCoreApplication::processEvents();
   eventi_ = Adesso();
 }

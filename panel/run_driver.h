@@ -25,19 +25,10 @@ class Guida_Corsa {
   /// burn a processor. Off for measuring how fast a program can run.
   bool Attesa = true;
 
-  /// Before each line of a run.
-  void Cedi() {
-    if (plc_.PC == 0) {
-      Cima();
-    } else if (++righe_ == Righe_Per_Sguardo) {
-      Guarda();
-    }
-  }
-
   /// No more ticks and refreshes: the process is about to end with a report.
   void Ferma();
 
-  static constexpr int Righe_Per_Sguardo = 48;             ///< lines between two looks at the time
+  static constexpr int Righe_Per_Sguardo = 96;             ///< lines between two looks at the time
   static constexpr std::chrono::milliseconds Eventi{3};    ///< between two rounds of window events
   static constexpr std::chrono::milliseconds Schermo{20};  ///< between two refreshes
   static constexpr std::chrono::milliseconds A_Riposo{5};  ///< between two moves of the clock
@@ -45,15 +36,13 @@ class Guida_Corsa {
  private:
   using Istante = std::chrono::nanoseconds;
 
-  void Cima();
-  void Guarda();
+  void Cedi();
   Istante Adesso() const { return Istante{cronometro_.nsecsElapsed()}; }
-  void Porta_Al_Presente();
+  void Porta_Al_Presente(Istante adesso);
 
   Plc& plc_;
   QElapsedTimer cronometro_;
   QTimer riposo_, schermo_;
-  int righe_ = 0;
   Istante scansione_{0}, eventi_{0};
 };
 

@@ -93,7 +93,10 @@ struct Plc : Memoria {
   static constexpr int Salti_Di_Seguito = 100;
 
   /// Executes the line of `PC`, and on through jumps up to a line that is no jump.
-  void Esegui_Riga();
+  void Esegui_Riga() { Esegui_Righe(1); }
+  /// The same line after line, at least one and at most `massimo`, to the end of the scan at the
+  /// latest, and no further once `Ferma` is set. Returns how many; nobody looks on in between.
+  int Esegui_Righe(int massimo);
 
   void StartTimer();
   void StopTimer();
@@ -261,8 +264,8 @@ struct Plc : Memoria {
   Esito IncDec_D(const Riga_PLC& riga, int passo);
 
   void Ferma_Timer(const Riga_PLC& riga);
-  Esito Esegui_Ramo();
-  void Fine_Diversa(Esito esito);
+  Esito Esegui_Ramo(int numero);
+  Esito Fine_Diversa(Esito esito);
   void Mostra_Riga();
   void Mostra_Tempo();
   void Avvisa(const Avviso& avviso) const;

@@ -165,7 +165,7 @@ void Plc::Cicla() {
   const In_Corso in_corso(in_ciclo_);
   do {
     if (Hook.Cedi) Hook.Cedi();
-    Esegui_Riga();
+    Esegui_Righe(Hook.Righe_Per_Cessione);
   } while (!Ferma);
 }
 
@@ -174,7 +174,7 @@ void Plc::Cicla_Ciclo() {
   const In_Corso in_corso(in_ciclo_);
   for (;;) {
     if (Hook.Cedi) Hook.Cedi();
-    Esegui_Riga();
+    Esegui_Righe(Scelte.chkStop ? 1 : Hook.Righe_Per_Cessione);
     if (Ferma) return;
     const bool alla_riga = Scelte.chkStop && Scelte.txtStop == PC;
     const bool dopo_i_cicli = Scelte.chkSol && Scelte.txtNC == N_Cicli;

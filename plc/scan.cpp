@@ -10,18 +10,18 @@
 
 namespace tavorno {
 
-/// The line of `PC`, without its end.
-[[gnu::always_inline]] inline Esito Plc::Esegui_Ramo() {
-  Riga_PLC& riga = Prog[PC];
-  if (PC == 0) {
+/// The line `numero`, which is that of `PC`, without its end.
+[[gnu::always_inline]] inline Esito Plc::Esegui_Ramo(int numero) {
+  Riga_PLC& riga = Prog[numero];
+  if (numero == 0) {
     StartTimer();
     Aggiorna_IP_Ing();
   }
   return riga.Esegui(*this, riga);
 }
 
-/// What every line that ends well shows.
-[[gnu::always_inline]] inline void Plc::Mostra_Riga() {
+/// What a line that ends well shows.
+void Plc::Mostra_Riga() {
   if (Modo_Run == Modo::Step) {
     etPc = PC;
     Segna(Segno_PC);
@@ -29,19 +29,32 @@ namespace tavorno {
   if (tempo_mostrato_ != Tempo_Ciclo && Scelte.chkList) Mostra_Tempo();
 }
 
-void Plc::Esegui_Riga() {
-  const Esito esito = Esegui_Ramo();
-  if (esito != Esito::Avanti) [[unlikely]]
-    return Fine_Diversa(esito);
-  PC = A_16(PC + 1, "PC");
-  Mostra_Riga();
+int Plc::Esegui_Righe(int massimo) {
+  // The number stays in a register: read back from `PC`, each line would wait for the last one's
+  // write. Only a line that ends otherwise moves `PC` itself.
+  std::int16_t riga = PC;
+  for (int fatte = 1;; ++fatte) {
+    const Esito esito = Esegui_Ramo(riga);
+    if (esito != Esito::Avanti) [[unlikely]] {
+      if (Fine_Diversa(esito) == Esito::Fine || Ferma || fatte >= massimo) return fatte;
+      riga = PC;
+      continue;
+    }
+    riga = A_16(riga + 1, "PC");
+    PC = riga;
+    if (Ferma || fatte >= massimo) {
+      Mostra_Riga();
+      return fatte;
+    }
+  }
 }
 
-/// A line that does not just end: a jump goes on at once, up to a line that is none.
-void Plc::Fine_Diversa(Esito esito) {
+/// A line that does not just end: a jump goes on at once, up to a line that is none. How that one
+/// ended.
+Esito Plc::Fine_Diversa(Esito esito) {
   for (int salti = 1; esito == Esito::Salto; ++salti) {
-    if (salti == Salti_Di_Seguito) return;
-    esito = Esegui_Ramo();
+    if (salti == Salti_Di_Seguito) return esito;
+    esito = Esegui_Ramo(PC);
   }
   switch (esito) {
     case Esito::Errore:
@@ -51,7 +64,7 @@ void Plc::Fine_Diversa(Esito esito) {
               Tasti::Ok,
               {}});
       mnuPlcStop();
-      return;
+      return esito;
     case Esito::Ignota:
       Avvisa({"Errore in Esecuzione!",
               "Riga " + std::to_string(PC) + " : <" + A_Utf8(Prog[PC].Istr) +
@@ -63,16 +76,16 @@ void Plc::Fine_Diversa(Esito esito) {
       Ferma = -1;
       PC = A_16(PC + 1, "PC");
       Mostra_Riga();
-      return;
+      return esito;
     case Esito::Fine:
       PC = 0;
       Mostra_Riga();
       Mem_SM[0].Bit[1] = 0;
-      return;
+      return esito;
     default:
       PC = A_16(PC + 1, "PC");
       Mostra_Riga();
-      return;
+      return esito;
   }
 }
 

@@ -304,6 +304,37 @@ TEST_F(RunLoop, ContDuringAStepRunGoesOnFromThePresentLine) {
   EXPECT_EQ(dentro, "0101100 0");
 }
 
+TEST_F(RunLoop, YieldsAtTheTopOfEachScanAndEverySoManyLines) {
+  plc.Hook.Righe_Per_Cessione = 3;
+  Alla_Cessione(5, [this] { plc.Ferma = -1; });
+  plc.mnuPlcRun();
+  EXPECT_EQ(passi, (std::vector<int>{0, 3, 0, 3, 0}));
+  EXPECT_EQ(plc.PC, 1);
+}
+
+TEST_F(RunLoop, ManyLinesAtATimeDoNotRunPastTheLineToStopAt) {
+  plc.Hook.Righe_Per_Cessione = 100;
+  Alla_Cessione(-1, [] {});
+  plc.mnuPlcCiclo();
+  plc.Scelte.chkStop = true;
+  plc.Scelte.txtStop = 2;
+  plc.mnuPlcRun();
+  EXPECT_EQ(plc.PC, 2);
+  EXPECT_EQ(plc.N_Cicli, 0);
+}
+
+TEST_F(RunLoop, ManyLinesAtATimeDoNotRunPastTheScanToStopAfter) {
+  plc.Hook.Righe_Per_Cessione = 100;
+  Alla_Cessione(-1, [] {});
+  plc.mnuPlcCiclo();
+  plc.Scelte.chkSol = true;
+  plc.Scelte.txtNC = 2;
+  plc.mnuPlcRun();
+  EXPECT_EQ(passi, (std::vector<int>{0, 0}));
+  EXPECT_EQ(plc.PC, 0);
+  EXPECT_EQ(plc.N_Cicli, 2);
+}
+
 TEST_F(RunLoop, ContOnAStoppedPlcOnlyChoosesTheMode) {
   plc.mnuPlcStep();
   plc.Scelte.chkList = false;

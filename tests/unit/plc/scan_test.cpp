@@ -62,6 +62,52 @@ INSTANTIATE_TEST_SUITE_P(
         Salto{"CRET", {"NOP", "CALL GIRO", "MEND", "NOP", "NOP", "CRET"}, 5, 4},
         Salto{"JMP to a JMP", {"NOP", "JMP 1", "NOP", "LBL 1", "JMP 2", "NOP", "LBL 2"}, 4, 7}));
 
+struct Fascio {
+  const char* nome;
+  std::vector<std::string> righe;
+  int da, massimo, fatte, poi;
+};
+
+class ManyLines : public Cpu, public ::testing::WithParamInterface<Fascio> {};
+
+TEST_P(ManyLines, EndAtTheLimitOrTheScan) {
+  const auto& [nome, righe, da, massimo, fatte, poi] = GetParam();
+  Carica(righe);
+  plc.PC = static_cast<std::int16_t>(da);
+  plc.Stak[0] = 1;
+  EXPECT_EQ(plc.Esegui_Righe(massimo), fatte);
+  EXPECT_EQ(plc.PC, poi);
+}
+
+// Each program ends with a MEND that `Carica` adds.
+INSTANTIATE_TEST_SUITE_P(
+    Programs, ManyLines,
+    ::testing::Values(Fascio{"Limit", {"NOP", "NOP", "NOP"}, 0, 2, 2, 2},
+                      Fascio{"AtLeastOne", {"NOP", "NOP", "NOP"}, 0, 0, 1, 1},
+                      Fascio{"EndOfTheScan", {"NOP", "NOP", "NOP"}, 1, 100, 3, 0},
+                      Fascio{"OnThroughAJump", {"NOP", "JMP 1", "NOP", "LBL 1", "NOP"}, 0, 3, 3, 5},
+                      Fascio{"AJumpToTheEnd", {"NOP", "JMP 1", "NOP", "LBL 1"}, 0, 100, 3, 0},
+                      Fascio{"LimitAtAJump", {"NOP", "JMP 1", "NOP", "LBL 1", "NOP"}, 0, 2, 2, 4}),
+    [](const auto& caso) { return std::string(caso.param.nome); });
+
+TEST_F(Scan, ManyLinesEndWithTheOneThatStopsTheRun) {
+  Carica({"NOP", "LDB= SMB28 +0", "NOP", "NOP"});
+  plc.PLC_Acceso = -1;
+  EXPECT_EQ(plc.Esegui_Righe(100), 2);
+  EXPECT_EQ(plc.PC, 1);
+  EXPECT_EQ(plc.PLC_Acceso, 0);
+}
+
+TEST_F(Scan, ManyLinesEndWhenAnOutputBringsTheRunToLeave) {
+  Carica({"LD SM0.0", "=I Q0.0", "NOP", "NOP"});
+  plc.Ferma = 0;
+  plc.Hook.Mostra = [](const Avviso&) { FAIL(); };
+  plc.SQ[0].Change = [this] { plc.Ferma = -1; };
+  EXPECT_EQ(plc.Esegui_Righe(100), 5);  // the bars follow at the end of the scan
+  plc.Ferma = -1;
+  EXPECT_EQ(plc.Esegui_Righe(100), 1);
+}
+
 TEST_F(Scan, JumpToLineZeroReadsTheInputsAgain) {
   Carica({"LBL 1", "JMP 1"});
   plc.Esegui_Riga();
