@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/commands.h"
 
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
 #include <iomanip>
 #include <memory>
 #include <optional>
@@ -9,6 +12,8 @@
 #include "bench/json_report.h"
 #include "bench/plant_options.h"
 #include "bench/session.h"
+#include "bench/speed.h"
+#include "bench/trace_options.h"
 #include "bench/virtual_run.h"
 #include "plants/link.h"
 #include "plc/codepage.h"
@@ -39,6 +44,13 @@ Uso:
                          "4000:doppio:imgKM"     un contattore forzato
                          "5000:regola:UpD1=3"    un regolatore o un cursore
                          Un nome sbagliato fa elencare quelli che ci sono.
+      --vcd FILE         ingressi e uscite nel tempo, per GTKWave
+      --svg FILE         diagramma dei tempi
+
+  tavorno-banco misura FILE.AWL [--ms T]
+      Compila ed esegue alla massima velocità, in tempo reale, e stampa quante
+      righe e quante scansioni al secondo.
+      --ms T             durata in millisecondi veri (1..60000, normalmente 1000)
 
   tavorno-banco prova PROGETTO.AWL... SCRIPT.lua... [opzioni]
       Esamina progetti con uno script e assegna i punti; le opzioni e le
@@ -47,8 +59,8 @@ Uso:
   tavorno-banco --help
       Questo testo.
 
-Stato di uscita: 0 tutto bene, 1 errori di compilazione o di esecuzione,
-2 progetto illeggibile, 64 uso errato.
+Stato di uscita: 0 tutto bene, 1 errori di compilazione o di esecuzione oppure
+un file che non si può scrivere, 2 progetto illeggibile, 64 uso errato.
 )";
 
 /// A message box on one line of its own for each line of its text.
@@ -99,6 +111,21 @@ int Comando_Compila(const Argomenti& argomenti, std::ostream& out, std::ostream&
   return seduta->progetto.Compilato ? Uscita_Buona : Uscita_Errori;
 }
 
+/// The same for a project that is to run: its errors have been reported, with the exit status.
+std::unique_ptr<Seduta> Apri_Per_Eseguire(const std::string& file, std::ostream& err,
+                                          Stato_Uscita& stato) {
+  auto seduta = Apri_E_Compila(file, err);
+  stato = seduta ? Uscita_Errori : Uscita_Illeggibile;
+  if (!seduta) return nullptr;
+  if (!seduta->progetto.Compilato) {
+    Stampa_Listato(err, seduta->progetto.Lista_Comp);
+    for (const Avviso& avviso : seduta->Avvisi) Stampa_Avviso(err, avviso);
+    return nullptr;
+  }
+  seduta->Avvisi.clear();
+  return seduta;
+}
+
 int Comando_Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
   Limiti limiti;
   limiti.Durata = argomenti.Numero("--ms", limiti.Durata, 1, 86'400'000);
@@ -107,14 +134,10 @@ int Comando_Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& 
   std::vector<Evento_Ingresso> ingressi = Ingressi_Di(argomenti, esercizio);
   std::vector<Gesto> mani = Mani_Di(argomenti, esercizio);
 
-  const auto seduta = Apri_E_Compila(Un_File(argomenti), err);
-  if (!seduta) return Uscita_Illeggibile;
-  if (!seduta->progetto.Compilato) {
-    Stampa_Listato(err, seduta->progetto.Lista_Comp);
-    for (const Avviso& avviso : seduta->Avvisi) Stampa_Avviso(err, avviso);
-    return Uscita_Errori;
-  }
-  seduta->Avvisi.clear();
+  Stato_Uscita illeggibile{};
+  const std::string& file = Un_File(argomenti);
+  const auto seduta = Apri_Per_Eseguire(file, err, illeggibile);
+  if (!seduta) return illeggibile;
 
   Stato_Impianto stato;
   std::optional<Collegamento> impianto;
@@ -132,7 +155,10 @@ int Comando_Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& 
     out << std::setw(8) << ms << " ms  " << gesto.Come_Testo()
         << ": nessun effetto, la figura ora è nascosta\n";
   };
+  Traccia traccia(esercizio);
+  if (Vuole_Traccia(argomenti)) corsa.Registra = &traccia;
   const Fine_Corsa fine = corsa.Esegui();
+  Scrivi_Traccia(argomenti, traccia, file);
 
   for (const Avviso& avviso : seduta->Avvisi) {
     out << std::setw(8) << corsa.Tempo() << " ms  ";
@@ -156,6 +182,40 @@ int Comando_Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& 
   return Uscita_Errori;
 }
 
+/// As it is written in Italian: "3,7".
+std::string Un_Decimale(double numero) {
+  char testo[64];
+  std::snprintf(testo, sizeof testo, "%.1f", numero);
+  std::string cifre = testo;
+  std::ranges::replace(cifre, '.', ',');
+  return cifre;
+}
+
+int Comando_Misura(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
+  const std::chrono::milliseconds durata{argomenti.Numero("--ms", 1000, 1, 60'000)};
+  Stato_Uscita illeggibile{};
+  const auto seduta = Apri_Per_Eseguire(Un_File(argomenti), err, illeggibile);
+  if (!seduta) return illeggibile;
+  try {
+    const Velocita velocita = Misura(seduta->plc, durata);
+    if (!seduta->plc.PLC_Acceso) {
+      for (const Avviso& avviso : seduta->Avvisi) Stampa_Avviso(out, avviso);
+      out << "Interrotto: la CPU si è fermata alla riga " << seduta->plc.PC << ".\n";
+      return Uscita_Errori;
+    }
+    const auto righe = static_cast<double>(velocita.Righe);
+    out << seduta->plc.Prog.Righe() << " righe: " << Un_Decimale(righe / velocita.Secondi / 1e6)
+        << " milioni di righe al secondo, " << Un_Decimale(velocita.Secondi / righe * 1e9)
+        << " ns per riga, "
+        << Un_Decimale(static_cast<double>(velocita.Scansioni) / velocita.Secondi / 1e3)
+        << " mila scansioni al secondo.\n";
+    return Uscita_Buona;
+  } catch (const Fatale& fatale) {
+    out << "Errore fatale: " << Rapporto_Fatale(fatale, seduta->plc) << '\n';
+    return Uscita_Errori;
+  }
+}
+
 }  // namespace
 
 int Banco(const std::vector<std::string>& argomenti, std::ostream& out, std::ostream& err) {
@@ -172,12 +232,18 @@ int Banco(const std::vector<std::string>& argomenti, std::ostream& out, std::ost
     if (comando == "compila") return Comando_Compila(Argomenti(resto, {}, {"--json"}), out, err);
     if (comando == "esegui")
       return Comando_Esegui(
-          Argomenti(resto, {"--ms", "--scansione", "--ingressi", "--impianto", "--mani"}, {}), out,
-          err);
+          Argomenti(resto,
+                    {"--ms", "--scansione", "--ingressi", "--impianto", "--mani", "--vcd", "--svg"},
+                    {}),
+          out, err);
+    if (comando == "misura") return Comando_Misura(Argomenti(resto, {"--ms"}, {}), out, err);
     throw Uso_Errato("comando sconosciuto: " + comando);
   } catch (const Uso_Errato& errore) {
     err << "tavorno-banco: " << errore.what() << " (tavorno-banco --help per l'aiuto)\n";
     return Uscita_Uso;
+  } catch (const std::runtime_error& errore) {
+    err << "tavorno-banco: " << errore.what() << '\n';
+    return Uscita_Errori;
   }
 }
 

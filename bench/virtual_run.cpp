@@ -64,18 +64,24 @@ void Corsa::Applica_Eventi() {
   }
 }
 
-void Corsa::Prima_Della_Riga() {
+void Corsa::Campiona() {
+  if (Registra) Registra->Campiona(Tempo(), plc_);
+}
+
+/// The yield of the run. It comes again within a scan only when the lines of the limit are used up.
+void Corsa::Prima_Della_Scansione() {
+  const bool prima = scansioni_viste_ < 0;
   if (plc_.N_Cicli == scansioni_viste_) {
-    if (++righe_ > limiti_.Righe_Scansione) {
-      senza_mend_ = true;
-      plc_.Ferma = -1;
-    }
+    senza_mend_ = true;
+    plc_.Ferma = -1;
     return;
   }
   scansioni_viste_ = plc_.N_Cicli;
-  righe_ = 0;
+  if (prima) return;
+  Campiona();
   plc_.Tempo.Avanza(limiti_.Scansione);
   Applica_Eventi();
+  Campiona();
   if (Tempo() >= limiti_.Durata) plc_.Ferma = -1;
 }
 
@@ -104,13 +110,16 @@ Fine_Corsa Corsa::Esegui() {
       if (prima) prima();
     };
   }
-  plc_.Hook.Cedi = [this] { Prima_Della_Riga(); };
+  plc_.Hook.Cedi = [this] { Prima_Della_Scansione(); };
+  plc_.Hook.Righe_Per_Cessione = limiti_.Righe_Scansione;
   inizio_ = plc_.Tempo.Adesso();
+  if (Registra) Registra->Inizia_Caso("esecuzione");
 
   Fine_Corsa fine = Fine_Corsa::Tempo;
   try {
     if (Impianto_Collegato) Impianto_Collegato->Carica();
     Applica_Eventi();
+    Campiona();
     plc_.mnuPlcCont();
     plc_.mnuPlcRun();
     if (senza_mend_)
@@ -121,7 +130,9 @@ Fine_Corsa Corsa::Esegui() {
     rapporto_ = Rapporto_Fatale(fatale, plc_);
     fine = Fine_Corsa::Fatale;
   }
+  if (Registra) Registra->Fine_Caso(Tempo());
   plc_.Hook.Cedi = nullptr;
+  plc_.Hook.Righe_Per_Cessione = 1;
   for (std::size_t n = 0; n < 2; ++n) {
     plc_.SI[n].Change = di_i[n];
     plc_.SQ[n].Change = di_q[n];

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "bench/hands.h"
+#include "bench/trace/trace.h"
 #include "plc/plc.h"
 
 namespace tavorno {
@@ -28,9 +29,9 @@ std::vector<Evento_Ingresso> Leggi_Ingressi(const std::string& testo, std::strin
 
 /// Bounds of a run; each keeps a program that goes wrong from running for ever.
 struct Limiti {
-  std::int64_t Durata = 10000;            ///< virtual time, ms
-  int Scansione = 1;                      ///< virtual time of one scan, ms
-  std::int64_t Righe_Scansione = 100000;  ///< lines without reaching MEND
+  std::int64_t Durata = 10000;   ///< virtual time, ms
+  int Scansione = 1;             ///< virtual time of one scan, ms
+  int Righe_Scansione = 100000;  ///< lines without reaching MEND
 };
 
 enum class Fine_Corsa {
@@ -54,22 +55,23 @@ class Corsa {
   std::vector<Gesto> Mani;  ///< sorted by time; without a plant they are not done
   /// Called with the time in ms since Run and a movement that nothing felt.
   std::function<void(std::int64_t, const Gesto&)> Senza_Effetto;
+  Traccia* Registra = nullptr;  ///< records inputs and outputs, as one case; nullptr: nothing does
 
   Fine_Corsa Esegui();
   std::int64_t Tempo() const { return plc_.Tempo.Adesso() - inizio_; }
   const std::string& Rapporto() const { return rapporto_; }  ///< of a fatal end
 
  private:
-  void Prima_Della_Riga();
+  void Prima_Della_Scansione();
   void Applica_Eventi();
+  void Campiona();
   void Confronta(char area, std::array<std::uint8_t, 2>& visti, int byte, std::uint8_t adesso);
 
   Plc& plc_;
   Limiti limiti_;
   std::int64_t inizio_ = 0;
   std::size_t prossimo_ingresso_ = 0, prossimo_gesto_ = 0;
-  std::int32_t scansioni_viste_ = 0;
-  std::int64_t righe_ = 0;  // of this scan
+  std::int32_t scansioni_viste_ = -1;
   bool senza_mend_ = false;
   std::array<std::uint8_t, 2> ingressi_visti_{}, uscite_viste_{};
   std::string rapporto_;

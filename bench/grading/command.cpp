@@ -14,7 +14,8 @@
 #include "bench/grading/grader.h"
 #include "bench/grading/reports.h"
 #include "bench/grading/script_functions.h"
-#include "bench/grading/trace.h"
+#include "bench/plant_options.h"
+#include "bench/trace_options.h"
 
 namespace tavorno {
 
@@ -123,18 +124,8 @@ Incarico Leggi_Incarico(const Argomenti& argomenti) {
     }
   }
   incarico.Con.Solo_Caso = argomenti.Testo("--caso", "");
-  if (argomenti.Ha("--impianto")) {
-    const auto numero = static_cast<std::size_t>(argomenti.Numero("--impianto", 0, 0, 17));
-    incarico.Con.Impianto = &Tabella_Esercizi()[numero];
-    if (!incarico.Con.Impianto->Crea)
-      throw Uso_Errato("l'impianto " + std::to_string(numero) + " non è disponibile");
-  }
+  incarico.Con.Impianto = Impianto_Di(argomenti);
   return incarico;
-}
-
-void Scrivi_Rapporto(const std::string& file, const std::string& testo) {
-  const std::string errore = Scrivi_File(file, testo);
-  if (!errore.empty()) throw std::runtime_error("impossibile scrivere \"" + file + "\": " + errore);
 }
 
 std::vector<Esito_Progetto> Esamina_Molti(const Incarico& incarico, unsigned processi, bool righe,
@@ -167,7 +158,7 @@ void Stampa_Somma(std::ostream& out, const std::vector<Esito_Progetto>& esiti) {
 int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
   const Incarico incarico = Leggi_Incarico(argomenti);
   const bool json = argomenti.Ha("--json");
-  const bool tracce = argomenti.Ha("--vcd") || argomenti.Ha("--svg");
+  const bool tracce = Vuole_Traccia(argomenti);
   if (incarico.Molti && tracce)
     throw Uso_Errato("le opzioni --vcd e --svg vogliono un solo progetto");
   const auto processi = static_cast<unsigned>(
@@ -182,10 +173,7 @@ int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
     const std::string& progetto = incarico.Progetti.front();
     esiti.push_back(Esamina(progetto, incarico.Con, tracce ? &traccia : nullptr));
     if (!json) Stampa_Progetto(out, esiti.front());
-    if (argomenti.Ha("--vcd")) Scrivi_Rapporto(argomenti.Testo("--vcd", ""), Testo_Vcd(traccia));
-    if (argomenti.Ha("--svg"))
-      Scrivi_Rapporto(argomenti.Testo("--svg", ""),
-                      Diagramma_Svg(traccia, fs::path(progetto).filename().string()));
+    Scrivi_Traccia(argomenti, traccia, progetto);
   }
   if (json) out << Rapporto_Json(esiti) << '\n';
   if (argomenti.Ha("--junit"))

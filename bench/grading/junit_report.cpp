@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <cstdio>
 
-#include "bench/grading/markup.h"
 #include "bench/grading/reports.h"
+#include "bench/trace/markup.h"
 
 namespace tavorno {
 

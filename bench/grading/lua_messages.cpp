@@ -3,7 +3,7 @@
 
 #include <regex>
 
-#include "bench/grading/markup.h"
+#include "bench/trace/markup.h"
 
 namespace tavorno {
 

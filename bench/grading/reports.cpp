@@ -6,7 +6,7 @@
 #include <iomanip>
 #include <nlohmann/json.hpp>
 
-#include "bench/grading/markup.h"
+#include "bench/trace/markup.h"
 
 namespace tavorno {
 

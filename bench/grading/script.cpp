@@ -6,7 +6,7 @@
 
 #include "bench/grading/lua_messages.h"
 #include "bench/grading/script_functions.h"
-#include "bench/grading/trace.h"
+#include "bench/trace/trace.h"
 
 namespace tavorno {
 

@@ -6,9 +6,9 @@
 #include <lua5.4/lua.hpp>
 #include <new>
 
-#include "bench/grading/address.h"
 #include "bench/grading/script.h"
 #include "bench/grading/script_arguments.h"
+#include "bench/trace/address.h"
 
 namespace tavorno {
 

@@ -67,7 +67,8 @@ void Collaudo::Proteggi(Azione azione) {
 void Collaudo::Scansione() {
   const std::int32_t prima = plc_.N_Cicli;
   std::int64_t resto = scorte_.Righe_Scansione;
-  for (; resto > 0 && plc_.N_Cicli == prima && plc_.PLC_Acceso; --resto) plc_.Esegui_Riga();
+  while (resto > 0 && plc_.N_Cicli == prima && plc_.PLC_Acceso)
+    resto -= plc_.Esegui_Righe(static_cast<int>(resto));
   if (resto == 0 && plc_.N_Cicli == prima && plc_.PLC_Acceso) {
     Rompi("Il programma non raggiunge MEND (" + std::to_string(scorte_.Righe_Scansione) +
           " righe senza finire la scansione).");

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "bench/grading/address.h"
+#include "bench/trace/address.h"
 #include "plants/link.h"
 #include "plc/plc.h"
 

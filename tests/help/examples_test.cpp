@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <optional>
 #include <sstream>
 
@@ -11,12 +10,11 @@
 #include "help_page.h"
 #include "plc/codepage.h"
 #include "plc/plc.h"
+#include "tests/support/temporary_folder.h"
 
 namespace tavorno::prova {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 /// A program that a page shows, as a student copies it into the editor.
 struct Example {
@@ -67,8 +65,6 @@ std::string Typed(const std::string& text) {
 class HelpExample : public ::testing::TestWithParam<Example> {
  protected:
   HelpExample() {
-    std::string name = (fs::temp_directory_path() / "tavorno-guida-XXXXXX").string();
-    folder = ::mkdtemp(name.data());
     project.Chiedi.Mostra = [this](const Avviso& box) {
       boxes.push_back(box.Testo);
       return Risposta::Ok;
@@ -77,9 +73,8 @@ class HelpExample : public ::testing::TestWithParam<Example> {
       return std::optional(File_Scelto{(folder / "guida.AWL").string(), "guida.AWL"});
     };
   }
-  ~HelpExample() override { fs::remove_all(folder); }
 
-  fs::path folder;
+  Cartella_Temporanea folder;
   Orologio clock;
   Plc plc{clock};
   Progetto project{plc, {}};

@@ -2,14 +2,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <fstream>
 #include <stdexcept>
 
 #include "HTML/generator/html_text.h"
 #include "HTML/generator/pages.h"
 #include "help_page.h"
 #include "plants/exercises.h"
+#include "tests/support/temporary_folder.h"
 
 namespace tavorno::prova {
 
@@ -63,21 +62,17 @@ INSTANTIATE_TEST_SUITE_P(All, ExercisePage, ::testing::Range(0, 18));
 class Generator : public ::testing::Test {
  protected:
   Generator() {
-    std::string name = (fs::temp_directory_path() / "tavorno-guida-XXXXXX").string();
-    folder = ::mkdtemp(name.data());
     Write("in/Index.htm", "indice");
     Write("in/Panel/US-00.htm",
           std::string("prima\n") + segno_tabella + "\n" + segno_schema + "\ndopo\n");
   }
-  ~Generator() override { fs::remove_all(folder); }
 
   void Write(const std::string& file, const std::string& text) const {
-    fs::create_directories((folder / file).parent_path());
-    std::ofstream(folder / file, std::ios::binary) << text;
+    Scrivi_Byte(folder / file, text);
   }
   void Generate() const { Scrivi_Guida(folder / "in", folder / "out", exercises); }
 
-  fs::path folder;
+  Cartella_Temporanea folder;
   const std::vector<Riga_IO> rows{{"SB1", "I0.0", "Pulsante (NO) <\"A\" & B>"},
                                   {"KM1", "Q0.0", "Contattore"}};
   const std::vector<Pagina_Esercizio> exercises{{"US-00.htm", " Prova.", rows}};

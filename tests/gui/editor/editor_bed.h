@@ -5,15 +5,13 @@
 
 #include <QtTest>
 #include <QtWidgets>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "awl/ui/main_window.h"
 #include "support/answers.h"
+#include "tests/support/temporary_folder.h"
 #include "widgets/text.h"
 
 namespace tavorno::prova {
@@ -23,18 +21,12 @@ namespace tavorno::prova {
 class Banco_Editor : public ::testing::Test {
  public:
   Banco_Editor() {
-    std::string nome = (std::filesystem::temp_directory_path() / "tavorno-editor-XXXXXX").string();
-    cartella = ::mkdtemp(nome.data());
     progetto.Chiedi = risponditore.Come_Dialoghi();
     legami.Mostra_Pannello = [this] { ++pannello; };
     legami.Mostra_Debug = [this] { chiamati += "debug "; };
     legami.Mostra_Stampe = [this] { chiamati += "stampe "; };
     legami.Mostra_Info = [this] { chiamati += "info "; };
     legami.Mostra_Aiuto = [this](const QString& pagina) { chiamati += Utf8(pagina) + " "; };
-  }
-  ~Banco_Editor() override {
-    finestra.reset();
-    std::filesystem::remove_all(cartella);
   }
 
   /// Makes the window, shows it and starts it in a mode.
@@ -57,12 +49,9 @@ class Banco_Editor : public ::testing::Test {
 
   std::string Percorso(const std::string& nome) const { return (cartella / nome).string(); }
   void Scrivi_File(const std::string& nome, const std::string& byte) const {
-    std::ofstream(cartella / nome, std::ios::binary) << byte;
+    Scrivi_Byte(cartella / nome, byte);
   }
-  std::string Leggi_File(const std::string& nome) const {
-    std::ifstream file(cartella / nome, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  std::string Leggi_File(const std::string& nome) const { return Leggi_Byte(cartella / nome); }
   /// The next file dialog is answered with this file of the folder.
   void Scegli(const std::string& nome) {
     risponditore.File.push_back(File_Scelto{Percorso(nome), nome});
@@ -129,7 +118,7 @@ class Banco_Editor : public ::testing::Test {
     return testi;
   }
 
-  std::filesystem::path cartella;
+  Cartella_Temporanea cartella;
   Orologio orologio;
   Plc plc{orologio};
   Progetto progetto{plc, {}};

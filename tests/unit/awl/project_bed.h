@@ -4,14 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <deque>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
 #include "awl/project.h"
 #include "plc/plc.h"
+#include "tests/support/temporary_folder.h"
 
 namespace tavorno::prova {
 
@@ -20,8 +18,6 @@ namespace tavorno::prova {
 class Banco_Progetto : public ::testing::Test {
  public:
   Banco_Progetto() {
-    std::string nome = (std::filesystem::temp_directory_path() / "tavorno-prova-XXXXXX").string();
-    cartella = ::mkdtemp(nome.data());
     progetto.Chiedi.Mostra = [this](const Avviso& avviso) {
       avvisi.push_back(avviso);
       if (risposte.empty()) return Risposta::Ok;
@@ -38,18 +34,14 @@ class Banco_Progetto : public ::testing::Test {
       return File_Scelto{Percorso(nome_file), nome_file};
     };
   }
-  ~Banco_Progetto() override { std::filesystem::remove_all(cartella); }
 
   std::string Percorso(const std::string& nome) const { return (cartella / nome).string(); }
 
   /// Writes a file byte for byte.
   void Scrivi(const std::string& nome, const std::string& byte) const {
-    std::ofstream(cartella / nome, std::ios::binary) << byte;
+    Scrivi_Byte(cartella / nome, byte);
   }
-  std::string Leggi(const std::string& nome) const {
-    std::ifstream file(cartella / nome, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  std::string Leggi(const std::string& nome) const { return Leggi_Byte(cartella / nome); }
 
   /// Lines joined by CR LF, each with its end.
   static std::string Righe(const std::vector<std::string>& righe) {
@@ -81,7 +73,7 @@ class Banco_Progetto : public ::testing::Test {
     return testi;
   }
 
-  std::filesystem::path cartella;
+  Cartella_Temporanea cartella;
   Orologio orologio;
   Plc plc{orologio};
   Progetto progetto{plc, {}};

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <gmock/gmock.h>
+
 #include "command_bed.h"
 
 namespace tavorno::prova {
 
+using ::testing::HasSubstr;
 using RunCommand = Banco_Comandi;
 
 TEST_F(RunCommand, PrintsEveryChangeWithItsVirtualTime) {
@@ -37,6 +40,25 @@ TEST_F(RunCommand, SetsAnalogChannelsInVolts) {
   Comando({"esegui", Progetto_Con({"LDW= AIW4 +8000", "= Q0.0"}), "--ms", "100", "--ingressi",
            "30:AI2=2.5"});
   EXPECT_EQ(out, "      40 ms  Q0.0 = 1\nFine: 100 ms, 100 scansioni.\n");
+}
+
+TEST_F(RunCommand, RecordsInputsAndOutputs) {
+  const std::string vcd = (cartella / "x.vcd").string(), svg = (cartella / "x.svg").string();
+  EXPECT_EQ(Comando({"esegui", Progetto_Con({"LD I0.1", "= Q0.0"}), "--ms", "20", "--ingressi",
+                     "5:I0.1=1", "--vcd", vcd, "--svg", svg}),
+            0);
+  const std::string cambi = Leggi_Byte(vcd);
+  const std::string ingresso = cambi.substr(cambi.find(" I0_1 $end") - 1, 1);
+  const std::string uscita = cambi.substr(cambi.find(" Q0_0 $end") - 1, 1);
+  EXPECT_THAT(cambi, HasSubstr("#5\n1" + ingresso + "\n1" + uscita + "\n#20\n"));
+  EXPECT_THAT(Leggi_Byte(svg), HasSubstr(">consegna.AWL</text>"));
+}
+
+TEST_F(RunCommand, SaysWhenARecordCannotBeWritten) {
+  EXPECT_EQ(Comando({"esegui", Progetto_Con({"NOP"}), "--ms", "5", "--vcd",
+                     (cartella / "manca" / "x.vcd").string()}),
+            1);
+  EXPECT_THAT(err, HasSubstr("impossibile scrivere"));
 }
 
 TEST_F(RunCommand, ReportsARunTimeErrorAndExitsWithOne) {

@@ -10,8 +10,9 @@ TEST_F(Usage, HelpNamesEveryCommandAndOption) {
            {"--help"}, {"-h"}, {"compila", "--help"}, {"esegui", "--help"}}) {
     EXPECT_EQ(Comando(parole), 0);
     for (const char* parola :
-         {"compila", "esegui", "--json", "--ms", "--scansione", "--ingressi", "--impianto",
-          "--mani", "premi:", "rilascia:", "clic:", "doppio:", "regola:", "Stato di uscita"})
+         {"compila", "esegui", "prova", "misura", "--vcd", "--svg", "--json", "--ms", "--scansione",
+          "--ingressi", "--impianto", "--mani",
+          "premi:", "rilascia:", "clic:", "doppio:", "regola:", "Stato di uscita"})
       EXPECT_NE(out.find(parola), std::string::npos) << parola;
   }
 }
@@ -49,6 +50,10 @@ INSTANTIATE_TEST_SUITE_P(
                "il valore di --ms deve essere un numero intero tra 1 e 86400000"},
         Errato{{"esegui", "a", "--scansione", "10001"},
                "il valore di --scansione deve essere un numero intero tra 1 e 10000"},
+        Errato{{"misura"}, "manca il file del progetto"},
+        Errato{{"misura", "a", "--ms", "60001"},
+               "il valore di --ms deve essere un numero intero tra 1 e 60000"},
+        Errato{{"misura", "a", "--impianto", "0"}, "opzione sconosciuta: --impianto"},
         Errato{{"esegui", "a", "--ingressi", "5:I2.0=1"},
                "ingresso non valido \"5:I2.0=1\": si scrive 500:I0.1=1 oppure 500:AI0=2.5"},
         Errato{{"esegui", "a", "--ingressi", "5:I0.8=1"},

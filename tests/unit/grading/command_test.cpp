@@ -2,8 +2,8 @@
 // The command line, its reports and its exit statuses.
 #include <gmock/gmock.h>
 
-#include "bench/grading/markup.h"
 #include "bench/grading/reports.h"
+#include "bench/trace/markup.h"
 #include "grading_bed.h"
 
 namespace tavorno::prova {
@@ -167,7 +167,7 @@ TEST_F(GradingCommand, GradesAFolderOnOneLineEach) {
   EXPECT_EQ(lette[5], "Superati 1 progetti su 5.");
   EXPECT_EQ(err, "");
 
-  const std::string tabella = Leggi(csv);
+  const std::string tabella = Leggi_Byte(csv);
   EXPECT_THAT(tabella,
               StartsWith("progetto;esito;casi superati;casi;punti;massimo;primo rilievo\n"));
   EXPECT_THAT(tabella, HasSubstr("bianchi.AWL;superato;2;2;3,5;3,5;\n"));
@@ -198,10 +198,10 @@ TEST_F(GradingCommand, JunitHasATestcaseForEachCase) {
   const std::string junit = (cartella / "j.xml").string();
   Prova({Progetto_Con(rovescio, "a&b.AWL"), File("s.lua", due_casi), "--junit", junit});
   const std::string progetto = (cartella / "a&amp;b.AWL").string();
-  EXPECT_EQ(Leggi(junit), R"(<?xml version="1.0" encoding="UTF-8"?>
+  EXPECT_EQ(Leggi_Byte(junit), R"(<?xml version="1.0" encoding="UTF-8"?>
 <testsuites name="tavorno-banco" tests="2" failures="2" errors="0" skipped="0" time="0.050">
   <testsuite name=")" + progetto +
-                              R"(" tests="2" failures="2" errors="0" skipped="0" time="0.050">
+                                   R"(" tests="2" failures="2" errors="0" skipped="0" time="0.050">
     <testcase classname="s.lua" name="spento a riposo" time="0.020">
       <properties>
         <property name="punti" value="0"/>

@@ -20,7 +20,7 @@ Esito_Progetto Esamina_Esempio(const Esempio& esempio, const std::string& proget
   Verifiche verifiche;
   verifiche.Basta_Un_Errore = basta_un_errore;
   verifiche.Script.push_back(
-      {esempio.Nome() + ".lua", Banco_Esami::Leggi(esempi / (esempio.Nome() + ".lua"))});
+      {esempio.Nome() + ".lua", Leggi_Byte(esempi / (esempio.Nome() + ".lua"))});
   verifiche.Impianto = &Tabella_Esercizi()[static_cast<std::size_t>(esempio.Numero)];
   return Esamina(progetto, verifiche);
 }
@@ -65,7 +65,7 @@ class BrokenProject : public Banco_Esami, public ::testing::WithParamInterface<M
 
 TEST_P(BrokenProject, IsSeenByTheScript) {
   const Mutazione& m = GetParam();
-  std::string testo = Leggi(esempi / (m.Di.Nome() + ".AWL"));
+  std::string testo = Leggi_Byte(esempi / (m.Di.Nome() + ".AWL"));
   const std::size_t inizio = testo.find(std::string("\n") + m.Riga);
   ASSERT_NE(inizio, std::string::npos) << "the solved project has no such line";
   std::size_t fine = testo.find_first_of("\r\n", inizio + 1);

@@ -291,7 +291,7 @@ TEST_F(ScriptFunctions, HelpNamesAllOfThem) {
 
 TEST_F(ScriptFunctions, TheManualHasAllOfThem) {
   const std::string pagina =
-      Leggi(std::filesystem::path(__FILE__).parent_path() / "../../../docs/banco.md");
+      Leggi_Byte(std::filesystem::path(__FILE__).parent_path() / "../../../docs/banco.md");
   for (const Riga_Funzione& riga : Funzioni_Script())
     EXPECT_THAT(pagina, HasSubstr("`" + std::string(riga.Nome) + "(")) << riga.Nome;
 }

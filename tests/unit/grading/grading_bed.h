@@ -1,43 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <gtest/gtest.h>
-#include <unistd.h>
-
-#include <filesystem>
-#include <fstream>
 #include <sstream>
-#include <string>
-#include <vector>
 
 #include "bench/grading/command.h"
 #include "bench/grading/grader.h"
+#include "tests/support/hand_in_bed.h"
 
 namespace tavorno::prova {
 
-/// A folder for hand-ins and scripts, and the command that examines them.
-class Banco_Esami : public ::testing::Test {
+/// The command that examines hand-ins, with a folder for them and their scripts.
+class Banco_Esami : public Banco_Consegne {
  public:
-  Banco_Esami() {
-    std::string nome = (std::filesystem::temp_directory_path() / "tavorno-esami-XXXXXX").string();
-    cartella = ::mkdtemp(nome.data());
-  }
-  ~Banco_Esami() override { std::filesystem::remove_all(cartella); }
-
-  std::string File(const std::string& nome, const std::string& byte) const {
-    std::filesystem::create_directories((cartella / nome).parent_path());
-    std::ofstream(cartella / nome, std::ios::binary) << byte;
-    return (cartella / nome).string();
-  }
-
-  /// A project file with these lines in its Main block.
-  std::string Progetto_Con(const std::vector<std::string>& righe,
-                           const std::string& nome = "consegna.AWL") const {
-    std::string testo = "ORGANIZATION_BLOCK MAIN:OB1\r\nTITLE=\r\nBEGIN\r\n";
-    for (const std::string& riga : righe) testo += riga + "\r\n";
-    return File(nome, testo + "END_ORGANIZATION_BLOCK\r\n");
-  }
-
   /// Runs `prova`; its output goes to `out` and `err`.
   int Prova(const std::vector<std::string>& parole) {
     std::ostringstream o, e;
@@ -45,11 +19,6 @@ class Banco_Esami : public ::testing::Test {
     out = o.str();
     err = e.str();
     return stato;
-  }
-
-  static std::string Leggi(const std::filesystem::path& file) {
-    std::ifstream dati(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(dati), {}};
   }
 
   /// Examines a project made of these lines with a script; exercise -1: without a plant.
@@ -69,8 +38,6 @@ class Banco_Esami : public ::testing::Test {
   }
 
   Verifiche base;
-  std::filesystem::path cartella;
-  std::string out, err;
 };
 
 }  // namespace tavorno::prova

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Value change dumps and timing diagrams, read back.
-#include "bench/grading/trace.h"
+#include "bench/trace/trace.h"
 
 #include <gmock/gmock.h>
 
@@ -77,8 +77,8 @@ class Trace : public Banco_Esami {
       parole.push_back(impianto);
     }
     EXPECT_EQ(Prova(parole), 0) << out << err;
-    svg = Leggi(cartella / "x.svg");
-    return Vcd(Leggi(cartella / "x.vcd"));
+    svg = Leggi_Byte(cartella / "x.svg");
+    return Vcd(Leggi_Byte(cartella / "x.vcd"));
   }
   std::string svg;
 };

@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -13,6 +11,7 @@
 #include "awl/project.h"
 #include "plants/link.h"
 #include "plc/plc.h"
+#include "tests/support/temporary_folder.h"
 
 namespace tavorno::prova {
 
@@ -41,19 +40,12 @@ class Banco_Impianto : public ::testing::Test {
 
   /// Compiles these lines as a project's Main, and starts the CPU.
   void Esegui(const std::vector<std::string>& righe) {
-    const std::filesystem::path file =
-        std::filesystem::temp_directory_path() /
-        (std::string("tavorno-") + ::testing::UnitTest::GetInstance()->current_test_info()->name() +
-         ".AWL");
-    std::ofstream scritto(file, std::ios::binary);
-    scritto << "ORGANIZATION_BLOCK MAIN:OB1\r\nTITLE=\r\nBEGIN\r\n";
-    for (const std::string& riga : righe) scritto << riga << "\r\n";
-    scritto << "END_ORGANIZATION_BLOCK\r\n\r\n";
-    scritto.close();
+    const Cartella_Temporanea cartella;
+    const std::filesystem::path file = cartella / "prova.AWL";
+    Scrivi_Byte(file, Byte_Di_Progetto(righe));
     progetto.File_Progetto = file.string();
     progetto.File_Titolo = file.filename().string();
     progetto.LeggiTxt();
-    std::filesystem::remove(file);
     if (!progetto.Err_Lettura) progetto.Compila();
     if (!progetto.Compilato) throw std::runtime_error("the program does not compile");
     plc.mnuPlcStep();

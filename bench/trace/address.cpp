@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "bench/grading/address.h"
+#include "bench/trace/address.h"
 
 #include <charconv>
 #include <cmath>

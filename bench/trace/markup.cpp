@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "bench/grading/markup.h"
+#include "bench/trace/markup.h"
 
 #include <algorithm>
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "bench/grading/address.h"
+#include "bench/trace/address.h"
 #include "plants/exercises.h"
 
 namespace tavorno {

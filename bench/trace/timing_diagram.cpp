@@ -5,8 +5,8 @@
 #include <cstdio>
 #include <span>
 
-#include "bench/grading/markup.h"
-#include "bench/grading/trace.h"
+#include "bench/trace/markup.h"
+#include "bench/trace/trace.h"
 
 namespace tavorno {
 

@@ -2,7 +2,7 @@
 #include <charconv>
 #include <map>
 
-#include "bench/grading/trace.h"
+#include "bench/trace/trace.h"
 
 namespace tavorno {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "bench/grading/trace.h"
+#include "bench/trace/trace.h"
 
 #include <limits>
 
