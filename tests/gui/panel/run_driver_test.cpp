@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The run in real time. Each test ends when what it waits for has happened.
+#include "panel/run_driver.h"
+
+#include <gtest/gtest.h>
+
+#include "bench/session.h"
+#include "tests/support/temporary_folder.h"
+
+namespace tavorno::prova {
+
+class RunDriver : public ::testing::Test {
+ public:
+  void Carica(const std::vector<std::string>& righe) {
+    const Cartella_Temporanea cartella;
+    Scrivi_Byte(cartella / "prova.AWL", Byte_Di_Progetto(righe));
+    ASSERT_TRUE(seduta.Apri((cartella / "prova.AWL").string()));
+    seduta.progetto.Compila();
+    ASSERT_EQ(seduta.progetto.Errori, 0) << seduta.progetto.Lista_Comp;
+  }
+
+  Seduta seduta;
+  Plc& plc = seduta.plc;
+  int aggiornamenti = 0;
+  std::function<void()> al_terzo = [] {};
+  Guida_Corsa corsa{plc, [this] {
+                      if (++aggiornamenti == 3) al_terzo();
+                    }};
+};
+
+TEST_F(RunDriver, RefreshesTheScreenDuringARunAndScansAtMostOnceAMillisecond) {
+  Carica({"NOP"});
+  al_terzo = [this] { plc.mnuPlcStop(); };
+  plc.mnuPlcRun();
+  EXPECT_EQ(aggiornamenti, 3);
+  EXPECT_GT(plc.N_Cicli, 1);
+  EXPECT_LE(plc.N_Cicli, seduta.orologio.Adesso() + 1);
+}
+
+TEST_F(RunDriver, WithoutTheWaitTheWindowLivesToo) {
+  Carica({"NOP"});
+  corsa.Attesa = false;
+  al_terzo = [this] { plc.mnuPlcStop(); };
+  plc.mnuPlcRun();
+  EXPECT_EQ(aggiornamenti, 3);
+}
+
+// What never reaches the end of a scan must still be stopped by a click.
+class Circle : public RunDriver, public ::testing::WithParamInterface<std::vector<std::string>> {};
+
+TEST_P(Circle, CanBeStopped) {
+  Carica(GetParam());
+  QTimer::singleShot(0, [this] { plc.mnuPlcStop(); });
+  plc.mnuPlcRun();
+  EXPECT_EQ(plc.PLC_Acceso, 0);
+  EXPECT_EQ(plc.N_Cicli, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Programs, Circle,
+                         ::testing::Values(std::vector<std::string>{"LBL 1", "LD SM0.0", "JMP 1"},
+                                           std::vector<std::string>{"RET"},
+                                           std::vector<std::string>{"NOP", "LD SM0.0", "RET"}));
+
+TEST_F(RunDriver, TakesItsYieldWithIt) {
+  {
+    Orologio orologio;
+    Plc altra(orologio);
+    {
+      const Guida_Corsa breve(altra, [] {});
+    }
+    EXPECT_EQ(altra.Hook.Cedi, nullptr);
+    EXPECT_EQ(altra.Hook.Righe_Per_Cessione, 1);
+  }
+  EXPECT_NE(plc.Hook.Cedi, nullptr);
+}
+
+}  // namespace tavorno::prova
