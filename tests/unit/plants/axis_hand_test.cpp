@@ -109,6 +109,22 @@ INSTANTIATE_TEST_SUITE_P(All, AxisByHand,
                          ::testing::Values(std::tuple("cmdV1", 0, 1440 + 150.0F),
                                            std::tuple("cmdV2", 1, 1440 - 150.0F)));
 
+TEST_F(Axis, TheReleasedHandButtonStopsAnAxisThatTheProgramDrives) {
+  assi.Enabled(true);
+  plc.Volt_AQ[0] = 8;
+  orologio.Avanza(20);
+  assi.Stato_Q(Uscite({AC, MA}));
+  orologio.Avanza(200);
+  EXPECT_EQ(ShIndP.Left, 1488);
+  assi.Premi("cmdV2");
+  orologio.Avanza(200);
+  EXPECT_EQ(ShIndP.Left, 1458);
+  assi.Rilascia("cmdV2");
+  orologio.Avanza(5000);
+  EXPECT_EQ(ShIndP.Left, 1458);
+  EXPECT_EQ(assi.Marcia_Avanti, -1);
+}
+
 TEST_F(Axis, ReferenceMovesItsMarkAndItsInput) {
   assi.Regola("UpD1", 73);
   EXPECT_EQ(Caption("EtRif"), "7.3");
