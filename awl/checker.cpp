@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One compiled line against the table of instructions.
-#include <array>
-
 #include "awl/operand.h"
 #include "awl/project.h"
 #include "plc/number_text.h"

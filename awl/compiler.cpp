@@ -35,11 +35,7 @@ void Progetto::mnuPlcCompile() {
     Save_Read();
     if (Annulla) return;
   }
-  if (Err_Lettura) {  // the rows of a failed read are gone, and its box has been shown
-    Compilato = 0;
-    return;
-  }
-  Compila();
+  if (!Err_Lettura) Compila();  // the box of a failed read has been shown
 }
 
 void Progetto::Save_Read() {

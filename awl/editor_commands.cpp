@@ -40,6 +40,10 @@ std::string Con_CRLF(const std::string& testo) {
   return uguale;
 }
 
+bool Vuoto(const Progetto& progetto) {
+  return progetto.txtList.empty() && progetto.Num_SBR == 0;
+}
+
 std::string Proposta(const std::string& titolo, const char* estensione) {
   return (titolo.empty() ? "NoName" : Testo_Base(titolo)) + estensione;
 }
@@ -89,7 +93,7 @@ void Progetto::mnuFileNew(bool chiedi_di_salvare) {
             {"Attenzione!", "Salvare il progetto corrente?", Icona::Domanda, Tasti::Si_No, {}}) ==
         Risposta::Si) {
       mnuFileSave();
-      if (Annulla) return;  // the edits were to be kept
+      if (Annulla && !Vuoto(*this)) return;  // the edits were to be kept
     }
   }
   Scrivi_Main(Testo_Nuovo_Main());
@@ -118,7 +122,7 @@ void Progetto::mnuFileOpen() {
 }
 
 void Progetto::mnuFileSave() {
-  if (txtList.empty() && Num_SBR == 0) {
+  if (Vuoto(*this)) {
     Avvisa({"Attenzione", "Nessuna riga di codice inserita!", Icona::Critica, Tasti::Ok, {}});
     Annulla = -1;
     return;

@@ -42,7 +42,10 @@ bool Diventa_Riga(std::string_view linea, bool nome_vecchio) {
   const std::size_t primo = linea.find_first_not_of(" \t");
   if (primo == std::string_view::npos || linea.substr(primo, 2) == "//") return false;
   const bool blocco = linea.starts_with("SBR") || linea.starts_with("INT");
-  if (blocco && linea.find_first_of(" \t") == std::string_view::npos) return nome_vecchio;
+  // Blanks at its end are not saved.
+  const std::size_t spazio = linea.find_first_of(" \t");
+  if (blocco && linea.find_first_not_of(" \t", spazio) == std::string_view::npos)
+    return nome_vecchio;
   return true;
 }
 

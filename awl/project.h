@@ -93,7 +93,7 @@ struct Progetto {
   std::string Debug_Line(const std::string& riga);
   std::string Cerca_Com(const std::string& riga);
 
-  // ---- writing (writer.cpp, text_export.cpp) ---------------------------------------------------
+  // ---- writing (writer.cpp) --------------------------------------------------------------------
 
   /// Builds `Righe_Prog`. False when the text has more lines than the table or a line cannot be
   /// written; the reason is shown in a box.

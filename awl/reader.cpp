@@ -172,6 +172,7 @@ void Progetto::Lettura_Fallita() {
   stB = {"File:", "List: 0   SBR: 0", "Read Error"};
   Gestione_Voci(0);
   Modificato = 0;
+  Compilato = 0;  // nothing is left that could be loaded
   NRighe_Prog = 0;
   etNR[2] = "0";
 }

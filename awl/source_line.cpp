@@ -14,11 +14,14 @@ std::int16_t Numero(std::string_view testo) {
   return testo.find('-') == std::string_view::npos ? INT16_MAX : INT16_MIN;
 }
 
-void Riempi(const std::string& testo, std::string& area, std::int16_t& numero, std::int16_t& bit) {
+/// Returns `Ha_Bit`.
+std::int16_t Riempi(const std::string& testo, std::string& area, std::int16_t& numero,
+                    std::int16_t& bit) {
   const Operando parti = Split_Operando(testo);
   area = parti.Area;
   numero = Numero(parti.Numero);
   bit = Numero(parti.Bit);
+  return parti.Ha_Bit;
 }
 
 }  // namespace
@@ -36,10 +39,8 @@ void Riempi_Riga(Riga_PLC& riga, const Riga_Src& sorgente) {
   if (Nomina_Procedura(riga.Istr)) {
     riga.Area1 = sorgente.Op1;
   } else {
-    if (riga.NOper >= 1 && riga.NOper <= 3) {
-      Riempi(sorgente.Op1, riga.Area1, riga.Num1, riga.Bit1);
-      riga.Ha_Bit = Split_Operando(sorgente.Op1).Ha_Bit;
-    }
+    if (riga.NOper >= 1 && riga.NOper <= 3)
+      riga.Ha_Bit = Riempi(sorgente.Op1, riga.Area1, riga.Num1, riga.Bit1);
     if (riga.NOper == 2 || riga.NOper == 3) Riempi(sorgente.Op2, riga.Area2, riga.Num2, riga.Bit2);
     if (riga.NOper == 3) Riempi(sorgente.Op3, riga.Area3, riga.Num3, riga.Bit3);
   }

@@ -19,7 +19,7 @@ std::string Norm_Network(const std::string& riga) {
 
 /// The lines of one block's text, as the writer gathers them.
 std::vector<std::string> Righe_Blocco(const std::string& testo) {
-  std::string blocco = Trim(testo + std::string(CRLF));
+  std::string blocco = Trim(testo) + std::string(CRLF);
   std::ranges::replace(blocco, '\t', ' ');
   std::vector<std::string> righe;
   std::string riga;
@@ -76,9 +76,12 @@ std::string Progetto::Norm_Riga(const std::string& riga) {
 
 bool Progetto::Crea_Progetto() {
   int usate = 0;
-  const auto aggiungi = [&](const std::string& riga) {
+  const auto prova_posto = [&] {
     if (usate > Righe_Prog.ultimo)
       throw Riga_Rifiutata("il progetto supera le 1001 righe del file");
+  };
+  const auto aggiungi = [&](const std::string& riga) {
+    prova_posto();
     Righe_Prog[usate] = riga;
     ++usate;
   };
@@ -114,8 +117,7 @@ bool Progetto::Crea_Progetto() {
       aggiungi("END_SUBROUTINE_BLOCK");
       aggiungi("");
     }
-    if (usate > Righe_Prog.ultimo)
-      throw Riga_Rifiutata("il progetto supera le 1001 righe del file");
+    prova_posto();  // of the entry behind the last one, which goes out as it is
   } catch (const Riga_Rifiutata& rifiuto) {
     Avvisa({"Errore!",
             "Impossibile salvare il progetto: " + std::string(rifiuto.what()) + "!\n" +
@@ -125,8 +127,7 @@ bool Progetto::Crea_Progetto() {
             {}});
     return false;
   }
-  NRighe_Prog =
-      static_cast<std::int16_t>(usate);  // the entry behind the last one goes out as it is
+  NRighe_Prog = static_cast<std::int16_t>(usate);
   etNR[2] = std::to_string(NRighe_Prog);
   return true;
 }

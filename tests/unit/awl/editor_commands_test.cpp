@@ -74,6 +74,24 @@ INSTANTIATE_TEST_SUITE_P(AllAnswers, NewCommand,
                                          Caso_Nuovo{"AtTheStart", false, true, Risposta::Si, 0, 0}),
                          [](const auto& caso) { return caso.param.nome; });
 
+TEST_F(EditorCommands, NewKeepsEditsWhoseSaveIsCancelled) {
+  progetto.Scrivi_Main("NOT");
+  risposte = {Risposta::Si};
+  progetto.mnuFileNew(true);
+  EXPECT_EQ(richieste.size(), 1U);
+  EXPECT_EQ(progetto.txtList, "NOT");
+  EXPECT_EQ(progetto.Modificato, -1);
+}
+
+TEST_F(EditorCommands, NewReplacesAnEmptyTextThatCouldNotBeSaved) {
+  progetto.Scrivi_Main("");
+  risposte = {Risposta::Si};
+  progetto.mnuFileNew(true);
+  EXPECT_EQ(Testi_Avvisi(), (Lista{"Attenzione!: Salvare il progetto corrente?",
+                                   "Attenzione: Nessuna riga di codice inserita!"}));
+  EXPECT_EQ(progetto.txtList, nuovo_main);
+}
+
 TEST_F(EditorCommands, OpenReadsTheChosenFile) {
   Scrivi("uno.AWL",
          File_Main({"NOT"}) + Righe({"SUBROUTINE_BLOCK SBR_0:SBR0", "END_SUBROUTINE_BLOCK"}));

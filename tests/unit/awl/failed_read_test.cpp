@@ -39,6 +39,7 @@ class FailedRead : public Banco_Progetto, public testing::WithParamInterface<Cas
     ASSERT_TRUE(progetto.Crea_Progetto());
     progetto.Gestione_Voci(1);
     progetto.Modificato = -1;
+    progetto.Compilato = -1;
     progetto.stB[0] = "File: prova.AWL";
   }
 
@@ -56,6 +57,7 @@ class FailedRead : public Banco_Progetto, public testing::WithParamInterface<Cas
     EXPECT_FALSE(progetto.Comandi_Attivi);
     EXPECT_FALSE(progetto.cmdDelP);
     EXPECT_EQ(progetto.Modificato, 0);
+    EXPECT_EQ(progetto.Compilato, 0);
     EXPECT_EQ(progetto.NRighe_Prog, 0);
     EXPECT_EQ(progetto.etNR[2], "0");
   }

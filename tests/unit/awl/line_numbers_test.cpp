@@ -78,18 +78,17 @@ TEST_P(LineBecomesRow, AsTheReaderTakesIt) {
 
 INSTANTIATE_TEST_SUITE_P(
     Lines, LineBecomesRow,
-    testing::Values(Caso_Linea{"", false}, Caso_Linea{"//", false}, Caso_Linea{"//LD I0.0", false},
-                    Caso_Linea{" // x", false}, Caso_Linea{"    // x", false},
-                    Caso_Linea{"\t// x", false}, Caso_Linea{"   ", false}, Caso_Linea{"\t", false},
-                    Caso_Linea{"TITLE=abc", false}, Caso_Linea{"BEGIN", false},
-                    Caso_Linea{"BEGINNING", false}, Caso_Linea{"SBR0", false},
-                    Caso_Linea{"INT", false}, Caso_Linea{"SBR0 NOME", true},
-                    Caso_Linea{"INT 3", true}, Caso_Linea{"NETWORK", true},
-                    Caso_Linea{"NETWORK 2 //x", true}, Caso_Linea{"network 2", true},
-                    Caso_Linea{"ld i0.0", true}, Caso_Linea{"LD\tI0.0", true},
-                    Caso_Linea{"\tLD I0.0", true}, Caso_Linea{"  LD I0.0", true},
-                    Caso_Linea{"LD//x", true}, Caso_Linea{"/I VW0, VW2", true},
-                    Caso_Linea{"/", true}, Caso_Linea{"XYZ", true}, Caso_Linea{" BEGIN", true}));
+    testing::Values(
+        Caso_Linea{"", false}, Caso_Linea{"//", false}, Caso_Linea{"//LD I0.0", false},
+        Caso_Linea{" // x", false}, Caso_Linea{"    // x", false}, Caso_Linea{"\t// x", false},
+        Caso_Linea{"   ", false}, Caso_Linea{"\t", false}, Caso_Linea{"TITLE=abc", false},
+        Caso_Linea{"BEGIN", false}, Caso_Linea{"BEGINNING", false}, Caso_Linea{"SBR0", false},
+        Caso_Linea{"INT", false}, Caso_Linea{"SBR ", false}, Caso_Linea{"INT0 \t", false},
+        Caso_Linea{"SBR0 NOME", true}, Caso_Linea{"INT 3", true}, Caso_Linea{"NETWORK", true},
+        Caso_Linea{"NETWORK 2 //x", true}, Caso_Linea{"network 2", true},
+        Caso_Linea{"ld i0.0", true}, Caso_Linea{"LD\tI0.0", true}, Caso_Linea{"\tLD I0.0", true},
+        Caso_Linea{"  LD I0.0", true}, Caso_Linea{"LD//x", true}, Caso_Linea{"/I VW0, VW2", true},
+        Caso_Linea{"/", true}, Caso_Linea{"XYZ", true}, Caso_Linea{" BEGIN", true}));
 
 TEST_F(LineNumbers, TheBlanksInFrontOfTheTextDoNotCount) {
   progetto.Scrivi_Main("  BEGIN\r\nNOT\r\n");

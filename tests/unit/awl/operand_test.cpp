@@ -133,6 +133,17 @@ TEST(OperandBit, OfTheFirstOperandAloneIsFlagged) {
   EXPECT_EQ(Compiled("I0.3", "VW0").Ha_Bit, -1);
 }
 
+// The SCR pass may end early; the rows behind keep what they had.
+TEST(LineEnable, OutlivesTheFillingOfItsRow) {
+  for (const bool on : {false, true}) {
+    const std::int16_t enable = on ? 1 : 0;
+    Riga_PLC line;
+    line.Abil_SCR = enable;
+    Riempi_Riga(line, {"NOT", "", "", "", 0, "", ""});
+    EXPECT_EQ(line.Abil_SCR, enable);
+  }
+}
+
 TEST(OperandFields, AreFilledForAsManyOperandsAsThereAre) {
   const Riga_PLC one = Compiled("VW1");
   EXPECT_EQ(one.Area1, "VW");

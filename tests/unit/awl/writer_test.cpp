@@ -139,6 +139,10 @@ INSTANTIATE_TEST_SUITE_P(
                     {"TITLE=a", "LD I0.0 //b c", "//d e"}},
         Caso_Blocco{"BlanksAtTheBeginningGo", "   LD I0.0", {"TITLE=", "LD I0.0"}},
         Caso_Blocco{"BlanksBehindTheLastInstructionGo", "LD I0.0   ", {"TITLE=", "LD I0.0"}},
+        Caso_Blocco{"BlanksBehindTheLastCommentGo", "//a\r\n//b   ", {"TITLE=a", "//b"}},
+        Caso_Blocco{"BlanksOnTheLastLineGo", "//a\r\nNOT\r\n   ", {"TITLE=a", "NOT", ""}},
+        Caso_Blocco{
+            "BlanksBehindAnEarlierCommentStay", "//a\r\n//b  \r\nNOT", {"TITLE=a", "//b  ", "NOT"}},
         Caso_Blocco{
             "AnIndentedLaterLineIsDoubled", "//a\r\n  LD I0.0", {"TITLE=a", "  LD I0.0 LD I0.0"}},
         Caso_Blocco{"ALineEndOfTheTextGivesAnEmptyLine", "//a\r\nNOT\r\n", {"TITLE=a", "NOT", ""}}),
