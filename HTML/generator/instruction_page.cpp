@@ -67,7 +67,7 @@ std::string Indice(const std::map<Famiglia, Elenco>& famiglie, bool mancanti) {
     testo += "<tr><td><a href=\"#" + Ancora_Famiglia(famiglia, mancanti) + "\">" +
              Html(Nome_Famiglia(famiglia)) + "</a></td><td>";
     for (const Istruzione* istruzione : righe)
-      testo += (istruzione == righe.front() ? "" : " &nbsp; ") + Collegamento(*istruzione);
+      testo += (istruzione == righe.front() ? "" : "&nbsp;&nbsp; ") + Collegamento(*istruzione);
     testo += "</td></tr>\n";
   }
   return testo + "</table>\n";
@@ -187,6 +187,8 @@ istruzione.</p>
 constexpr const char* dopo_aree =
     R"(<p>VB3, VW3 e VD3 sono tre caselle diverse, che non si sovrappongono. I bit 0.0–0.7 e il byte
 della stessa area (per esempio M0.0–M0.7 e MB0) sono invece la stessa memoria.</p>
+<p>QW prima della fine della prima scansione, e MW prima che il programma abbia scritto un bit M, non
+hanno ancora nessuna cifra: leggerli fa chiudere il simulatore.</p>
 )";
 
 constexpr const char* prima_dei_mancanti =

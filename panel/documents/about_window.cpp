@@ -16,6 +16,7 @@
 
 #include "panel/documents/version.h"
 #include "widgets/text.h"
+#include "widgets/twips.h"
 
 namespace tavorno {
 
@@ -23,9 +24,10 @@ namespace {
 
 constexpr int pausa = 2000;      // ms before the picture begins to scroll
 constexpr int periodo = 100;     // ms
-constexpr int passo = 10;        // units of the scroll bar
-constexpr int fine_corsa = 100;  // units that the picture leaves below
+constexpr int passo = 10;        // twips
+constexpr int fine_corsa = 100;  // twips that the picture leaves below
 constexpr int alto_quadro = 230;
+constexpr int alto_riga = 24;  // of a line of the picture, for whoever scrolls by hand
 constexpr int punti_nome = 34;
 constexpr int ombra = 2;
 
@@ -160,11 +162,11 @@ QLayout* FrmAbaut::Crea_Quadro() {
   vsV_->setObjectName("vsV");
   vsV_->setAccessibleName(Q("Scorre il disegno"));
   vsV_->setFocusPolicy(Qt::StrongFocus);
-  vsV_->setRange(0, disegno->height() - quadro->height());
-  vsV_->setSingleStep(passo);
-  vsV_->setPageStep(alto_quadro);
+  vsV_->setRange(0, Twip(disegno->height() - quadro->height()));
+  vsV_->setSingleStep(Twip(alto_riga));
+  vsV_->setPageStep(Twip(alto_quadro));
   connect(vsV_, &QScrollBar::valueChanged, disegno,
-          [disegno](int valore) { disegno->move(0, -valore); });
+          [disegno](int valore) { disegno->move(0, -Px(valore)); });
 
   auto* riga = new QHBoxLayout;
   riga->setSpacing(0);

@@ -14,14 +14,14 @@ class FrmAbaut : public QDialog {
  public:
   explicit FrmAbaut(QWidget* sopra = nullptr);
 
-  void Tick_Timer1();  ///< one step of the scrolling; it stops 100 units before the end
+  void Tick_Timer1();  ///< one step of the scrolling; it stops 100 twips before the end
   void Tick_Timer2();  ///< the pause before it is over
 
  private:
   QLayout* Crea_Testata();
   QLayout* Crea_Quadro();
 
-  QScrollBar* vsV_;  // its value counts pixels of the picture
+  QScrollBar* vsV_;  // its value counts twips of the picture
   QTimer* timer1_;
   QTimer* timer2_;
 };

@@ -16,7 +16,8 @@ namespace {
 QString Pagina(const QString& titolo, const QString& corpo) {
   return Q("<html><head><title>%1</title><style>"
            "body { margin: 16px 20px; }"
-           "h1 { font-size: x-large; font-weight: 600; }"
+           "a { color: #1a5fa0; }"
+           "h1 { color: #16456f; font-size: x-large; font-weight: 600; }"
            "p { line-height: 130%; }"
            "li { margin-bottom: 4px; }"
            ".dove { color: #6b7178; }"

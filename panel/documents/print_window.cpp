@@ -13,6 +13,7 @@
 #include "awl/project.h"
 #include "panel/documents/print_pages.h"
 #include "panel/documents/print_text.h"
+#include "widgets/naming.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -42,10 +43,6 @@ constexpr std::array pulsanti{
 
 constexpr double margine_mm = 15;
 
-QString Nome(const char* matrice, int indice) {
-  return QStringLiteral("%1(%2)").arg(Q(matrice)).arg(indice);
-}
-
 }  // namespace
 
 bool Scegli_Stampante(QPrinter& stampante, QWidget* sopra) {
@@ -71,7 +68,7 @@ FrmStampe::FrmStampe(Progetto& progetto, Scelta_Stampante scegli_stampante, QWid
   parti->setSpacing(12);
   for (std::size_t i = 0; i < caselle.size(); ++i) {
     chkStp_[i] = new QCheckBox(Q(caselle[i].Testo));
-    chkStp_[i]->setObjectName(Nome("chkStp", static_cast<int>(i)));
+    chkStp_[i]->setObjectName(Con_Indice("chkStp", static_cast<int>(i)));
     chkStp_[i]->setToolTip(Q(caselle[i].Suggerimento));
     chkStp_[i]->setChecked(caselle[i].Spuntata);
     connect(chkStp_[i], &QCheckBox::clicked, txtList_, &QPlainTextEdit::clear);
@@ -88,7 +85,7 @@ FrmStampe::FrmStampe(Progetto& progetto, Scelta_Stampante scegli_stampante, QWid
   auto* tasti = new QVBoxLayout;
   for (const Pulsante& pulsante : pulsanti) {
     auto* tasto = new QPushButton(Q(pulsante.Testo));
-    tasto->setObjectName(Nome("cmdStp", pulsante.Indice));
+    tasto->setObjectName(Con_Indice("cmdStp", pulsante.Indice));
     tasto->setToolTip(Q(pulsante.Suggerimento));
     tasto->setAutoDefault(false);
     tasto->setDefault(pulsante.Indice == 1);
@@ -143,9 +140,8 @@ void FrmStampe::Stampa() {
     Avviso avviso;
     avviso.Titolo = "Errore!";
     avviso.Testo =
-        "Impossibile stampare il progetto! Controllare che la stampante sia accesa e che il file "
-        "di "
-        "stampa si possa scrivere.";
+        "Impossibile stampare il progetto! "
+        "Controllare che la stampante sia accesa e che il file di stampa si possa scrivere.";
     avviso.Simbolo = Icona::Critica;
     if (progetto_.Chiedi.Mostra) progetto_.Chiedi.Mostra(avviso);
     return;

@@ -2,7 +2,6 @@
 #include "panel/windows/analog_window.h"
 
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>

@@ -136,14 +136,23 @@ QWidget* FrmDebug::Pagina_HEX() {
   QListWidget* lista = Lista("listCod", "Righe compilate: scegliere una riga per vederne i campi");
   auto* dettagli = new QWidget;
   auto* colonna = new QVBoxLayout(dettagli);
+  colonna->addLayout(Testa_HEX());
+  colonna->addLayout(Modulo(campi_istruzione, et1_));
+  colonna->addLayout(Operandi_HEX());
+  colonna->addLayout(Piede_HEX());
+  colonna->addStretch();
+  connect(lista, &QListWidget::currentRowChanged, this, [this](int indice) { listCod(indice); });
+  return Accanto(lista, dettagli);
+}
 
+QLayout* FrmDebug::Testa_HEX() {
   etR_ = Campo_Valore("etR", 3);
   etR_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   etR_->setToolTip(Q("Numero della riga"));
   txt1_ = new QTextEdit;
   txt1_->setObjectName("txt1");
   txt1_->setReadOnly(true);
-  txt1_->setFont(lista->font());
+  txt1_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   txt1_->setLineWrapMode(QTextEdit::NoWrap);
   txt1_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   txt1_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -155,10 +164,10 @@ QWidget* FrmDebug::Pagina_HEX() {
   auto* testa = new QHBoxLayout;
   testa->addWidget(etR_);
   testa->addWidget(txt1_);
-  colonna->addLayout(testa);
+  return testa;
+}
 
-  colonna->addLayout(Modulo(campi_istruzione, et1_));
-
+QLayout* FrmDebug::Operandi_HEX() {
   auto* operandi = new QHBoxLayout;
   CorOp_ = {Riquadro("CorOp(0)", "Primo Operando"), Riquadro("CorOp(1)", "Secondo Operando")};
   CorOp_[0]->setLayout(Modulo(campi_primo, et1_));
@@ -170,8 +179,10 @@ QWidget* FrmDebug::Pagina_HEX() {
     riquadro->setSizePolicy(posto);
     operandi->addWidget(riquadro, 1);
   }
-  colonna->addLayout(operandi);
+  return operandi;
+}
 
+QLayout* FrmDebug::Piede_HEX() {
   QFormLayout* salto = Modulo(campi_salto, et1_);
   cmbTim_ = new QComboBox;
   cmbTim_->setObjectName("cmbTim");
@@ -188,11 +199,7 @@ QWidget* FrmDebug::Pagina_HEX() {
   auto* piede = new QHBoxLayout;
   piede->addLayout(salto);
   piede->addWidget(scr);
-  colonna->addLayout(piede);
-  colonna->addStretch();
-
-  connect(lista, &QListWidget::currentRowChanged, this, [this](int indice) { listCod(indice); });
-  return Accanto(lista, dettagli);
+  return piede;
 }
 
 QWidget* FrmDebug::Pagina_Errori() {

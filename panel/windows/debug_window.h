@@ -10,6 +10,7 @@
 class QComboBox;
 class QGroupBox;
 class QLabel;
+class QLayout;
 class QListWidget;
 class QTextEdit;
 
@@ -28,6 +29,9 @@ class FrmDebug : public QWidget {
  private:
   QWidget* Pagina_Listato();
   QWidget* Pagina_HEX();
+  QLayout* Testa_HEX();
+  QLayout* Operandi_HEX();
+  QLayout* Piede_HEX();
   QWidget* Pagina_Errori();
   QListWidget* Lista(const char* nome, const char* suggerimento) const;
 

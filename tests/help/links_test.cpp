@@ -102,6 +102,30 @@ TEST(HelpFolder, ShowsEveryPictureSomewhere) {
   }
 }
 
+class IndexNames : public ::testing::TestWithParam<const char*> {};
+
+TEST_P(IndexNames, WhatAStudentMeets) {
+  EXPECT_NE(ReadFile(HelpFolder() / "Index.htm").find(GetParam()), std::string::npos);
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, IndexNames,
+                         ::testing::Values("id=\"pannello\"", "id=\"editor\"", "id=\"stati\"",
+                                           "id=\"impianti\"", "id=\"guida\"",
+                                           "Finestra\nImpostazioni PLC",
+                                           "Simulatore Ingressi Analogici", "Finestra Test",
+                                           "Stampe Progetto", "Finestra Scalaro", "Sportello"));
+
+INSTANTIATE_TEST_SUITE_P(
+    Messages, IndexNames,
+    ::testing::Values("Il progetto non è formattato correttamente!",
+                      "Impossibile Caricare il progetto per errori nel formato!",
+                      "-&gt; Istruzione non riconosciuta", "-&gt; Istruzione non supportata",
+                      "-&gt; Indirizzo … non supportato", "-&gt; Indirizzo Bit OP1 non ammesso",
+                      "-&gt; Codice …", "-&gt; Operando non supportato", "-&gt; Numero …",
+                      "-&gt; Operandi non supportati", "-&gt; Valore troppo Grande",
+                      "Controllo Salti / Procedure / SCR con Errori!",
+                      "Run Time Error! Il programma sarà terminato!", "Errore in Esecuzione!"));
+
 TEST(HelpFolder, TheIndexNamesEveryExercise) {
   const std::vector<std::string> links = Attributes(ReadFile(HelpFolder() / "Index.htm"), "href");
   for (const Esercizio& exercise : Tabella_Esercizi())

@@ -14,6 +14,7 @@
 
 #include "panel/documents/about_window.h"
 #include "widgets/text.h"
+#include "widgets/twips.h"
 
 namespace tavorno {
 namespace {
@@ -67,11 +68,13 @@ TEST_F(About, OkCloses) {
 
 TEST_F(About, TheBarCountsWhatOfThePictureIsHidden) {
   const auto& disegno = Controllo<QWidget>("imgInf");
-  EXPECT_EQ(vsV().maximum(), disegno.height() - Controllo<QFrame>("picInf").height());
-  EXPECT_GT(vsV().maximum(), 200);
+  EXPECT_EQ(vsV().maximum(), Twip(disegno.height() - Controllo<QFrame>("picInf").height()));
+  EXPECT_GT(vsV().maximum(), 2000);
   EXPECT_EQ(disegno.y(), 0);
-  vsV().setValue(137);
+  vsV().setValue(1370);
   EXPECT_EQ(disegno.y(), -137);
+  vsV().setValue(vsV().maximum());
+  EXPECT_EQ(disegno.geometry().bottom(), Controllo<QFrame>("picInf").rect().bottom());
 }
 
 TEST_F(About, ThePictureStopsAHundredUnitsBeforeItsEndAndStaysThere) {
@@ -85,7 +88,7 @@ TEST_F(About, ThePictureStopsAHundredUnitsBeforeItsEndAndStaysThere) {
   finestra.Tick_Timer1();
   EXPECT_EQ(vsV().value(), 10);
   int passi = 1;
-  while (Timer(1).isActive() && passi < 1000) {
+  while (Timer(1).isActive() && passi < 10000) {
     finestra.Tick_Timer1();
     ++passi;
   }
@@ -95,6 +98,15 @@ TEST_F(About, ThePictureStopsAHundredUnitsBeforeItsEndAndStaysThere) {
   finestra.Tick_Timer1();
   EXPECT_EQ(vsV().value(), fermo);
   EXPECT_FALSE(Timer(1).isActive());
+}
+
+// Fast enough to see it move, slow enough to read what goes by.
+TEST_F(About, EachStepOfTheScrollingIsOnePixel) {
+  const auto& disegno = Controllo<QWidget>("imgInf");
+  finestra.Tick_Timer1();
+  EXPECT_EQ(disegno.y(), -1);
+  finestra.Tick_Timer1();
+  EXPECT_EQ(disegno.y(), -2);
 }
 
 TEST_F(About, TheUserMayMoveTheBarWhileItScrolls) {

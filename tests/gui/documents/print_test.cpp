@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QPlainTextEdit>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include "awl/project.h"
 #include "panel/documents/print_pages.h"
@@ -209,6 +212,21 @@ TEST_F(Printing, GivingUpThePrinterKeepsTheWindow) {
   EXPECT_EQ(domande, 1);
   EXPECT_TRUE(finestra->isVisible());
   EXPECT_FALSE(QFileInfo::exists(file));
+}
+
+TEST(Printer_Dialog, OffersNeitherPageNumbersNorASelection) {
+  QPrinter stampante;
+  bool mostrato = false;
+  QTimer::singleShot(0, [&mostrato] {
+    auto* dialogo = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+    if (dialogo == nullptr) qFatal("No dialog of the printer");
+    mostrato = true;
+    EXPECT_FALSE(dialogo->testOption(QAbstractPrintDialog::PrintPageRange));
+    EXPECT_FALSE(dialogo->testOption(QAbstractPrintDialog::PrintSelection));
+    dialogo->reject();
+  });
+  EXPECT_FALSE(Scegli_Stampante(stampante, nullptr));
+  EXPECT_TRUE(mostrato);
 }
 
 TEST_F(Printing, PrintsAndCloses) {
