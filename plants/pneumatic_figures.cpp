@@ -36,7 +36,7 @@ constexpr Riga_Figura figure_04[] = {
     {"ImgEm",   4500, 2760,  600,  600, "imgROFF", "Emergenza esterna, I0.7"},
     {"imgCEM",  5670, 2760,  600,  600, "imgCC", "Contatto di SB5, I0.7"},
     {"imgHL1",  2910, 1695,  480,  480, Lampada_Spenta, "Lampada blu, Q0.3"},
-    {"imgHL2",  3690, 1695,  480,  480, Lampada_Spenta, "Lampada rossa, Q0.4"},
+    {"imgHL2",  3690, 1695,  480,  480, Lampada_Spenta, "Lampada HL2, Q0.4"},
 };
 
 constexpr Riga_Figura figure_05[] = {
@@ -194,19 +194,19 @@ constexpr Riga_Figura figure_15[] = {
     {"cmdV2a",  3520,  780,  960,  210, "imgP1(0)", "Comando manuale 2Y1"},
     {"cmdV3a",  5740,  780,  960,  210, "imgP1(0)", "Comando manuale 3Y1"},
     {"cmdDis",  1530, 1980,  960,  240, "imgP1(0)", "Comando manuale 0Y1"},
-    {"imgCom",  7035,  330,  480,  480, "imgCS", "Selettore aria compressa, I0.6"},
-    {"imgSB1",  7635,  330,  480,  480, "imgVOFF", "Start ciclo automatico, I0.7"},
-    {"imgSB2",  8235,  330,  480,  480, "imgPBOF", "Start ciclo singolo, I1.0"},
-    {"imgSB3",  7035, 1080,  480,  480, "imgPGr0", "Stop ciclo automatico, I1.1"},
-    {"imgSB4",  7635, 1080,  480,  480, "imgPBOF", "Pulsante, I1.2"},
+    {"imgCom",  7035,  360,  480,  480, "imgCS", "Selettore aria compressa, I0.6"},
+    {"imgSB1",  7635,  360,  480,  480, "imgVOFF", "Start ciclo automatico, I0.7"},
+    {"imgSB2",  8235,  360,  480,  480, "imgPBOF", "Start ciclo singolo, I1.0"},
+    {"imgSB3",  7035, 1170,  480,  480, "imgPGr0", "Stop ciclo automatico, I1.1"},
+    {"imgSB4",  7635, 1170,  480,  480, "imgPBOF", "Pulsante, I1.2"},
     {"ImgEm",   4350, 2005,  420,  420, "imgROFF", "Emergenza esterna, I1.3"},
     {"imgCEM",  5580, 2005,  420,  420, "imgCC", "Contatto di SB5, I1.3"},
-    {"imgL1",   6954, 1880,  300,  300, Lampada_Spenta, "Lampada blu, Q0.4"},
-    {"imgL2",   7266, 1880,  300,  300, Lampada_Spenta, "Lampada verde, Q0.5"},
-    {"imgL3",   7578, 1880,  300,  300, Lampada_Spenta, "Lampada verde, Q0.6"},
-    {"imgL4",   7890, 1880,  300,  300, Lampada_Spenta, "Lampada blu, Q0.7"},
-    {"imgL5",   8202, 1880,  300,  300, Lampada_Spenta, "Lampada rossa, Q1.0"},
-    {"imgL6",   8514, 1880,  300,  300, Lampada_Spenta, "Lampada rossa, Q1.1"},
+    {"imgL1",   6954, 2060,  300,  300, Lampada_Spenta, "Lampada blu, Q0.4"},
+    {"imgL2",   7266, 2060,  300,  300, Lampada_Spenta, "Lampada verde, Q0.5"},
+    {"imgL3",   7578, 2060,  300,  300, Lampada_Spenta, "Lampada verde, Q0.6"},
+    {"imgL4",   7890, 2060,  300,  300, Lampada_Spenta, "Lampada blu, Q0.7"},
+    {"imgL5",   8202, 2060,  300,  300, Lampada_Spenta, "Lampada rossa, Q1.0"},
+    {"imgL6",   8514, 2060,  300,  300, Lampada_Spenta, "Lampada rossa, Q1.1"},
 };
 // clang-format on
 

@@ -27,10 +27,10 @@ constexpr Riga_Figura figure_st[] = {
     {"imgStop",  4440, 1440,  540,  540, "imgPGr0", "Stop, I0.0"},
     {"imgStart", 6120, 1440,  540,  540, "imgVOFF", "Start, I0.1"},
     {"ImgEm",    7800, 1440,  540,  540, "imgROFF", "Emergenza, I0.6"},
-    {"imgLS",    4470, 2295,  480,  480, Lampada_Spenta, "Lampada blu, Q0.3"},
-    {"imgLSt",   5590, 2295,  480,  480, Lampada_Spenta, "Lampada verde, Q0.4"},
-    {"imgLTri",  6710, 2295,  480,  480, Lampada_Spenta, "Lampada verde, Q0.5"},
-    {"imgLRt",   7830, 2295,  480,  480, Lampada_Spenta, "Lampada gialla, Q0.6"},
+    {"imgLS",    4470, 2370,  480,  480, Lampada_Spenta, "Lampada blu, Q0.3"},
+    {"imgLSt",   5590, 2370,  480,  480, Lampada_Spenta, "Lampada verde, Q0.4"},
+    {"imgLTri",  6710, 2370,  480,  480, Lampada_Spenta, "Lampada verde, Q0.5"},
+    {"imgLRt",   7830, 2370,  480,  480, Lampada_Spenta, "Lampada gialla, Q0.6"},
 };
 
 constexpr Riga_Contattore contattori_st[] = {

@@ -132,6 +132,7 @@ QWidget* Finestra_Impianto::Assegna_IO() {
         cella->setBackground(Uscita(riga) ? celeste_uscite : verde_ingressi);
         cella->setForeground(Qt::black);
       }
+      if (colonna == 3) cella->setForeground(FGr->palette().buttonText());
       FGr->setItem(n, colonna, cella);
     }
   }
@@ -146,7 +147,7 @@ QWidget* Finestra_Impianto::Impostazioni() {
     righe->addWidget(new QLabel(QStringLiteral("Questo impianto non ha impostazioni.")));
   for (std::size_t n = 0; n < cursori.size(); ++n) {
     const Cursore& cursore = cursori[n];
-    auto* cornice = new QGroupBox(Q(cursore.Cornice));
+    auto* cornice = Chiama(QStringLiteral("Frame%1").arg(n + 1), new QGroupBox(Q(cursore.Cornice)));
     auto* posti = new QHBoxLayout(cornice);
     auto* slider = Chiama(Q(cursore.Nome), new QSlider(Qt::Horizontal));
     slider->setRange(cursore.Minimo, cursore.Massimo);
@@ -154,6 +155,9 @@ QWidget* Finestra_Impianto::Impostazioni() {
     slider->setPageStep(cursore.Passo_Grande);
     slider->setValue(collegamento_->Valore(n));
     slider->setTickPosition(QSlider::TicksBelow);
+    // So that the last tick falls on the end.
+    const bool esatto = (cursore.Massimo - cursore.Minimo) % cursore.Passo_Grande == 0;
+    slider->setTickInterval(esatto ? cursore.Passo_Grande : cursore.Passo_Piccolo);
     auto* valore = new QLabel(QString::number(slider->value()));
     valore->setMinimumWidth(valore->fontMetrics().horizontalAdvance(QStringLiteral("000")));
     connect(slider, &QSlider::valueChanged, this, [this, n, valore](int nuovo) {

@@ -6,6 +6,7 @@
 #include <QToolTip>
 #include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
 #include "plants/host/picture_widget.h"
 #include "widgets/text.h"
@@ -23,11 +24,16 @@ bool Quadro::Si_Opera(const Figura& figura) const {
          (figura.Operabile() || impianto_.Trova_Regolatore(figura.Nome) != nullptr);
 }
 
-Figura* Quadro::Figura_A(const QPointF& punto) {
+template <class Quali>
+Figura* Quadro::In_Cima(const QPointF& punto, Quali quali) const {
   for (auto vista = viste_.rbegin(); vista != viste_.rend(); ++vista) {
-    if (Si_Opera(*vista->Di) && Posto(*vista->Di).contains(punto)) return vista->Di;
+    if (quali(*vista->Di) && Posto(*vista->Di).contains(punto)) return vista->Di;
   }
   return nullptr;
+}
+
+Figura* Quadro::Figura_A(const QPointF& punto) const {
+  return In_Cima(punto, [this](const Figura& figura) { return Si_Opera(figura); });
 }
 
 bool Quadro::Gira(const Figura& figura, int passi) {
@@ -36,15 +42,15 @@ bool Quadro::Gira(const Figura& figura, int passi) {
          impianto_.Regola(figura.Nome, regolatore->Valore + passi * regolatore->Passo);
 }
 
-void Quadro::Premi(Figura* figura) {
-  premuta_ = figura;
-  if (figura != nullptr) impianto_.Premi(figura->Nome);
+void Quadro::Premi(Figura*& mano, Figura& figura) {
+  Rilascia(mano, false);
+  mano = &figura;
+  impianto_.Premi(figura.Nome);
 }
 
-void Quadro::Rilascia(bool sopra) {
-  if (premuta_ == nullptr) return;
-  const std::string nome = premuta_->Nome;
-  premuta_ = nullptr;
+void Quadro::Rilascia(Figura*& mano, bool sopra) {
+  if (mano == nullptr) return;
+  const std::string nome = std::exchange(mano, nullptr)->Nome;
   impianto_.Rilascia(nome);
   if (sopra) impianto_.Clic(nome);
 }
@@ -55,15 +61,14 @@ void Quadro::mousePressEvent(QMouseEvent* evento) {
   if (evento->button() != Qt::LeftButton) return;
   Figura* figura = Figura_A(evento->position());
   if (figura == nullptr) return;
-  fuoco_ = Q(figura->Nome);
-  update();
+  Metti_Fuoco(*figura, false);
   // An up/down has its two buttons one above the other.
   if (Gira(*figura, evento->position().y() < Posto(*figura).center().y() ? 1 : -1)) return;
-  Premi(figura);
+  Premi(mouse_, *figura);
 }
 
 void Quadro::mouseReleaseEvent(QMouseEvent* evento) {
-  if (evento->button() == Qt::LeftButton) Rilascia(Figura_A(evento->position()) == premuta_);
+  if (evento->button() == Qt::LeftButton) Rilascia(mouse_, Figura_A(evento->position()) == mouse_);
 }
 
 void Quadro::mouseDoubleClickEvent(QMouseEvent* evento) {
@@ -85,8 +90,10 @@ void Quadro::wheelEvent(QWheelEvent* evento) {
 bool Quadro::event(QEvent* evento) {
   if (evento->type() != QEvent::ToolTip) return QWidget::event(evento);
   auto* aiuto = static_cast<QHelpEvent*>(evento);
-  const Figura* figura = Figura_A(aiuto->pos());
-  if (figura == nullptr || figura->ToolTip().empty())
+  // What cannot be operated, a lamp or a limit switch, has its name as well.
+  const Figura* figura = In_Cima(
+      aiuto->pos(), [](const Figura& una) { return una.Visible() && !una.ToolTip().empty(); });
+  if (figura == nullptr)
     QToolTip::hideText();
   else
     QToolTip::showText(aiuto->globalPos(), Q(figura->ToolTip()), this,
@@ -104,6 +111,14 @@ std::vector<Quadro::Vista*> Quadro::Operabili() {
   return operabili;
 }
 
+void Quadro::Metti_Fuoco(const Figura& figura, bool in_vista) {
+  const QString nome = Q(figura.Nome);
+  if (nome == fuoco_ && in_vista == fuoco_in_vista_) return;
+  fuoco_ = nome;
+  fuoco_in_vista_ = in_vista;
+  update();
+}
+
 Quadro::Vista* Quadro::A_Fuoco() {
   for (Vista* vista : Operabili()) {
     if (Q(vista->Di->Nome) == fuoco_) return vista;
@@ -119,21 +134,22 @@ bool Quadro::focusNextPrevChild(bool avanti) {
     quale = avanti ? 0 : static_cast<int>(operabili.size()) - 1;
   else
     quale += avanti ? 1 : -1;
-  update();
   if (quale < 0 || quale >= static_cast<int>(operabili.size())) {
     fuoco_.clear();
+    update();
     return QWidget::focusNextPrevChild(avanti);
   }
-  fuoco_ = Q(operabili[static_cast<std::size_t>(quale)]->Di->Nome);
+  Metti_Fuoco(*operabili[static_cast<std::size_t>(quale)]->Di, true);
   return true;
 }
 
 void Quadro::keyPressEvent(QKeyEvent* evento) {
   const Vista* vista = A_Fuoco();
   if (vista == nullptr) return QWidget::keyPressEvent(evento);
+  Metti_Fuoco(*vista->Di, true);
   switch (evento->key()) {
     case Qt::Key_Space:
-      if (!evento->isAutoRepeat()) Premi(vista->Di);
+      if (!evento->isAutoRepeat()) Premi(spazio_, *vista->Di);
       return;
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -154,12 +170,15 @@ void Quadro::keyReleaseEvent(QKeyEvent* evento) {
   if (evento->key() != Qt::Key_Space)
     QWidget::keyReleaseEvent(evento);
   else if (!evento->isAutoRepeat())
-    Rilascia(true);
+    Rilascia(spazio_, true);
 }
 
 void Quadro::focusOutEvent(QFocusEvent* evento) {
   // Nobody can let go of a button in a window that has no keyboard.
-  if (evento->reason() != Qt::MouseFocusReason) Rilascia(false);
+  if (evento->reason() != Qt::MouseFocusReason) {
+    Rilascia(mouse_, false);
+    Rilascia(spazio_, false);
+  }
   update();
   QWidget::focusOutEvent(evento);
 }

@@ -101,7 +101,7 @@ void Quadro::paintEvent(QPaintEvent* evento) {
     vista.Ultimo = Occupato(vista);
     if (vista.Ultimo.intersects(evento->rect())) Disegna_Figura(pittore, vista);
   }
-  const Vista* fuoco = hasFocus() ? A_Fuoco() : nullptr;
+  const Vista* fuoco = hasFocus() && fuoco_in_vista_ ? A_Fuoco() : nullptr;
   if (fuoco == nullptr) return;
   pittore.translate(-Origine());
   pittore.setPen(QPen(QColor(0x2f, 0x6f, 0xd0), 2));

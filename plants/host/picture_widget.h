@@ -23,7 +23,7 @@ class Quadro : public QWidget {
   QSize minimumSizeHint() const override { return sizeHint() * 0.8; }
 
   /// The topmost visible figure that can be operated there; nullptr for none. Pixels of the widget.
-  Figura* Figura_A(const QPointF& punto);
+  Figura* Figura_A(const QPointF& punto) const;
   /// Where a figure stands now, in pixels of the widget.
   QRectF Posto(const Figura& figura) const;
   /// The id of the group that draws a figure now.
@@ -58,17 +58,24 @@ class Quadro : public QWidget {
   void Disegna_Figura(QPainter& pittore, const Vista& vista);
   QRectF Occupato(const Vista& vista) const;
   void Ridisegna_Cambiate();
-  void Premi(Figura* figura);
-  void Rilascia(bool sopra);
+  /// `mano`: `mouse_` or `spazio_`.
+  void Premi(Figura*& mano, Figura& figura);
+  void Rilascia(Figura*& mano, bool sopra);
+  template <class Quali>
+  Figura* In_Cima(const QPointF& punto, Quali quali) const;
   std::vector<Vista*> Operabili();
+  void Metti_Fuoco(const Figura& figura, bool in_vista);
   Vista* A_Fuoco();
 
   Impianto& impianto_;
   Disegni disegni_;
   std::vector<Vista> viste_;  // in drawing order
   QTimer ritmo_;
-  QString fuoco_;              // name of the figure that the keyboard operates
-  Figura* premuta_ = nullptr;  // held down by mouse or Space
+  QString fuoco_;                // name of the figure that the keyboard operates
+  bool fuoco_in_vista_ = false;  // its frame would cross labels, so it waits for a key
+  // Held down. There are two, so that a hand on each can hold two buttons at once.
+  Figura* mouse_ = nullptr;
+  Figura* spazio_ = nullptr;
 };
 
 }  // namespace tavorno

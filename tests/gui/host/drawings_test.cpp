@@ -127,6 +127,20 @@ TEST_P(Disegni_Di, NothingIsDrawnOutsideThePicture) {
   }
 }
 
+TEST_P(Disegni_Di, EverySymbolIsOfItsOwnFileOrOfTheSharedSheet) {
+  QString testo;
+  for (const QString& file : {File_Di(esercizio), QStringLiteral(":/plants/symbols.svg")}) {
+    QFile aperto(file);
+    ASSERT_TRUE(aperto.open(QIODevice::ReadOnly)) << file.toStdString();
+    testo += QString::fromUtf8(aperto.readAll());
+  }
+  static const QRegularExpression richiamo(QStringLiteral("(?:href=\"|url\\()#([\\w-]+)[\")]"));
+  for (auto trovati = richiamo.globalMatch(testo); trovati.hasNext();) {
+    const QString id = trovati.next().captured(1);
+    EXPECT_TRUE(testo.contains("id=\"" + id + '"')) << "nothing is drawn by " << id.toStdString();
+  }
+}
+
 std::vector<int> Con_Impianto() {
   std::vector<int> indici;
   for (const Esercizio& esercizio : Tabella_Esercizi()) {

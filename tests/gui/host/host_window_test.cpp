@@ -76,7 +76,13 @@ TEST_P(Host, TheGridHoldsTheTableOfInputsAndOutputs) {
     const QColor fondo = FGr.item(n, 2)->background().color();
     EXPECT_EQ(fondo, FGr.item(n, 1)->background().color());
     EXPECT_EQ(fondo.blue() > fondo.green(), uscita) << "outputs are cyan, inputs green";
+    EXPECT_EQ(FGr.item(n, 3)->foreground().color(),
+              FGr.palette().color(QPalette::Active, QPalette::ButtonText));
   }
+  EXPECT_EQ(FGr.columnWidth(0), Px(400));
+  EXPECT_EQ(FGr.columnWidth(1), Px(700));
+  EXPECT_EQ(FGr.columnWidth(2), Px(700));
+  EXPECT_GE(FGr.columnWidth(3), Px(3300));
 }
 
 TEST_P(Host, TheSettingsMoveTheirSliders) {
@@ -91,6 +97,7 @@ TEST_P(Host, TheSettingsMoveTheirSliders) {
     const auto* cornice = qobject_cast<QGroupBox*>(slider.parentWidget());
     ASSERT_NE(cornice, nullptr);
     EXPECT_EQ(cornice->title(), Q(cursore.Cornice));
+    EXPECT_EQ(cornice->objectName(), "Frame" + QString::number(n + 1));
   }
 }
 

@@ -3,6 +3,7 @@
 #include <QHelpEvent>
 #include <QPaintEvent>
 #include <QRegion>
+#include <QToolTip>
 
 #include "host/host_bed.h"
 
@@ -71,6 +72,43 @@ TEST_F(Picture, TheKeyboardReachesAndWorksEverything) {
   }
   EXPECT_TRUE(premuto) << "Start was not reached";
   EXPECT_EQ(Ingresso(2), '0');
+}
+
+TEST_F(Picture, AHandOnTheMouseAndOneOnSpaceHoldTwoButtons) {
+  QTest::mouseClick(&quadro, Qt::LeftButton, {}, banco.Centro("imgStart"));
+  QTest::keyPress(&quadro, Qt::Key_Space);
+  QTest::mousePress(&quadro, Qt::LeftButton, {}, banco.Centro("imgStop"));
+  EXPECT_EQ(banco.plc.SI[0].Stato_I(), "01011000");
+  QTest::mouseRelease(&quadro, Qt::LeftButton, {}, banco.Centro("imgStop"));
+  EXPECT_EQ(banco.plc.SI[0].Stato_I(), "11011000") << "Start is still held";
+  QTest::keyRelease(&quadro, Qt::Key_Space);
+  EXPECT_EQ(banco.plc.SI[0].Stato_I(), "10011000") << "no button stays down";
+}
+
+TEST_F(Picture, TheFrameOfTheFocusWaitsForAKey) {
+  banco.finestra->activateWindow();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return quadro.hasFocus(); }, 20000));
+  const auto grab = [&] { return quadro.grab().toImage(); };
+  const QImage prima = grab();
+  QTest::mouseClick(&quadro, Qt::LeftButton, {}, banco.Centro("imgStart"));
+  EXPECT_EQ(grab(), prima) << "a frame around what the mouse clicked";
+  QTest::keyClick(&quadro, Qt::Key_Space);
+  EXPECT_NE(grab(), prima);
+  QTest::mouseClick(&quadro, Qt::LeftButton, {}, banco.Centro("imgStop"));
+  EXPECT_EQ(grab(), prima);
+}
+
+TEST_F(Picture, EverythingWithAToolTipSaysIt) {
+  const auto chiedi = [&](const char* figura) {
+    QHelpEvent domanda(QEvent::ToolTip, banco.Centro(figura),
+                       quadro.mapToGlobal(banco.Centro(figura)));
+    QApplication::sendEvent(&quadro, &domanda);
+    return QToolTip::text();
+  };
+  EXPECT_EQ(chiedi("imgKM"), "DbClick per forzare apertura");
+  EXPECT_EQ(chiedi("ImgTer"), "Click per simulare intervento");
+  EXPECT_EQ(chiedi("imgLA"), "Lampada blu, Q0.1");
+  EXPECT_EQ(chiedi("imgKMa"), "Contatto ausiliario, I0.2");
 }
 
 TEST_F(Picture, OnlyWhatCanBeOperatedIsUnderTheHand) {

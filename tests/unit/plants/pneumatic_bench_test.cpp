@@ -44,7 +44,7 @@ const std::vector<Prova_Banco> banchi = {
      {{"imgSB1", 9, '1', '0', "imgVON", "imgVOFF"}, {"imgSB2", 10, '1', '0', "imgPBON", "imgPBOF"},
       {"imgSB3", 11, '0', '1', "imgPGr1", "imgPGr0"}, {"imgSB4", 12, '1', '0', "imgPBON", "imgPBOF"}},
      {{10, "imgL1", "imgLB"}, {11, "imgL2", "imgLV"}, {12, "imgL3", "imgLV"}}},
-    {"Us15", &Schema_ctr_Pist_32, "1010100001010000", 2600, 1, 750, 480,
+    {"Us15", &Schema_ctr_Pist_32, "1010100001010000", 2780, 1, 750, 480,
      "Apri Valvola", "Apri Valvola", "", 7, 12,
      {{"imgSB1", 8, '1', '0', "imgVON", "imgVOFF"}, {"imgSB2", 9, '1', '0', "imgPBON", "imgPBOF"},
       {"imgSB3", 10, '0', '1', "imgPGr1", "imgPGr0"}, {"imgSB4", 11, '1', '0', "imgPBON", "imgPBOF"}},
