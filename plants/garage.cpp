@@ -2,6 +2,7 @@
 #include "plants/garage.h"
 
 #include <cmath>
+#include <limits>
 #include <string>
 
 #include "plants/garage_figures.h"
@@ -113,15 +114,19 @@ ctr_Garage::ctr_Garage(Orologio& orologio)
   Disegno[entrata_.Motore].Clic = [this] { Termico(entrata_); };
   Disegno[uscita_.Motore].Clic = [this] { Termico(uscita_); };
 
+  // Neither has a value before the first write, which is therefore never a repetition.
+  constexpr double mai_scritta = std::numeric_limits<double>::quiet_NaN();
   Regolatori["ME_Speed"] = {[this](double valore) {
                               const auto passo = static_cast<float>(std::lrint(valore));
                               Passo_Sbarra = passo;
                               Passo_Auto = passo + 0.8F;
                             },
-                            0, -32768, 32767};
+                            mai_scritta, -32768, 32767};
   Regolatori["ME_DisabilitaI"] = {[this](double) {
-    for (int n = 0; n < 16; ++n) Disegno("etI", n).ForeColor = grigio;
-  }};
+                                    for (int n = 0; n < 16; ++n)
+                                      Disegno("etI", n).ForeColor = grigio;
+                                  },
+                                  mai_scritta};
 }
 
 void ctr_Garage::Applica_Uscite() {
@@ -153,14 +158,19 @@ void ctr_Garage::Muovi(const Sbarra& sbarra) {
   Figura& barra = Disegno[sbarra.Nome];
   barra.Left = barra.Left + sbarra.Verso * Passo_Sbarra;
   Ingresso(sbarra.Lasciato, '1');
-  Disegno[sbarra.Spia_Lasciato].FillColor = verde_scuro;
+  Fine_Corsa(sbarra.Spia_Lasciato, false);
   if ((barra.Left - sbarra.Limite) * sbarra.Verso >= 0) {
     this->*sbarra.Aperta = sbarra.Alla_Fine;
     Ingresso(sbarra.Raggiunto, '0');
-    Disegno[sbarra.Spia_Raggiunto].FillColor = rosso;
+    Fine_Corsa(sbarra.Spia_Raggiunto, true);
     if (sbarra.Via_Libera) (this->*sbarra.Via_Libera).Enabled(true);
   }
   Invia();
+}
+
+void ctr_Garage::Fine_Corsa(const char* spia, bool raggiunto) {
+  Disegno[spia].FillColor = raggiunto ? rosso : verde_scuro;
+  Disegno[spia].Picture = raggiunto ? "raggiunto" : "libero";
 }
 
 void ctr_Garage::Corsia_Occupata(const Corsia& corsia, bool occupata) {
@@ -323,8 +333,8 @@ void ctr_Garage::Riposo() {
   }
   for (const Sbarra* sbarra : {&chiude_ingresso_, &chiude_uscita_}) {
     Disegno[sbarra->Nome].Left = sbarra->Limite;
-    Disegno[sbarra->Spia_Raggiunto].FillColor = rosso;
-    Disegno[sbarra->Spia_Lasciato].FillColor = verde_scuro;
+    Fine_Corsa(sbarra->Spia_Raggiunto, true);
+    Fine_Corsa(sbarra->Spia_Lasciato, false);
   }
   Libero();
   Disegno["etPosti"].Caption = std::to_string(Posti);

@@ -47,6 +47,7 @@ class ctr_Garage : public Impianto {
   void Applica_Uscite() override;
   void Comanda(const Contattore& contattore, bool eccitato);
   void Muovi(const Sbarra& sbarra);
+  void Fine_Corsa(const char* spia, bool raggiunto);
   void Corsia_Occupata(const Corsia& corsia, bool occupata);
   void Fotocellula(const Corsia& corsia, bool interrotta);
   bool Comandato(const Corsia& corsia) const;

@@ -85,8 +85,8 @@ ctr_Ascensore::ctr_Ascensore(Orologio& orologio)
     Disegno("EtP", n).Caption = piani[n].EtP;
     Mostra_Piano(n, n == 3);
   }
-  Disegno("shFcP", 4).FillColor = verde_vivo;
-  Disegno("shFcP", 5).FillColor = verde_scuro;
+  Mostra_Porte(4, true);
+  Mostra_Porte(5, false);
   Disegno["linFC"].FillColor = nero;
   EtPos.Caption = Testo(imgC.Top / volt_per_twip);
   for (const char* nascosta : {"imgSu", "imgGiu", "imgLFC", "EtPos"})
@@ -206,6 +206,11 @@ void ctr_Ascensore::Mostra_Piano(int indice, bool in_zona) {
   Disegno("EtP", indice).ForeColor = in_zona ? rosso_vivo : nero;
 }
 
+void ctr_Ascensore::Mostra_Porte(int indice, bool azionato) {
+  Disegno("shFcP", indice).Picture = azionato ? "acceso" : "spento";
+  Disegno("shFcP", indice).FillColor = azionato ? verde_vivo : verde_scuro;
+}
+
 void ctr_Ascensore::Tick_timP() {
   const int verso = Senso_Porte == 0 ? 1 : -1;
   const long sinistra = std::lrint(porta_sinistra.Left) + verso * passo_porte;
@@ -220,10 +225,10 @@ void ctr_Ascensore::Tick_timP() {
 
   const bool chiuse = sinistra >= sinistra_chiusa;
   Ingresso(SQ5, chiuse ? '1' : '0');
-  Disegno("shFcP", 4).FillColor = chiuse ? verde_vivo : verde_scuro;
+  Mostra_Porte(4, chiuse);
   const bool aperte = Stato_Porte == 0;
   Ingresso(SQ6, aperte ? '0' : '1');
-  Disegno("shFcP", 5).FillColor = aperte ? verde_vivo : verde_scuro;
+  Mostra_Porte(5, aperte);
   Invia();
 }
 

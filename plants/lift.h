@@ -48,6 +48,7 @@ class ctr_Ascensore : public Impianto {
   void Tick_timCab();
   void Tick_timP();
   void Mostra_Piano(int indice, bool in_zona);
+  void Mostra_Porte(int indice, bool azionato);
   void Invia_Con(const std::string& testo);
 
   Figura& imgC = Disegno["imgC"];

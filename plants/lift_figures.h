@@ -59,8 +59,8 @@ constexpr Riga_Figura figure[] = {
     {"imgLOver",   5100, 3240,  420,  420, Lampada_Spenta, "Sovraccarico cabina (HL9), Q1.4"},
     {"imgLAlarm",  5730, 3240,  420,  420, Lampada_Spenta, "Malfunzionamento (HL10), Q1.5"},
 
-    {"shFcP(4)",   4860, 4500,  180,  180, "", "Porte chiuse (SQ5), I0.4"},
-    {"shFcP(5)",   4860, 4800,  180,  180, "", "Porte aperte (SQ6), I1.7"},
+    {"shFcP(4)",   4860, 4500,  180,  180, "acceso", "Porte chiuse (SQ5), I0.4"},
+    {"shFcP(5)",   4860, 4800,  180,  180, "spento", "Porte aperte (SQ6), I1.7"},
     {"EtPos",      5640, 5070,  780,  240},
 
     {"Label3",     6840,  300, 1980,  240},

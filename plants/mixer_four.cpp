@@ -42,11 +42,13 @@ constexpr Riga_Figura figure[] = {
     {"etGP(1)",    720,  540,  420,  240, "", manca},
     {"etGP(2)",   1260,  540,  420,  240, "", manca},
     {"etGP(3)",   1800,  540,  420,  240, "", manca},
-    {"imgTL(0)",  5115, 2605,  150,  150},
-    {"imgTL(1)",  5115, 2225,  150,  150},
-    {"imgTL(2)",  5115, 1825,  150,  150},
-    {"imgTL(3)",  5115, 1425,  150,  150},
-    {"imgTL(4)",  5115, 1025,  150,  150},
+    {"imgFR(0)", 2040, 1947,  180,  210, "chiuso"},
+    {"imgFR(1)", 5025,  267,  180,  210, "chiuso"},
+    {"imgTL(0)",  5115, 2605,  150,  150, "spenta"},
+    {"imgTL(1)",  5115, 2225,  150,  150, "spenta"},
+    {"imgTL(2)",  5115, 1825,  150,  150, "spenta"},
+    {"imgTL(3)",  5115, 1425,  150,  150, "spenta"},
+    {"imgTL(4)",  5115, 1025,  150,  150, "spenta"},
     {"etcap",      420, 2520,  480,  180},
     {"etAI",      1440, 2520,  480,  180},
     {"imgSB(0)",  5670,  480,  480,  480, "imgSBOF", "SB1 Start ciclo, I0.0"},
@@ -93,11 +95,9 @@ constexpr Riga_Pulsante pulsanti[] = {
     {"imgSB(2)", 8, '1', '0', "imgSBON", "imgSBOF"},
 };
 
-constexpr Riga_Commutatore commutatori[] = {
-    {"imgM(0)",  9, '0', '1', "imgFR", "imgMOF"},
-    {"imgM(1)", 10, '0', '1', "imgFR", "imgMOF"},
-    {"imgCom",  11, '1', '0', "imgComON", "imgComOF"},
-};
+constexpr Riga_Termico termici[] = {{"imgM(0)", "imgFR(0)", 9}, {"imgM(1)", "imgFR(1)", 10}};
+
+constexpr Riga_Commutatore commutatori[] = {{"imgCom", 11, '1', '0', "imgComON", "imgComOF"}};
 // clang-format on
 
 constexpr Schema_Serbatoio schema = {
@@ -106,6 +106,8 @@ constexpr Schema_Serbatoio schema = {
     .Fondo = 2700,
     .Mandate = mandate,
     .Scarico = {"ME_SpedS", 200, 200},
+    .Valvola_Scarico = "imgV(4)",
+    .Tubo_Scarico = "imgTG(4)",
     .Vuoto_Scarico = 1,
     .Livelli = livelli,
     .Righe_Livello = righe_livello,
@@ -115,6 +117,7 @@ constexpr Schema_Serbatoio schema = {
     .Lampade = lampade,
     .Pulsanti = pulsanti,
     .Commutatori = commutatori,
+    .Termici = termici,
 };
 
 constexpr int SB4 = 12;  // input of the emergency button
@@ -149,7 +152,7 @@ void ctr_Mis4::Comanda(int uscita, bool eccitata) {
   if (uscita <= 4) return Comanda_Prodotto(static_cast<std::size_t>(uscita - 1), eccitata);
   if (uscita == 5) return Agita(eccitata);
   if (uscita == 6) return Comanda_Pompa_P1(eccitata);
-  Comanda_Scarico(eccitata);
+  Comanda_Caduta(eccitata);
 }
 
 // A valve that falls stops the fill, even while another stands open and the pump runs.
@@ -175,20 +178,6 @@ void ctr_Mis4::Carica(bool attivo) {
     Avvia_Carico(0);
   else
     Ferma_Carico(0);
-}
-
-// A tank that is empty when the valve opens is not drained later either, until the valve opens
-// again.
-void ctr_Mis4::Comanda_Scarico(bool aperta) {
-  const bool scorre = aperta && !Vasca_Vuota();
-  Disegno["imgV(4)"].Picture = Elettrovalvola(aperta);
-  Disegno["imgTG(4)"].Picture = Tubo(scorre);
-  Scarica(scorre);
-}
-
-// The timer runs on: what comes in meanwhile goes out at once.
-void ctr_Mis4::Scaricato(bool vuota) {
-  Disegno["imgTG(4)"].Picture = Tubo(!vuota);
 }
 
 }  // namespace tavorno

@@ -15,10 +15,8 @@ class ctr_Mis4 : public Serbatoio_Agitato {
 
  private:
   void Comanda(int uscita, bool eccitata) override;
-  void Scaricato(bool vuota) override;
   void Comanda_Prodotto(std::size_t valvola, bool aperta);
   void Comanda_Pompa_P1(bool accesa);
-  void Comanda_Scarico(bool aperta);
   void Carica(bool attivo);
   void Monta_Mancanza();
 

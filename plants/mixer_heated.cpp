@@ -40,14 +40,14 @@ constexpr Riga_Figura figure[] = {
     {"imgTr(1)",  2130, 1710,  300,  300, "imgTrOF"},
     {"EtP(0)",    2040, 1050,  480,  180},
     {"EtP(1)",    2040, 2070,  480,  180},
-    {"imgTL(0)",  4935, 2895,  150,  150},
-    {"imgTL(1)",  4935, 2125,  150,  150},
-    {"imgTL(2)",  4935, 1325,  150,  150},
+    {"imgTL(0)",  4935, 2895,  150,  150, "spenta"},
+    {"imgTL(1)",  4935, 2125,  150,  150, "spenta"},
+    {"imgTL(2)",  4935, 1325,  150,  150, "spenta"},
     {"shT",       5580, 2380,   60,  200},
     {"imgSet",    5655, 2020,  180,  120},
     {"etT",       5040,  330,  480,  180},
     {"etSet",     5040,  870,  480,  180},
-    {"UpDown1",   5580,  780,  240,  360, "", "Set point temperatura, AIW4"},
+    {"UpDown1",   5580,  852,  240,  360, "", "Set point temperatura, AIW4"},
     {"imgLT",     5340, 3000,  300,  300, "imgLTOF"},
     {"etcap",      360, 2670,  480,  180},
     {"etTL",      1260, 2670,  480,  180},
@@ -61,31 +61,35 @@ constexpr Riga_Figura figure[] = {
     {"etI(6)",    5100, 3978,  300,  150},
     {"etI(7)",    5490, 3312,  300,  150},
     {"etI(8)",    4440,  438,  300,  150},
-    {"imgCom(0)", 6030,  330,  540,  540, "imgComOF", "SA1 Automatico/Manuale, I1.1"},
-    {"imgSB(0)",  6750,  330,  540,  540, "imgSBOF", "SB1 Start ciclo automatico, I1.2"},
-    {"imgSB(1)",  7470,  330,  540,  540, "imgSBOF", "SB2 Stop ciclo automatico, I1.3"},
-    {"imgCom(1)", 6030, 1290,  540,  540, "imgComOF", "SA2 Carico Prodotto 1, I1.4"},
-    {"imgCom(2)", 6750, 1290,  540,  540, "imgComOF", "SA3 Carico Prodotto 2, I1.5"},
-    {"imgCom(3)", 7470, 1290,  540,  540, "imgComOF", "SA4 Scarico Miscela, I1.6"},
-    {"imgCom(4)", 8190, 1290,  540,  540, "imgComOF", "SA5 Agitatore-Vapore, I1.7"},
-    {"etI(9)",    6150,  870,  300,  150},
-    {"etI(10)",   6870,  870,  300,  150},
-    {"etI(11)",   7590,  870,  300,  150},
-    {"etI(12)",   6150, 1830,  300,  150},
-    {"etI(13)",   6870, 1830,  300,  150},
-    {"etI(14)",   7590, 1830,  300,  150},
-    {"etI(15)",   8310, 1830,  300,  150},
-    {"imgL(0)",   6120, 2280,  360,  360, Lampada_Spenta, "HL1 verde, Q1.0"},
-    {"imgL(1)",   6840, 2280,  360,  360, Lampada_Spenta, "HL2 verde, Q1.1"},
-    {"imgL(2)",   7560, 2280,  360,  360, Lampada_Spenta, "HL3 blu, Q1.2"},
-    {"imgL(3)",   8280, 2280,  360,  360, Lampada_Spenta, "HL4 rossa, Q1.3"},
-    {"imgL(4)",   6120, 2940,  360,  360, Lampada_Spenta, "HL5 gialla, Q1.4"},
-    {"imgL(5)",   6840, 2940,  360,  360, Lampada_Spenta, "HL6 gialla, Q1.5"},
-    {"imgL(6)",   7560, 2940,  360,  360, Lampada_Spenta, "HL7 gialla, Q1.6"},
-    {"imgL(7)",   8280, 2940,  360,  360, Lampada_Spenta, "HL8 gialla, Q1.7"},
-    {"etAI(0)",   6030, 3780,  600,  180},
-    {"etAI(1)",   6990, 3780,  600,  180},
-    {"etAI(2)",   7950, 3780,  600,  180},
+    {"imgCom(0)", 6030,  375,  540,  540, "imgComOF", "SA1 Automatico/Manuale, I1.1"},
+    {"imgSB(0)",  6750,  375,  540,  540, "imgSBOF", "SB1 Start ciclo automatico, I1.2"},
+    {"imgSB(1)",  7470,  375,  540,  540, "imgSBOF", "SB2 Stop ciclo automatico, I1.3"},
+    {"imgCom(1)", 6030, 1475,  540,  540, "imgComOF", "SA2 Carico Prodotto 1, I1.4"},
+    {"imgCom(2)", 6750, 1475,  540,  540, "imgComOF", "SA3 Carico Prodotto 2, I1.5"},
+    {"imgCom(3)", 7470, 1475,  540,  540, "imgComOF", "SA4 Scarico Miscela, I1.6"},
+    {"imgCom(4)", 8190, 1475,  540,  540, "imgComOF", "SA5 Agitatore-Vapore, I1.7"},
+    {"etI(9)",    6150,  930,  300,  150},
+    {"etI(10)",   6870,  930,  300,  150},
+    {"etI(11)",   7590,  930,  300,  150},
+    {"etI(12)",   6150, 2030,  300,  150},
+    {"etI(13)",   6870, 2030,  300,  150},
+    {"etI(14)",   7590, 2030,  300,  150},
+    {"etI(15)",   8310, 2030,  300,  150},
+    {"imgL(0)",   6120, 2575,  360,  360, Lampada_Spenta, "HL1 verde, Q1.0"},
+    {"imgL(1)",   6840, 2575,  360,  360, Lampada_Spenta, "HL2 verde, Q1.1"},
+    {"imgL(2)",   7560, 2575,  360,  360, Lampada_Spenta, "HL3 blu, Q1.2"},
+    {"imgL(3)",   8280, 2575,  360,  360, Lampada_Spenta, "HL4 rossa, Q1.3"},
+    {"imgL(4)",   6120, 3335,  360,  360, Lampada_Spenta, "HL5 gialla, Q1.4"},
+    {"imgL(5)",   6840, 3335,  360,  360, Lampada_Spenta, "HL6 gialla, Q1.5"},
+    {"imgL(6)",   7560, 3335,  360,  360, Lampada_Spenta, "HL7 gialla, Q1.6"},
+    {"imgL(7)",   8280, 3335,  360,  360, Lampada_Spenta, "HL8 gialla, Q1.7"},
+    {"etAI(0)",   6030, 4152,  600,  180},
+    {"etAI(1)",   6990, 4152,  600,  180},
+    {"etAI(2)",   7950, 4152,  600,  180},
+    {"imgFR(0)",  630, 1065,  180,  210, "chiuso"},
+    {"imgFR(1)",  630, 2085,  180,  210, "chiuso"},
+    {"imgFR(2)", 4590, 3948,  180,  210, "chiuso"},
+    {"imgFR(3)", 4770,  408,  180,  210, "chiuso"},
     {"picTr",     1080, 2880, 1440,  300},
     {"et1",       1500, 2955,  300,  150},
     {"et2",       2160, 2955,  300,  150},
@@ -98,13 +102,6 @@ constexpr Riga_Mandata mandate[] = {
 
 constexpr int livelli[] = {5, 6};
 
-constexpr Riga_Livello righe_livello[] = {
-    {0,             "00", "100"},
-    {79,            "01", "000"},
-    {160,           "10", "010"},
-    {Senza_Limite,  "11", "001"},
-};
-
 constexpr Riga_Lampada lampade[] = {
     {"imgL(0)",  9, "imgLV"}, {"imgL(1)", 10, "imgLV"}, {"imgL(2)", 11, "imgLB"},
     {"imgL(3)", 12, "imgLR"}, {"imgL(4)", 13, "imgLG"}, {"imgL(5)", 14, "imgLG"},
@@ -116,12 +113,12 @@ constexpr Riga_Pulsante pulsanti[] = {
     {"imgSB(1)", 12, '0', '1', "imgSBON", "imgSBOF"},
 };
 
-// A relay shows on its motor. Neither trip nor reset changes what the motor does.
+constexpr Riga_Termico termici[] = {
+    {"imgM(0)", "imgFR(0)", 3}, {"imgM(1)", "imgFR(1)", 4},
+    {"imgM(2)", "imgFR(2)", 7}, {"imgM(3)", "imgFR(3)", 9},
+};
+
 constexpr Riga_Commutatore commutatori[] = {
-    {"imgM(0)",    3, '0', '1', "imgFR", "imgMOF"},
-    {"imgM(1)",    4, '0', '1', "imgFR", "imgMOF"},
-    {"imgM(2)",    7, '0', '1', "imgFR", "imgMOF"},
-    {"imgM(3)",    9, '0', '1', "imgFR", "imgMOF"},
     {"imgCom(0)", 10, '1', '0', "imgComON", "imgComOF"},
     {"imgCom(1)", 13, '1', '0', "imgComON", "imgComOF"},
     {"imgCom(2)", 14, '1', '0', "imgComON", "imgComOF"},
@@ -136,15 +133,18 @@ constexpr Schema_Serbatoio schema = {
     .Fondo = 3000,
     .Mandate = mandate,
     .Scarico = {"ME_SpeedS", 100, 300},
+    .Valvola_Scarico = "imgV3",
+    .Tubo_Scarico = "imgT3",
     .Vuoto_Scarico = 2,
     .Livelli = livelli,
-    .Righe_Livello = righe_livello,
+    .Righe_Livello = Parola_Livello,
     .etTL = "etTL",
     .etAI = "etAI(0)",
     .Motore_Agitatore = "imgM(3)",
     .Lampade = lampade,
     .Pulsanti = pulsanti,
     .Commutatori = commutatori,
+    .Termici = termici,
 };
 
 constexpr int BT = 8;            // input of the thermostat
@@ -200,8 +200,14 @@ void ctr_Misc::Monta_Trasduttore() {
     for (const char* nome : {"picTr", "et1", "et2"}) Disegno[nome].Visible = visibile;
   };
   mostra(false);
-  Disegno["sspTr"].Premi = [mostra] { mostra(true); };
-  Disegno["sspTr"].Rilascia = [mostra] { mostra(false); };
+  Disegno["sspTr"].Premi = [this, mostra] {
+    mostra(true);
+    Invia();
+  };
+  Disegno["sspTr"].Rilascia = [this, mostra] {
+    mostra(false);
+    Invia();
+  };
 }
 
 void ctr_Misc::Comanda(int uscita, bool eccitata) {
@@ -215,9 +221,10 @@ void ctr_Misc::Comanda(int uscita, bool eccitata) {
     case 3:
       pompa_3_ = eccitata;
       Disegno["imgM(2)"].Picture = Motore(eccitata);
-      return Controlla_Scarico();
+      return Scarica(pompa_3_ && valvola_3_);
     case 4:
-      return Comanda_Vapore(eccitata);
+      vapore_ = eccitata;
+      return Mostra_Vapore(eccitata, "imgTv");
     case 5:
       return Agita(eccitata);
     case 6:
@@ -229,28 +236,14 @@ void ctr_Misc::Comanda(int uscita, bool eccitata) {
     case 8:
       valvola_3_ = eccitata;
       Disegno["imgV3"].Picture = Elettrovalvola(eccitata);
-      return Controlla_Scarico();
+      return Scarica(pompa_3_ && valvola_3_);
     default:
       return;
   }
 }
 
-void ctr_Misc::Comanda_Vapore(bool aperta) {
-  vapore_ = aperta;
-  Disegno["imgV4"].Picture = Elettrovalvola(aperta);
-  Disegno["imgTv"].Picture = Tubo(aperta);
-  Disegno["imgSp(2)"].Visible = aperta;
-}
-
-void ctr_Misc::Controlla_Scarico() {
-  const bool scorre = pompa_3_ && valvola_3_;
-  Disegno["imgT3"].Picture = Tubo(scorre && Livello() > 0);
-  Scarica(scorre);
-}
-
 // An empty tank is at the temperature of the air at once.
 void ctr_Misc::Scaricato(bool vuota) {
-  Disegno["imgT3"].Picture = Tubo(Livello() > 0);
   if (vuota) Mostra_Temperatura(ambiente);
 }
 

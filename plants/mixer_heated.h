@@ -18,8 +18,6 @@ class ctr_Misc : public Serbatoio_Agitato {
   void Comanda(int uscita, bool eccitata) override;
   void Scaricato(bool vuota) override;
   void Aggiorna_Analogici() override;
-  void Comanda_Vapore(bool aperta);
-  void Controlla_Scarico();
   void Cambia_Set(double valore);
   void Tick_Temperatura();
   void Mostra_Temperatura(int gradi);

@@ -30,9 +30,9 @@ constexpr Riga_Figura figure[] = {
     {"imgTr(1)",  1890, 1530,  300,  300, "imgTrOF"},
     {"EtP(0)",    1800,  930,  480,  180},
     {"EtP(1)",    1800, 1890,  480,  180},
-    {"imgTL(0)",  4335, 2565,  150,  150},
-    {"imgTL(1)",  4335, 1885,  150,  150},
-    {"imgTL(2)",  4335, 1085,  150,  150},
+    {"imgTL(0)",  4335, 2565,  150,  150, "spenta"},
+    {"imgTL(1)",  4335, 1885,  150,  150, "spenta"},
+    {"imgTL(2)",  4335, 1085,  150,  150, "spenta"},
     {"etTL",      4500, 1440,  480,  180},
     {"etcap",     4500,  330,  480,  180, "", "Tenere premuto per l'indirizzo del livello"},
     {"etGI",      4560,  120,  420,  150},
@@ -67,13 +67,6 @@ constexpr Riga_Mandata mandate[] = {
 
 constexpr int livelli[] = {3, 4};
 
-constexpr Riga_Livello righe_livello[] = {
-    {0,            "00", "100"},
-    {79,           "01", "000"},
-    {160,          "10", "010"},
-    {Senza_Limite, "11", "001"},
-};
-
 constexpr Riga_Lampada lampade[] = {
     {"imgL(0)",  7, "imgLV"}, {"imgL(1)",  8, "imgLV"}, {"imgL(2)",  9, "imgLV"},
     {"imgL(3)", 10, "imgLV"}, {"imgL(4)", 11, "imgLG"}, {"imgL(5)", 12, "imgLB"},
@@ -102,15 +95,18 @@ constexpr Schema_Serbatoio schema = {
     .Fondo = 2760,
     .Mandate = mandate,
     .Scarico = {"ME_SpedS", 100, 100},
+    .Valvola_Scarico = "imgV3",
+    .Tubo_Scarico = "imgT3",
     .Vuoto_Scarico = 1,
     .Livelli = livelli,
-    .Righe_Livello = righe_livello,
+    .Righe_Livello = Parola_Livello,
     .etTL = "etTL",
     .etAI = "etAI",
     .Motore_Agitatore = "imgM(2)",
     .Lampade = lampade,
     .Pulsanti = pulsanti,
     .Commutatori = commutatori,
+    .Termici = {},
 };
 
 constexpr int SB1 = 5;  // input of the emergency button
@@ -141,34 +137,14 @@ void ctr_Mis2::Comanda(int uscita, bool eccitata) {
     case 4:
       return Comanda_Valvola(1, eccitata);
     case 5:
-      return Comanda_Scarico(eccitata);
+      return Comanda_Caduta(eccitata);
     case 6:
       return Agita(eccitata);
     case 15:
-      return Comanda_Vapore(eccitata);
+      return Mostra_Vapore(eccitata, "imgT4");
     default:
       return;
   }
-}
-
-// A tank that is empty when the valve opens is not drained later either, until the valve opens
-// again.
-void ctr_Mis2::Comanda_Scarico(bool aperta) {
-  const bool scorre = aperta && !Vasca_Vuota();
-  Disegno["imgV3"].Picture = Elettrovalvola(aperta);
-  Disegno["imgT3"].Picture = Tubo(scorre);
-  Scarica(scorre);
-}
-
-// The timer runs on: what comes in meanwhile goes out at once.
-void ctr_Mis2::Scaricato(bool vuota) {
-  Disegno["imgT3"].Picture = Tubo(!vuota);
-}
-
-void ctr_Mis2::Comanda_Vapore(bool aperta) {
-  Disegno["imgV4"].Picture = Elettrovalvola(aperta);
-  Disegno["imgT4"].Picture = Tubo(aperta);
-  Disegno["imgSp(2)"].Visible = aperta;
 }
 
 }  // namespace tavorno

@@ -13,9 +13,6 @@ class ctr_Mis2 : public Serbatoio_Agitato {
 
  private:
   void Comanda(int uscita, bool eccitata) override;
-  void Scaricato(bool vuota) override;
-  void Comanda_Scarico(bool aperta);
-  void Comanda_Vapore(bool aperta);
 };
 
 }  // namespace tavorno

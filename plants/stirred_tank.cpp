@@ -47,6 +47,7 @@ Serbatoio_Agitato::Serbatoio_Agitato(const Schema_Serbatoio& schema, Orologio& o
   Monta_Velocita(schema.Scarico, timP3_);
   Monta(schema.Pulsanti);
   Monta(schema.Commutatori);
+  for (const Riga_Termico& riga : schema.Termici) Monta_Termico(riga);
 }
 
 Serbatoio_Agitato::Mandata::Mandata(const Riga_Mandata& riga, Scena& disegno, Orologio& orologio,
@@ -65,13 +66,24 @@ std::deque<Serbatoio_Agitato::Mandata> Serbatoio_Agitato::Crea_Mandate(Orologio&
 
 void Serbatoio_Agitato::Monta_Velocita(const Riga_Velocita& riga, Temporizzatore& timer) {
   int& proprieta = velocita_[riga.Nome] = riga.Valore;
-  // Its value is the interval in force, so that the first write is never taken for a repetition.
+  // Not a number differs from every number: no first write is taken for a repetition.
   Regolatori[riga.Nome] = {.Cambia =
                                [&proprieta, &timer](double valore) {
                                  proprieta = static_cast<int>(valore);
                                  timer.Interval(proprieta);
                                },
-                           .Valore = static_cast<double>(riga.Intervallo)};
+                           .Valore = std::numeric_limits<double>::quiet_NaN()};
+}
+
+// Neither trip nor reset changes what the motor does.
+void Serbatoio_Agitato::Monta_Termico(const Riga_Termico& riga) {
+  Disegno[riga.Motore].Clic = [this, &riga, scattato = false]() mutable {
+    scattato = !scattato;
+    Disegno[riga.Motore].Picture = scattato ? "imgFR" : Motore(false);
+    Disegno[riga.imgFR].Picture = scattato ? "aperto" : "chiuso";
+    Ingresso(riga.Ingresso, scattato ? '0' : '1');
+    Invia();
+  };
 }
 
 void Serbatoio_Agitato::Monta_Emergenza(int ingresso) {
@@ -155,12 +167,24 @@ void Serbatoio_Agitato::Riempi(Mandata& linea) {
 
 // ---- draining -----------------------------------------------------------------------------------
 
+void Serbatoio_Agitato::Scarica(bool attivo) {
+  timP3_.Enabled(attivo);
+  Disegno[schema_.Tubo_Scarico].Picture = Tubo(attivo && livello_ > 0);
+}
+
+void Serbatoio_Agitato::Comanda_Caduta(bool aperta) {
+  Disegno[schema_.Valvola_Scarico].Picture = Elettrovalvola(aperta);
+  Scarica(aperta && !vasca_vuota_);
+}
+
+// Over an empty tank the timer runs on: what comes in meanwhile goes out at once.
 void Serbatoio_Agitato::Tick_Scarico() {
   livello_ = static_cast<std::int16_t>(std::max(livello_ - 1, 0));
   etcap.Caption = std::to_string(livello_);
   Aggiorna_Analogici();
   Mostra_Liquido(std::max(std::rint(shL.Height()) - 2 * twip_per_tick, 0.0F));
   Aggiorna_Livello(schema_.Vuoto_Scarico);
+  Disegno[schema_.Tubo_Scarico].Picture = Tubo(livello_ > 0);
   Scaricato(vasca_vuota_ != 0);
   Invia();
 }
@@ -187,8 +211,12 @@ void Serbatoio_Agitato::Mostra_Liquido(float altezza) {
 }
 
 void Serbatoio_Agitato::Mostra_Livello(const Riga_Livello& riga) {
-  for (int n = 0; riga.Spie[n]; ++n)
-    Disegno("imgTL", n).FillColor = riga.Spie[n] == '1' ? accesa : spenta;
+  for (int n = 0; riga.Spie[n]; ++n) {
+    Figura& spia = Disegno("imgTL", n);
+    const bool azionata = riga.Spie[n] == '1';
+    spia.FillColor = azionata ? accesa : spenta;
+    spia.Picture = azionata ? "accesa" : "spenta";
+  }
   if (schema_.etTL) Disegno[schema_.etTL].Caption = riga.Cifre;
 }
 
@@ -199,6 +227,12 @@ void Serbatoio_Agitato::Aggiorna_Analogici() {
 float Serbatoio_Agitato::Volt(Figura& etichetta, float volt) {
   etichetta.Caption = Formato(static_cast<double>(volt), "#0.0#");
   return volt;
+}
+
+void Serbatoio_Agitato::Mostra_Vapore(bool aperto, const char* tubo) {
+  Disegno["imgV4"].Picture = Elettrovalvola(aperto);
+  Disegno[tubo].Picture = Tubo(aperto);
+  Disegno["imgSp(2)"].Visible = aperto;
 }
 
 void Serbatoio_Agitato::Agita(bool acceso) {

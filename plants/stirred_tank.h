@@ -45,6 +45,21 @@ struct Riga_Livello {
 /// The last row of a table of levels has no limit.
 inline constexpr int Senza_Limite = std::numeric_limits<int>::max();
 
+/// What a transducer of two bits says; its lamps are the empty, the half and the full tank.
+inline constexpr Riga_Livello Parola_Livello[] = {
+    {0, "00", "100"},
+    {79, "01", "000"},
+    {160, "10", "010"},
+    {Senza_Limite, "11", "001"},
+};
+
+/// A thermal relay whose contact shows a trip for as long as it lasts, whatever its motor shows.
+struct Riga_Termico {
+  const char* Motore;
+  const char* imgFR;
+  int Ingresso;  ///< '0' while tripped
+};
+
 /// What the three stirred tanks differ in.
 struct Schema_Serbatoio {
   const char* Stato_I;  ///< inputs at rest
@@ -52,6 +67,7 @@ struct Schema_Serbatoio {
   float Fondo;  ///< of the tank, twips
   std::span<const Riga_Mandata> Mandate;
   Riga_Velocita Scarico;
+  const char *Valvola_Scarico, *Tubo_Scarico;
   int Vuoto_Scarico;  ///< litres below which a drain tick finds the tank empty
   std::span<const int> Livelli;
   std::span<const Riga_Livello> Righe_Livello;
@@ -60,7 +76,8 @@ struct Schema_Serbatoio {
   const char* Motore_Agitatore;  ///< motor that turns `ShDos`
   std::span<const Riga_Lampada> Lampade;
   std::span<const Riga_Pulsante> Pulsanti;
-  std::span<const Riga_Commutatore> Commutatori;  ///< selectors and thermal relays
+  std::span<const Riga_Commutatore> Commutatori;
+  std::span<const Riga_Termico> Termici;
 };
 
 /// A tank that lines fill, a timer drains and a motor stirs. The level is counted in litres by
@@ -81,7 +98,7 @@ class Serbatoio_Agitato : public Impianto {
   /// An output changed (or was stored for the first time). Lamps are no longer among them.
   virtual void Comanda(int uscita, bool eccitata) = 0;
   /// A drain tick took a litre, or found the tank empty.
-  virtual void Scaricato(bool vuota) = 0;
+  virtual void Scaricato(bool /*vuota*/) {}
   /// Level, and whatever else the plant measures, as volts.
   virtual void Aggiorna_Analogici();
   static float Volt(Figura& etichetta, float volt);
@@ -92,7 +109,13 @@ class Serbatoio_Agitato : public Impianto {
 
   void Avvia_Carico(std::size_t linea);
   void Ferma_Carico(std::size_t linea);
-  void Scarica(bool attivo) { timP3_.Enabled(attivo); }
+  /// Starts or stops the drain.
+  void Scarica(bool attivo);
+  /// A valve that drains by gravity. It is refused to a tank that is empty as it opens, and such a
+  /// tank is not drained later either, until the valve opens again.
+  void Comanda_Caduta(bool aperta);
+  /// Steam is a picture: `imgV4` with the pipe of this name and the spray `imgSp(2)`.
+  void Mostra_Vapore(bool aperto, const char* tubo);
   void Agita(bool acceso);
   /// A latching button `ImgEm` with its contact `imgCEM`.
   void Monta_Emergenza(int ingresso);
@@ -118,6 +141,7 @@ class Serbatoio_Agitato : public Impianto {
   void Applica_Uscite() override;
   std::deque<Mandata> Crea_Mandate(Orologio& orologio);
   void Monta_Velocita(const Riga_Velocita& riga, Temporizzatore& timer);
+  void Monta_Termico(const Riga_Termico& riga);
   void Controlla_Flusso(std::size_t linea);
   void Riempi(Mandata& linea);
   void Tick_Scarico();

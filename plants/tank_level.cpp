@@ -6,39 +6,51 @@
 
 namespace tavorno {
 
+/// A level switch, with its lamp and the rays of the lamp.
+struct Riga_Micro {
+  int Ingresso;
+  const char *Spia, *Raggi;
+};
+
 namespace {
 
 // clang-format off
 // name, left, top, width, height, picture at first, tool tip
 constexpr Riga_Figura figure[] = {
-    {"shL1",        600, 1935, 1680,  465},
-    {"shL2",       3480, 1770, 1680,  165},
-    {"imgVasca",    540, 1320, 1800, 1140},
-    {"imgSpruzzo",  780,  900,  240,  540},
-    {"shSerb",     3420,  375, 1800, 1560},
-    {"linR1",       540, 2400, 1800,   60},
-    {"imgTubi",    2280,  240, 1560, 2040, "imgTOF"},
-    {"imgV1",      360,  315,  360,  450, "imgEVOF"},
-    {"shV1",       450,  354,  180,  150},
-    {"imgP1",      2520, 2010,  480,  480, "imgMOF", "Click per simulare intervento"},
-    {"imgV3",     4230, 1995,  360,  450, "imgEVOF"},
-    {"shV3",      4320, 2034,  180,  150},
-    {"imgMax1",     345, 1500,  150,  150},
-    {"imgMin1",     345, 2280,  150,  150},
-    {"imgMax2",    5265,  555,  150,  150},
-    {"imgMed",     5265, 1160,  150,  150},
-    {"imgMin2",   5265, 1810,  150,  150},
-    {"imgCom(0)", 6000,  270,  480,  480, "imgComOF", "SA1 Automatico/Manuale, I0.6"},
-    {"imgAlt(0)", 6720,  270,  480,  480, "imgSBOF", "SB1 Pulsante, I0.7"},
-    {"imgCom(1)", 7440,  270,  480,  480, "imgComOF", "SA2 Comando Manuale elettrov. YV1, I1.0"},
-    {"imgCom(2)", 8160,  270,  480,  480, "imgComOF", "SA3 Comando Manuale elettrov. YV2, I1.1"},
-    {"imgCom(3)", 6000, 1140,  480,  480, "imgComOF", "SA4 Comando Manuale Pompa P1, I1.2"},
-    {"imgAlt(1)", 6720, 1140,  480,  480, "imgSBOF", "SB3 Stop Automatico, I1.3"},
-    {"imgSB6",    7440, 1140,  480,  480, "imgSBOF", "SB2 Start Automatico, I1.4"},
-    {"imgHL1",    6075, 2040,  330,  330, Lampada_Spenta, "HL1 verde, Pompa ON, Q0.3"},
-    {"imgHL2",    6795, 2040,  330,  330, Lampada_Spenta, "HL2 gialla, Termico Scattato, Q0.4"},
-    {"imgHL3",    7515, 2040,  330,  330, Lampada_Spenta, "HL3 rossa, Vasca di Carico Vuota, Q0.5"},
-    {"imgHL4",    8235, 2040,  330,  330, Lampada_Spenta, "HL4 blu, Modo Automatico, Q0.6"},
+    {"shL1",          600, 1935, 1680,  465},
+    {"shL2",         3480, 1770, 1680,  165},
+    {"imgVasca",      540, 1320, 1800, 1140},
+    {"imgSpruzzo",    780,  900,  240,  540},
+    {"shSerb",       3420,  375, 1800, 1560},
+    {"linR1",         540, 2400, 1800,   60},
+    {"imgTubi",      2280,  240, 1560, 2040, "imgTOF"},
+    {"imgV1",         360,  315,  360,  450, "imgEVOF"},
+    {"shV1",          450,  354,  180,  150},
+    {"imgP1",        2520, 2010,  480,  480, "imgMOF", "Click per simulare intervento"},
+    {"imgFR",        2295, 2472,  180,  210, "chiuso"},
+    {"imgV3",        4230, 1995,  360,  450, "imgEVOF"},
+    {"shV3",         4320, 2034,  180,  150},
+    {"imgMax1",       345, 1500,  150,  150},
+    {"imgRaggi(0)",   345, 1500,  150,  150},
+    {"imgMin1",       345, 2280,  150,  150},
+    {"imgRaggi(1)",   345, 2280,  150,  150},
+    {"imgMax2",      5265,  555,  150,  150},
+    {"imgRaggi(4)",  5265,  555,  150,  150},
+    {"imgMed",       5265, 1160,  150,  150},
+    {"imgRaggi(3)",  5265, 1160,  150,  150},
+    {"imgMin2",      5265, 1810,  150,  150},
+    {"imgRaggi(2)",  5265, 1810,  150,  150},
+    {"imgCom(0)",    6000,  315,  480,  480, "imgComOF", "SA1 Automatico/Manuale, I0.6"},
+    {"imgAlt(0)",    6720,  315,  480,  480, "imgSBOF", "SB1 Pulsante, I0.7"},
+    {"imgCom(1)",    7440,  315,  480,  480, "imgComOF", "SA2 Comando Manuale elettrov. YV1, I1.0"},
+    {"imgCom(2)",    8160,  315,  480,  480, "imgComOF", "SA3 Comando Manuale elettrov. YV2, I1.1"},
+    {"imgCom(3)",    6000, 1305,  480,  480, "imgComOF", "SA4 Comando Manuale Pompa P1, I1.2"},
+    {"imgAlt(1)",    6720, 1305,  480,  480, "imgSBOF", "SB3 Stop Automatico, I1.3"},
+    {"imgSB6",       7440, 1305,  480,  480, "imgSBOF", "SB2 Start Automatico, I1.4"},
+    {"imgHL1",       6075, 2295,  330,  330, Lampada_Spenta, "HL1 verde, Pompa ON, Q0.3"},
+    {"imgHL2",       6795, 2295,  330,  330, Lampada_Spenta, "HL2 gialla, Termico Scattato, Q0.4"},
+    {"imgHL3",       7515, 2295,  330,  330, Lampada_Spenta, "HL3 rossa, Vasca di Carico Vuota, Q0.5"},
+    {"imgHL4",       8235, 2295,  330,  330, Lampada_Spenta, "HL4 blu, Modo Automatico, Q0.6"},
 };
 
 constexpr Riga_Commutatore commutatori[] = {
@@ -60,9 +72,12 @@ constexpr Riga_Lampada lampade[] = {
 };
 // clang-format on
 
-constexpr int SL1 = 1, SL2 = 2, SL3 = 4, SL4 = 5, SL5 = 6;  // inputs of the level switches
-constexpr int intervallo = 200;                             // ms, of all three timers
-constexpr int carico = 8, pompata = 5, scarico = 7;         // twips per tick
+constexpr Riga_Micro SL1 = {1, "imgMax1", "imgRaggi(0)"}, SL2 = {2, "imgMin1", "imgRaggi(1)"};
+constexpr Riga_Micro SL3 = {4, "imgMin2", "imgRaggi(2)"}, SL4 = {5, "imgMed", "imgRaggi(3)"};
+constexpr Riga_Micro SL5 = {6, "imgMax2", "imgRaggi(4)"};
+constexpr int FR1 = 3;                               // input of the thermal relay
+constexpr int intervallo = 200;                      // ms, of all three timers
+constexpr int carico = 8, pompata = 5, scarico = 7;  // twips per tick
 constexpr Colore accesa = 255, spenta = 16512;
 constexpr Colore in_tensione = Tavolozza(12), a_riposo = Tavolozza(15);
 
@@ -103,10 +118,18 @@ Ctr_Level0::Ctr_Level0(Orologio& orologio)
               }),
       timP1_(orologio, intervallo, [this] { Pompa(); }) {
   Disegno["imgSpruzzo"].Visible = false;
-  for (const char* nome : {"imgMax1", "imgMin1", "imgMax2", "imgMed", "imgMin2"})
-    Disegno[nome].FillColor = spenta;
+  for (const Riga_Micro* micro : {&SL1, &SL2, &SL3, &SL4, &SL5}) {
+    Disegno[micro->Spia].FillColor = spenta;
+    Disegno[micro->Raggi].Visible = false;
+  }
   Monta(commutatori);
   Monta(pulsanti);
+  // The contact shows a trip for as long as it lasts, whatever the pump shows.
+  Figura& imgP1 = Disegno["imgP1"];
+  imgP1.Clic = [this, scatta = imgP1.Clic] {
+    scatta();
+    Disegno["imgFR"].Picture = Ingresso(FR1) == '0' ? "aperto" : "chiuso";
+  };
 }
 
 void Ctr_Level0::Applica_Uscite() {
@@ -153,32 +176,31 @@ void Ctr_Level0::Pompa() {
 
 // A switch is operated by a level strictly beyond its limit. Between the two limits it stays as it
 // was.
-void Ctr_Level0::Micro(int ingresso, Figura& spia, bool azionato) {
-  Ingresso(ingresso, azionato ? '0' : '1');
-  spia.FillColor = azionato ? accesa : spenta;
+void Ctr_Level0::Micro(const Riga_Micro& micro, bool azionato) {
+  Ingresso(micro.Ingresso, azionato ? '0' : '1');
+  Disegno[micro.Spia].FillColor = azionato ? accesa : spenta;
+  Disegno[micro.Raggi].Visible = azionato;
 }
 
 void Ctr_Level0::Aggiorna_Vasca() {
   tavorno::Mostra(shL1, fondo_vasca_, livello_vasca_);
-  if (livello_vasca_ > 825 || livello_vasca_ < 725)
-    Micro(SL1, Disegno["imgMax1"], livello_vasca_ > 825);
+  if (livello_vasca_ > 825 || livello_vasca_ < 725) Micro(SL1, livello_vasca_ > 825);
   if (livello_vasca_ < 45 || livello_vasca_ > 145) {
     vasca_vuota_ = livello_vasca_ < 45 ? -1 : 0;
     Mostra_Tubi();
-    Micro(SL2, Disegno["imgMin1"], vasca_vuota_ != 0);
+    Micro(SL2, vasca_vuota_ != 0);
   }
   Invia();
 }
 
 void Ctr_Level0::Aggiorna_Serbatoio() {
   tavorno::Mostra(shL2, fondo_serbatoio_, livello_serbatoio_);
-  Micro(SL4, Disegno["imgMed"], livello_serbatoio_ > 700);
-  if (livello_serbatoio_ > 1305 || livello_serbatoio_ < 1205)
-    Micro(SL5, Disegno["imgMax2"], livello_serbatoio_ > 1305);
+  Micro(SL4, livello_serbatoio_ > 700);
+  if (livello_serbatoio_ > 1305 || livello_serbatoio_ < 1205) Micro(SL5, livello_serbatoio_ > 1305);
   if (livello_serbatoio_ < 50 || livello_serbatoio_ > 80) {
     serbatoio_vuoto_ = livello_serbatoio_ < 50 ? -1 : 0;
     Mostra_Scarico();
-    Micro(SL3, Disegno["imgMin2"], serbatoio_vuoto_ != 0);
+    Micro(SL3, serbatoio_vuoto_ != 0);
   }
   Invia();
 }

@@ -8,6 +8,8 @@
 
 namespace tavorno {
 
+struct Riga_Micro;
+
 /// US-08: a loading tank that a valve fills, a pump that lifts into the main tank, and a valve that
 /// drains it. Five level switches, most with hysteresis. Levels are heights of the liquid in twips.
 class Ctr_Level0 : public Impianto {
@@ -31,7 +33,7 @@ class Ctr_Level0 : public Impianto {
   void Aggiorna_Serbatoio();
   void Mostra_Tubi();
   void Mostra_Scarico();
-  void Micro(int ingresso, Figura& spia, bool azionato);
+  void Micro(const Riga_Micro& micro, bool azionato);
 
   Figura& shL1 = Disegno["shL1"];
   Figura& shL2 = Disegno["shL2"];

@@ -11,6 +11,8 @@ using Garage = Banco_Garage;
 TEST_F(Garage, StartsEmptyAndClosed) {
   EXPECT_EQ(garage.Stato_I(), "0001000100010001");
   EXPECT_EQ(garage.Stato_Q(), "0000000000000000");
+  for (const char* chiusa : {"shSQ2", "shSQ5"}) EXPECT_EQ(F(chiusa).FillColor(), Tavolozza(12));
+  for (const char* aperta : {"shSQ3", "shSQ6"}) EXPECT_EQ(F(aperta).FillColor(), 32768U);
   for (int posto = 0; posto <= 6; ++posto) EXPECT_FALSE(Auto(posto).Visible()) << posto;
   EXPECT_FALSE(F("imgMOut").Visible());
   EXPECT_EQ(F("shS0").Left(), 660);
@@ -59,12 +61,18 @@ TEST_F(Garage, SpeedAddsToTheStepOfCars) {
   EXPECT_FLOAT_EQ(garage.Passo_Auto, 10.8F);
 }
 
+TEST_F(Garage, EvenASpeedOfNothingIsTaken) {
+  garage.Regola("ME_Speed", 0);
+  EXPECT_EQ(garage.Passo_Sbarra, 0);
+  EXPECT_FLOAT_EQ(garage.Passo_Auto, 0.8F);
+}
+
 TEST_F(Garage, AddressLabelsAreGreyedTogether) {
   for (int n = 0; n < 16; ++n) {
     EXPECT_EQ(garage.Disegno("etI", n).ForeColor(), 0U);
     EXPECT_EQ(garage.Disegno("etI", n).Caption(), (n < 8 ? "I0." : "I1.") + std::to_string(n % 8));
   }
-  garage.Regola("ME_DisabilitaI", 1);
+  garage.Regola("ME_DisabilitaI", 0);  // whatever is written
   for (int n = 0; n < 16; ++n) EXPECT_EQ(garage.Disegno("etI", n).ForeColor(), Tavolozza(8));
 }
 
@@ -179,6 +187,8 @@ TEST_F(Garage, EntranceBarrierOpensInTwelveTicksAndStartsTheCar) {
   EXPECT_EQ(garage.Sbarra_I_Aperta, -1);
   EXPECT_EQ(F("shSQ2").FillColor(), 32768U);
   EXPECT_EQ(F("shSQ3").FillColor(), Tavolozza(12));
+  EXPECT_EQ(F("shSQ2").Picture(), "libero");
+  EXPECT_EQ(F("shSQ3").Picture(), "raggiunto");
   EXPECT_TRUE(garage.Timer1.Enabled());
   EXPECT_EQ(Auto(0).Top(), 4500);
   Tick();

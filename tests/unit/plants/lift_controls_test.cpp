@@ -150,6 +150,7 @@ TEST_F(Lift, DoorsOpenInFortyNineTicks) {
   EXPECT_EQ(F("ShP(1)").Left(), 1210);
   EXPECT_EQ(Ingresso(ascensore, 5), '0');
   EXPECT_EQ(F("shFcP(4)").FillColor(), 32768U);
+  EXPECT_EQ(F("shFcP(4)").Picture(), "spento");
   EXPECT_EQ(ascensore.Stato_Porte, 2);
   Tick(47);
   EXPECT_EQ(F("ShP(0)").Left(), 180);
@@ -159,6 +160,7 @@ TEST_F(Lift, DoorsOpenInFortyNineTicks) {
   EXPECT_EQ(ascensore.Stato_Porte, 0);
   EXPECT_EQ(Ingresso(ascensore, 16), '0');
   EXPECT_EQ(F("shFcP(5)").FillColor(), 65280U);
+  EXPECT_EQ(F("shFcP(5)").Picture(), "acceso");
 }
 
 TEST_F(Lift, DoorsCloseAtTheirSwitchBeforeTheirState) {
@@ -173,6 +175,7 @@ TEST_F(Lift, DoorsCloseAtTheirSwitchBeforeTheirState) {
   EXPECT_EQ(F("ShP(0)").Left(), 660);
   EXPECT_EQ(Ingresso(ascensore, 5), '1');
   EXPECT_EQ(F("shFcP(4)").FillColor(), 65280U);
+  EXPECT_EQ(F("shFcP(4)").Picture(), "acceso");
   EXPECT_EQ(ascensore.Stato_Porte, 2);
   Tick();
   EXPECT_EQ(ascensore.Stato_Porte, 1);

@@ -23,6 +23,7 @@ TEST(LiftAtRest, StandsAtTheThirdFloorWithClosedDoors) {
   for (const char* grigio : {"shFcP(0)", "shFcP(1)", "shFcP(2)"})
     EXPECT_EQ(scena[grigio].FillColor(), Tavolozza(8)) << grigio;
   EXPECT_EQ(scena["shFcP(3)"].FillColor(), Tavolozza(12));
+  EXPECT_EQ(scena["shFcP(4)"].FillColor(), 65280U);
   EXPECT_EQ(scena["shFcP(5)"].FillColor(), 32768U);
   for (const char* spento : {"imgSC(0)", "imgSC(1)", "imgSC(2)"})
     EXPECT_EQ(scena[spento].Picture(), "spento") << spento;

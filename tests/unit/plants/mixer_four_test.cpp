@@ -190,9 +190,12 @@ TEST_F(FourProducts, ThermalRelaysDoNotStopTheirMotors) {
   EXPECT_EQ(Ingresso(10), '0');
   EXPECT_EQ(Picture(m, "imgM(1)"), "imgFR");
   EXPECT_EQ(Flusso(), 10);
+  Uscite({});
+  for (const char* contatto : {"imgFR(0)", "imgFR(1)"}) EXPECT_EQ(Picture(m, contatto), "aperto");
   m.Clic("imgM(0)");
   EXPECT_EQ(Ingresso(9), '1');
   EXPECT_EQ(Picture(m, "imgM(0)"), "imgMOF");
+  EXPECT_EQ(Picture(m, "imgFR(0)"), "chiuso");
 }
 
 struct Prova_Spia {

@@ -97,6 +97,23 @@ TEST_F(HeatedMixerPanel, ATrippedMotorGoesOnUntilItsOutputFalls) {
   EXPECT_EQ(m.Livello(), 5);
 }
 
+TEST_F(HeatedMixerPanel, AContactShowsTheTripAfterTheMotorStopped) {
+  for (const auto& [n, uscita] :
+       {std::pair{0, 1}, std::pair{1, 2}, std::pair{2, 3}, std::pair{3, 5}}) {
+    const std::string motore = "imgM(" + std::to_string(n) + ")";
+    const std::string contatto = "imgFR(" + std::to_string(n) + ")";
+    EXPECT_EQ(Picture(m, contatto), "chiuso");
+    Uscite({uscita});
+    m.Clic(motore);
+    EXPECT_EQ(Picture(m, motore), "imgFR");
+    Uscite({});
+    EXPECT_EQ(Picture(m, motore), "imgMOF");
+    EXPECT_EQ(Picture(m, contatto), "aperto") << n;
+    m.Clic(motore);
+    EXPECT_EQ(Picture(m, contatto), "chiuso");
+  }
+}
+
 TEST_F(HeatedMixerPanel, Buttons) {
   for (const auto& [nome, posizione, giu] :
        {std::tuple{"imgSB(0)", 11, '1'}, std::tuple{"imgSB(1)", 12, '0'}}) {
@@ -117,12 +134,15 @@ TEST_F(HeatedMixerPanel, Buttons) {
 }
 
 TEST_F(HeatedMixerPanel, TransducerButtonShowsTheAddressesOfItsBitsWhileHeld) {
+  Ascolto ascolto(m);
   m.Premi("sspTr");
+  EXPECT_EQ(ascolto.Sentiti.size(), 2U);  // as every hand on this plant
   EXPECT_TRUE(m.Disegno["picTr"].Visible);
   EXPECT_EQ(Caption(m, "et1"), "I0.4");
   EXPECT_EQ(Caption(m, "et2"), "I0.5");
   EXPECT_TRUE(m.Disegno["et1"].Visible);
   m.Rilascia("sspTr");
+  EXPECT_EQ(ascolto.Sentiti.size(), 4U);
   EXPECT_FALSE(m.Disegno["picTr"].Visible);
   EXPECT_FALSE(m.Disegno["et1"].Visible);
   EXPECT_FALSE(m.Disegno["et2"].Visible);

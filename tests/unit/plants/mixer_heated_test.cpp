@@ -25,7 +25,7 @@ TEST_F(HeatedMixer, StartsColdWithASetPointOf50) {
   EXPECT_FALSE(m.Disegno["imgSp(0)"].Visible);
   EXPECT_FALSE(m.Disegno["imgSp(1)"].Visible);
   EXPECT_FALSE(m.Disegno["imgSp(2)"].Visible);
-  Verifica_Geometria(m, 9000, 4400);
+  Verifica_Geometria(m, 9000, 4710);
 }
 
 TEST_F(HeatedMixer, TheFirstSecondMeasuresTheTemperature) {

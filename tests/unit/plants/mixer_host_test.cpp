@@ -72,6 +72,13 @@ TEST_P(FlowRate, TheFirstWriteCountsEvenWithTheValueOfTheProperty) {
   EXPECT_EQ(Attesa(), riga.Proprieta);
 }
 
+TEST_P(FlowRate, TheFirstWriteCountsEvenWithTheIntervalInForce) {
+  m->Regola(riga.Nome, riga.Intervallo);
+  EXPECT_EQ(m->Velocita(riga.Nome), riga.Intervallo);
+  Prepara();
+  EXPECT_EQ(Attesa(), riga.Intervallo);
+}
+
 INSTANTIATE_TEST_SUITE_P(All, FlowRate, ::testing::ValuesIn(velocita));
 
 // ---- with the host's sliders and the CPU's analog inputs ----------------------------------------

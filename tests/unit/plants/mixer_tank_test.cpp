@@ -244,6 +244,7 @@ class TankLevels : public ::testing::TestWithParam<Prova_Livello> {
     for (int n = 0; riga.Spie[n]; ++n) {
       const Colore colore = m->Disegno("imgTL", n).FillColor;
       spie += colore == 255 ? '1' : colore == 16512 ? '0' : '?';
+      EXPECT_EQ(m->Disegno("imgTL", n).Picture(), spie.back() == '1' ? "accesa" : "spenta");
     }
     EXPECT_EQ(cifre, riga.Cifre) << quando << " at " << m->Livello();
     EXPECT_EQ(spie, riga.Spie) << quando << " at " << m->Livello();

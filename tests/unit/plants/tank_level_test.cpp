@@ -10,6 +10,7 @@ namespace tavorno::prova {
 namespace {
 
 constexpr int YV1 = 1, KM1 = 2, YV2 = 3;  // outputs
+constexpr int FR1 = 3;                    // input
 
 struct TankLevel : ::testing::Test {
   void Tick(int numero = 1) { orologio.Avanza(200 * static_cast<std::int64_t>(numero)); }
@@ -30,7 +31,7 @@ TEST_F(TankLevel, StartsBetweenItsSwitches) {
   EXPECT_EQ(m.Disegno["shL1"].Top(), 2400 - 465);
   EXPECT_EQ(m.Disegno["shL2"].Top(), 1935 - 165);
   EXPECT_FALSE(m.Disegno["imgSpruzzo"].Visible);
-  Verifica_Geometria(m, 9000, 2765);
+  Verifica_Geometria(m, 9000, 3060);
   orologio.Avanza(10000);
   EXPECT_EQ(m.Livello_Vasca(), 465);
   EXPECT_EQ(m.Livello_Serbatoio(), 165);
@@ -191,6 +192,8 @@ TEST_P(TankLimit, IsStrict) {
   Tick();
   EXPECT_EQ(Ingresso(p.Ingresso), p.Dopo);
   EXPECT_EQ(Spia(p.Spia), p.Dopo == '0' ? 255U : 16512U);
+  const int micro = p.Ingresso - (p.Ingresso < FR1 ? 1 : 2);  // SL1 and SL2 stand before FR1
+  EXPECT_EQ(m.Disegno("imgRaggi", micro).Visible(), p.Dopo == '0');
 }
 
 INSTANTIATE_TEST_SUITE_P(All, TankLimit, ::testing::ValuesIn(limiti));
@@ -273,9 +276,11 @@ TEST_F(TankLevel, ATripLeavesThePumpRunningUntilItsOutputFalls) {
   Uscite({});
   Tick(10);
   EXPECT_EQ(m.Livello_Vasca(), 415);
+  EXPECT_EQ(Picture(m, "imgFR"), "aperto");
   m.Clic("imgP1");
   EXPECT_EQ(Ingresso(3), '1');
   EXPECT_EQ(Picture(m, "imgP1"), "imgMOF");
+  EXPECT_EQ(Picture(m, "imgFR"), "chiuso");
 }
 
 TEST_F(TankLevel, Selectors) {
