@@ -2,6 +2,7 @@
 #include "bench/trace_options.h"
 
 #include <filesystem>
+#include <fstream>
 #include <stdexcept>
 
 #include "awl/file_io.h"
@@ -21,7 +22,17 @@ void Scrivi_Traccia(const Argomenti& argomenti, const Traccia& traccia,
 }
 
 void Scrivi_Rapporto(const std::string& file, const std::string& testo) {
-  const std::string errore = Scrivi_File(file, testo);
+  std::error_code nessuno;
+  const std::filesystem::file_status stato = std::filesystem::status(file, nessuno);
+  std::string errore;
+  if (std::filesystem::exists(stato) && !std::filesystem::is_regular_file(stato) &&
+      !std::filesystem::is_directory(stato)) {
+    // A pipe, a terminal or /dev/null is written to; it must not be replaced by a file.
+    std::ofstream uscita(file, std::ios::binary);
+    if (!(uscita << testo << std::flush)) errore = "la scrittura non è riuscita";
+  } else {
+    errore = Scrivi_File(file, testo);
+  }
   if (!errore.empty()) throw std::runtime_error("impossibile scrivere \"" + file + "\": " + errore);
 }
 

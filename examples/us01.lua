@@ -4,19 +4,13 @@
 -- Fra un senso e l'altro il programma può fermarsi e volere di nuovo il pulsante, oppure invertire
 -- dopo una pausa di 2 secondi (tra 1,5 e 3): lo script accetta l'uno e l'altro.
 
+usa("comandi.lua")
+
 local avanti, indietro = "Q0.1", "Q0.0"
 
-local function acceso(punto) return leggi(punto) == 1 end
 local function fermo() return not acceso(avanti) and not acceso(indietro) end
 local function insieme()
   return elemento("imgKm1").Picture == "imgKMON" and elemento("imgKM2").Picture == "imgKMON"
-end
-
-local function premi_per(pulsante, ms)
-  premi(pulsante)
-  attendi(ms)
-  rilascia(pulsante)
-  attendi(100)
 end
 
 -- Lascia passare il tempo e controlla a ogni scansione che i contattori non siano chiusi insieme.

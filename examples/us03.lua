@@ -4,22 +4,16 @@
 -- Regola chiesta: M2 va soltanto con M1 a triangolo. Può partire da solo o con SB3; lo script preme
 -- SB3 quando M1 è a triangolo e accetta l'uno e l'altro. Se M1 si ferma, si ferma anche M2.
 
+usa("comandi.lua")
+
 local linea, stella, triangolo, m2 = "Q0.0", "Q0.1", "Q0.2", "Q0.3"
 
-local function acceso(punto) return leggi(punto) == 1 end
 local function m1_fermo() return not acceso(linea) and not acceso(stella) and not acceso(triangolo) end
 local function tutto_fermo() return m1_fermo() and not acceso(m2) end
 local function gira_a(segno) return elemento("imgM").Picture == "imgMON" and elemento(segno).Visible end
 local function m2_gira() return elemento("imgM2").Picture == "imgM1ON" end
 local function corto()
   return elemento("KM(1)").Picture == "imgKMON" and elemento("KM(2)").Picture == "imgKMON"
-end
-
-local function premi_per(pulsante, ms)
-  premi(pulsante)
-  attendi(ms)
-  rilascia(pulsante)
-  attendi(100)
 end
 
 local function avvia_m1()

@@ -6,40 +6,18 @@
 -- sola oppure no. In automatico l'utenza può essere comandata da SA3 oppure no: se YV2 resta chiusa lo
 -- script scarica in manuale e poi ripreme Start.
 
+usa("comandi.lua")
+
 local sa1, sa2, sa3, sa4 = "imgCom(0)", "imgCom(1)", "imgCom(2)", "imgCom(3)"
 local start, stop_auto = "imgSB6", "imgAlt(1)"
 local yv1, pompa, yv2 = "Q0.0", "Q0.1", "Q0.2"
 
-local function acceso(punto) return leggi(punto) == 1 end
 local function intervenuto(livello) return leggi(livello) == 0 end
 local function vasca_piena() return intervenuto("I0.0") end
 local function vasca_vuota() return intervenuto("I0.1") end
 local function mezzo() return intervenuto("I0.4") end
 local function pieno() return intervenuto("I0.5") end
 local function tutto_fermo() return not acceso(yv1) and not acceso(pompa) and not acceso(yv2) end
-local function accesa(lampada) return elemento(lampada).Picture ~= "imgLNot" end
-
--- Accesa in qualche momento dei prossimi due secondi, anche se lampeggia.
-local function si_accende(lampada)
-  return attendi_fino(function() return accesa(lampada) end, 2000)
-end
-
-local function premi_per(pulsante, ms)
-  premi(pulsante)
-  attendi(ms)
-  rilascia(pulsante)
-  attendi(100)
-end
-
-local function gira(selettore)
-  clic(selettore)
-  attendi(200)
-end
-
-local function in_manuale()
-  run()
-  attendi(200)
-end
 
 local function in_automatico()
   run()

@@ -6,11 +6,13 @@
 local litri_1, litri_2 = 30, 20
 local mescola = 10000  -- ms
 
+usa("comandi.lua")
+usa("miscelatore.lua")
+
 local sa1, start, stop_auto = "imgCom(0)", "imgSB(0)", "imgSB(1)"
 local mandata_1, mandata_2, scarico = { "Q0.0", "Q0.5" }, { "Q0.1", "Q0.6" }, { "Q0.2", "Q0.7" }
 local vapore, agitatore = "Q0.3", "Q0.4"
 
-local function acceso(punto) return leggi(punto) == 1 end
 local function scorre(linea) return acceso(linea[1]) and acceso(linea[2]) end
 local function tutto_fermo()
   for bit = 0, 7 do
@@ -18,25 +20,7 @@ local function tutto_fermo()
   end
   return true
 end
-local function litri() return tonumber(elemento("etcap").Caption) end
 local function gradi() return tonumber(elemento("etT").Caption) end
-
-local function premi_per(pulsante, ms)
-  premi(pulsante)
-  attendi(ms)
-  rilascia(pulsante)
-  attendi(100)
-end
-
-local function gira(selettore)
-  clic(selettore)
-  attendi(200)
-end
-
-local function in_manuale()
-  run()
-  attendi(200)
-end
 
 local function in_automatico(temperatura)
   regola("UpDown1", temperatura)
@@ -46,28 +30,12 @@ local function in_automatico(temperatura)
   premi_per(start, 300)
 end
 
--- Guarda la ricetta fino alla fine dello scarico. I litri sono quelli dei contatori del disegno, che
--- ripartono da zero a ogni inizio del flusso.
 local function osserva(ms)
-  local visto = { litri = { 0, 0 }, agitato = 0, vapore = 0, gradi_massimi = 0 }
-  local prima = { 0, 0 }
-  visto.finita = attendi_fino(function()
-    for n = 1, 2 do
-      local adesso = tonumber(elemento("EtP(" .. n - 1 .. ")").Caption)
-      if adesso > prima[n] then visto.litri[n] = visto.litri[n] + adesso - prima[n] end
-      prima[n] = adesso
-    end
-    if visto.scaricando then return not scorre(scarico) end
-    if acceso(agitatore) then visto.agitato = visto.agitato + 1 end
-    if acceso(vapore) then visto.vapore = visto.vapore + 1 end
-    visto.gradi_massimi = math.max(visto.gradi_massimi, gradi())
-    if scorre(scarico) then
-      visto.scaricando = true
-      visto.gradi = gradi()
-      visto.carico = litri()
-    end
-  end, ms)
-  return visto
+  return osserva_ricetta(ms, function() return scorre(scarico) end, function() return acceso(agitatore) end, function(visto)
+    visto.vapore = visto.vapore or acceso(vapore)
+    visto.gradi = gradi()
+    visto.gradi_massimi = math.max(visto.gradi_massimi or 0, visto.gradi)
+  end)
 end
 
 prova("a riposo", function()
@@ -107,8 +75,7 @@ prova("troppo pieno", function()
   gira("imgCom(1)")
   attendi_fino(function() return litri() > 160 end, 60000)
   attendi(3000)
-  punti(3, litri() >= 100 and litri() <= 163,
-        "il carico deve arrivare in alto e fermarsi prima di traboccare, non a " .. litri() .. " litri")
+  punti_per_il_troppo_pieno()
 end)
 
 for n, motore in ipairs {
@@ -147,11 +114,8 @@ end)
 prova("ricetta con riscaldamento", function()
   in_automatico(23)
   local visto = osserva(300000)
-  punti(4, math.abs(visto.litri[1] - litri_1) <= 1,
-        "si devono caricare " .. litri_1 .. " litri di prodotto 1, non " .. visto.litri[1])
-  punti(4, math.abs(visto.litri[2] - litri_2) <= 1,
-        "si devono caricare " .. litri_2 .. " litri di prodotto 2, non " .. visto.litri[2])
-  punti(2, visto.vapore > 0, "per scaldare si deve aprire il vapore")
+  punti_per_i_litri(visto, litri_1, litri_2)
+  punti(2, visto.vapore, "per scaldare si deve aprire il vapore")
   punti(3, visto.scaricando and visto.gradi >= 22, "si deve scaricare soltanto dopo aver raggiunto la temperatura")
   punti(2, visto.gradi_massimi >= 23 and visto.gradi_massimi <= 25,
         "raggiunta la temperatura il vapore deve chiudersi, non arrivare a " .. visto.gradi_massimi .. " gradi")

@@ -7,12 +7,14 @@
 local litri_1, litri_2 = 40, 20
 local mescola = 5000  -- ms
 
+usa("comandi.lua")
+usa("miscelatore.lua")
+
 local sa, start, stop_auto = "imgCom", "imgSB(0)", "imgSB(1)"
 local scarico, agitatore = "Q0.4", "Q0.5"
 local mandata_1, mandata_2 = { "Q0.0", "Q0.1" }, { "Q0.2", "Q0.3" }
 local comandi = { "Q0.0", "Q0.1", "Q0.2", "Q0.3", "Q0.4", "Q0.5", "Q1.6" }
 
-local function acceso(punto) return leggi(punto) == 1 end
 local function accesi(uscite)
   for _, uscita in ipairs(uscite) do
     if not acceso(uscita) then return false end
@@ -26,19 +28,6 @@ local function spenti(uscite)
   return true
 end
 local function tutto_fermo() return spenti(comandi) end
-local function litri() return tonumber(elemento("etcap").Caption) end
-
-local function premi_per(pulsante, ms)
-  premi(pulsante)
-  attendi(ms)
-  rilascia(pulsante)
-  attendi(100)
-end
-
-local function in_manuale()
-  run()
-  attendi(200)
-end
 
 local function in_automatico()
   run()
@@ -48,22 +37,8 @@ local function in_automatico()
   premi_per(start, 300)
 end
 
--- Guarda la ricetta fino alla fine dello scarico. I litri sono quelli dei contatori del disegno, che
--- ripartono da zero a ogni inizio del flusso.
 local function osserva(ms)
-  local visto = { litri = { 0, 0 }, agitato = 0 }
-  local prima = { 0, 0 }
-  visto.finita = attendi_fino(function()
-    for n = 1, 2 do
-      local adesso = tonumber(elemento("EtP(" .. n - 1 .. ")").Caption)
-      if adesso > prima[n] then visto.litri[n] = visto.litri[n] + adesso - prima[n] end
-      prima[n] = adesso
-    end
-    if visto.scaricando then return not acceso(scarico) end
-    if acceso(agitatore) then visto.agitato = visto.agitato + 1 end
-    visto.scaricando = acceso(scarico)
-  end, ms)
-  return visto
+  return osserva_ricetta(ms, function() return acceso(scarico) end, function() return acceso(agitatore) end)
 end
 
 prova("a riposo", function()
@@ -107,8 +82,7 @@ prova("troppo pieno", function()
   premi_per("imgSB(2)", 300)
   attendi_fino(function() return litri() > 160 end, 120000)
   attendi(5000)
-  punti(3, litri() >= 100 and litri() <= 163,
-        "il carico deve arrivare in alto e fermarsi prima di traboccare, non a " .. litri() .. " litri")
+  punti_per_il_troppo_pieno()
 end)
 
 prova("l'automatico vuole SA e Start", function()
@@ -126,10 +100,7 @@ end)
 prova("ricetta", function()
   in_automatico()
   local visto = osserva(300000)
-  punti(4, math.abs(visto.litri[1] - litri_1) <= 1,
-        "si devono caricare " .. litri_1 .. " litri di prodotto 1, non " .. visto.litri[1])
-  punti(4, math.abs(visto.litri[2] - litri_2) <= 1,
-        "si devono caricare " .. litri_2 .. " litri di prodotto 2, non " .. visto.litri[2])
+  punti_per_i_litri(visto, litri_1, litri_2)
   punti(3, visto.scaricando and visto.agitato >= mescola - 1000 and visto.agitato <= mescola + 3000,
         "l'agitatore deve girare circa " .. mescola .. " ms, non " .. visto.agitato)
   punti(3, visto.finita and litri() <= 1, "il serbatoio deve vuotarsi del tutto e lo scarico chiudersi")

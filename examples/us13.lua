@@ -8,12 +8,13 @@ local fine_d = 150      -- litri
 local mescola = 5000    -- ms
 local avviamenti = 5    -- di M1 e di M2, per la manutenzione
 
+usa("comandi.lua")
+
 local start, stop_ciclo, azzera, sa = "imgSB(0)", "imgSB(1)", "imgSB(2)", "imgCom"
 local valvole = { "Q0.0", "Q0.1", "Q0.2", "Q0.3" }
 local nomi = { "A", "B", "C", "D" }
 local pompa, agitatore, scarico = "Q0.5", "Q0.4", "Q0.6"
 
-local function acceso(punto) return leggi(punto) == 1 end
 local function aperte()
   local quante = 0
   for _, valvola in ipairs(valvole) do
@@ -30,13 +31,6 @@ local function litri() return tonumber(elemento("etcap").Caption) end
 -- Accesa in qualche momento dei prossimi due secondi, anche se lampeggia.
 local function si_accende(punto)
   return attendi_fino(function() return acceso(punto) end, 2000)
-end
-
-local function premi_per(pulsante, ms)
-  premi(pulsante)
-  attendi(ms)
-  rilascia(pulsante)
-  attendi(100)
 end
 
 -- ME_SpedP 100 è la pompa alla velocità massima, 500 alla minima.

@@ -8,7 +8,6 @@
 #include <iostream>
 #include <thread>
 
-#include "awl/file_io.h"
 #include "bench/arguments.h"
 #include "bench/commands.h"
 #include "bench/grading/grader.h"
@@ -49,8 +48,6 @@ Stato di uscita: 0 tutte le prove superate, 1 qualcuna no, 2 progetto o script
 illeggibile, 64 uso errato.
 )";
 
-constexpr std::uintmax_t script_massimo = 1024 * 1024;
-
 class Illeggibile : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -65,19 +62,19 @@ std::string Estensione(const fs::path& file) {
 }
 
 Sorgente_Script Leggi_Script(const std::string& file) {
-  std::error_code errore;
-  if (fs::file_size(file, errore) > script_massimo && !errore)
-    throw Illeggibile(file + ": lo script è troppo grande.");
-  Contenuto_File contenuto = Leggi_File(file);
-  if (!contenuto.Errore.empty())
-    throw Illeggibile(file + ": impossibile leggere lo script: " + contenuto.Errore + ".");
-  std::string nome = fs::path(file).filename().string();
-  std::ranges::replace(nome, ':', '_');  // ends the name in the messages of the language
-  Sorgente_Script script{nome, std::move(contenuto.Byte)};
-  if (script.Testo.starts_with("\xEF\xBB\xBF")) script.Testo.erase(0, 3);
-  const std::string sbaglio = Errore_Di_Sintassi(script);
-  if (!sbaglio.empty()) throw Illeggibile(file + ": " + sbaglio);
-  return script;
+  try {
+    Sorgente_Script script = Leggi_Sorgente(file);
+    const std::string sbaglio = Errore_Di_Sintassi(script);
+    if (!sbaglio.empty()) throw std::runtime_error(sbaglio);
+    return script;
+  } catch (const std::runtime_error& errore) {
+    throw Illeggibile(file + ": " + errore.what());
+  }
+}
+
+bool Cartella(const std::string& percorso) {
+  std::error_code errore;  // an impossible path is no folder
+  return fs::is_directory(percorso, errore);
 }
 
 /// The projects of a folder, in the order of their paths.
@@ -106,7 +103,7 @@ Incarico Leggi_Incarico(const Argomenti& argomenti) {
   Incarico incarico;
   std::vector<std::string> altri;
   for (const std::string& file : argomenti.File()) {
-    if (Estensione(file) == ".lua" && !fs::is_directory(file))
+    if (Estensione(file) == ".lua" && !Cartella(file))
       incarico.Con.Script.push_back(Leggi_Script(file));
     else
       altri.push_back(file);
@@ -115,8 +112,7 @@ Incarico Leggi_Incarico(const Argomenti& argomenti) {
   if (incarico.Con.Script.empty()) throw Uso_Errato("manca lo script (un file .lua)");
   incarico.Molti = altri.size() > 1;
   for (const std::string& file : altri) {
-    std::error_code errore;
-    if (fs::is_directory(file, errore)) {
+    if (Cartella(file)) {
       incarico.Molti = true;
       Aggiungi_Cartella(file, incarico.Progetti);
     } else {
@@ -165,6 +161,19 @@ int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
       argomenti.Numero("--processi", std::max(1U, std::thread::hardware_concurrency()), 1, 256));
 
   std::vector<Esito_Progetto> esiti;
+  // A file that cannot be written must not cost the others: the grading may have taken an hour.
+  std::string non_scritto;
+  const auto Prova_A_Scrivere = [&non_scritto](const auto& scrivi) {
+    try {
+      scrivi();
+    } catch (const std::runtime_error& errore) {
+      if (non_scritto.empty()) non_scritto = errore.what();
+    }
+  };
+  const auto Scrivi = [&](const char* opzione, auto rapporto) {
+    if (argomenti.Ha(opzione))
+      Prova_A_Scrivere([&] { Scrivi_Rapporto(argomenti.Testo(opzione, ""), rapporto(esiti)); });
+  };
   if (incarico.Molti) {
     esiti = Esamina_Molti(incarico, processi, !json, out, err);
     if (!json) Stampa_Somma(out, esiti);
@@ -173,12 +182,12 @@ int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
     const std::string& progetto = incarico.Progetti.front();
     esiti.push_back(Esamina(progetto, incarico.Con, tracce ? &traccia : nullptr));
     if (!json) Stampa_Progetto(out, esiti.front());
-    Scrivi_Traccia(argomenti, traccia, progetto);
+    Prova_A_Scrivere([&] { Scrivi_Traccia(argomenti, traccia, progetto); });
   }
   if (json) out << Rapporto_Json(esiti) << '\n';
-  if (argomenti.Ha("--junit"))
-    Scrivi_Rapporto(argomenti.Testo("--junit", ""), Rapporto_Junit(esiti));
-  if (argomenti.Ha("--csv")) Scrivi_Rapporto(argomenti.Testo("--csv", ""), Rapporto_Csv(esiti));
+  Scrivi("--junit", Rapporto_Junit);
+  Scrivi("--csv", Rapporto_Csv);
+  if (!non_scritto.empty()) throw std::runtime_error(non_scritto);
 
   if (!incarico.Molti && esiti.front().Illeggibile) return Uscita_Illeggibile;
   return std::ranges::all_of(esiti, &Esito_Progetto::Superato) ? Uscita_Buona : Uscita_Errori;

@@ -19,9 +19,10 @@ std::string Allarga(const std::string& testo, std::size_t larghezza) {
   return testo + std::string(lungo < larghezza ? larghezza - lungo : 0, ' ');
 }
 
-/// A text on one line.
+/// A text of others on one line of a terminal, which shall not obey it.
 std::string Su_Una_Riga(std::string testo) {
-  std::ranges::replace(testo, '\n', ' ');
+  std::ranges::replace_if(
+      testo, [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }, ' ');
   return Utf8_Valido(testo);
 }
 
@@ -33,7 +34,7 @@ void Stampa_Listato(std::ostream& out, const std::string& listato) {
   std::size_t inizio = 0;
   while (inizio < listato.size()) {
     const std::size_t fine = std::min(listato.find('\n', inizio), listato.size());
-    out << "                     | " << listato.substr(inizio, fine - inizio) << '\n';
+    out << "                     | " << Su_Una_Riga(listato.substr(inizio, fine - inizio)) << '\n';
     inizio = fine + 1;
   }
 }
@@ -60,7 +61,8 @@ void Stampa_Progetto(std::ostream& out, const Esito_Progetto& esito) {
     out << '\n';
     for (const Rilievo& rilievo : caso.Rilievi)
       out << std::setw(16) << rilievo.Ms << " ms: " << Su_Una_Riga(rilievo.Testo) << '\n';
-    for (const std::string& nota : caso.Note) out << "             nota: " << nota << '\n';
+    for (const std::string& nota : caso.Note)
+      out << "             nota: " << Su_Una_Riga(nota) << '\n';
     if (caso.Listato != listato) Stampa_Listato(out, caso.Listato);
     listato = caso.Listato;
   }

@@ -21,8 +21,9 @@ int Carica(lua_State* stato, const Sorgente_Script& script) {
 }
 
 std::string Messaggio(lua_State* stato) {
-  const bool testo = lua_type(stato, -1) == LUA_TSTRING;
-  std::string messaggio = testo ? lua_tostring(stato, -1) : "errore senza messaggio";
+  std::size_t lungo = 0;
+  const char* testo = lua_tolstring(stato, -1, &lungo);  // of a number too
+  std::string messaggio = testo ? std::string(testo, lungo) : "errore senza messaggio";
   lua_pop(stato, 1);
   return In_Italiano(messaggio);
 }
@@ -122,6 +123,19 @@ void Esame::Segna_Punti(double punti, bool meritati, const std::string& testo) {
 void Esame::Annota(const std::string& testo) {
   Caso& caso = Adesso();
   if (caso.Note.size() < note_massime) caso.Note.push_back(Accorcia(testo));
+}
+
+bool Esame::Usa(const std::string& nome) {
+  if (usati_.contains(nome)) return false;
+  lua_State* stato = recinto_.Stato();
+  try {
+    if (Carica(stato, Leggi_Vicino(script_, nome)) != LUA_OK)
+      throw std::runtime_error(Messaggio(stato));
+  } catch (const std::runtime_error& errore) {
+    throw Errore_Script(std::string("usa: ") + errore.what());
+  }
+  usati_.insert(nome);
+  return true;
 }
 
 void Esame::Registra_Errore(lua_State* stato) {

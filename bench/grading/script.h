@@ -2,23 +2,18 @@
 #pragma once
 
 #include <memory>
-#include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "bench/grading/outcome.h"
 #include "bench/grading/sandbox.h"
+#include "bench/grading/script_files.h"
 #include "bench/grading/test_bed.h"
 
 namespace tavorno {
 
 class Traccia;
-
-/// The text of a script and the name under which messages speak of it.
-struct Sorgente_Script {
-  std::string Nome;
-  std::string Testo;
-};
 
 /// What scripts are run against.
 struct Ambiente_Script {
@@ -51,6 +46,9 @@ class Esame {
   void Rileva(const std::string& testo);
   void Segna_Punti(double punti, bool meritati, const std::string& testo);
   void Annota(const std::string& testo);
+  /// Puts a file that stands beside the script on the stack, as a function; false: it was there
+  /// before.
+  bool Usa(const std::string& nome);
   void Registra_Errore(lua_State* stato);  ///< takes the message from the top of the stack
 
   bool In_Prova = false;       ///< a `prova` is running
@@ -70,6 +68,7 @@ class Esame {
   const Sorgente_Script& script_;
   const Ambiente_Script& ambiente_;
   Scorte scorte_;
+  std::set<std::string> usati_;  // files beside the script
   std::vector<Caso> casi_;
   std::unique_ptr<Collaudo> banco_;  // of the present case
   Recinto recinto_;

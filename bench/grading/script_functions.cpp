@@ -3,9 +3,11 @@
 // raise one holds nothing on its stack that owns memory: texts on their way lie in the `Esame`.
 #include "bench/grading/script_functions.h"
 
+#include <algorithm>
 #include <lua5.4/lua.hpp>
 #include <new>
 
+#include "bench/grading/lua_messages.h"
 #include "bench/grading/script.h"
 #include "bench/grading/script_arguments.h"
 #include "bench/trace/address.h"
@@ -208,6 +210,10 @@ int Proprieta_Elemento(lua_State* stato, Esame& esame) {
   throw Errore_Script("la proprietà \"" + std::string(nome) + "\" non esiste");
 }
 
+int Assegna_Proprieta(lua_State*, Esame&) {
+  throw Errore_Script("le proprietà di un elemento si leggono soltanto");
+}
+
 int Fa_Messaggi(lua_State* stato, Esame& esame) {
   esame.Avvisi = esame.Banco().Prendi_Avvisi();
   lua_createtable(stato, static_cast<int>(esame.Avvisi.size()), 0);
@@ -216,6 +222,12 @@ int Fa_Messaggi(lua_State* stato, Esame& esame) {
     lua_rawseti(stato, -2, ++n);
   }
   return 1;
+}
+
+/// Runs in the state and within the limits of the script.
+int Fa_Usa(lua_State* stato, Esame& esame) {
+  if (esame.Usa(std::string(Arg_Testo(stato, 1, "usa")))) lua_call(stato, 0, 0);
+  return 0;
 }
 
 // ---- verdicts -----------------------------------------------------------------------------------
@@ -255,9 +267,13 @@ int Fa_Prova(lua_State* stato, Esame& esame) {
 
 int Fa_Print(lua_State* stato, Esame& esame) {
   esame.Errore.clear();
-  for (int numero = 1; numero <= lua_gettop(stato); ++numero) {
+  const int quanti = lua_gettop(stato);
+  // No more than the report keeps: the text grows outside the memory of the script.
+  for (int numero = 1; numero <= quanti && esame.Errore.size() <= lunghezza_messaggio; ++numero) {
     if (numero > 1) esame.Errore += ' ';
-    esame.Errore += luaL_tolstring(stato, numero, nullptr);
+    std::size_t lungo = 0;
+    const char* testo = luaL_tolstring(stato, numero, &lungo);
+    esame.Errore.append(testo, std::min(lungo, lunghezza_messaggio + 1));
     lua_pop(stato, 1);
   }
   esame.Annota(esame.Errore);
@@ -287,11 +303,13 @@ constexpr Riga_Funzione funzioni[] = {
     {"scrivi", "scrivi(indirizzo, valore)", "lo cambia", Fa_Scrivi},
     {"elemento", "elemento(nome).Left", "una proprietà di un elemento del disegno: Left, Top, Width, Height, Visible, Picture, Caption, ToolTip, FillColor, ForeColor, FillStyle", Fa_Elemento},
     {"messaggi", "messaggi()", "tabella con i messaggi mostrati dalla CPU dall'ultima chiamata", Fa_Messaggi},
+    {"usa", "usa(\"file.lua\")", "esegue, una volta sola, un altro script della stessa cartella: le sue funzioni restano", Fa_Usa},
     {"print", "print(...)", "scrive una nota nel rapporto del caso", Fa_Print},
 };
 // clang-format on
 
-constexpr Riga_Funzione proprieta_elemento = {"__index", "", "", Proprieta_Elemento};
+constexpr Riga_Funzione uso_elemento[] = {{"__index", "", "", Proprieta_Elemento},
+                                          {"__newindex", "", "", Assegna_Proprieta}};
 
 /// Between the language and the rows above: exceptions end here and become errors of the language.
 int Ponte(lua_State* stato) {
@@ -324,8 +342,10 @@ int Registra_Funzioni(lua_State* stato) {
     lua_setglobal(stato, riga.Nome);
   }
   luaL_newmetatable(stato, tipo_elemento);
-  Metti_Funzione(stato, proprieta_elemento);
-  lua_setfield(stato, -2, "__index");
+  for (const Riga_Funzione& riga : uso_elemento) {
+    Metti_Funzione(stato, riga);
+    lua_setfield(stato, -2, riga.Nome);
+  }
   return 0;
 }
 

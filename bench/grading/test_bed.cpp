@@ -83,14 +83,18 @@ void Collaudo::Scansione() {
   Rompi(std::move(testo));
 }
 
+/// The run loop of the CPU returns after its first line, and the script's time drives the rest.
+void Collaudo::Comanda(void (Plc::*comando)()) {
+  plc_.Hook.Cedi = [this] { plc_.Ferma = -1; };
+  (plc_.*comando)();
+  plc_.Hook.Cedi = nullptr;
+  plc_.Ferma = 0;
+}
+
 void Collaudo::Run() {
   if (plc_.PLC_Acceso) return;
   Proteggi([this] {
-    // The run loop of the CPU returns after its first line, and the script's time drives the rest.
-    plc_.Hook.Cedi = [this] { plc_.Ferma = -1; };
-    plc_.mnuPlcRun();
-    plc_.Hook.Cedi = nullptr;
-    plc_.Ferma = 0;
+    Comanda(&Plc::mnuPlcRun);
     if (plc_.Modo_Run != Modo::Step && plc_.N_Cicli == 0) Scansione();
   });
 }
@@ -109,10 +113,7 @@ void Collaudo::Scegli_Modo(Modo modo) {
   Proteggi([&] {
     switch (modo) {
       case Modo::Cont:
-        plc_.Hook.Cedi = [this] { plc_.Ferma = -1; };
-        plc_.mnuPlcCont();
-        plc_.Hook.Cedi = nullptr;
-        plc_.Ferma = 0;
+        Comanda(&Plc::mnuPlcCont);
         break;
       case Modo::Ciclo:
         plc_.mnuPlcCiclo();

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
-#include <array>
-#include <cmath>
 #include <cstdio>
-#include <span>
 
 #include "bench/trace/markup.h"
 #include "bench/trace/trace.h"
@@ -13,7 +10,7 @@ namespace tavorno {
 namespace {
 
 // All in the units of the drawing.
-constexpr double margine = 16;
+constexpr double margine = 16, margine_destro = 30;  // half a time stands beyond the axis
 constexpr double larghezza_nomi = 150;
 constexpr double altezza_bit = 24, onda_bit = 14;
 constexpr double altezza_analogica = 72, onda_analogica = 56;
@@ -73,10 +70,6 @@ class Foglio {
     testo_ += "<path d=\"" + percorso + "\" stroke=\"" + linea + "\" fill=\"" + fondo +
               "\" stroke-width=\"1.5\" stroke-linejoin=\"round\"/>\n";
   }
-  void Riquadro(double x, double y, double l, double a, const char* fondo) {
-    testo_ += "<rect x=\"" + Cifre(x) + "\" y=\"" + Cifre(y) + "\" width=\"" + Cifre(l) +
-              "\" height=\"" + Cifre(a) + "\" fill=\"" + fondo + "\"/>\n";
-  }
   const std::string& Testo() const { return testo_; }
 
  private:
@@ -95,6 +88,11 @@ std::int64_t Passo_Tacche(double ms_minimi) {
   return 7'200'000;
 }
 
+std::string Istante(std::int64_t ms, std::int64_t passo) {
+  return passo >= 60'000 ? std::to_string(ms / 60'000) + " min"
+                         : Con_Virgola(static_cast<double>(ms) / 1000) + " s";
+}
+
 class Disegno_Tempi {
  public:
   Disegno_Tempi(const Traccia& traccia, const std::string& titolo)
@@ -111,7 +109,7 @@ class Disegno_Tempi {
       if (Da_Mostrare(n))
         alto += traccia_.Segnali()[n].Analogico() ? altezza_analogica : altezza_bit;
     }
-    const double larghezza = margine * 2 + larghezza_nomi + largo_;
+    const double larghezza = margine + larghezza_nomi + largo_ + margine_destro;
     const double altezza = alto + margine * 1.5;
     Intestazione();
     Asse(alto);
@@ -151,8 +149,7 @@ class Disegno_Tempi {
     const std::int64_t passo = Passo_Tacche(passo_tacche / largo_ * durata_);
     for (std::int64_t ms = 0; ms <= traccia_.Durata(); ms += passo) {
       foglio_.Linea(X(ms), alto_righe - 6, X(ms), basso, griglia);
-      foglio_.Scritta(X(ms), alto_righe - 12, Con_Virgola(static_cast<double>(ms) / 1000) + " s",
-                      11, grigio, "middle");
+      foglio_.Scritta(X(ms), alto_righe - 12, Istante(ms, passo), 11, grigio, "middle");
     }
   }
 
@@ -215,6 +212,12 @@ class Disegno_Tempi {
     const double destra = margine + larghezza_nomi - 6;
     foglio_.Scritta(destra, f(massimo) + 9, Con_Virgola(massimo), 10, grigio, "end");
     foglio_.Scritta(destra, f(minimo), Con_Virgola(minimo), 10, grigio, "end");
+    if (minimo < 0) {
+      foglio_.Linea(margine + larghezza_nomi, f(0), margine + larghezza_nomi + largo_, f(0),
+                    griglia);
+      if (f(minimo) - f(0) > 14 && f(0) - f(massimo) > 20)
+        foglio_.Scritta(destra, f(0) + 4, "0", 10, grigio, "end");
+    }
     foglio_.Scritta(margine, y + 36, "volt", 11, grigio);
     foglio_.Tratto(Percorso(n, f, f(0), true), "none", tinta.Fondo);
     foglio_.Tratto(Percorso(n, f, f(0), false), tinta.Linea, "none");

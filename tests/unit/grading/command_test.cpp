@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The command line, its reports and its exit statuses.
+#include <fcntl.h>
 #include <gmock/gmock.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "bench/grading/reports.h"
 #include "bench/trace/markup.h"
 #include "grading_bed.h"
+#include "xml_reader.h"
 
 namespace tavorno::prova {
 
@@ -136,6 +140,11 @@ INSTANTIATE_TEST_SUITE_P(
         Sbagliato{"binary project", {"/binario.AWL", "S"}, 2, "Impossibile leggere il progetto"},
         Sbagliato{"large project", {"/grande.AWL", "S"}, 2, "Impossibile leggere il progetto"},
         Sbagliato{"huge project", {"/enorme.AWL", "S"}, 2, "il file è troppo grande"},
+        Sbagliato{"impossible project", {"/" + std::string(5000, 'x'), "S"}, 2, "troppo lungo"},
+        Sbagliato{"impossible script",
+                  {"P", "/" + std::string(5000, 'x') + ".lua"},
+                  2,
+                  "il nome del file è troppo lungo"},
         Sbagliato{"folder without projects", {"/vuota", "S"}, 2, "non contiene progetti .AWL"},
         Sbagliato{"report that cannot be written",
                   {"P", "S", "--junit", "/manca/x.xml"},
@@ -221,6 +230,53 @@ TEST_F(GradingCommand, JunitHasATestcaseForEachCase) {
   </testsuite>
 </testsuites>
 )");
+}
+
+// Whatever names and messages say, the reader of the continuous integration reads it.
+TEST_F(GradingCommand, ReportsOfHostileTextsAreWellFormed) {
+  const std::string junit = (cartella / "j.xml").string(), svg = (cartella / "t.svg").string();
+  const std::string progetto = Progetto_Con({"LD I0.1", "= Q0.0"}, "<\xff\"&'>]]>.AWL");
+  EXPECT_EQ(Prova({progetto, File("s&.lua", R"(
+    prova('<a b="c">&amp;]]>\1\27\xff\xc3', function()
+      print('</system-out>\0\8') verifica(false, '</failure><x>\n"&\xed\xa0\x80\11') end)
+    prova('buono', function() run() attendi(20) punti(2, true) end))"),
+                   "--junit", junit, "--svg", svg}),
+            1);
+  const Elemento_Xml rapporto = Lettore_Xml(Leggi_Byte(junit)).Leggi();
+  EXPECT_EQ(rapporto.Nome, "testsuites");
+  EXPECT_EQ(rapporto.Attributi.at("tests"), "2");
+  ASSERT_EQ(rapporto.Figli.size(), 1);
+  const Elemento_Xml& suite = rapporto.Figli[0];
+  EXPECT_EQ(suite.Attributi.at("name"), cartella.string() + "/<?\"&'>]]>.AWL");
+  ASSERT_EQ(suite.Quanti("testcase"), 2);
+  EXPECT_EQ(suite.Figli[0].Attributi.at("classname"), "s&.lua");
+  EXPECT_EQ(suite.Figli[0].Attributi.at("name"), "<a b=\"c\">&amp;]]>????");
+  EXPECT_EQ(suite.Figli[0].Quanti("failure"), 1);
+  EXPECT_EQ(suite.Figli[0].Figli.back().Testo, "</system-out>??\n");
+  EXPECT_EQ(suite.Figli[1].Quanti("failure"), 0);
+  EXPECT_EQ(suite.Figli[1].Quanti("property"), 2);
+  EXPECT_EQ(Lettore_Xml(Leggi_Byte(svg)).Leggi().Nome, "svg");
+}
+
+TEST_F(GradingCommand, AReportThatCannotBeWrittenDoesNotCostTheOthers) {
+  const std::string csv = (cartella / "p.csv").string();
+  EXPECT_EQ(Prova({Progetto_Con(buono), File("s.lua", due_casi), "--svg", cartella.string(),
+                   "--junit", "/manca/x.xml", "--csv", csv}),
+            1);
+  EXPECT_THAT(err, HasSubstr("impossibile scrivere \"" + cartella.string() + "\""));
+  EXPECT_THAT(Leggi_Byte(csv), HasSubstr(";superato;2;2;3,5;3,5;\n"));
+}
+
+TEST_F(GradingCommand, AReportMayGoToWhatIsNoFile) {
+  const std::string tubo = (cartella / "tubo").string();
+  ASSERT_EQ(::mkfifo(tubo.c_str(), 0600), 0);
+  const int lettura = ::open(tubo.c_str(), O_RDWR | O_NONBLOCK);
+  EXPECT_EQ(Prova({Progetto_Con(buono), File("s.lua", due_casi), "--csv", tubo}), 0) << err;
+  EXPECT_EQ(std::filesystem::status(tubo).type(), std::filesystem::file_type::fifo);
+  std::string letto(4096, '\0');
+  letto.resize(static_cast<std::size_t>(::read(lettura, letto.data(), letto.size())));
+  EXPECT_THAT(letto, HasSubstr(";superato;2;2;3,5;3,5;\n"));
+  ::close(lettura);
 }
 
 TEST_F(GradingCommand, JsonHasProjectsCasesAndFindings) {

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The scripts of the exercises hold for the solved projects, and see what is broken in them.
+#include <map>
+
 #include "grading_bed.h"
 
 namespace tavorno::prova {
@@ -19,8 +21,7 @@ Esito_Progetto Esamina_Esempio(const Esempio& esempio, const std::string& proget
                                bool basta_un_errore = false) {
   Verifiche verifiche;
   verifiche.Basta_Un_Errore = basta_un_errore;
-  verifiche.Script.push_back(
-      {esempio.Nome() + ".lua", Leggi_Byte(esempi / (esempio.Nome() + ".lua"))});
+  verifiche.Script.push_back(Leggi_Sorgente((esempi / (esempio.Nome() + ".lua")).string()));
   verifiche.Impianto = &Tabella_Esercizi()[static_cast<std::size_t>(esempio.Numero)];
   return Esamina(progetto, verifiche);
 }
@@ -76,46 +77,42 @@ TEST_P(BrokenProject, IsSeenByTheScript) {
   EXPECT_FALSE(esito.Superato());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Contacts, BrokenProject,
-    ::testing::Values(Mutazione{{0}, "A I0.3", "AN I0.3"}, Mutazione{{0}, "A I0.0", "AN I0.0"},
-                      Mutazione{{1}, "A I0.6", "AN I0.6"}, Mutazione{{1}, "LDN I0.5", "LD I0.5"},
-                      Mutazione{{2}, "O I0.2", "ON I0.2"}, Mutazione{{3}, "A I0.5", "AN I0.5"},
-                      Mutazione{{4}, "A I0.2", "AN I0.2"}, Mutazione{{5}, "A I0.7", "AN I0.7"},
-                      Mutazione{{6}, "LD I0.6", "LDN I0.6"}, Mutazione{{7}, "A I0.7", "AN I0.7"},
-                      Mutazione{{8}, "A I0.1", "AN I0.1"}, Mutazione{{9}, "A I0.5", "AN I0.5"},
-                      Mutazione{{10}, "A I0.7", "AN I0.7"}, Mutazione{{11}, "A I0.1", "AN I0.1"},
-                      Mutazione{{12}, "LDN I0.4", "LD I0.4"}, Mutazione{{13}, "AN I0.2", "A I0.2"},
-                      Mutazione{{14}, "A I1.1", "AN I1.1"}, Mutazione{{15}, "A I0.5", "AN I0.5"},
-                      Mutazione{{16}, "O I0.1", "ON I0.1"}, Mutazione{{17}, "A I0.1", "AN I0.1"}));
+const std::vector<Mutazione> contatti = {
+    {{0}, "A I0.3", "AN I0.3"},   {{0}, "A I0.0", "AN I0.0"},  {{1}, "A I0.6", "AN I0.6"},
+    {{1}, "LDN I0.5", "LD I0.5"}, {{2}, "O I0.2", "ON I0.2"},  {{3}, "A I0.5", "AN I0.5"},
+    {{4}, "A I0.2", "AN I0.2"},   {{5}, "A I0.7", "AN I0.7"},  {{6}, "LD I0.6", "LDN I0.6"},
+    {{7}, "A I0.7", "AN I0.7"},   {{8}, "A I0.1", "AN I0.1"},  {{9}, "A I0.5", "AN I0.5"},
+    {{10}, "A I0.7", "AN I0.7"},  {{11}, "A I0.1", "AN I0.1"}, {{12}, "LDN I0.4", "LD I0.4"},
+    {{13}, "AN I0.2", "A I0.2"},  {{14}, "A I1.1", "AN I1.1"}, {{15}, "A I0.5", "AN I0.5"},
+    {{16}, "O I0.1", "ON I0.1"},  {{17}, "A I0.1", "AN I0.1"}};
+const std::vector<Mutazione> righe = {
+    {{0}, "O I0.2", ""},    {{0}, "A I0.4", ""},    {{0}, "= Q0.1", ""},
+    {{1}, "= Q0.1", ""},    {{2}, "A I0.5", ""},    {{3}, "A I1.1", ""},
+    {{4}, "S M0.2 1", ""},  {{5}, "S M0.2 1", ""},  {{6}, "S M0.2 1", ""},
+    {{7}, "S M0.2 1", ""},  {{8}, "R M0.1 1", ""},  {{8}, "A I0.2", ""},
+    {{9}, "S M1.3 1", ""},  {{10}, "AN M0.0", ""},  {{11}, "AN M0.0", ""},
+    {{12}, "ON I0.7", ""},  {{13}, "S M0.1 1", ""}, {{14}, "S M0.1 1", ""},
+    {{15}, "S M0.2 1", ""}, {{16}, "S M0.0 1", ""}, {{17}, "-I AIW0 VW0", ""}};
+const std::vector<Mutazione> tempi = {
+    {{1}, "TON T37 +20", "TON T37 +2"},    {{2}, "TON T37 +50", "TON T37 +100"},
+    {{3}, "TON T37 +50", "TON T37 +10"},   {{4}, "TON T37 +10", "TON T37 +30"},
+    {{5}, "TON T37 +100", "TON T37 +10"},  {{6}, "TON T37 +150", "TON T37 +15"},
+    {{7}, "TON T37 +300", "TON T37 +30"},  {{9}, "TON T37 +50", "TON T37 +5"},
+    {{10}, "TON T37 +100", "TON T37 +10"}, {{11}, "TON T39 +200", "TON T39 +5"},
+    {{12}, "CTU C1 +40", "CTU C1 +60"},    {{13}, "TON T38 +50", "TON T38 +10"},
+    {{14}, "TON T38 +30", "TON T38 +3"},   {{15}, "TON T37 +150", "TON T37 +15"},
+    {{16}, "TON T40 +80", "TON T40 +8"},   {{17}, "MOVW +25600 AQW0", "MOVW +3200 AQW0"}};
 
-INSTANTIATE_TEST_SUITE_P(
-    Lines, BrokenProject,
-    ::testing::Values(Mutazione{{0}, "O I0.2", ""}, Mutazione{{0}, "A I0.4", ""},
-                      Mutazione{{0}, "= Q0.1", ""}, Mutazione{{1}, "= Q0.1", ""},
-                      Mutazione{{2}, "A I0.5", ""}, Mutazione{{3}, "A I1.1", ""},
-                      Mutazione{{8}, "R M0.1 1", ""}, Mutazione{{8}, "A I0.2", ""},
-                      Mutazione{{9}, "S M1.3 1", ""}, Mutazione{{10}, "AN M0.0", ""},
-                      Mutazione{{11}, "AN M0.0", ""}, Mutazione{{12}, "ON I0.7", ""},
-                      Mutazione{{13}, "S M0.1 1", ""}, Mutazione{{14}, "S M0.1 1", ""},
-                      Mutazione{{16}, "S M0.0 1", ""}, Mutazione{{17}, "-I AIW0 VW0", ""}));
+INSTANTIATE_TEST_SUITE_P(Contacts, BrokenProject, ::testing::ValuesIn(contatti));
+INSTANTIATE_TEST_SUITE_P(Lines, BrokenProject, ::testing::ValuesIn(righe));
+INSTANTIATE_TEST_SUITE_P(Times, BrokenProject, ::testing::ValuesIn(tempi));
 
-INSTANTIATE_TEST_SUITE_P(Times, BrokenProject,
-                         ::testing::Values(Mutazione{{1}, "TON T37 +20", "TON T37 +2"},
-                                           Mutazione{{2}, "TON T37 +50", "TON T37 +100"},
-                                           Mutazione{{3}, "TON T37 +50", "TON T37 +10"},
-                                           Mutazione{{4}, "TON T37 +10", "TON T37 +30"},
-                                           Mutazione{{5}, "TON T37 +100", "TON T37 +10"},
-                                           Mutazione{{6}, "TON T37 +150", "TON T37 +15"},
-                                           Mutazione{{7}, "TON T37 +300", "TON T37 +30"},
-                                           Mutazione{{9}, "TON T37 +50", "TON T37 +5"},
-                                           Mutazione{{10}, "TON T37 +100", "TON T37 +10"},
-                                           Mutazione{{11}, "TON T39 +200", "TON T39 +5"},
-                                           Mutazione{{12}, "CTU C1 +40", "CTU C1 +60"},
-                                           Mutazione{{13}, "TON T38 +50", "TON T38 +10"},
-                                           Mutazione{{14}, "TON T38 +30", "TON T38 +3"},
-                                           Mutazione{{15}, "TON T37 +150", "TON T37 +15"},
-                                           Mutazione{{16}, "TON T40 +80", "TON T40 +8"},
-                                           Mutazione{{17}, "MOVW +25600 AQW0", "MOVW +3200 AQW0"}));
+TEST(Examples, EachOfTheEighteenHasAScriptAndThreeMutants) {
+  std::map<int, int> mutanti;
+  for (const auto* lista : {&contatti, &righe, &tempi})
+    for (const Mutazione& mutazione : *lista) ++mutanti[mutazione.Di.Numero];
+  ASSERT_EQ(Esempi().size(), 18);
+  for (const Esempio& esempio : Esempi()) EXPECT_GE(mutanti[esempio.Numero], 3) << esempio.Nome();
+}
 
 }  // namespace tavorno::prova

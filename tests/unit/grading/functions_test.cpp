@@ -208,7 +208,8 @@ TEST_F(ScriptFunctions, WrongNamesAreListed) {
               HasSubstr("riga 2: l'elemento \"imgStrat\" non esiste; ci sono linKM, imgKM, "));
   EXPECT_THAT(Rilievo_Di("premi('imgM')", {"NOP"}, 0),
               HasSubstr("l'elemento \"imgM\" non si aziona; si azionano imgKM, ImgTer, "));
-  EXPECT_THAT(Rilievo_Di("elemento('imgM').Sinistra = 1", {"NOP"}, 0), HasSubstr("esame.lua"));
+  EXPECT_THAT(Rilievo_Di("elemento('imgM').Left = 1", {"NOP"}, 0),
+              HasSubstr("riga 2: le proprietà di un elemento si leggono soltanto"));
   EXPECT_THAT(Rilievo_Di("print(elemento('imgM').Sinistra)", {"NOP"}, 0),
               HasSubstr("la proprietà \"Sinistra\" non esiste"));
 }
@@ -282,11 +283,12 @@ TEST_F(ScriptFunctions, ACaseInsideACaseIsRefused) {
 TEST_F(ScriptFunctions, HelpNamesAllOfThem) {
   EXPECT_EQ(Prova({"--help"}), 0);
   for (const char* nome :
-       {"run",   "stop",     "modo",     "passo",       "cicli",    "attendi",  "attendi_fino",
-        "premi", "rilascia", "clic",     "doppio_clic", "regola",   "ingresso", "analogico",
-        "leggi", "scrivi",   "elemento", "messaggi",    "verifica", "punti",    "prova"})
+       {"run",          "stop",      "modo",     "passo",  "cicli",       "attendi",
+        "attendi_fino", "premi",     "rilascia", "clic",   "doppio_clic", "regola",
+        "ingresso",     "analogico", "leggi",    "scrivi", "elemento",    "messaggi",
+        "verifica",     "punti",     "prova",    "usa"})
     EXPECT_THAT(out, HasSubstr(std::string("\n  ") + nome + "(")) << nome;
-  EXPECT_EQ(Funzioni_Script().size(), 22);
+  EXPECT_EQ(Funzioni_Script().size(), 23);
 }
 
 TEST_F(ScriptFunctions, TheManualHasAllOfThem) {

@@ -61,6 +61,24 @@ INSTANTIATE_TEST_SUITE_P(
                "troppe ripetizioni"},
         Ostile{"costly pattern, anchored",
                "return ('a'):rep(1000):match('^' .. ('a*'):rep(9) .. 'b')", "troppe ripetizioni"},
+        Ostile{"costly set", "return (('a'):rep(10000)):find('[' .. ('b'):rep(1000000) .. 'a]*c')",
+               "troppe ripetizioni"},
+        Ostile{"costly back reference", "return (('a'):rep(5000)):find('(.*)%1%1c')",
+               "troppe ripetizioni"},
+        Ostile{"costly plain search",
+               "return (('a'):rep(1000000)):find(('a'):rep(500000) .. 'b', 1, true)",
+               "troppe ripetizioni"},
+        Ostile{"costly comparisons",
+               "local a, b, t = ('x'):rep(1000000) .. 'a', ('x'):rep(1000000) .. 'b', {} "
+               "for n = 1, 5000 do t[n] = n % 2 == 0 and a or b end table.sort(t)",
+               "i testi da ordinare sono troppo lunghi"},
+        Ostile{"costly comparisons by a function of the language",
+               "local a, b, t = ('x'):rep(1000000) .. 'a', ('x'):rep(1000000) .. 'b', {} "
+               "for n = 1, 5000 do t[n] = n % 2 == 0 and a or b end table.sort(t, rawequal)",
+               "i testi da ordinare sono troppo lunghi"},
+        Ostile{"searches instead of comparisons",
+               "local t = {} for n = 1, 100000 do t[n] = 'x' end table.sort(t, string.find)",
+               "limite di istruzioni"},
         Ostile{"files", "io.open('/etc/passwd')", "'io' non ha campi"},
         Ostile{"processes", "os.execute('true')", "'os' non ha campi"},
         Ostile{"modules", "require('x')", "la funzione 'require' non esiste"},
@@ -77,6 +95,9 @@ INSTANTIATE_TEST_SUITE_P(
         Ostile{"huge text", "verifica(false, ('è'):rep(100000))", "è..."},
         Ostile{"no UTF-8", "verifica(false, '\\xff\\xc0')", "??"},
         Ostile{"object as error", "error({})", "errore senza messaggio"},
+        Ostile{"nothing as error", "error()", "errore senza messaggio"},
+        Ostile{"number as error", "error(42)", "errore nello script: 42"},
+        Ostile{"zero byte in an error", "error('a\\0b')", "a\0b"},
         Ostile{"division", "return 1 // 0", "divisione per zero"}));
 
 TEST_F(HostileScript, DeepRecursionEnds) {
@@ -85,6 +106,20 @@ TEST_F(HostileScript, DeepRecursionEnds) {
   EXPECT_THAT(Rilievo_Di(ricorsione), HasSubstr("una funzione che richiama sé stessa senza fine"));
   base.Limiti.Memoria = 256U * 1024 * 1024;  // enough for the language's own bound
   EXPECT_THAT(Rilievo_Di(ricorsione), HasSubstr("(ricorsione senza fine)"));
+}
+
+TEST_F(HostileScript, ANoteKeepsNoMoreThanTheReportShows) {
+  const Esito_Progetto esito =
+      Esito({"NOP"}, "local s = ('x'):rep(1000000) print('a\\0b', s, s, s, s, s, s, s, s)");
+  EXPECT_EQ(esito.Casi[0].Note[0],
+            std::string("a\0b ", 4) + std::string(lunghezza_messaggio - 4, 'x') + "...");
+}
+
+TEST_F(HostileScript, TextsAreSortedAsBefore) {
+  EXPECT_EQ(Rilievo_Di("local t = {'c', 'a', 'b'} table.sort(t) verifica(table.concat(t) == 'abc') "
+                       "table.sort(t, function(x, y) return x > y end) "
+                       "verifica(table.concat(t) == 'cba')"),
+            "");
 }
 
 TEST_F(HostileScript, TheEmptyTextCanBeRepeatedForEver) {
@@ -156,6 +191,19 @@ INSTANTIATE_TEST_SUITE_P(
         Tradotto{"return {} < {}", "confronto fra due valori di tipo table"},
         Tradotto{"return 'a' .. {}", "unione di testi con un valore di tipo table"},
         Tradotto{"error('a modo mio')", "a modo mio"},
+        Tradotto{"return 1.5 | 2", "serve un numero intero"},
+        Tradotto{"for n = 1, 2, 0 do end", "il passo del 'for' è zero"},
+        Tradotto{"for n = 1, {} do end",
+                 "i valori del 'for' devono essere numeri, e non di tipo table"},
+        Tradotto{"local t = {} t[nil] = 1", "l'indice di una tabella non può essere nil"},
+        Tradotto{"return table.concat({{}})",
+                 "il campo 1 della tabella non si può unire, perché è di tipo table"},
+        Tradotto{"return ('a'):find('[a')", "il modello di ricerca è scritto male"},
+        Tradotto{"return ('a'):find(('()'):rep(40))", "il modello di ricerca non va bene"},
+        Tradotto{"return ('%y'):format(1)", "il formato di un numero o testo è scritto male"},
+        Tradotto{"return table.unpack({}, 1, 1e8)", "troppi valori in una volta"},
+        Tradotto{"return ('x'):rep(1.5)", "l'argomento 1 di 'rep' non va bene"},
+        Tradotto{"usa()", "usa: l'argomento 1 deve essere un testo"},
         Tradotto{"premi()", "premi: l'argomento 1 deve essere un testo"},
         Tradotto{"attendi(-1)",
                  "attendi: l'argomento 1 deve essere un numero intero tra 0 e 86400000"},
@@ -231,6 +279,23 @@ TEST_F(HostileProject, TheListingPointsAtTheLine) {
   EXPECT_EQ(esito.Casi[0].Listato, "  0  LD SM0.0\n> 1  S M0.7, 5\n  2  NOP\n  3  MEND\n");
   const Esito_Progetto errato = Esito({"FOO"}, "prova('x', function() end)");
   EXPECT_THAT(errato.Casi[0].Listato, HasSubstr("-> Istruzione non riconosciuta"));
+}
+
+TEST_F(HostileProject, WithoutTheEndOfTheScanItEndsFatally) {
+  File("consegna.AWL", "SUBROUTINE_BLOCK A:SBR0\r\nBEGIN\r\nNOP\r\n");
+  EXPECT_EQ(Prova({(cartella / "consegna.AWL").string(),
+                   File("s.lua", "prova('x', function() run() attendi(5) punti(1, true) end)")}),
+            1);
+  EXPECT_THAT(out, HasSubstr("0 ms: Errore fatale del programma: Indice fuori dalla tabella"));
+  EXPECT_THAT(out, HasSubstr("Superati 0 casi su 1. Punti: 0 su 1.\n"));
+}
+
+TEST_F(HostileProject, CannotWriteOnTheTerminalWithItsText) {
+  EXPECT_EQ(Prova({Progetto_Con({"FOO\x1b[2J"}),
+                   File("s.lua", "print('\\27[1m\\nb') verifica(false, 'c\\27[1m')")}),
+            1);
+  EXPECT_THAT(out, HasSubstr("FOO"));
+  EXPECT_EQ(out.find('\x1b'), std::string::npos) << out;
 }
 
 TEST_F(HostileProject, FailsEvenAScriptThatAsksNothing) {

@@ -7,6 +7,7 @@
 #include <map>
 
 #include "grading_bed.h"
+#include "xml_reader.h"
 
 namespace tavorno::prova {
 
@@ -134,6 +135,32 @@ TEST_F(Trace, TheDiagramOfBareInputsShowsOnlyWhatHappens) {
     EXPECT_THAT(svg, HasSubstr(parte));
   for (const char* parte : {">I0.2</text>", ">Q0.1</text>", ">AIW0</text>"})
     EXPECT_THAT(svg, ::testing::Not(HasSubstr(parte)));
+}
+
+TEST_F(Trace, LongTimesAreMinutesAndShortOnesFractions) {
+  Registra({"NOP"}, "prova('x', function() attendi(4 * 3600000) end)", "");
+  for (const char* parte : {">0 min</text>", ">240 min</text>"}) EXPECT_THAT(svg, HasSubstr(parte));
+  Registra({"NOP"}, "prova('x', function() attendi(3) end)", "");
+  EXPECT_THAT(svg, HasSubstr(">0,003 s</text>"));
+}
+
+TEST_F(Trace, TheLastTimeStandsInsideTheDiagram) {
+  Registra({"NOP"}, "prova('x', function() attendi(3000000) end)", "");
+  const Elemento_Xml disegno = Lettore_Xml(svg).Leggi();
+  for (const Elemento_Xml& figlio : disegno.Figli) {
+    if (figlio.Nome != "text" || figlio.Attributi.at("text-anchor") != "middle") continue;
+    const double mezza = static_cast<double>(figlio.Testo.size()) * 3.6;
+    EXPECT_LT(std::stod(figlio.Attributi.at("x")) + mezza, std::stod(disegno.Attributi.at("width")))
+        << figlio.Testo;
+  }
+}
+
+TEST_F(Trace, ACurveThatGoesBelowZeroHasItsZeroLine) {
+  Registra({"NOP"}, "prova('x', function() run() analogico(0, -5) attendi(500) end)", "");
+  EXPECT_THAT(svg, HasSubstr(">-5</text>"));
+  EXPECT_THAT(svg, HasSubstr(">0</text>"));
+  Registra({"NOP"}, "prova('x', function() run() analogico(0, 5) attendi(500) end)", "");
+  EXPECT_THAT(svg, ::testing::Not(HasSubstr(">-5</text>")));
 }
 
 TEST_F(Trace, AnEmptyOneIsStillAFile) {
