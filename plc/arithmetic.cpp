@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Integer and double arithmetic, INC and DEC. The instructions differ in what they refuse, limit
 // and flag by design; each keeps its own rule.
-#include "plc/checked.h"
-#include "plc/plc.h"
+#include "plc/operands.h"
 
 namespace tavorno {
 
@@ -28,100 +27,15 @@ bool In_16(long long valore) {
 }
 }  // namespace
 
-// ---- operands -----------------------------------------------------------------------------------
-
-bool Plc::Intero_OUT(const Riga_PLC& riga, std::int32_t& valore) const {
-  switch (riga.Codice2) {
-    case Area::VW:
-      valore = Mem_VW[riga.Num2];
-      return true;
-    case Area::AC:
-      valore = Arrotonda(Mem_AC[riga.Num2]);
-      return true;
-    case Area::T:
-      valore = Mem_T[riga.Num2].Val;
-      return true;
-    case Area::C:
-      valore = Mem_C[riga.Num2].Val;
-      return true;
-    default:
-      return false;
-  }
-}
-
-bool Plc::Intero_IN(const Riga_PLC& riga, std::int32_t& valore) const {
-  switch (riga.Codice1) {
-    case Area::VW:
-      valore = Mem_VW[riga.Num1];
-      return true;
-    case Area::AC:
-      valore = Arrotonda(Mem_AC[riga.Num1]);
-      return true;
-    case Area::K:
-      valore = riga.Num1;
-      return true;
-    case Area::AIW:
-      valore = Mem_AIW[riga.Num1];
-      return true;
-    case Area::T:
-      valore = Mem_T[riga.Num1].Val;
-      return true;
-    case Area::C:
-      valore = Mem_C[riga.Num1].Val;
-      return true;
-    default:
-      return false;
-  }
-}
-
-void Plc::Scrivi_Intero(const Riga_PLC& riga, std::int16_t valore) {
-  switch (riga.Codice2) {
-    case Area::VW:
-      Mem_VW[riga.Num2] = valore;
-      break;
-    case Area::AC:
-      Mem_AC[riga.Num2] = static_cast<float>(valore);
-      break;
-    case Area::T:
-      Mem_T[riga.Num2].Val = valore;
-      break;
-    case Area::C:
-      Mem_C[riga.Num2].Val = valore;
-      break;
-    default:
-      break;
-  }
-}
-
-bool Plc::Doppia_OUT(const Riga_PLC& riga, std::int32_t& valore) const {
-  switch (riga.Codice2) {
-    case Area::VD:
-      valore = Mem_VD[riga.Num2];
-      return true;
-    case Area::AC:
-      valore = Arrotonda(Mem_AC[riga.Num2]);
-      return true;
-    default:
-      return false;
-  }
-}
-
-void Plc::Scrivi_Doppia(const Riga_PLC& riga, std::int32_t valore) {
-  if (riga.Codice2 == Area::VD)
-    Mem_VD[riga.Num2] = valore;
-  else if (riga.Codice2 == Area::AC)
-    Mem_AC[riga.Num2] = static_cast<float>(valore);
-}
-
-// ---- +I, -I: an overflow is flagged and not written
-// ----------------------------------------------
+// ---- +I, -I: an overflow is flagged and not written ---------------------------------------------
 
 Esito Plc::Somma_Algebrica_I(const Riga_PLC& riga, int segno, const char* nome) {
   if (!Flusso(riga)) return Esito::Avanti;
   std::int32_t in = 0;
   std::int32_t out = 0;
-  if (!Intero_IN(riga, in) || !Intero_OUT(riga, out)) return Esito::Errore;
-  if (in > massimo_16 || out > massimo_16) return Esito::Errore;
+  if (!Primo(riga, operandi::intero_IN, in) || !Secondo(riga, operandi::intero_OUT, out) ||
+      in > massimo_16 || out > massimo_16)
+    return Esito::Errore;
   const std::int32_t risultato =
       A_32(static_cast<long long>(out) + segno * static_cast<long long>(in), nome);
   Flag_Z_N(risultato);
@@ -130,7 +44,7 @@ Esito Plc::Somma_Algebrica_I(const Riga_PLC& riga, int segno, const char* nome) 
     return Esito::Avanti;
   }
   Mem_SM[1].Bit[1] = 0;
-  Scrivi_Intero(riga, static_cast<std::int16_t>(risultato));
+  Scrivi_Secondo(riga, operandi::intero_OUT, risultato);
   return Esito::Avanti;
 }
 
@@ -141,26 +55,25 @@ Esito Plc::Istr_Sottrai_I(Riga_PLC& riga) {
   return Somma_Algebrica_I(riga, -1, "-I");
 }
 
-// ---- *I, /I: an overflow is flagged and written as 32767, whatever its sign
-// ----------------------
+// ---- *I, /I: an unknown area counts as 0, an overflow is flagged and written as 32767 -----------
 
 void Plc::Concludi_Prodotto_I(const Riga_PLC& riga, std::int32_t risultato) {
   Flag_Z_N(risultato);
-  if (!In_16(risultato)) {
+  if (In_16(risultato)) {
+    Mem_SM[1].Bit[1] = 0;
+  } else {
+    risultato = massimo_16;
     Flag_V();
-    Scrivi_Intero(riga, massimo_16);
-    return;
   }
-  Mem_SM[1].Bit[1] = 0;
-  Scrivi_Intero(riga, static_cast<std::int16_t>(risultato));
+  Scrivi_Secondo(riga, operandi::intero_OUT, risultato);
 }
 
 Esito Plc::Istr_Molt_I(Riga_PLC& riga) {
   if (!Flusso(riga)) return Esito::Avanti;
   std::int32_t in = 0;
   std::int32_t out = 0;
-  Intero_IN(riga, in);  // an unknown area counts as 0
-  Intero_OUT(riga, out);
+  Primo(riga, operandi::intero_IN, in);
+  Secondo(riga, operandi::intero_OUT, out);
   Concludi_Prodotto_I(riga, A_32(static_cast<long long>(out) * in, "*I"));
   return Esito::Avanti;
 }
@@ -169,48 +82,45 @@ Esito Plc::Istr_Divi_I(Riga_PLC& riga) {
   if (!Flusso(riga)) return Esito::Avanti;
   std::int32_t in = 0;
   std::int32_t out = 0;
-  Intero_IN(riga, in);
-  Intero_OUT(riga, out);
-  if (in == 0) {
+  Primo(riga, operandi::intero_IN, in);
+  Secondo(riga, operandi::intero_OUT, out);
+  if (in == 0)
     Mem_SM[1].Bit[3] = 1;
-    return Esito::Avanti;
-  }
-  Concludi_Prodotto_I(riga, A_32(static_cast<long long>(out) / in, "/I"));
+  else
+    Concludi_Prodotto_I(riga, A_32(static_cast<long long>(out) / in, "/I"));
   return Esito::Avanti;
 }
 
-// ---- double words -------------------------------------------------------------------------------
+// ---- double words: an unknown OUT counts as 0, an unknown IN only in *D and /D ------------------
+
+void Plc::Concludi_Doppia(const Riga_PLC& riga, std::int32_t risultato) {
+  Flag_Z_N(risultato);
+  Mem_SM[1].Bit[1] = 0;
+  Scrivi_Secondo(riga, operandi::doppia_OUT, risultato);
+}
 
 Esito Plc::Istr_Somma_D(Riga_PLC& riga) {
   if (!Flusso(riga)) return Esito::Avanti;
   std::int32_t in = 0;
   std::int32_t out = 0;
-  if (!Sorgente_D(riga.Codice1, riga.Num1, in)) return Esito::Errore;
-  Doppia_OUT(riga, out);
-  std::int32_t risultato = A_32(static_cast<long long>(out) + in, "+D");
-  Flag_Z_N(risultato);
-  if (risultato > massimo_16) {  // +D alone saturates at the 16-bit limit
-    risultato = massimo_16;
-    Flag_V();
-  } else {
-    Mem_SM[1].Bit[1] = 0;
+  if (!Primo(riga, operandi::doppia, in)) return Esito::Errore;
+  Secondo(riga, operandi::doppia_OUT, out);
+  const std::int32_t risultato = A_32(static_cast<long long>(out) + in, "+D");
+  if (risultato <= massimo_16) {
+    Concludi_Doppia(riga, risultato);
+    return Esito::Avanti;
   }
-  Scrivi_Doppia(riga, risultato);
+  Flag_V();  // +D alone saturates at the 16-bit limit
+  Scrivi_Secondo(riga, operandi::doppia_OUT, massimo_16);
   return Esito::Avanti;
-}
-
-void Plc::Concludi_Doppia(const Riga_PLC& riga, std::int32_t risultato) {
-  Flag_Z_N(risultato);
-  Mem_SM[1].Bit[1] = 0;
-  Scrivi_Doppia(riga, risultato);
 }
 
 Esito Plc::Istr_Sottrai_D(Riga_PLC& riga) {
   if (!Flusso(riga)) return Esito::Avanti;
   std::int32_t in = 0;
   std::int32_t out = 0;
-  if (!Sorgente_D(riga.Codice1, riga.Num1, in)) return Esito::Errore;
-  Doppia_OUT(riga, out);
+  if (!Primo(riga, operandi::doppia, in)) return Esito::Errore;
+  Secondo(riga, operandi::doppia_OUT, out);
   Concludi_Doppia(riga, A_32(static_cast<long long>(out) - in, "-D"));
   return Esito::Avanti;
 }
@@ -219,8 +129,8 @@ Esito Plc::Istr_Molt_D(Riga_PLC& riga) {
   if (!Flusso(riga)) return Esito::Avanti;
   std::int32_t in = 0;
   std::int32_t out = 0;
-  Sorgente_D(riga.Codice1, riga.Num1, in);  // an unknown area counts as 0
-  Doppia_OUT(riga, out);
+  Primo(riga, operandi::doppia, in);
+  Secondo(riga, operandi::doppia_OUT, out);
   Concludi_Doppia(riga, A_32(static_cast<long long>(out) * in, "*D"));
   return Esito::Avanti;
 }
@@ -229,74 +139,52 @@ Esito Plc::Istr_Divi_D(Riga_PLC& riga) {
   if (!Flusso(riga)) return Esito::Avanti;
   std::int32_t in = 0;
   std::int32_t out = 0;
-  Sorgente_D(riga.Codice1, riga.Num1, in);
-  Doppia_OUT(riga, out);
-  if (in == 0) {
+  Primo(riga, operandi::doppia, in);
+  Secondo(riga, operandi::doppia_OUT, out);
+  if (in == 0)
     Mem_SM[1].Bit[3] = 1;
-    return Esito::Avanti;
-  }
-  Concludi_Doppia(riga, A_32(static_cast<long long>(out) / in, "/D"));
+  else
+    Concludi_Doppia(riga, A_32(static_cast<long long>(out) / in, "/D"));
   return Esito::Avanti;
 }
 
-// ---- INC, DEC: the value is written first, and then judged
-// ---------------------------------------
+// ---- INC, DEC: the value is written first, and then judged --------------------------------------
 
-/// Adds `passo` (1 or -1) to the operand and flags a result outside `minimo`..`massimo`. `cella` is
-/// the area with cells of its own width; the other one is AC.
-template <class Cella>
-Esito Plc::IncDec(const Riga_PLC& riga, Area area, Cella& tabella, int passo, long long minimo,
-                  long long massimo) {
+/// Adds `passo` (1 or -1) to the operand, a cell of `Celle` or an accumulator, and flags a result
+/// outside the limits.
+template <Area Celle, int Minimo, int Massimo>
+Esito Plc::IncDec(const Riga_PLC& riga, int passo) {
   if (!Flusso(riga)) return Esito::Avanti;
-  long long risultato = 0;
-  if (riga.Codice1 == area) {
-    auto& cella = tabella[riga.Num1];
-    risultato = static_cast<long long>(cella) + passo;
-    if constexpr (sizeof(cella) == 2)
-      cella = A_16(risultato, "INC/DEC");
-    else
-      cella = A_32(risultato, "INC/DEC");
-  } else if (riga.Codice1 == Area::AC) {
-    risultato = A_32(static_cast<long long>(Arrotonda(Mem_AC[riga.Num1])) + passo, "INC/DEC");
-    Mem_AC[riga.Num1] = static_cast<float>(risultato);
-  } else {
-    return Esito::Errore;
-  }
+  constexpr Insieme ammesse{Celle, Area::AC};
+  std::int32_t valore = 0;
+  if (!Primo(riga, ammesse, valore)) return Esito::Errore;
+  const std::int32_t risultato = A_32(static_cast<long long>(valore) + passo, "INC/DEC");
+  Scrivi(ammesse, riga.Codice1, riga.Num1, risultato);
   Flag_Z_N(risultato);
-  if (risultato < minimo || risultato > massimo)
+  if (risultato < Minimo || risultato > Massimo)
     Flag_V();
   else
     Mem_SM[1].Bit[1] = 0;
   return Esito::Avanti;
 }
 
-Esito Plc::IncDec_B(const Riga_PLC& riga, int passo) {
-  return IncDec(riga, Area::VB, Mem_VB, passo, -128, 127);
-}
-Esito Plc::IncDec_W(const Riga_PLC& riga, int passo) {
-  return IncDec(riga, Area::VW, Mem_VW, passo, -32768, massimo_16);
-}
-Esito Plc::IncDec_D(const Riga_PLC& riga, int passo) {
-  return IncDec(riga, Area::VD, Mem_VD, passo, INT32_MIN, INT32_MAX);
-}
-
 Esito Plc::Istr_INCB(Riga_PLC& riga) {
-  return IncDec_B(riga, 1);
+  return IncDec<Area::VB, -128, 127>(riga, 1);
 }
 Esito Plc::Istr_DECB(Riga_PLC& riga) {
-  return IncDec_B(riga, -1);
+  return IncDec<Area::VB, -128, 127>(riga, -1);
 }
 Esito Plc::Istr_INCW(Riga_PLC& riga) {
-  return IncDec_W(riga, 1);
+  return IncDec<Area::VW, -32768, massimo_16>(riga, 1);
 }
 Esito Plc::Istr_DECW(Riga_PLC& riga) {
-  return IncDec_W(riga, -1);
+  return IncDec<Area::VW, -32768, massimo_16>(riga, -1);
 }
 Esito Plc::Istr_INCD(Riga_PLC& riga) {
-  return IncDec_D(riga, 1);
+  return IncDec<Area::VD, INT32_MIN, INT32_MAX>(riga, 1);
 }
 Esito Plc::Istr_DECD(Riga_PLC& riga) {
-  return IncDec_D(riga, -1);
+  return IncDec<Area::VD, INT32_MIN, INT32_MAX>(riga, -1);
 }
 
 }  // namespace tavorno

@@ -11,8 +11,12 @@ bool Vale(Relazione relazione, std::int32_t primo, std::int32_t secondo) {
 }
 }  // namespace
 
-Esito Plc::Concludi_Confronto(const Riga_PLC& riga, std::int32_t primo, std::int32_t secondo,
-                              std::int16_t err) {
+/// The second operand is read first; a failure of either leaves the stack alone.
+template <auto Lettura>
+Esito Plc::Confronto(const Riga_PLC& riga) {
+  std::int16_t err = 0;
+  const std::int32_t secondo = (this->*Lettura)(riga.Codice2, riga.Num2, err);
+  const std::int32_t primo = (this->*Lettura)(riga.Codice1, riga.Num1, err);
   if (err) return Esito::Errore;
   const std::int16_t r = Vale(riga.Confronto, primo, secondo) ? 1 : 0;
   switch (riga.Unione) {
@@ -29,27 +33,14 @@ Esito Plc::Concludi_Confronto(const Riga_PLC& riga, std::int32_t primo, std::int
   return Esito::Avanti;
 }
 
-// The second operand is read first; a failure of either leaves the stack alone.
-
 Esito Plc::Istr_Confronto_B(Riga_PLC& riga) {
-  std::int16_t err = 0;
-  const std::int32_t secondo = Leggi_B(riga.Codice2, riga.Num2, err);
-  const std::int32_t primo = Leggi_B(riga.Codice1, riga.Num1, err);
-  return Concludi_Confronto(riga, primo, secondo, err);
+  return Confronto<&Plc::Leggi_B>(riga);
 }
-
 Esito Plc::Istr_Confronto_W(Riga_PLC& riga) {
-  std::int16_t err = 0;
-  const std::int32_t secondo = Leggi_W(riga.Codice2, riga.Num2, err);
-  const std::int32_t primo = Leggi_W(riga.Codice1, riga.Num1, err);
-  return Concludi_Confronto(riga, primo, secondo, err);
+  return Confronto<&Plc::Leggi_W>(riga);
 }
-
 Esito Plc::Istr_Confronto_D(Riga_PLC& riga) {
-  std::int16_t err = 0;
-  const std::int32_t secondo = Leggi_D(riga.Codice2, riga.Num2, err);
-  const std::int32_t primo = Leggi_D(riga.Codice1, riga.Num1, err);
-  return Concludi_Confronto(riga, primo, secondo, err);
+  return Confronto<&Plc::Leggi_D>(riga);
 }
 
 }  // namespace tavorno

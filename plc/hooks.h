@@ -21,8 +21,9 @@ struct Avviso {
 
 /// The only way from the CPU to a window. Every member may stay empty.
 struct Ganci {
-  std::function<void()> Cedi;  ///< the yield of a run: called before its first line, at the top of
-                               ///< each scan, and otherwise every `Righe_Per_Cessione` lines
+  /// The yield of a run: called before its first line, at the top of each scan, otherwise every
+  /// `Righe_Per_Cessione` lines, and at each line while Ciclo looks for the one to stop at.
+  std::function<void()> Cedi;
   int Righe_Per_Cessione = 1;
   std::function<void(const Avviso&)> Mostra;  ///< a message box; returns when it is closed
 };

@@ -13,6 +13,8 @@
 
 namespace tavorno {
 
+class Insieme;
+
 /// Execution modes, with the numbers of `Modo_Run`.
 enum class Modo : std::uint8_t { Cont = 0, Step = 1, Ciclo = 2 };
 
@@ -234,34 +236,29 @@ struct Plc : Memoria {
   /// bit: gathering the eight cells again would wait for the one that was just written.
   void Scrivi_Marker(int riga, int bit, std::uint8_t valore);
 
-  // operands.cpp: raw values before any limit; false for an area that the width cannot read
-  bool Sorgente_B(Area area, int num, std::int32_t& valore) const;
-  bool Sorgente_W(Area area, int num, std::int32_t& valore) const;
-  bool Sorgente_D(Area area, int num, std::int32_t& valore) const;
+  // operands.h: the value of an operand before any limit, and the write of one; false for an area
+  // that is not in the set
+  bool Leggi(Insieme ammesse, Area area, int num, std::int32_t& valore) const;
+  bool Primo(const Riga_PLC& riga, Insieme ammesse, std::int32_t& valore) const;
+  bool Secondo(const Riga_PLC& riga, Insieme ammesse, std::int32_t& valore) const;
+  bool Scrivi(Insieme ammesse, Area area, int num, std::int32_t valore);
+  bool Scrivi_Secondo(const Riga_PLC& riga, Insieme ammesse, std::int32_t valore);
 
-  bool Preset(const Riga_PLC& riga, std::int16_t& preset) const;
-  bool Preset_Timer(const Riga_PLC& riga, std::int16_t& preset) const;
-  bool Sorgente_B_SM(const Riga_PLC& riga, std::int32_t& valore) const;
-  Esito Concludi_Confronto(const Riga_PLC& riga, std::int32_t primo, std::int32_t secondo,
-                           std::int16_t err);
+  Riga_Timer* Prendi_Timer(const Riga_PLC& riga);
+  Riga_Contatore* Prendi_Contatore(const Riga_PLC& riga);
+  Esito Ritardo_Inserzione(const Riga_PLC& riga, bool con_memoria);
+
+  template <auto Lettura>
+  Esito Confronto(const Riga_PLC& riga);
 
   // arithmetic.cpp
   void Flag_Z_N(long long risultato);
   void Flag_V();
-  bool Intero_IN(const Riga_PLC& riga, std::int32_t& valore) const;
-  bool Intero_OUT(const Riga_PLC& riga, std::int32_t& valore) const;
-  void Scrivi_Intero(const Riga_PLC& riga, std::int16_t valore);
-  bool Doppia_OUT(const Riga_PLC& riga, std::int32_t& valore) const;
-  void Scrivi_Doppia(const Riga_PLC& riga, std::int32_t valore);
   Esito Somma_Algebrica_I(const Riga_PLC& riga, int segno, const char* nome);
   void Concludi_Prodotto_I(const Riga_PLC& riga, std::int32_t risultato);
   void Concludi_Doppia(const Riga_PLC& riga, std::int32_t risultato);
-  template <class Cella>
-  Esito IncDec(const Riga_PLC& riga, Area area, Cella& tabella, int passo, long long minimo,
-               long long massimo);
-  Esito IncDec_B(const Riga_PLC& riga, int passo);
-  Esito IncDec_W(const Riga_PLC& riga, int passo);
-  Esito IncDec_D(const Riga_PLC& riga, int passo);
+  template <Area Celle, int Minimo, int Massimo>
+  Esito IncDec(const Riga_PLC& riga, int passo);
 
   void Ferma_Timer(const Riga_PLC& riga);
   Esito Esegui_Ramo(int numero);

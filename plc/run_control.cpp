@@ -94,6 +94,7 @@ void Plc::mnuPlcStop() {
   Attivi.mnuPlcStep = true;
   Attivi.mnuPlcCont = true;
   Attivi.CmdStep = false;
+  Attivi.cmdRest = false;  // resumed, the program would run where no Stop can be given
   Ferma = -1;
   tim1.Enabled(false);
   tim2.Enabled(false);
@@ -172,13 +173,15 @@ void Plc::Cicla() {
 void Plc::Cicla_Ciclo() {
   if (in_ciclo_) return;
   const In_Corso in_corso(in_ciclo_);
+  const auto cicli_fatti = [this] { return Scelte.chkSol && Scelte.txtNC == N_Cicli; };
   for (;;) {
     if (Hook.Cedi) Hook.Cedi();
-    Esegui_Righe(Scelte.chkStop ? 1 : Hook.Righe_Per_Cessione);
+    // `N_Cicli` moves at the end of a scan only, which is where many lines end as well.
+    const bool a_ogni_riga = Scelte.chkStop || cicli_fatti();
+    Esegui_Righe(a_ogni_riga ? 1 : Hook.Righe_Per_Cessione);
     if (Ferma) return;
     const bool alla_riga = Scelte.chkStop && Scelte.txtStop == PC;
-    const bool dopo_i_cicli = Scelte.chkSol && Scelte.txtNC == N_Cicli;
-    if (!alla_riga && !dopo_i_cicli) continue;
+    if (!alla_riga && !cicli_fatti()) continue;
     Lista_Scelta = alla_riga ? PC : NRighe;
     Attivi.cmdRest = true;
     Attivi.CmdStep = true;

@@ -112,7 +112,8 @@ void Plc::StartTimer() {
 }
 
 void Plc::StopTimer() {
-  Tempo_Ciclo = static_cast<std::int32_t>(Tempo.Adesso()) - T_Inizio;
+  // The start is kept in 32 bits, and so is the difference, whatever the clock reads by then.
+  Tempo_Ciclo = static_cast<std::int32_t>(Tempo.Adesso() - T_Inizio);
 }
 
 void Plc::Setta_Uscite() {

@@ -90,6 +90,14 @@ TEST_F(RunLoop, CommandsAtAPauseAndAfterItsResumption) {
   EXPECT_EQ(Stato(plc), "0101111 1");
 }
 
+TEST_F(RunLoop, StopAtAPauseTakesTheResumptionAway) {
+  plc.mnuPlcCiclo();
+  plc.Scelte.chkSol = true;
+  plc.mnuPlcRun();
+  plc.mnuPlcStop();
+  EXPECT_EQ(Stato(plc), "1011100 1");
+}
+
 // ---- Run ----------------------------------------------------------------------------------------
 
 TEST_F(RunLoop, RunInContStartsFromLineZeroInAFirstScan) {
@@ -312,27 +320,26 @@ TEST_F(RunLoop, YieldsAtTheTopOfEachScanAndEverySoManyLines) {
   EXPECT_EQ(plc.PC, 1);
 }
 
-TEST_F(RunLoop, ManyLinesAtATimeDoNotRunPastTheLineToStopAt) {
+TEST_F(RunLoop, ManyLinesAtATimeStopWhereOneWould) {
+  const struct {
+    bool a_una_riga;  // else after so many scans
+    int numero, pc, cicli, scelta;
+  } casi[] = {{true, 2, 2, 0, 2}, {false, 2, 0, 2, 3}, {false, 0, 1, 0, 3}};
   plc.Hook.Righe_Per_Cessione = 100;
-  Alla_Cessione(-1, [] {});
   plc.mnuPlcCiclo();
-  plc.Scelte.chkStop = true;
-  plc.Scelte.txtStop = 2;
-  plc.mnuPlcRun();
-  EXPECT_EQ(plc.PC, 2);
-  EXPECT_EQ(plc.N_Cicli, 0);
-}
-
-TEST_F(RunLoop, ManyLinesAtATimeDoNotRunPastTheScanToStopAfter) {
-  plc.Hook.Righe_Per_Cessione = 100;
-  Alla_Cessione(-1, [] {});
-  plc.mnuPlcCiclo();
-  plc.Scelte.chkSol = true;
-  plc.Scelte.txtNC = 2;
-  plc.mnuPlcRun();
-  EXPECT_EQ(passi, (std::vector<int>{0, 0}));
-  EXPECT_EQ(plc.PC, 0);
-  EXPECT_EQ(plc.N_Cicli, 2);
+  for (const auto& [a_una_riga, numero, pc, cicli, scelta] : casi) {
+    SCOPED_TRACE(numero);
+    passi.clear();
+    Alla_Cessione(-1, [] {});
+    plc.Scelte.chkStop = a_una_riga;
+    plc.Scelte.chkSol = !a_una_riga;
+    plc.Scelte.txtStop = plc.Scelte.txtNC = numero;
+    plc.mnuPlcRun();
+    EXPECT_EQ(plc.PC, pc);
+    EXPECT_EQ(plc.N_Cicli, cicli);
+    EXPECT_EQ(plc.Lista_Scelta, scelta);
+    plc.mnuPlcStop();
+  }
 }
 
 TEST_F(RunLoop, ContOnAStoppedPlcOnlyChoosesTheMode) {

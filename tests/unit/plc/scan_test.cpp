@@ -285,6 +285,16 @@ TEST_F(Scan, MendWritesTheOutputsBeforeItCountsTheScan) {
   EXPECT_EQ(plc.PC, 0);
 }
 
+TEST_F(Scan, TimeOfAScanIsRightAlsoWhenTheClockOutgrowsThirtyTwoBits) {
+  Carica({"NOP"});
+  orologio.Avanza(std::numeric_limits<std::int32_t>::max() - 2LL);
+  plc.Esegui_Riga();
+  orologio.Avanza(10);
+  plc.Esegui_Riga();
+  EXPECT_EQ(plc.N_Cicli, 1);
+  EXPECT_EQ(plc.Tempo_Ciclo, 10);
+}
+
 TEST_F(Scan, Sm06TogglesFromScanToScan) {
   Carica({"NOP"});
   Run_Step();

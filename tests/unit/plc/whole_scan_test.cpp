@@ -106,4 +106,48 @@ TEST_F(WholeScan, StopPutsAllOutputsOff) {
   EXPECT_EQ(plc.IP_Q[0].Val_B + plc.IP_Q[1].Val_B, 0);
 }
 
+class LinesAtATime : public Cpu, public ::testing::WithParamInterface<int> {
+ protected:
+  /// Sixty scans and a line, in a yield that counts the inputs up and lets 40 ms pass before each.
+  void Corri(Cpu& cpu, int righe) const {
+    cpu.Carica({"NETWORK 1",     "LD I0.0",      "EU",        "LD I0.3",    "CTU C1, +9",
+                "LD I0.1",       "TON T37, +3",  "LD T37",    "= M0.5",     "LD I0.2",
+                "JMP 1",         "LD SM0.0",     "INCW VW0",  "TOF T38, 2", "LBL 1",
+                "LD I0.1",       "LSCR S0.0",    "= Q0.3",    "SCRE",       "LDN S0.0",
+                "= S0.0",        "LDW>= C1, +4", "CALL DUE",  "LDN M4.0",   "CALL UNO",
+                "MOVW MW0, VW3", "MEND",         "SBR0 UNO",  "CALL DUE",   "S M4.0, 1",
+                "RET",           "SBR1 DUE",     "S Q1.0, 2", "INCW VW1",   "RET"});
+    cpu.plc.Hook.Righe_Per_Cessione = righe;
+    cpu.plc.Hook.Cedi = [&cpu, visti = 0]() mutable {
+      if (cpu.plc.N_Cicli == visti) return;
+      visti = cpu.plc.N_Cicli;
+      for (int bit = 0; bit <= 3; ++bit) cpu.Ingresso(0, bit, (visti >> bit & 1) != 0);
+      cpu.orologio.Avanza(40);
+      if (visti == 60) cpu.plc.Ferma = -1;
+    };
+    cpu.plc.Scelte.chkIP = true;
+    cpu.plc.mnuPlcRun();
+  }
+};
+
+TEST_P(LinesAtATime, LeaveWhatOneLineAtATimeLeaves) {
+  struct Altra : Cpu {
+    void TestBody() override {}
+  } altra;
+  Corri(altra, 1);
+  Corri(*this, GetParam());
+  EXPECT_TRUE(static_cast<const Memoria&>(plc) == altra.plc);
+  EXPECT_EQ(plc.N_Cicli, 60);
+  EXPECT_EQ(plc.N_Cicli, altra.plc.N_Cicli);
+  EXPECT_EQ(plc.Tempo_Ciclo, altra.plc.Tempo_Ciclo);
+  EXPECT_EQ(plc.etTime, altra.plc.etTime);
+  EXPECT_EQ(plc.etIPQ, altra.plc.etIPQ);
+  EXPECT_EQ(plc.etIPI, altra.plc.etIPI);
+  EXPECT_EQ(plc.SQ[0].Stato_Q() + plc.SQ[1].Stato_Q(),
+            altra.plc.SQ[0].Stato_Q() + altra.plc.SQ[1].Stato_Q());
+  EXPECT_GT(plc.Mem_VW[0] * plc.Mem_VW[1] * plc.Mem_C[1].Val, 0);  // every part of it was at work
+}
+
+INSTANTIATE_TEST_SUITE_P(Some, LinesAtATime, ::testing::Values(2, 3, 7, 24, 96));
+
 }  // namespace tavorno::prova

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+
+#include "plc/checked.h"
+#include "plc/plc.h"
+
+namespace tavorno {
+
+/// A set of areas.
+class Insieme {
+ public:
+  constexpr Insieme(std::initializer_list<Area> aree) {
+    for (const Area area : aree) bit_ |= Bit(area);
+  }
+  constexpr bool Contiene(Area area) const { return (bit_ & Bit(area)) != 0; }
+
+ private:
+  static constexpr std::uint32_t Bit(Area area) { return 1U << static_cast<unsigned>(area); }
+  static_assert(static_cast<unsigned>(Area::LW) < 32);
+
+  std::uint32_t bit_ = 0;
+};
+
+/// The areas that an operand may name while the program runs. They differ from what the line
+/// checker lets through, and from instruction to instruction, by design.
+namespace operandi {
+using enum Area;
+inline constexpr Insieme byte{VB, AC, IB, QB, MB, K};
+inline constexpr Insieme byte_con_SM{VB, AC, IB, QB, MB, K, SMB};
+inline constexpr Insieme parola{VW, AC, IW, QW, MW, K, AIW, T, C};
+inline constexpr Insieme doppia{VD, AC, K};
+inline constexpr Insieme preset{K, VW};
+inline constexpr Insieme preset_timer{K, VW, AC};
+inline constexpr Insieme intero_IN{VW, AC, K, AIW, T, C};
+
+// read and written
+inline constexpr Insieme intero_OUT{VW, AC, T, C};
+inline constexpr Insieme doppia_OUT{VD, AC};
+
+// written only
+inline constexpr Insieme byte_OUT{VB, AC};
+inline constexpr Insieme parola_OUT{VW, AC};
+inline constexpr Insieme parola_o_analogica_OUT{VW, AC, AQW};
+}  // namespace operandi
+
+/// The word operands of bit areas are the reading-order text taken as a decimal number: the byte
+/// with bits 2 and 0 set reads as 101. `tabella` and `riga` are for the report of an empty text.
+std::int32_t Parola(const std::string& testo, const char* tabella, int riga);
+
+// Inlined, so that of the areas only those of the set at hand are left; and no `optional`, which
+// would be put together in memory.
+
+[[gnu::always_inline]] inline bool Plc::Leggi(Insieme ammesse, Area area, int num,
+                                              std::int32_t& valore) const {
+  const auto e = [ammesse, area](Area una) { return ammesse.Contiene(una) && area == una; };
+  if (e(Area::VW))
+    valore = Mem_VW[num];
+  else if (e(Area::K))
+    valore = num;
+  else if (e(Area::VD))
+    valore = Mem_VD[num];
+  else if (e(Area::VB))
+    valore = Mem_VB[num];
+  else if (e(Area::AC))
+    valore = Arrotonda(Mem_AC[num]);
+  else if (e(Area::T))
+    valore = Mem_T[num].Val;
+  else if (e(Area::C))
+    valore = Mem_C[num].Val;
+  else if (e(Area::AIW))
+    valore = Mem_AIW[num];
+  else if (e(Area::IB))
+    valore = IP_I[num].Val_B;
+  else if (e(Area::QB))
+    valore = IP_Q[num].Val_B;
+  else if (e(Area::MB))
+    valore = Mem_M[num].Val_B;
+  else if (e(Area::SMB))
+    valore = Mem_SM[num].Val_B;
+  else if (e(Area::IW))
+    valore = Parola(IP_I[num].Txt_B, "IP_I.Txt_B", num);
+  else if (e(Area::QW))
+    valore = Parola(IP_Q[num].Txt_B, "IP_Q.Txt_B", num);
+  else if (e(Area::MW))
+    valore = Parola(Mem_M[num].Txt_B, "Mem_M.Txt_B", num);
+  else
+    return false;
+  return true;
+}
+
+[[gnu::always_inline]] inline bool Plc::Scrivi(Insieme ammesse, Area area, int num,
+                                               std::int32_t valore) {
+  const auto e = [ammesse, area](Area una) { return ammesse.Contiene(una) && area == una; };
+  if (e(Area::VW))
+    Mem_VW[num] = A_16(valore, "Mem_VW");
+  else if (e(Area::VD))
+    Mem_VD[num] = valore;
+  else if (e(Area::VB))
+    Mem_VB[num] = A_16(valore, "Mem_VB");
+  else if (e(Area::AC))
+    Mem_AC[num] = static_cast<float>(valore);
+  else if (e(Area::T))
+    Mem_T[num].Val = A_16(valore, "Mem_T.Val");
+  else if (e(Area::C))
+    Mem_C[num].Val = A_16(valore, "Mem_C.Val");
+  else if (e(Area::AQW))
+    Mem_AQW[num] = valore;
+  else
+    return false;
+  return true;
+}
+
+[[gnu::always_inline]] inline bool Plc::Primo(const Riga_PLC& riga, Insieme ammesse,
+                                              std::int32_t& valore) const {
+  return Leggi(ammesse, riga.Codice1, riga.Num1, valore);
+}
+
+[[gnu::always_inline]] inline bool Plc::Secondo(const Riga_PLC& riga, Insieme ammesse,
+                                                std::int32_t& valore) const {
+  return Leggi(ammesse, riga.Codice2, riga.Num2, valore);
+}
+
+[[gnu::always_inline]] inline bool Plc::Scrivi_Secondo(const Riga_PLC& riga, Insieme ammesse,
+                                                       std::int32_t valore) {
+  return Scrivi(ammesse, riga.Codice2, riga.Num2, valore);
+}
+
+}  // namespace tavorno
