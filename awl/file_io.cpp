@@ -16,6 +16,7 @@ namespace tavorno {
 namespace {
 
 constexpr off_t dimensione_massima = 16 * 1024 * 1024;
+constexpr const char* non_un_file = "il percorso non è un file";
 
 std::string Causa(int errore) {
   switch (errore) {
@@ -102,7 +103,7 @@ Contenuto_File Leggi_File(const std::string& percorso) {
   struct stat stato {};
   if (::stat(percorso.c_str(), &stato) != 0) return {"", Causa(errno)};
   if (S_ISDIR(stato.st_mode)) return {"", Causa(EISDIR)};
-  if (!S_ISREG(stato.st_mode)) return {"", "il percorso non è un file"};
+  if (!S_ISREG(stato.st_mode)) return {"", non_un_file};
   if (stato.st_size > dimensione_massima) return {"", "il file è troppo grande per un progetto"};
   std::ifstream file(percorso, std::ios::binary);
   std::string byte(static_cast<std::size_t>(stato.st_size), '\0');
@@ -123,6 +124,7 @@ std::string Scrivi_File(const std::string& percorso, const std::string& byte) {
   struct stat vecchio {};
   const bool esiste = ::stat(destinazione.c_str(), &vecchio) == 0;
   if (esiste && S_ISDIR(vecchio.st_mode)) return Causa(EISDIR);
+  if (esiste && !S_ISREG(vecchio.st_mode)) return non_un_file;  // a device must not become one
   if (esiste && ::access(destinazione.c_str(), W_OK) != 0) return Causa(errno);
 
   File_Nuovo nuovo(destinazione.string());

@@ -156,6 +156,13 @@ INSTANTIATE_TEST_SUITE_P(AllCauses, RefusedPath,
                                          Caso_Percorso{"LongName", std::string(300, 'n')}),
                          [](const auto& caso) { return caso.param.nome; });
 
+TEST_F(AtomicWrite, DoesNotReplaceWhatIsNoFile) {
+  ASSERT_EQ(::mkfifo(Percorso("tubo").c_str(), 0666), 0);
+  EXPECT_EQ(Scrivi_File(Percorso("tubo"), "nuovo"), "il percorso non è un file");
+  EXPECT_TRUE(fs::is_fifo(cartella / "tubo"));
+  EXPECT_EQ(Nomi(), Lista{"tubo"});
+}
+
 TEST_F(AtomicWrite, WritesThroughALinkAndKeepsIt) {
   fs::create_directory(cartella / "dir");
   Scrivi("dir/vero.AWL", "vecchio");
