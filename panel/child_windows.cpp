@@ -16,16 +16,22 @@ namespace tavorno {
 
 namespace {
 
-/// Brings a window to the front; makes it first when it is not there.
+/// Brings a window to the front, from the task bar too.
+void Porta_Avanti(QWidget& finestra) {
+  finestra.setWindowState(finestra.windowState() & ~Qt::WindowMinimized);
+  finestra.show();
+  finestra.raise();
+  finestra.activateWindow();
+}
+
+/// The same; makes the window first when it is not there.
 template <class Crea>
 void Mostra(QPointer<QWidget>& finestra, Crea crea) {
   if (!finestra) {
     finestra = crea();
     finestra->setAttribute(Qt::WA_DeleteOnClose);
   }
-  finestra->show();
-  finestra->raise();
-  finestra->activateWindow();
+  Porta_Avanti(*finestra);
 }
 
 }  // namespace
@@ -54,9 +60,7 @@ void Finestre::Mostra_Editor(int avvio_file) {
   Mostra(editor_, [this] {
     Legami_Editor legami;
     legami.Mostra_Pannello = [this] {
-      pannello_.show();
-      pannello_.raise();
-      pannello_.activateWindow();
+      Porta_Avanti(pannello_);
       pannello_.Attivata();
     };
     legami.Mostra_Debug = [this] { Mostra_Debug(); };
@@ -111,7 +115,7 @@ void Finestre::Mostra_Debug() {
 }
 
 void Finestre::Mostra_Stampe() {
-  FrmStampe(progetto_).exec();
+  FrmStampe(progetto_, Scegli_Stampante, QApplication::activeWindow()).exec();
 }
 
 void Finestre::Mostra_Info() {

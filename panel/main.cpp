@@ -20,6 +20,7 @@ int main(int argc, char** argv) {
   Applicazione::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   Applicazione::setQuitOnLastWindowClosed(false);
   Apri_Risorse();
+  Applicazione::setDesktopFileName(QStringLiteral("org.tavorno.Tavorno"));
   Applicazione::setWindowIcon(QIcon(QStringLiteral(":/icons/tavorno.svg")));
   QTranslator italiano;
   if (italiano.load(QStringLiteral("qtbase_it"),
@@ -28,7 +29,7 @@ int main(int argc, char** argv) {
 
   Orologio orologio;
   Plc plc(orologio);
-  Progetto progetto(plc, Dialoghi_Qt());
+  Progetto progetto(plc, {});  // the editor brings its dialogs along
   plc.Hook.Mostra = [](const Avviso& avviso) { Mostra_Avviso(nullptr, avviso); };
   const QString cartella = Applicazione::applicationDirPath();
   Guida guida{cartella + "/HTML/", cartella + "/HTML/Panel/", {}};

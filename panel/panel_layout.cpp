@@ -44,9 +44,7 @@ QLabel* Lettura(const QString& nome, const QString& testo, int cifre) {
 
 QLabel* Intestazione(const QString& testo) {
   auto* etichetta = new QLabel(testo);
-  QFont carattere = etichetta->font();
-  carattere.setBold(true);
-  etichetta->setFont(carattere);
+  etichetta->setFont(Grassetto(etichetta->font()));
   return etichetta;
 }
 
@@ -263,10 +261,13 @@ QWidget* Potenziometri(Controlli_Pannello& c) {
 
 void Crea_Stato(QMainWindow& finestra, Controlli_Pannello& c) {
   auto* barra = Chiama(QStringLiteral("stB"), new QStatusBar(&finestra));
-  constexpr std::array larghezze{4, 1, 2, 3};
+  constexpr std::array larghezze{3, 1, 2, 5};
   for (std::size_t i = 0; i < c.stB.size(); ++i) {
     c.stB[i] = Chiama(Con_Indice("stB", static_cast<int>(i) + 1), new QLabel);
+    c.stB[i]->setTextFormat(Qt::PlainText);
     c.stB[i]->setMinimumWidth(90);
+    // A long name must not push the window wider.
+    c.stB[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     barra->addWidget(c.stB[i], larghezze[i]);
   }
   finestra.setStatusBar(barra);

@@ -41,30 +41,20 @@ constexpr std::array menu{
 };
 
 constexpr std::array barra{
-    Tasto_Barra{"New", "Nuovo Progetto", "New"},
-    Tasto_Barra{"Open", "Apri Progetto", "Open"},
-    Tasto_Barra{"Save", "Modifica File Corrente", "Edit"},
-    Tasto_Barra{"Run", "Run PLC", "Run", true, true},
-    Tasto_Barra{"Stop", "Stop PLC", "Stop", true},
-    Tasto_Barra{"Step", "Step Mode", "Step", true, true},
-    Tasto_Barra{"Ciclo", "Esecuzione Singolo Ciclo", "Ciclo", true},
-    Tasto_Barra{"Cont", "Modo Continuo", "Cont", true},
-    Tasto_Barra{"SetPLC", "Impostazioni PLC", "SetPLC", false, true},
-    Tasto_Barra{"SetIst", "Set Istruzioni supportate", "SetIst"},
-    Tasto_Barra{"Debug", "Stoto Elementi", "Debug"},
-    Tasto_Barra{"Centra", "Centra Finestra", "Centra", false, true},
-    Tasto_Barra{"Info", "Informazioni", "Info"},
-    Tasto_Barra{"Termina", "Termina", "Termina"},
-};
-
-constexpr std::array voci_della_barra{
-    Tasto_Di_Voce{"New", "mnuFileNew"},     Tasto_Di_Voce{"Open", "mnuFileOpen"},
-    Tasto_Di_Voce{"Save", "mnuFileEdit"},   Tasto_Di_Voce{"Run", "mnuPlcRun"},
-    Tasto_Di_Voce{"Stop", "mnuPlcStop"},    Tasto_Di_Voce{"Step", "mnuPlcStep"},
-    Tasto_Di_Voce{"Ciclo", "mnuPLCCiclo"},  Tasto_Di_Voce{"Cont", "mnuPlcCont"},
-    Tasto_Di_Voce{"SetPLC", "mnuViewSet"},  Tasto_Di_Voce{"SetIst", "mnuHlpSet"},
-    Tasto_Di_Voce{"Debug", "mnuViewStati"}, Tasto_Di_Voce{"Info", "mnuInfAb"},
-    Tasto_Di_Voce{"Termina", "mnuFileEnd"},
+    Tasto_Barra{"New", "Nuovo Progetto", "New", "mnuFileNew"},
+    Tasto_Barra{"Open", "Apri Progetto", "Open", "mnuFileOpen"},
+    Tasto_Barra{"Save", "Modifica File Corrente", "Edit", "mnuFileEdit"},
+    Tasto_Barra{"Run", "Run PLC", "Run", "mnuPlcRun", true, true},
+    Tasto_Barra{"Stop", "Stop PLC", "Stop", "mnuPlcStop", true},
+    Tasto_Barra{"Step", "Step Mode", "Step", "mnuPlcStep", true, true},
+    Tasto_Barra{"Ciclo", "Esecuzione Singolo Ciclo", "Ciclo", "mnuPLCCiclo", true},
+    Tasto_Barra{"Cont", "Modo Continuo", "Cont", "mnuPlcCont", true},
+    Tasto_Barra{"SetPLC", "Impostazioni PLC", "SetPLC", "mnuViewSet", false, true},
+    Tasto_Barra{"SetIst", "Set Istruzioni supportate", "SetIst", "mnuHlpSet"},
+    Tasto_Barra{"Debug", "Stoto Elementi", "Debug", "mnuViewStati"},
+    Tasto_Barra{"Centra", "Centra Finestra", "Centra", "", false, true},
+    Tasto_Barra{"Info", "Informazioni", "Info", "mnuInfAb"},
+    Tasto_Barra{"Termina", "Termina", "Termina", "mnuFileEnd"},
 };
 
 }  // namespace
@@ -74,9 +64,6 @@ std::span<const Voce_Menu> Menu_Pannello() {
 }
 std::span<const Tasto_Barra> Barra_Pannello() {
   return barra;
-}
-std::span<const Tasto_Di_Voce> Voci_Della_Barra() {
-  return voci_della_barra;
 }
 
 }  // namespace tavorno

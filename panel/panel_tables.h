@@ -12,11 +12,4 @@ namespace tavorno {
 std::span<const Voce_Menu> Menu_Pannello();
 std::span<const Tasto_Barra> Barra_Pannello();
 
-/// A button of the tool bar and the menu entry that it stands for.
-struct Tasto_Di_Voce {
-  const char* Chiave;
-  const char* Voce;
-};
-std::span<const Tasto_Di_Voce> Voci_Della_Barra();
-
 }  // namespace tavorno

@@ -15,7 +15,6 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScreen>
 #include <QSlider>
 #include <QStandardPaths>
 #include <QStatusBar>
@@ -38,8 +37,8 @@ FrmPLC::FrmPLC(Plc& plc, Progetto& progetto) : plc_(plc), progetto_(progetto) {
   setObjectName(QStringLiteral("frmPLC"));
   setWindowTitle(QStringLiteral(" Simulatore PLC Siemens S7-200."));
   Crea_Menu(*this, Menu_Pannello());
-  Crea_Menu_Processi();
   c_ = Crea_Controlli(*this, plc_);
+  Crea_Menu_Processi();
 
   Scrivi_Stato(QStringLiteral("List: "));
   c_.frSP->setVisible(false);
@@ -55,6 +54,7 @@ FrmPLC::FrmPLC(Plc& plc, Progetto& progetto) : plc_(plc), progetto_(progetto) {
 
 void FrmPLC::Scrivi_Stato(const QString& lista) {
   c_.stB[0]->setText(QStringLiteral("File: ") + Q(progetto_.File_Titolo));
+  c_.stB[0]->setToolTip(Q(progetto_.File_Titolo));
   c_.stB[1]->setText(lista + QString::number(plc_.NRighe));
 }
 
@@ -139,13 +139,14 @@ void FrmPLC::Modifica() {
 void FrmPLC::Apri_Scalaro() {
   const QString programma = QStandardPaths::findExecutable(QStringLiteral("Scalaro.exe"));
   if (!programma.isEmpty() && QProcess::startDetached(programma, {})) return;
-  progetto_.Chiedi.Mostra({"Attenzione!",
-                           programma.isEmpty()
-                               ? "Il programma \"Scalaro.exe\" non è installato in questo computer."
-                               : "Il programma \"Scalaro.exe\" non può essere avviato.",
-                           Icona::Critica,
-                           Tasti::Ok,
-                           {}});
+  if (!plc_.Hook.Mostra) return;
+  plc_.Hook.Mostra({"Attenzione!",
+                    programma.isEmpty()
+                        ? "Il programma \"Scalaro.exe\" non è installato in questo computer."
+                        : "Il programma \"Scalaro.exe\" non può essere avviato.",
+                    Icona::Critica,
+                    Tasti::Ok,
+                    {}});
 }
 
 void FrmPLC::closeEvent(QCloseEvent* evento) {
@@ -168,25 +169,27 @@ void FrmPLC::Crea_Menu_Processi() {
 }
 
 void FrmPLC::Segna_Impianto(int indice) {
+  QString aperto;
   for (const Esercizio& esercizio : Tabella_Esercizi()) {
     QAction& voce = Azione(*this, Con_Indice("mnuPrj", esercizio.Indice));
     voce.setChecked(esercizio.Indice == indice);
     voce.setEnabled(indice < 0 && esercizio.Crea != nullptr);
+    if (esercizio.Indice == indice) aperto = Q(esercizio.Voce);
   }
+  c_.stB[3]->setText(aperto);
+  c_.stB[3]->setToolTip(aperto);
 }
 
 // ---- tool bar -----------------------------------------------------------------------------------
 
 void FrmPLC::Collega_Barra() {
-  for (const Tasto_Di_Voce& tasto : Voci_Della_Barra()) {
+  for (const Tasto_Barra& tasto : Barra_Pannello()) {
     const QString voce = QString::fromUtf8(tasto.Voce);
+    if (voce.isEmpty()) continue;
     Collega(*this, QStringLiteral("tB1(%1)").arg(tasto.Chiave),
             [this, voce] { Premi_Tasto(voce); });
   }
-  Collega(*this, "tB1(Centra)", [this] {
-    const QRect schermo = screen()->availableGeometry();
-    move(schermo.center() - QPoint(frameGeometry().width() / 2, frameGeometry().height() / 2));
-  });
+  Collega(*this, "tB1(Centra)", [this] { Centra(*this); });
 }
 
 bool FrmPLC::Si_Puo(const QString& voce) const {
@@ -209,9 +212,11 @@ void FrmPLC::Collega_Controlli() {
   SimC& contraves = c_.Fronte->Sim_C();
   contraves.Change = [this, &contraves] { plc_.SI[1].Stato_I(contraves.SimC_Stato()); };
 
-  connect(c_.listSrc, &QListWidget::itemClicked, this, [this] {
+  const auto scegli_stop = [this] {
     if (!plc_.PLC_Acceso) c_.txtStop->setText(QString::number(c_.listSrc->currentRow()));
-  });
+  };
+  connect(c_.listSrc, &QListWidget::itemClicked, this, scegli_stop);
+  connect(c_.listSrc, &QListWidget::itemActivated, this, scegli_stop);  // the Enter key
 
   connect(c_.chkList, &QCheckBox::toggled, this, [this](bool acceso) {
     plc_.Scelte.chkList = acceso;

@@ -43,7 +43,7 @@ class FrmPLC : public QMainWindow {
 
   /// The CPU runs or stands still: lamps, and the commands that change the project.
   void PLC_Stato();
-  /// Ticks the entry of the open exercise and locks all of them; -1: none is open.
+  /// Ticks and names the open exercise and locks the entries of all; -1: none is open.
   void Segna_Impianto(int indice);
 
   /// 0 closes the cover, 1 opens it, 2 gives the inputs to a plant, 3 gives them back.

@@ -11,6 +11,9 @@ namespace tavorno {
 
 namespace {
 
+/// As the margin of the editor has it.
+constexpr QColor grigio(0x6b, 0x72, 0x80);
+
 /// Draws the number of the row in a margin before the text.
 class Con_Numero : public QStyledItemDelegate {
  public:
@@ -27,7 +30,7 @@ class Con_Numero : public QStyledItemDelegate {
     pittore->save();
     pittore->setFont(opzioni.font);
     pittore->fillRect(numero, opzioni.palette.alternateBase());
-    pittore->setPen(opzioni.palette.color(QPalette::Disabled, QPalette::Text));
+    pittore->setPen(grigio);
     pittore->drawText(numero.adjusted(0, 0, -6, 0), Qt::AlignRight | Qt::AlignVCenter,
                       QString::number(indice.row()));
     pittore->restore();
@@ -72,7 +75,7 @@ void Lista_Programma::paintEvent(QPaintEvent* evento) {
   QListWidget::paintEvent(evento);
   if (count() > 0) return;
   QPainter pittore(viewport());
-  pittore.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+  pittore.setPen(grigio);
   pittore.drawText(viewport()->rect().adjusted(16, 16, -16, -16),
                    Qt::AlignCenter | Qt::TextWordWrap,
                    QStringLiteral("Nessun programma nella CPU.\n\nScrivi o apri un progetto "

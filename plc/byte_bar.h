@@ -37,6 +37,8 @@ class Barra {
   /// The chase: one LED more per `Interval` (milliseconds, at first 80), then dark again.
   bool Scorri() const { return scorri_; }
   void Scorri(bool acceso);
+  /// As a stored setting is read: the field alone, and nothing chases.
+  void Memorizza_Scorri(bool acceso) { scorri_ = acceso; }
   int Interval() const { return passo_.Interval(); }
   void Interval(int millisecondi) { passo_.Interval(millisecondi); }
 

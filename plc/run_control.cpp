@@ -26,6 +26,7 @@ Plc::Plc(Orologio& orologio)
              Mem_SM[0].Bit[4] = stato_tim2_;
            }),
       timIO(orologio, 20, [this] { Tick_timIO(); }) {
+  SI[0].Memorizza_Scorri(true);
   for (std::size_t riga = 0; riga <= 1; ++riga) {
     SI[riga].Change = [this, riga] {
       Riga_IP& ingressi = IP_I[static_cast<int>(riga)];

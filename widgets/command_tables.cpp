@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QToolBar>
 #include <QToolButton>
 #include <array>
@@ -73,6 +74,12 @@ QAction& Azione(const QObject& finestra, const QString& nome) {
 
 void Collega(const QObject& finestra, const QString& nome, std::function<void()> comando) {
   QObject::connect(&Azione(finestra, nome), &QAction::triggered, &finestra, std::move(comando));
+}
+
+void Centra(QWidget& finestra) {
+  QRect cornice = finestra.frameGeometry();
+  cornice.moveCenter(finestra.screen()->availableGeometry().center());
+  finestra.move(cornice.topLeft());
 }
 
 }  // namespace tavorno

@@ -9,6 +9,7 @@ class QAction;
 class QMainWindow;
 class QObject;
 class QToolBar;
+class QWidget;
 
 // Menus and tool bars are tables in their windows; these functions make them.
 namespace tavorno {
@@ -30,6 +31,7 @@ struct Tasto_Barra {
   const char* Chiave;        ///< objectName is the bar's name with the key in brackets: "tB1(New)"
   const char* Suggerimento;  ///< tool tip
   const char* Icona;         ///< file in :/icons/ without its extension
+  const char* Voce = "";     ///< the menu entry that it stands for, may be empty
   bool Spunta = false;       ///< the button can stand pressed
   bool Stacco = false;       ///< a gap before it
 };
@@ -44,5 +46,8 @@ QAction& Azione(const QObject& finestra, const QString& nome);
 
 /// Runs `comando` when the entry or button of that name is chosen.
 void Collega(const QObject& finestra, const QString& nome, std::function<void()> comando);
+
+/// Puts a window in the middle of its screen.
+void Centra(QWidget& finestra);
 
 }  // namespace tavorno

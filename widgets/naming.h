@@ -20,6 +20,11 @@ Controllo* Chiama(const QString& nome, Controllo* controllo) {
   return controllo;
 }
 
+inline QFont Grassetto(QFont carattere) {
+  carattere.setBold(true);
+  return carattere;
+}
+
 /// Figures of one width, for values that change while one looks at them.
 inline QFont Carattere_Fisso(int punti = 9) {
   QFont carattere(QStringLiteral("DejaVu Sans Mono"), punti);

@@ -36,12 +36,14 @@ QString Filtro_Qt(const std::string& filtro) {
   return QStringLiteral("%1 (%2 %3)").arg(nome, maschera, maschera.toLower());
 }
 
-QWidget* O_Attiva(QWidget* sopra) {
+/// What is modal would hide a dialog that belongs to a window behind it.
+QWidget* Finestra_Sotto(QWidget* sopra) {
+  if (QWidget* modale = QApplication::activeModalWidget()) return modale;
   return sopra != nullptr ? sopra : QApplication::activeWindow();
 }
 
 std::optional<File_Scelto> Scegli_File(QWidget* sopra, const Richiesta_File& richiesta) {
-  QFileDialog dialogo(O_Attiva(sopra));
+  QFileDialog dialogo(Finestra_Sotto(sopra));
   dialogo.setObjectName(QStringLiteral("Scelta_File"));
   dialogo.setOption(QFileDialog::DontUseNativeDialog);
   dialogo.setNameFilter(Filtro_Qt(richiesta.Filtro));
@@ -68,7 +70,7 @@ std::optional<File_Scelto> Scegli_File(QWidget* sopra, const Richiesta_File& ric
 }  // namespace
 
 Risposta Mostra_Avviso(QWidget* sopra, const Avviso& avviso) {
-  QMessageBox box(O_Attiva(sopra));
+  QMessageBox box(Finestra_Sotto(sopra));
   box.setObjectName(QStringLiteral("Avviso"));
   box.setWindowTitle(Q(avviso.Titolo));
   box.setTextFormat(Qt::PlainText);

@@ -7,12 +7,13 @@ class QWidget;
 
 namespace tavorno {
 
-/// Message and file dialogs over the window `sopra`, which must outlive the result; over the active
-/// window if it is null.
-Dialoghi Dialoghi_Qt(QWidget* sopra = nullptr);
+/// Message and file dialogs over the window `sopra`, which must outlive the result, or over what is
+/// modal at the time.
+Dialoghi Dialoghi_Qt(QWidget* sopra);
 
-/// One message box; returns when the user has answered. Closing it counts as the answer that
-/// changes nothing: Annulla, No, or Ok where there is no other.
+/// One message box, over the active window if `sopra` is null; returns when the user has answered.
+/// Closing it counts as the answer that changes nothing: Annulla, No, or Ok where there is no
+/// other.
 Risposta Mostra_Avviso(QWidget* sopra, const Avviso& avviso);
 
 }  // namespace tavorno

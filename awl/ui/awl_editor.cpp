@@ -302,6 +302,8 @@ void AwlEditor::keyPressEvent(QKeyEvent* evento) {
   } else if (genere_ == Genere_Testo::Programma && spazio) {
     Offri_Completamenti();
     if (!isListActive()) Mostra_Suggerimento();
+  } else if (evento->matches(QKeySequence::Redo)) {
+    SendScintilla(SCI_REDO);  // the component knows one of its keys only
   } else {
     QsciScintilla::keyPressEvent(evento);
   }

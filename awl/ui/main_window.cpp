@@ -6,7 +6,6 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QTabBar>
@@ -52,6 +51,7 @@ FrmMain::FrmMain(Progetto& progetto, Plc& plc, Legami_Editor legami)
     dialoghi_propri_ = true;
   }
   p_.Pagina = 0;
+  p_.Compilato = 0;  // a new window has nothing to load yet
   p_.stB = {"File:", "", "Errori: ----"};
   p_.etNR = {"0", "0", "0"};
   p_.Lista_Comp.clear();
@@ -147,15 +147,12 @@ void FrmMain::Collega_Comandi() {
   comando("MnuHLPIndex", [this] { legami_.Mostra_Aiuto(QStringLiteral("Index-AWL.htm")); });
   comando("MnuHlpList", [this] { legami_.Mostra_Aiuto(QStringLiteral("SET_IST.htm")); });
   comando("MnuHLPInfo", [this] { legami_.Mostra_Info(); });
-  comando("tB1(Centra)", [this] {
-    QRect cornice = frameGeometry();
-    cornice.moveCenter(screen()->availableGeometry().center());
-    move(cornice.topLeft());
-  });
+  comando("tB1(Centra)", [this] { Centra(*this); });
 
-  for (const Tasto_Voce& coppia : Tasti_Delle_Voci()) {
-    QAction& tasto = Azione(*this, QString::fromUtf8(coppia.Tasto));
-    QAction& voce = Azione(*this, QString::fromUtf8(coppia.Voce));
+  for (const Tasto_Barra& riga : Barra_Editor()) {
+    if (*riga.Voce == '\0') continue;
+    QAction& tasto = Azione(*this, QStringLiteral("tB1(%1)").arg(riga.Chiave));
+    QAction& voce = Azione(*this, QString::fromUtf8(riga.Voce));
     connect(&tasto, &QAction::triggered, &voce, &QAction::trigger);
     connect(&voce, &QAction::enabledChanged, &tasto, &QAction::setEnabled);
   }

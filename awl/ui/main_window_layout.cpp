@@ -17,6 +17,7 @@
 
 #include "awl/ui/main_window.h"
 #include "awl/ui/main_window_tables.h"
+#include "widgets/naming.h"
 #include "widgets/text.h"
 #include "widgets/twips.h"
 
@@ -156,9 +157,7 @@ QWidget* FrmMain::Crea_Pagina_Listato() {
     etNR[i] = new QLabel;
     etNR[i]->setObjectName(QString::fromUtf8(Etichette_Listato[i].Valore));
     etNR[i]->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000")));
-    QFont grassetto = etNR[i]->font();
-    grassetto.setBold(true);
-    etNR[i]->setFont(grassetto);
+    etNR[i]->setFont(Grassetto(etNR[i]->font()));
     riga->addWidget(nome);
     riga->addWidget(etNR[i]);
   }

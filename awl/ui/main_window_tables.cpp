@@ -42,31 +42,17 @@ std::span<const Voce_Menu> Menu_Editor() {
 
 std::span<const Tasto_Barra> Barra_Editor() {
   static constexpr std::array<Tasto_Barra, 9> tasti = {{
-      {"New", "Nuovo Progetto", "New"},
-      {"Open", "Apri Progetto", "Open"},
-      {"Save", "Salva Progetto", "Save"},
-      {"Compila", "Compila Progetto", "Compila", false, true},
-      {"Carica", "Carica nella CPU", "Carica"},
-      {"Stampa", "Stampa", "Stampa", false, true},
+      {"New", "Nuovo Progetto", "New", "mnuFileNew"},
+      {"Open", "Apri Progetto", "Open", "mnuFileOpen"},
+      {"Save", "Salva Progetto", "Save", "mnuFileSave"},
+      {"Compila", "Compila Progetto", "Compila", "mnuPlcCompile", false, true},
+      {"Carica", "Carica nella CPU", "Carica", "mnuPlcCarica"},
+      {"Stampa", "Stampa", "Stampa", "mnuFileStp", false, true},
       {"Centra", "Centra Finestra", "Centra"},
-      {"Info", "Informazioni", "Info"},
-      {"Termina", "Termina", "Termina", false, true},
+      {"Info", "Informazioni", "Info", "MnuHLPInfo"},
+      {"Termina", "Termina", "Termina", "mnuFileEnd", false, true},
   }};
   return tasti;
-}
-
-std::span<const Tasto_Voce> Tasti_Delle_Voci() {
-  static constexpr std::array<Tasto_Voce, 8> coppie = {{
-      {"tB1(New)", "mnuFileNew"},
-      {"tB1(Open)", "mnuFileOpen"},
-      {"tB1(Save)", "mnuFileSave"},
-      {"tB1(Compila)", "mnuPlcCompile"},
-      {"tB1(Carica)", "mnuPlcCarica"},
-      {"tB1(Stampa)", "mnuFileStp"},
-      {"tB1(Info)", "MnuHLPInfo"},
-      {"tB1(Termina)", "mnuFileEnd"},
-  }};
-  return coppie;
 }
 
 // clang-format on

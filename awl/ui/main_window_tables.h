@@ -12,13 +12,6 @@ namespace tavorno {
 std::span<const Voce_Menu> Menu_Editor();
 std::span<const Tasto_Barra> Barra_Editor();
 
-/// A button of the tool bar that gives the same command as an entry of the menus.
-struct Tasto_Voce {
-  const char* Tasto;
-  const char* Voce;
-};
-std::span<const Tasto_Voce> Tasti_Delle_Voci();
-
 /// A push button below a text.
 struct Pulsante {
   const char* Nome;

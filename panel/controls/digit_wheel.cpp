@@ -52,9 +52,7 @@ Rotella::Rotella(QSvgRenderer& disegni, const QString& nome, const QString& nome
   setObjectName(nome);
   setFocusPolicy(Qt::StrongFocus);
   Colora(*etichetta_, QColor(0x15, 0x18, 0x1b));
-  QFont grassetto = etichetta_->font();
-  grassetto.setBold(true);
-  etichetta_->setFont(grassetto);
+  etichetta_->setFont(Grassetto(etichetta_->font()));
   connect(su_, &QAbstractButton::clicked, this, [this] { Passo(1); });
   connect(giu_, &QAbstractButton::clicked, this, [this] { Passo(-1); });
   Mostra(0);

@@ -47,6 +47,12 @@ void Disegna_Gruppo(QPainter& pennello, QSvgRenderer& disegni, const QString& gr
   disegni.render(&pennello, gruppo, disegni.boundsOnElement(gruppo));
 }
 
+void Disegna_Piastra(QPainter& pennello, const QSizeF& misura, const QColor& colore) {
+  pennello.setPen(QPen(colore.darker(170), 1));
+  pennello.setBrush(colore);
+  pennello.drawRoundedRect(QRectF(QPointF(0.5, 0.5), misura - QSizeF(1, 1)), 3, 3);
+}
+
 void Disegna_Fuoco(QPainter& pennello, const QRectF& riquadro) {
   pennello.setBrush(Qt::NoBrush);
   pennello.setPen(QPen(QColor(255, 255, 255, 200), 2.5));

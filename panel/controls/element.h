@@ -39,6 +39,9 @@ void Colora(QLabel& etichetta, const QColor& colore);
 /// One group of a picture, drawn where it stands in its file; the painter's units are the design's.
 void Disegna_Gruppo(QPainter& pennello, QSvgRenderer& disegni, const QString& gruppo);
 
+/// The plate that the controls of an input simulator are mounted on.
+void Disegna_Piastra(QPainter& pennello, const QSizeF& misura, const QColor& colore);
+
 /// The line around what has the keyboard.
 void Disegna_Fuoco(QPainter& pennello, const QRectF& riquadro);
 

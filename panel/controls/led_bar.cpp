@@ -39,9 +39,7 @@ Barra_LED::Barra_LED(Barra& barra, const QString& caption, QWidget* sopra)
       barra_(barra),
       disegni_(QStringLiteral(":/panel/led.svg")),
       etC_(Crea_Etichetta(this, QStringLiteral("etC"))) {
-  QFont grassetto = etC_->font();
-  grassetto.setBold(true);
-  etC_->setFont(grassetto);
+  etC_->setFont(Grassetto(etC_->font()));
   for (int i = 0; i < 8; ++i) {
     const auto pittura = [this](QPainter& pennello) {
       disegni_.render(&pennello, Immagine(tipo_, forma_), QRectF(0, 0, lato_led, lato_led));

@@ -19,16 +19,9 @@ constexpr double inizio = 52, passo = 26;
 
 SimI::SimI(QWidget* sopra) : QWidget(sopra), disegni_(QStringLiteral(":/panel/switch.svg")) {
   picS0_ = new Parte(this, QStringLiteral("picS0"), QRectF(QPointF(0, 0), Misura),
-                     [this](QPainter& pennello) {
-                       pennello.setPen(QPen(sfondo_.darker(170), 1));
-                       pennello.setBrush(sfondo_);
-                       const QRectF piastra(0.5, 0.5, Misura.width() - 1, Misura.height() - 1);
-                       pennello.drawRoundedRect(piastra, 3, 3);
-                     });
+                     [this](QPainter& pennello) { Disegna_Piastra(pennello, Misura, sfondo_); });
   etC_ = Crea_Etichetta(this, QStringLiteral("etC"));
-  QFont grassetto = etC_->font();
-  grassetto.setBold(true);
-  etC_->setFont(grassetto);
+  etC_->setFont(Grassetto(etC_->font()));
   for (std::size_t i = 0; i < 8; ++i) {
     const int bit = static_cast<int>(i);
     etI_[i] = Crea_Etichetta(this, Con_Indice("etI", bit), QString::number(bit));
@@ -82,7 +75,7 @@ void SimI::Rilascia(std::size_t n) {
 
 void SimI::resizeEvent(QResizeEvent*) {
   const double scala = width() / static_cast<double>(Misura.width());
-  Disponi(*picS0_, QRectF(QPointF(0, 0), Misura), scala);
+  picS0_->Ingrandisci(scala);
   Disponi(*etC_, QRectF(4, 13, 44, 24), scala, 14);
   for (std::size_t i = 0; i < 8; ++i) {
     const double x = inizio + passo * static_cast<double>(i);

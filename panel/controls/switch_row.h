@@ -18,6 +18,7 @@ class QLabel;
 namespace tavorno {
 
 class Interruttore;
+class Parte;
 
 /// A row of eight toggle switches `imgI0(0)`..`imgI0(7)` for one input byte. Whoever presses one
 /// writes the whole byte from the row's own memory.
@@ -54,7 +55,7 @@ class SimI : public QWidget {
   void Rilascia(std::size_t n);
 
   QSvgRenderer disegni_;
-  QWidget* picS0_;
+  Parte* picS0_;
   QLabel* etC_;
   std::array<QLabel*, 8> etI_{};
   std::array<Interruttore*, 8> imgI0_{};

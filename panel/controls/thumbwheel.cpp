@@ -18,16 +18,9 @@ constexpr double inizio_ruote = 100;
 
 SimC::SimC(QWidget* sopra) : QWidget(sopra), disegni_(QStringLiteral(":/panel/thumbwheel.svg")) {
   picS2_ = new Parte(this, QStringLiteral("picS2"), QRectF(QPointF(0, 0), Misura),
-                     [this](QPainter& pennello) {
-                       pennello.setPen(QPen(sfondo_.darker(170), 1));
-                       pennello.setBrush(sfondo_);
-                       const QRectF piastra(0.5, 0.5, Misura.width() - 1, Misura.height() - 1);
-                       pennello.drawRoundedRect(piastra, 3, 3);
-                     });
+                     [this](QPainter& pennello) { Disegna_Piastra(pennello, Misura, sfondo_); });
   etC_ = Crea_Etichetta(this, QStringLiteral("etC"));
-  QFont grassetto = etC_->font();
-  grassetto.setBold(true);
-  etC_->setFont(grassetto);
+  etC_->setFont(Grassetto(etC_->font()));
   decine_ = Crea_Etichetta(this, QStringLiteral("etDecine"));
   decine_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   unita_ = Crea_Etichetta(this, QStringLiteral("etUnita"));

@@ -100,7 +100,7 @@ load_project() {
   xdotool type --delay 10 "$1"
   keys Return
   wait_gone '^Apri$'
-  focus 'Editor AWL'
+  wait_until "the editor in front" active 'Editor AWL'
   keys F8
   answer '^Attenzione!$'
   wait_gone 'Editor AWL'

@@ -334,4 +334,38 @@ TEST_F(AwlText, TheMenuOfTheRightButtonSpeaksItalian) {
   EXPECT_EQ(listato.Menu_Modifica()->actions().size(), 3);  // copy, a line, select all
 }
 
+TEST_F(AwlText, TheKeysThatTheMenuShowsDoWhatItsEntriesDo) {
+  const auto esito = [](int voce, bool con_i_tasti) {
+    AwlEditor testo(Genere_Testo::Programma, "txtList", nullptr);
+    testo.Scrivi("NOT\r\nNOP\r\n");
+    testo.insertAt("A", 0, 0);
+    testo.insertAt("B", 1, 0);
+    testo.undo();  // from here both ways are open
+    testo.setSelection(0, 1, 0, 3);
+    QApplication::clipboard()->setText("EU");
+    const auto menu = testo.Menu_Modifica();
+    QAction& azione = *menu->actions().at(voce);
+    EXPECT_TRUE(azione.isEnabled() || azione.isSeparator()) << voce;
+    const QKeySequence tasti = azione.shortcut();
+    if (!con_i_tasti)
+      azione.trigger();
+    else if (!tasti.isEmpty())
+      QTest::keyClick(&testo, tasti[0].key(), tasti[0].keyboardModifiers());
+    return testo.Byte() + "|" + Utf8(testo.selectedText()) + "|" +
+           Utf8(QApplication::clipboard()->text());
+  };
+  for (int voce = 0; voce < 9; ++voce) EXPECT_EQ(esito(voce, true), esito(voce, false)) << voce;
+}
+
+TEST_F(AwlText, BothKeysThatAreCommonForItRepeat) {
+  editor.Scrivi("NOT");
+  for (const char* nome : {"Ctrl+Y", "Ctrl+Shift+Z"}) {
+    const QKeySequence tasti(nome);
+    editor.undo();
+    ASSERT_EQ(editor.Byte(), "");
+    QTest::keyClick(&editor, tasti[0].key(), tasti[0].keyboardModifiers());
+    EXPECT_EQ(editor.Byte(), "NOT") << nome;
+  }
+}
+
 }  // namespace tavorno::prova

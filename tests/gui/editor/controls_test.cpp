@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every control of the window by its name and text.
+#include <map>
 #include <set>
 
 #include "editor/editor_bed.h"
@@ -135,6 +136,23 @@ TEST_F(Controls, TheShortCutsReachTheirCommandsFromTheText) {
     EXPECT_EQ(volte, 1) << Utf8(voce->objectName());
   }
   EXPECT_GE(date.size(), 14U);
+}
+
+TEST_F(Controls, ShortCuts) {
+  Avvia(2);
+  const std::map<QString, QString> attesi = {
+      {"mnuFileNew", "Ctrl+N"},     {"mnuFileOpen", "Ctrl+O"},   {"mnuFileSave", "Ctrl+S"},
+      {"mnuFileTxtImp", "Ctrl+I"},  {"mnuFileTxtExp", "Ctrl+E"}, {"mnuFileStp", "Ctrl+P"},
+      {"mnuFileEnd", "Ctrl+Q"},     {"mnuPlcCompile", "F7"},     {"mnuPlcCarica", "F8"},
+      {"mnuViewC(0)", "Ctrl+1"},    {"mnuViewC(1)", "Ctrl+2"},   {"mnuViewC(2)", "Ctrl+3"},
+      {"MnuHLPIndex", "F1"},        {"MnuHlpList", "Shift+F1"},  {"CmdNet(0)", "Ctrl+Return"},
+      {"CmdNet(1)", "Ctrl+Return"}, {"cmdTest", "F9"},           {"cmdSub", "Ctrl+Shift+Return"}};
+  std::map<QString, QString> presenti;
+  for (const QAction* voce : finestra->findChildren<QAction*>())
+    if (!voce->shortcut().isEmpty()) presenti[voce->objectName()] = voce->shortcut().toString();
+  for (const QPushButton* tasto : finestra->findChildren<QPushButton*>())
+    if (!tasto->shortcut().isEmpty()) presenti[tasto->objectName()] = tasto->shortcut().toString();
+  EXPECT_EQ(presenti, attesi);
 }
 
 TEST_F(Controls, AShortCutGivesTheButtonOfThePageInFront) {

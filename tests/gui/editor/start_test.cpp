@@ -20,6 +20,14 @@ const std::string messaggio_formato =
 
 // ---- start modes --------------------------------------------------------------------------------
 
+TEST_F(StartMode, ANewWindowHasNothingToLoadWhateverTheLastOneCompiled) {
+  progetto.Compilato = -1;
+  Avvia(2);
+  Comanda("mnuPlcCarica");  // the file dialog of its save is cancelled
+  EXPECT_EQ(progetto.Carica_CPU, 0);
+  EXPECT_TRUE(finestra->isVisible());
+}
+
 TEST_F(StartMode, OneReadsTheLoadedProjectAgain) {
   Scrivi_File("mio.AWL", Blocco_Main({"NETWORK 1", "LD I0.0"}) + Blocco_SBR(0, {"NOT"}));
   progetto.File_Progetto = Percorso("mio.AWL");
@@ -132,6 +140,25 @@ TEST_F(StartMode, TheDialogsOfTheWindowAreGoneWithIt) {
   finestra.reset();
   EXPECT_FALSE(progetto.Chiedi.Mostra);
   EXPECT_FALSE(progetto.Chiedi.Scegli_File);
+}
+
+/// The window is not active yet when it asks for its file: a dialog over another window would leave
+/// that one in front.
+TEST_F(StartMode, TheQuestionForAFileStandsOverTheWindow) {
+  progetto.Chiedi = {};
+  QWidget altra;
+  altra.show();
+  altra.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&altra));
+  finestra = std::make_unique<FrmMain>(progetto, plc, legami);
+  const QWidget* sotto = nullptr;
+  QTimer::singleShot(0, [&] {
+    auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    sotto = dialogo->parentWidget();
+    dialogo->reject();
+  });
+  finestra->Avvia(3);
+  EXPECT_EQ(sotto, finestra.get());
 }
 
 // ---- leaving ------------------------------------------------------------------------------------

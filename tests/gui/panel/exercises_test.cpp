@@ -2,6 +2,8 @@
 // The exercises through the menu of the panel, with all the windows that open and close with them.
 #include "plants/exercises.h"
 
+#include <QComboBox>
+
 #include "panel/child_windows.h"
 #include "panel/panel_bed.h"
 
@@ -84,6 +86,33 @@ TEST_F(Esercizi_Dal_Menu, ThePanelAndTheEditorOpenEveryOtherWindow) {
   pannello.hide();
   Finestra("frmMain")->close();
   EXPECT_TRUE(pannello.isVisible()) << "the editor leads back to the panel";
+}
+
+TEST_F(Esercizi_Dal_Menu, EveryHelpCommandOpensItsPage) {
+  guida.Dir_Help = "/guida/";
+  guida.Dir_Panel = "/guida/Panel/";
+  const auto pagina = [] {
+    return Finestra("frmBrowser")->findChild<QComboBox*>("cboAddress")->currentText();
+  };
+  Azione(pannello, "mnuHlpGen").trigger();
+  EXPECT_EQ(pagina(), "/guida/Index.htm");
+  Azione(pannello, "mnuHlpSet").trigger();
+  EXPECT_EQ(pagina(), "/guida/SET_IST.htm");
+  Azione(pannello, Voce(7)).trigger();
+  Finestra("frm4P")->findChild<QAbstractButton*>("cmdSch")->click();
+  EXPECT_EQ(pagina(), "/guida/Panel/US-07.htm");
+  Finestra("frm4P")->close();
+}
+
+TEST_F(Esercizi_Dal_Menu, AWindowThatIsAskedForComesBackFromTheTaskBar) {
+  finestre.Mostra_Stati();
+  Finestra("frmStatiL")->showMinimized();
+  finestre.Mostra_Stati();
+  EXPECT_FALSE(Finestra("frmStatiL")->isMinimized());
+  finestre.Mostra_Editor(2);
+  pannello.showMinimized();
+  Finestra("frmMain")->close();
+  EXPECT_FALSE(pannello.isMinimized());
 }
 
 }  // namespace

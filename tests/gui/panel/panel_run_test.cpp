@@ -153,6 +153,15 @@ TEST_F(Corsa_Pannello, TheStopLineIsPickedFromTheListWhileTheCpuStands) {
   EXPECT_EQ(c.txtStop->text(), "3") << "not in Run";
 }
 
+TEST_F(Corsa_Pannello, TheStopLineIsPickedWithTheKeysToo) {
+  Carica(autoritenuta);
+  c.listSrc->setCurrentRow(1);
+  QTest::keyClick(c.listSrc, Qt::Key_Down);
+  EXPECT_EQ(c.txtStop->text(), "0") << "the way there picks nothing";
+  QTest::keyClick(c.listSrc, Qt::Key_Return);
+  EXPECT_EQ(c.txtStop->text(), "2");
+}
+
 TEST_F(Corsa_Pannello, TheStopConditionsExcludeEachOther) {
   c.chkStop->setChecked(true);
   EXPECT_FALSE(c.chkSol->isEnabled());

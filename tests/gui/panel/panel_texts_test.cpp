@@ -122,7 +122,9 @@ TEST_F(Testi_Pannello, AnOpenExerciseLocksTheMenu) {
     EXPECT_FALSE(Azione(pannello, nome).isEnabled());
     EXPECT_EQ(Azione(pannello, nome).isChecked(), esercizio.Indice == 2);
   }
+  EXPECT_EQ(c.stB[3]->text(), "02-Avviatore Stella-Triangolo");
   pannello.Segna_Impianto(-1);
+  EXPECT_EQ(c.stB[3]->text(), "");
   EXPECT_TRUE(Azione(pannello, "mnuPrj(0)").isEnabled());
   EXPECT_FALSE(Azione(pannello, "mnuPrj(2)").isChecked());
 }
@@ -194,6 +196,19 @@ TEST_F(Testi_Pannello, CaptionsOfControls) {
   QStringList gruppi;
   for (const QGroupBox* gruppo : pannello.findChildren<QGroupBox*>()) gruppi << gruppo->title();
   EXPECT_TRUE(gruppi.contains("Potenziometri Analogici"));
+}
+
+TEST_F(Testi_Pannello, LongNamesPushTheWindowNoWider) {
+  Carica("LD I0.0\r\n");
+  pannello.Segna_Impianto(15);  // the longest
+  EXPECT_GE(c.stB[3]->width(), c.stB[3]->sizeHint().width());
+  const int larghezza = pannello.minimumSizeHint().width();
+  progetto.File_Titolo = "<b>" + std::string(300, 'x') + ".AWL";
+  pannello.Attivata();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(c.stB[0]->text(), "File: " + QString::fromStdString(progetto.File_Titolo));
+  EXPECT_EQ(c.stB[0]->textFormat(), Qt::PlainText);
+  EXPECT_EQ(pannello.minimumSizeHint().width(), larghezza);
 }
 
 TEST_F(Testi_Pannello, AsItStandsAtLoad) {

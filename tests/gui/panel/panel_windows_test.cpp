@@ -44,6 +44,44 @@ TEST_F(Finestre_Pannello, EveryCommandOpensItsWindow) {
   }
 }
 
+struct Caso_Tasto {
+  const char* tasto;
+  const char* voce;
+};
+struct Barra_Del_Pannello : Finestre_Pannello, testing::WithParamInterface<Caso_Tasto> {};
+
+TEST_P(Barra_Del_Pannello, GivesTheCommandOfItsEntry) {
+  Carica(sempre);
+  QAction& voce = Azione(pannello, GetParam().voce);
+  int volte = 0;
+  QObject::disconnect(&voce, nullptr, &pannello, nullptr);  // the command itself is not wanted
+  QObject::connect(&voce, &QAction::triggered, &pannello, [&volte] { ++volte; });
+  voce.setEnabled(false);
+  Azione(pannello, QStringLiteral("tB1(%1)").arg(GetParam().tasto)).trigger();
+  EXPECT_EQ(volte, 0);
+  voce.setEnabled(true);
+  Azione(pannello, QStringLiteral("tB1(%1)").arg(GetParam().tasto)).trigger();
+  EXPECT_EQ(volte, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, Barra_Del_Pannello,
+    testing::Values(Caso_Tasto{"New", "mnuFileNew"}, Caso_Tasto{"Open", "mnuFileOpen"},
+                    Caso_Tasto{"Save", "mnuFileEdit"}, Caso_Tasto{"Run", "mnuPlcRun"},
+                    Caso_Tasto{"Stop", "mnuPlcStop"}, Caso_Tasto{"Step", "mnuPlcStep"},
+                    Caso_Tasto{"Ciclo", "mnuPLCCiclo"}, Caso_Tasto{"Cont", "mnuPlcCont"},
+                    Caso_Tasto{"SetPLC", "mnuViewSet"}, Caso_Tasto{"SetIst", "mnuHlpSet"},
+                    Caso_Tasto{"Debug", "mnuViewStati"}, Caso_Tasto{"Info", "mnuInfAb"},
+                    Caso_Tasto{"Termina", "mnuFileEnd"}),
+    [](const auto& caso) { return std::string(caso.param.tasto); });
+
+TEST_F(Finestre_Pannello, CentraPutsThePanelInTheMiddleOfTheScreen) {
+  pannello.move(3, 5);
+  Azione(pannello, "tB1(Centra)").trigger();
+  const QPoint mezzo = pannello.screen()->availableGeometry().center();
+  EXPECT_LE((pannello.frameGeometry().center() - mezzo).manhattanLength(), 2);
+}
+
 TEST_F(Finestre_Pannello, ModifyingStopsTheCpuAndEmptiesTheList) {
   Carica(sempre);
   Al_Ciclo[3] = [&] {
@@ -88,15 +126,24 @@ TEST_F(Finestre_Pannello, TheFocusFromAnotherWindowOfTheProgramActivatesThePanel
 }
 
 TEST_F(Finestre_Pannello, TheBarsCanBeHidden) {
+  const auto piena = [this] { return pannello.centralWidget()->height(); };
+  const int altezza = piena();
   Azione(pannello, "mnuViewTB").trigger();
+  QCoreApplication::processEvents();
   EXPECT_FALSE(c.tB1->isVisible());
   EXPECT_FALSE(Spuntata("mnuViewTB"));
-  Azione(pannello, "mnuViewTB").trigger();
-  EXPECT_TRUE(c.tB1->isVisible());
+  EXPECT_EQ(piena(), altezza + c.tB1->height());
   Azione(pannello, "mnuViewSTB").trigger();
+  QCoreApplication::processEvents();
   EXPECT_FALSE(pannello.statusBar()->isVisible());
+  EXPECT_FALSE(Spuntata("mnuViewSTB"));
+  EXPECT_EQ(piena(), altezza + c.tB1->height() + pannello.statusBar()->height());
+  Azione(pannello, "mnuViewTB").trigger();
   Azione(pannello, "mnuViewSTB").trigger();
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(c.tB1->isVisible());
   EXPECT_TRUE(pannello.statusBar()->isVisible());
+  EXPECT_EQ(piena(), altezza);
 }
 
 TEST_F(Finestre_Pannello, ALadderEditorThatIsNotThereIsSaid) {
@@ -123,12 +170,20 @@ TEST_F(Finestre_Pannello, ALadderEditorOnTheSearchPathIsStarted) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(traccia); }, 20000));
 }
 
-TEST_F(Finestre_Pannello, ClosingEndsTheRun) {
+TEST_F(Finestre_Pannello, ClosingAndTerminaEndTheRun) {
   Carica(sempre);
-  Al_Ciclo[5] = [&] { pannello.close(); };
-  Scegli("mnuPlcRun");
-  EXPECT_EQ(cicli, 6);
-  EXPECT_EQ(plc.Ferma, -1);
+  const std::vector<std::function<void()>> modi = {
+      [this] { pannello.close(); }, [this] { Azione(pannello, "mnuFileEnd").trigger(); }};
+  for (const auto& chiudi : modi) {
+    pannello.show();
+    Al_Ciclo[5] = chiudi;
+    Scegli("mnuPlcRun");
+    EXPECT_EQ(cicli, 6);
+    EXPECT_EQ(plc.Ferma, -1);
+    EXPECT_FALSE(pannello.isVisible());
+    plc.mnuPlcStop();
+    pannello.Aggiorna();
+  }
 }
 
 }  // namespace

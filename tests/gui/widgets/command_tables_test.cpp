@@ -59,7 +59,7 @@ TEST(Menu, ACommandRunsWhenItsEntryIsChosen) {
 TEST(ToolBar, FollowsItsTable) {
   QMainWindow finestra;
   constexpr std::array tasti{Tasto_Barra{"New", "Nuovo Progetto", "New"},
-                             Tasto_Barra{"Run", "Run PLC", "New", true, true}};
+                             Tasto_Barra{"Run", "Run PLC", "New", "mnuB", true, true}};
   QToolBar* barra = Crea_Barra(finestra, "tB1", tasti);
   ASSERT_EQ(barra->actions().size(), 3);
   EXPECT_TRUE(barra->actions()[1]->isSeparator());

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "plc/plc.h"
+
 namespace tavorno::prova {
 
 namespace {
@@ -212,6 +214,21 @@ TYPED_TEST(ByteBar, ChaseIsOffUntilSomebodyAsksForIt) {
   this->orologio.Avanza(1000);
   EXPECT_EQ(this->barra.Accesi(), 0);
   EXPECT_EQ(this->orologio.Prossimo(), Orologio::Mai);
+}
+
+TYPED_TEST(ByteBar, AStoredChaseFillsTheFieldOnly) {
+  this->barra.Memorizza_Scorri(true);
+  EXPECT_TRUE(this->barra.Scorri());
+  EXPECT_EQ(this->orologio.Prossimo(), Orologio::Mai);
+}
+
+TEST(ByteBarOfTheCpu, OnlyTheFirstInputBarHasAStoredChase) {
+  Orologio orologio;
+  const Plc plc(orologio);
+  EXPECT_TRUE(plc.SI[0].Scorri());
+  EXPECT_FALSE(plc.SI[1].Scorri());
+  EXPECT_FALSE(plc.SQ[0].Scorri() || plc.SQ[1].Scorri());
+  EXPECT_EQ(orologio.Prossimo(), Orologio::Mai);
 }
 
 TYPED_TEST(ByteBar, ChaseFillsOneLedPerTickAndThenGoesDark) {
