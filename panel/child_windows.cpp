@@ -24,14 +24,19 @@ void Porta_Avanti(QWidget& finestra) {
   finestra.activateWindow();
 }
 
-/// The same; makes the window first when it is not there.
+/// Makes a window when it is not there.
 template <class Crea>
-void Mostra(QPointer<QWidget>& finestra, Crea crea) {
+QWidget& Trova(QPointer<QWidget>& finestra, Crea crea) {
   if (!finestra) {
     finestra = crea();
     finestra->setAttribute(Qt::WA_DeleteOnClose);
   }
-  Porta_Avanti(*finestra);
+  return *finestra;
+}
+
+template <class Crea>
+void Mostra(QPointer<QWidget>& finestra, Crea crea) {
+  Porta_Avanti(Trova(finestra, crea));
 }
 
 }  // namespace
@@ -86,7 +91,11 @@ void Finestre::Mostra_Analogici() {
 }
 
 void Finestre::Mostra_Stati() {
-  Mostra(stati_, [this] { return new FrmStatiL(plc_, &pannello_); });
+  Porta_Avanti(Stati());
+}
+
+FrmStatiL& Finestre::Stati() {
+  return static_cast<FrmStatiL&>(Trova(stati_, [this] { return new FrmStatiL(plc_, &pannello_); }));
 }
 
 void Finestre::Apri_Impianto(int indice) {
@@ -103,8 +112,9 @@ void Finestre::Apri_Impianto(int indice) {
     pannello_.Segna_Impianto(-1);
     if (stati_) stati_->close();
   };
+  // A window that is placed before it is shown has its title bar on the screen.
+  Stati().Poni(Twip(finestra.frameGeometry().width()) + 30, 0);
   Mostra_Stati();
-  static_cast<FrmStatiL&>(*stati_).Poni(Twip(finestra.frameGeometry().width()) + 30, 0);
   fili.Carica();
   finestra.activateWindow();
   pannello_.unsetCursor();

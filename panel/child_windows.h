@@ -12,6 +12,8 @@
 
 namespace tavorno {
 
+class FrmStatiL;
+
 /// The windows beside the panel. Each is made when it is first asked for and thrown away when it is
 /// closed, so it always starts from its defaults.
 class Finestre {
@@ -36,6 +38,8 @@ class Finestre {
   std::int16_t Sim_Contraves = 0;  ///< -1 while the thumbwheel stands in for the second switch row
 
  private:
+  FrmStatiL& Stati();
+
   FrmPLC& pannello_;
   Plc& plc_;
   Progetto& progetto_;

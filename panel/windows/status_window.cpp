@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "plc/plc.h"
 #include "widgets/text.h"
@@ -119,7 +120,11 @@ void FrmStatiL::closeEvent(QCloseEvent* evento) {
 
 void FrmStatiL::Posa_Panel() {
   if (!panel_) return;
-  panel_->move(x(), y() + frameGeometry().height() + Px(stacco_twip));
+  // Right under this window, and no further to the right than the screen has room.
+  const QRect schermo = panel_->screen()->availableGeometry();
+  const int ultimo = std::max(0, schermo.width() - panel_->frameGeometry().width());
+  panel_->move(std::min(x(), schermo.left() + ultimo),
+               y() + frameGeometry().height() + Px(stacco_twip));
   posto_ = pos();
   posto_panel_ = panel_->pos();
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QGroupBox>
+#include <QScreen>
 #include <QTimer>
 #include <QTimerEvent>
 #include <algorithm>
@@ -7,6 +8,7 @@
 
 #include "panel/windows/status_window.h"
 #include "plc/fatal.h"
+#include "widgets/twips.h"
 #include "window_bed.h"
 
 namespace tavorno {
@@ -296,6 +298,16 @@ TEST_F(Status, TheFirstShowPlacesThePanelAgain) {
   EXPECT_EQ(stati.pos(), QPoint(50, 20));
   EXPECT_EQ(panel.pos(), Sotto(stati));
   EXPECT_EQ(stati.Gia_Posta, -1);
+}
+
+TEST_F(Status, ThePanelGoesNoFurtherToTheRightThanTheScreenHasRoom) {
+  const QRect schermo = panel.screen()->availableGeometry();
+  panel.resize(300, 100);
+  FrmStatiL stati(plc, &panel);
+  stati.Poni(Twip(schermo.width() - 200), 0);
+  stati.show();
+  EXPECT_EQ(panel.x(), schermo.width() - panel.frameGeometry().width());
+  EXPECT_EQ(panel.y(), Sotto(stati).y());
 }
 
 TEST_F(Status, ALaterMoveLeavesThePanelWhereItWasPutTheFirstTime) {
