@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <regex>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -31,39 +31,57 @@ class Lettore_Xml {
   explicit Lettore_Xml(const std::string& testo) : resto_(testo) {}
 
   Elemento_Xml Leggi() {
-    Prendi(R"(<\?xml version="1\.0" encoding="UTF-8"\?>\s*)");
+    Vuole(R"(<?xml version="1.0" encoding="UTF-8"?>)");
+    Spazi();
     const Elemento_Xml radice = Elemento();
-    Prendi(R"(\s*$)");
+    Spazi();
+    EXPECT_EQ(resto_, "");
     return radice;
   }
 
  private:
-  std::string Prendi(const std::string& modello, int gruppo = 0) {
-    std::smatch trovato;
-    const bool c_e = std::regex_search(resto_, trovato, std::regex(modello),
-                                       std::regex_constants::match_continuous);
-    EXPECT_TRUE(c_e) << modello << " expected at: " << resto_.substr(0, 80);
-    if (!c_e) throw std::runtime_error("not well formed");
-    const std::string preso = trovato[static_cast<std::size_t>(gruppo)];
-    resto_ = trovato.suffix();
-    return preso;
+  void Vuole(const std::string& atteso) {
+    EXPECT_TRUE(resto_.starts_with(atteso)) << atteso << " expected at: " << resto_.substr(0, 80);
+    if (!resto_.starts_with(atteso)) throw std::runtime_error("not well formed");
+    resto_.erase(0, atteso.size());
+  }
+
+  void Spazi() { resto_.erase(0, resto_.find_first_not_of(" \t\r\n")); }
+
+  /// Letters, and behind the first one digits and hyphens too.
+  std::string Nome() {
+    static const std::string lettere = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    const std::size_t lungo =
+        resto_.find_first_of(lettere) == 0 ? resto_.find_first_not_of(lettere + "-0123456789") : 0;
+    EXPECT_GT(lungo, 0U) << "a name expected at: " << resto_.substr(0, 80);
+    if (lungo == 0) throw std::runtime_error("not well formed");
+    const std::string nome = resto_.substr(0, lungo);
+    resto_.erase(0, nome.size());
+    return nome;
   }
 
   Elemento_Xml Elemento() {
     Elemento_Xml elemento;
-    elemento.Nome = Prendi(R"(<([A-Za-z][A-Za-z-]*))", 1);
+    Vuole("<");
+    elemento.Nome = Nome();
     while (resto_.starts_with(' ')) {
-      const std::string nome = Prendi(R"( ([A-Za-z][A-Za-z0-9-]*)=")", 1);
+      Vuole(" ");
+      const std::string nome = Nome();
+      Vuole("=\"");
       EXPECT_TRUE(elemento.Attributi.emplace(nome, Testo("<&\"")).second) << nome << " twice";
-      Prendi("\"");
+      Vuole("\"");
     }
-    if (Prendi("/?>") == "/>") return elemento;
+    if (resto_.starts_with('/')) {
+      Vuole("/>");
+      return elemento;
+    }
+    Vuole(">");
     elemento.Testo = Testo("<&");
     while (!resto_.starts_with("</")) {
       elemento.Figli.push_back(Elemento());
       elemento.Testo += Testo("<&");
     }
-    Prendi("</" + elemento.Nome + ">");
+    Vuole("</" + elemento.Nome + ">");
     return elemento;
   }
 
@@ -80,7 +98,9 @@ class Lettore_Xml {
       }
       resto_.erase(0, quanti);
       if (!resto_.starts_with('&')) return testo;
-      testo += entita.at(Prendi("&[a-z]+;"));
+      const std::string nome = resto_.substr(0, resto_.find(';') + 1);
+      testo += entita.at(nome);
+      resto_.erase(0, nome.size());
     }
   }
 
