@@ -34,10 +34,10 @@ QByteArray Con_Simboli(QByteArray disegno) {
 QColor Tinta(Colore colore) {
   static const std::map<Colore, QColor> nostre = {
       {Tavolozza(1), QColor(0x2b, 0x4c, 0x9b)},  {Tavolozza(2), QColor(0x1f, 0x7a, 0x3c)},
-      {Tavolozza(4), QColor(0xa8, 0x24, 0x24)},  {Tavolozza(9), QColor(0x3f, 0x7f, 0xd6)},
-      {Tavolozza(10), QColor(0x2e, 0x9e, 0x4f)}, {Tavolozza(11), QColor(0x5b, 0xbf, 0xd0)},
-      {Tavolozza(12), QColor(0xd3, 0x30, 0x2f)}, {Tavolozza(14), QColor(0xf2, 0xc2, 0x1b)},
-      {Tavolozza(15), QColor(0xb9, 0xb4, 0xaa)},
+      {Tavolozza(4), QColor(0xa8, 0x24, 0x24)},  {Tavolozza(8), QColor(0x6b, 0x6b, 0x66)},
+      {Tavolozza(9), QColor(0x3f, 0x7f, 0xd6)},  {Tavolozza(10), QColor(0x2e, 0x9e, 0x4f)},
+      {Tavolozza(11), QColor(0x5b, 0xbf, 0xd0)}, {Tavolozza(12), QColor(0xd3, 0x30, 0x2f)},
+      {Tavolozza(14), QColor(0xf2, 0xc2, 0x1b)}, {Tavolozza(15), QColor(0xb9, 0xb4, 0xaa)},
   };
   const auto nostra = nostre.find(colore);
   if (nostra != nostre.end()) return nostra->second;

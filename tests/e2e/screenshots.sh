@@ -14,7 +14,7 @@ mkdir -p "$out"
 picture() {
   wait_window "$2"
   sleep 0.3  # pictures only: let the window paint its last change
-  import -window "$(visible "$2" | tail -1)" "$out/$1.png"
+  import -window "$(visible "$2" | tail -1)" -strip -depth 8 "$out/$1.png"
 }
 
 if [ "$QT_SCALE_FACTOR" = 1 ]; then open_screen 1280x800; else open_screen 2560x1600; fi
@@ -53,6 +53,8 @@ wait_gone 'Editor AWL'
 load_project "$examples/semaforo.AWL"
 picture panel-loaded 'Simulatore PLC'
 keys F5
+click_at 'Simulatore PLC' $((102 * QT_SCALE_FACTOR)) $((418 * QT_SCALE_FACTOR))  # I0.0: the lights start
+xdotool mousemove 0 0
 sleep 2
 picture panel-running 'Simulatore PLC'
 for window in 's:status:Indicatori Stato' 'i:settings:Impostazioni pannello' 'n:analog:Simulatore Ingressi an'; do

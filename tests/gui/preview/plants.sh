@@ -30,7 +30,7 @@ states='
 08 work   uscite:1101000000000000 ms:4000
 08 fault  clic:imgP1
 09 work   uscite:0110000000000000 ms:3000
-09 fault  premi:picFC uscite:0101000000000000
+09 fault  uscite:1101000000000000 premi:picFC
 10 work   uscite:1101111000000000 ms:12000
 10 fault  clic:imgM(0) clic:imgM(3)
 11 work   clic:cmdIng clic:imgPSB(0) uscite:1000000000000000 ms:2500
@@ -59,15 +59,19 @@ while read -r exercise state steps; do
   # shellcheck disable=SC2086
   "$preview" "$((10#$exercise))" "$out/US-$exercise-$state.png" "$scale" $steps
 done <<<"$states"
-# Three columns, so that pictures of different heights leave no holes.
-for column in 0 1 2; do
-  files=()
-  for number in 0 1 2 3 4 5; do
-    printf -v name '%02d' $((3 * number + column))
-    files+=("$out/US-$name-work.png")
-  done
-  convert "${files[@]}" -resize 440x -bordercolor '#dcd8cf' -border 4 -append "$out/column-$column.png"
-done
-convert "$out"/column-?.png -background '#dcd8cf' +append -depth 8 "PNG24:$out/overview.png"
+# Three columns of nearly the same height; what is left goes between the pictures.
+columns=('00 01 02 03 04 05' '06 07 08 09 10 17' '11 12 13 14 15 16')
+# Usage: column NUMBER GAP
+column() {
+  local files=()
+  for name in ${columns[$1]}; do files+=("$out/US-$name-work.png"); done
+  convert "${files[@]}" -resize 440x -bordercolor '#dcd8cf' -border "4x$2" -append "$out/column-$1.png"
+  identify -format %h "$out/column-$1.png"
+}
+heights=("$(column 0 4)" "$(column 1 4)" "$(column 2 4)")
+tallest=$(printf '%s\n' "${heights[@]}" | sort -n | tail -1)
+for number in 0 1 2; do column $number $((4 + (tallest - heights[number]) / 12)) >/dev/null; done
+convert "$out"/column-?.png -background '#dcd8cf' +append -strip -depth 8 \
+  -define png:compression-level=9 "PNG24:$out/overview.png"
 rm "$out"/column-?.png
 echo "pictures in $out"
