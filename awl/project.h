@@ -91,6 +91,8 @@ struct Progetto {
   /// Classifies one line, fills the next row of `Righe_Src` if it is an instruction, and returns
   /// its canonical text.
   std::string Debug_Line(const std::string& riga);
+  /// The same for an instruction line. Throws `Riga_Rifiutata` for one that the table or the
+  /// columns cannot take.
   std::string Cerca_Com(const std::string& riga);
 
   // ---- writing (writer.cpp) --------------------------------------------------------------------
@@ -101,7 +103,10 @@ struct Progetto {
   /// Writes `Righe_Prog` to `File_Salva` in one step; a failure is shown in a box and leaves the
   /// old file whole.
   bool SalvaFile();
+  /// A line of the editor as the file holds it: single blanks, no commas between operands.
   static std::string Norm_Riga(const std::string& riga);
+  /// Operands with blanks for their commas; three or four commas lose them all, and more throw
+  /// `Riga_Rifiutata`.
   static std::string Norm_Operandi(const std::string& testo);
   std::string Testo_Progetto() const;  ///< the whole project for reading by a person
 
@@ -112,7 +117,9 @@ struct Progetto {
   /// Compiles and links the rows that the last read left, and reports.
   void Compila();
   void mnuPlcCompile();
+  /// Compiles, and hands the program to the panel when it is free of errors.
   void mnuPlcCarica();
+  /// Saves and reads back, so that the text is the formatted one; `Annulla` when nothing was saved.
   void Save_Read();
 
   // ---- commands of the editor (editor_commands.cpp, procedures.cpp) ----------------------------
@@ -135,7 +142,7 @@ struct Progetto {
   void Scrivi_Main(std::string testo);
   void Scrivi_Procedura(std::string testo);
   void Scegli_Procedura(int scheda);
-  void Gestione_Voci(std::uint8_t stato);
+  void Gestione_Voci(std::uint8_t stato);  ///< 0 disables the commands on a project, 1 enables
 
  private:
   Risposta Avvisa(const Avviso& avviso) const;

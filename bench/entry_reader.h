@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,6 +23,9 @@ class Voce {
     return true;
   }
   void Vuole(std::string_view segno) { buona_ = Inizia_Con(segno); }
+
+  /// The moment of an event, ms since Run; the limit only keeps sums from overflowing.
+  std::int64_t Istante() { return Numero<std::int64_t>(0, 1'000'000'000'000); }
 
   template <class T>
   T Numero(T minimo, T massimo) {

@@ -38,7 +38,7 @@ std::string Testo_Di(double valore) {
 std::optional<Gesto> Leggi_Gesto(std::string_view testo) {
   Voce voce(testo);
   Gesto gesto;
-  gesto.Ms = voce.Numero<std::int64_t>(0, 1'000'000'000'000);
+  gesto.Ms = voce.Istante();
   voce.Vuole(":");
   const auto azione = std::ranges::find_if(
       azioni, [&voce](const Riga_Azione& riga) { return voce.Inizia_Con(riga.Parola); });

@@ -14,7 +14,7 @@ namespace {
 std::optional<Evento_Ingresso> Leggi_Ingresso(std::string_view testo) {
   Voce voce(testo);
   Evento_Ingresso evento;
-  evento.Ms = voce.Numero<std::int64_t>(0, 1'000'000'000'000);
+  evento.Ms = voce.Istante();
   voce.Vuole(":");
   evento.Analogico = voce.Inizia_Con("AI");
   if (evento.Analogico) {

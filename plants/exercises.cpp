@@ -29,26 +29,16 @@ std::unique_ptr<Impianto> Crea_KM(Plc&) {
   return km;
 }
 
-std::unique_ptr<Impianto> Crea_INV(Plc&) {
-  return std::make_unique<INV>();
-}
-
-std::unique_ptr<Impianto> Crea_Garage(Plc& plc) {
-  return std::make_unique<ctr_Garage>(plc.Tempo);
-}
-
-std::unique_ptr<Impianto> Crea_Ascensore(Plc& plc) {
-  return std::make_unique<ctr_Ascensore>(plc.Tempo);
+/// Plants without a timer.
+template <class Macchina>
+std::unique_ptr<Impianto> Crea_Senza_Tempo(Plc&) {
+  return std::make_unique<Macchina>();
 }
 
 /// Plants that need only the clock.
 template <class Macchina>
 std::unique_ptr<Impianto> Crea_Su_Orologio(Plc& plc) {
   return std::make_unique<Macchina>(plc.Tempo);
-}
-
-std::unique_ptr<Impianto> Crea_Semaforo(Plc&) {
-  return std::make_unique<ctr_Semaf1>();
 }
 
 std::unique_ptr<Impianto> Crea_Assi(Plc& plc) {
@@ -119,7 +109,7 @@ std::array<Esercizio, 18> Esercizi() {
        "frmInversione", "INV", "INV", "US-01.htm",
        " 01-Inversione di Marcia M.A.T.",
        "INV_StatoI", "INV_StatoQ", 4350, 6405, assegnaz, impostazioni,
-       {}, false, true, nullptr, Righe_IO_01(), Crea_INV},
+       {}, false, true, nullptr, Righe_IO_01(), Crea_Senza_Tempo<INV>},
       {2, "02-Avviatore Stella-Triangolo",
        "frmSteTri", "ST", "ST", "US-02.htm",
        " 02-Teleavviatore Stella/Triangolo per M.A.T.",
@@ -169,7 +159,7 @@ std::array<Esercizio, 18> Esercizi() {
        "frmGar", "GA", "ctr_Garage", "US-11.htm",
        " 11-Garage automatico.",
        "ME_StatoI", "ME_StatoQ", 6210, 8310, assegnaz, impostazioni,
-       garage, false, true, nullptr, Righe_IO_11(), Crea_Garage},
+       garage, false, true, nullptr, Righe_IO_11(), Crea_Su_Orologio<ctr_Garage>},
       {12, "12-Miscelatore di due liquidi ",
        "frmMisc2", "ML", "ctr_Mis2", "US-12.htm",
        " 12-Miscelatore di due liquidi",
@@ -184,7 +174,7 @@ std::array<Esercizio, 18> Esercizi() {
        "frmAsc", "MS", "ctr_Ascensore", "US-14.htm",
        " 14-Ascensore didattico a quattro piani.",
        "ME_StatoI", "ME_StatoQ", 5955, 8025, assegnaz, impostazioni,
-       ascensore, true, true, nullptr, Righe_IO_14(), Crea_Ascensore},
+       ascensore, true, true, nullptr, Righe_IO_14(), Crea_Su_Orologio<ctr_Ascensore>},
       {15, "15-Ciclo elettropneumatico con tre cilindri e valvole monostabili",
        "frmPist32", "MS", "ctr_Pist_32", "US-15.htm",
        " 15-Ciclo elettropneumatico con tre cilindri e valvole monostabili.",
@@ -194,7 +184,7 @@ std::array<Esercizio, 18> Esercizi() {
        "frmSemaf1", "CA", "ctr_Semaf1", "US-16.htm",
        " 16-Semaforo Pedonale.",
        "ME_StatoI", "ME_StatoQ", 2865, 4725, assegnaz, impostazioni,
-       {}, false, false, nullptr, Righe_IO_16(), Crea_Semaforo},
+       {}, false, false, nullptr, Righe_IO_16(), Crea_Senza_Tempo<ctr_Semaf1>},
       {17, "17-Controllo analogico di posizione",
        "frmAssi", "MS", "ctr_Assi", "US-17.htm",
        " 17-Controllo di Posizione.",

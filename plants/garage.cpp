@@ -2,7 +2,6 @@
 #include "plants/garage.h"
 
 #include <cmath>
-#include <limits>
 #include <string>
 
 #include "plants/garage_figures.h"
@@ -26,7 +25,17 @@ constexpr float ingresso_left = 960, ingresso_top = 4500;
 constexpr float uscita_left = 3600, uscita_top = 1500;
 constexpr float corsia = 2340;  // of the lane that all spaces open to
 constexpr float passo_retromarcia = 80;
+constexpr float fine_sopra = 1380, fine_sotto = 3300;  // where a car that parks stops
 constexpr int prima_fila = 3;  // spaces up to this one lie above the lane, the others below
+
+/// What sees a car that drives up through a barrier, by the car's top in twips.
+struct Passaggio {
+  float Lasciato;          // the presence sensor is free beyond it
+  float Entra_Nel_Raggio;  // the photocell is interrupted from here
+  float Esce_Dal_Raggio;   // to here
+};
+constexpr Passaggio in_entrata = {3780, 3360, 2820}, in_uscita = {840, 300, -240};
+constexpr float fuori = -600;  // the car has left the picture
 
 }  // namespace
 
@@ -114,19 +123,17 @@ ctr_Garage::ctr_Garage(Orologio& orologio)
   Disegno[entrata_.Motore].Clic = [this] { Termico(entrata_); };
   Disegno[uscita_.Motore].Clic = [this] { Termico(uscita_); };
 
-  // Neither has a value before the first write, which is therefore never a repetition.
-  constexpr double mai_scritta = std::numeric_limits<double>::quiet_NaN();
   Regolatori["ME_Speed"] = {[this](double valore) {
                               const auto passo = static_cast<float>(std::lrint(valore));
                               Passo_Sbarra = passo;
                               Passo_Auto = passo + 0.8F;
                             },
-                            mai_scritta, -32768, 32767};
+                            Mai_Scritta, -32768, 32767};
   Regolatori["ME_DisabilitaI"] = {[this](double) {
                                     for (int n = 0; n < 16; ++n)
                                       Disegno("etI", n).ForeColor = grigio;
                                   },
-                                  mai_scritta};
+                                  Mai_Scritta};
 }
 
 void ctr_Garage::Applica_Uscite() {
@@ -219,12 +226,12 @@ void ctr_Garage::SB1_Premuto() {
 void ctr_Garage::Tick_Timer1() {
   entra.Top = entra.Top - Passo_Auto;
   const float y = entra.Top;
-  if (y < 3780) Corsia_Occupata(entrata_, false);
+  if (y < in_entrata.Lasciato) Corsia_Occupata(entrata_, false);
   if (y < corsia) {
     Timer1.Enabled(false);
     Timer2.Enabled(true);
   }
-  Fotocellula(entrata_, y < 3360 && y > 2820);
+  Fotocellula(entrata_, y < in_entrata.Entra_Nel_Raggio && y > in_entrata.Esce_Dal_Raggio);
   Invia();
 }
 
@@ -234,10 +241,10 @@ void ctr_Garage::Tick_Timer2() {
   entra.Left = posto.Left;
   if (Posto_Scelto <= prima_fila) {
     entra.Top = entra.Top - Passo_Auto;
-    if (entra.Top < 1380) Parcheggia();
+    if (entra.Top < fine_sopra) Parcheggia();
   } else {
     entra.Top = entra.Top + passo_retromarcia;
-    if (entra.Top >= 3300) Parcheggia();
+    if (entra.Top >= fine_sotto) Parcheggia();
   }
 }
 
@@ -303,9 +310,9 @@ void ctr_Garage::Tick_timOut1() {
 void ctr_Garage::Tick_timOut2() {
   esce.Top = esce.Top - Passo_Auto;
   const float y = esce.Top;
-  if (y <= 840) Corsia_Occupata(uscita_, false);
-  Fotocellula(uscita_, y < 300 && y > -240);
-  if (y <= -600) {
+  if (y <= in_uscita.Lasciato) Corsia_Occupata(uscita_, false);
+  Fotocellula(uscita_, y < in_uscita.Entra_Nel_Raggio && y > in_uscita.Esce_Dal_Raggio);
+  if (y <= fuori) {
     timOut2.Enabled(false);
     esce.Visible = false;
     Posto_Occupato.at(static_cast<std::size_t>(Posto_Uscita)) = 0;

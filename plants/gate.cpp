@@ -21,6 +21,11 @@ constexpr int VacB = 1, HL4 = 2;                 // and of the outputs
 constexpr int periodo = 50;  // ms, of both timers
 constexpr int passo = 30;    // twips, each tick
 
+// Where the gate stops, twips: the right pillar holds it short of its edge, and a limit switch is
+// reached a little before.
+constexpr int anticipo_pilastro = 50;
+constexpr int zona_chiuso = 20, zona_aperto = 30;
+
 constexpr Colore verde_vivo = Tavolozza(10), verde_scuro = Tavolozza(2);
 constexpr Colore filo_in_tensione = Tavolozza(12), filo_spento = Tavolozza(15);
 constexpr Colore raggio_libero = Tavolozza(14), raggio_interrotto = Tavolozza(8);
@@ -185,16 +190,16 @@ void Ctr_Canc::Tick_TimChiudi() {
   const int battuta = Intero_16(Disegno["shP1"].Left + Disegno["shP1"].Width);
   Mostra_Fine_Corsa(apertura_, false);
   imgC.Left = static_cast<float>(prima - passo);
-  if (prima < battuta + 20) Mostra_Fine_Corsa(chiusura_, true);
+  if (prima < battuta + zona_chiuso) Mostra_Fine_Corsa(chiusura_, true);
   Invia();
 }
 
 void Ctr_Canc::Tick_timApri() {
   const int prima = Intero_16(imgC.Left);
-  const int battuta = Intero_16(Disegno["ShP2"].Left - 50);
+  const int battuta = Intero_16(Disegno["ShP2"].Left - anticipo_pilastro);
   imgC.Left = static_cast<float>(prima + passo);
   Mostra_Fine_Corsa(chiusura_, false);
-  if (prima > battuta - 30) Mostra_Fine_Corsa(apertura_, true);
+  if (prima > battuta - zona_aperto) Mostra_Fine_Corsa(apertura_, true);
   Invia();
 }
 

@@ -35,7 +35,7 @@ constexpr int passo_porte = 10;   // of a leaf, each tick
 constexpr int sinistra_chiusa = 660, destra_chiusa = 1200;
 constexpr int sinistra_aperta = 180, destra_aperta = 1680;
 constexpr float soglia_fotocellula = 620;  // of the left leaf; beyond it nobody fits through
-constexpr float volt_per_twip = 500;
+constexpr float twip_per_volt = 500;
 
 constexpr Colore rosso_vivo = Tavolozza(12), verde_vivo = Tavolozza(10);
 constexpr Colore verde_scuro = Tavolozza(2), grigio_scuro = Tavolozza(8), nero = Tavolozza(0);
@@ -88,7 +88,7 @@ ctr_Ascensore::ctr_Ascensore(Orologio& orologio)
   Mostra_Porte(4, true);
   Mostra_Porte(5, false);
   Disegno["linFC"].FillColor = nero;
-  EtPos.Caption = Testo(imgC.Top / volt_per_twip);
+  EtPos.Caption = Testo(imgC.Top / twip_per_volt);
   for (const char* nascosta : {"imgSu", "imgGiu", "imgLFC", "EtPos"})
     Disegno[nascosta].Visible = false;
 
@@ -177,7 +177,7 @@ void ctr_Ascensore::Comanda(const Comando& comando, bool acceso) {
 }
 
 void ctr_Ascensore::Tick_timCab() {
-  ME_AIW2 = imgC.Top / volt_per_twip;
+  ME_AIW2 = imgC.Top / twip_per_volt;
   EtPos.Caption = Testo(*ME_AIW2);
 
   const auto passo = static_cast<float>(Senso_Cabina == 0 ? Passo_Cabina : -Passo_Cabina);

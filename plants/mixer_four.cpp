@@ -138,7 +138,7 @@ void ctr_Mis4::Monta_Mancanza() {
     Figura& etGP = Disegno("etGP", n);
     etGP.Caption = std::string(1, static_cast<char>('A' + n));
     etGP.Premi = [this, &etGP] {
-      etGP.ForeColor = 255;
+      etGP.ForeColor = Tavolozza(12);
       Prodotto_Ok = 0;
     };
     etGP.Rilascia = [this, &etGP] {

@@ -153,6 +153,11 @@ constexpr int pieno = 10;        // a counter of the temperature acts above this
 constexpr int pieno_lento = 20;  // the one of the cooling air above this
 constexpr Colore grigio = Tavolozza(8), verde = Tavolozza(10);
 
+// The thermometer, twips.
+constexpr int twip_per_grado = 10;
+constexpr int base_colonna = 2580, base_indice = 2520;  // at 0 degrees: foot, and mark of the set
+constexpr int gradi_massimi = 105;                      // where it ends
+
 /// Counts a second of what acts on the temperature; true when it makes a degree.
 bool Un_Grado(int& conta, int limite) {
   conta += 2;
@@ -251,14 +256,14 @@ void ctr_Misc::Cambia_Set(double valore) {
   set_temperatura_ = static_cast<float>(valore);
   const int gradi = static_cast<int>(valore);
   etSet.Caption = std::to_string(gradi);
-  Disegno["imgSet"].Top = static_cast<float>(2520 - 10 * gradi);
+  Disegno["imgSet"].Top = static_cast<float>(base_indice - twip_per_grado * gradi);
   Aggiorna_Analogici();
 }
 
 void ctr_Misc::Mostra_Temperatura(int gradi) {
   etT.Caption = std::to_string(gradi);
-  const int colonna = 10 * std::min(gradi, 105);  // the thermometer ends there
-  Disegno["shT"].Top = static_cast<float>(2580 - colonna);
+  const int colonna = twip_per_grado * std::min(gradi, gradi_massimi);
+  Disegno["shT"].Top = static_cast<float>(base_colonna - colonna);
   Disegno["shT"].Height = static_cast<float>(colonna);
 }
 

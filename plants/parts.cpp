@@ -33,6 +33,19 @@ void Impianto::Monta(std::span<const Riga_Commutatore> righe) {
   }
 }
 
+void Impianto::Monta_Emergenza(int ingresso) {
+  Figura& ImgEm = Disegno["ImgEm"];
+  Figura& imgCEM = Disegno["imgCEM"];
+  ImgEm.Premi = [&ImgEm] { ImgEm.Picture = "imgRON"; };
+  ImgEm.Rilascia = [&ImgEm] { ImgEm.Picture = "imgROFF"; };
+  ImgEm.Clic = [this, &imgCEM, ingresso, inserito = false]() mutable {
+    inserito = !inserito;
+    imgCEM.Picture = inserito ? "imgCA" : "imgCC";
+    Ingresso(ingresso, inserito ? '0' : '1');
+    Invia();
+  };
+}
+
 void Impianto::Mostra(const Riga_Lampada& lampada, std::string_view stato) {
   Disegno[lampada.Nome].Picture = stato == "1" ? lampada.Picture : Lampada_Spenta;
 }

@@ -15,6 +15,10 @@
 
 namespace tavorno {
 
+/// Value of a property that nobody has written yet. Not a number differs from every number, so that
+/// no first write is taken for a repetition.
+inline constexpr double Mai_Scritta = std::numeric_limits<double>::quiet_NaN();
+
 /// A value that the user turns on the plant's face (an up/down), or that the host window sets (a
 /// property such as "ME_Speed", without bounds).
 struct Regolatore {
@@ -92,6 +96,8 @@ class Impianto {
   // parts.cpp: lets the figures of these rows answer to the mouse
   void Monta(std::span<const Riga_Pulsante> righe);
   void Monta(std::span<const Riga_Commutatore> righe);
+  // parts.cpp: the latching button `ImgEm` with its contact `imgCEM`, normally closed
+  void Monta_Emergenza(int ingresso);
   // parts.cpp: shows a lamp, lit when `stato` is "1"
   void Mostra(const Riga_Lampada& lampada, std::string_view stato);
   // parts.cpp: shows a contactor with contact and wire, and sets its contact's input

@@ -72,15 +72,7 @@ void Banco_Pneumatico::Monta_Comandi() {
     ++n;
   }
 
-  Figura& emergenza = Disegno["ImgEm"];
-  emergenza.Premi = [&emergenza] { emergenza.Picture = "imgRON"; };
-  emergenza.Rilascia = [&emergenza] { emergenza.Picture = "imgROFF"; };
-  emergenza.Clic = [this, &contatto = Disegno["imgCEM"], chiuso = true]() mutable {
-    chiuso = !chiuso;
-    contatto.Picture = chiuso ? "imgCC" : "imgCA";
-    Ingresso(schema_.Ingresso_Emergenza, chiuso ? '1' : '0');
-    Invia();
-  };
+  Monta_Emergenza(schema_.Ingresso_Emergenza);
 }
 
 void Banco_Pneumatico::Monta_Velocita() {

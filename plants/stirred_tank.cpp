@@ -66,13 +66,12 @@ std::deque<Serbatoio_Agitato::Mandata> Serbatoio_Agitato::Crea_Mandate(Orologio&
 
 void Serbatoio_Agitato::Monta_Velocita(const Riga_Velocita& riga, Temporizzatore& timer) {
   int& proprieta = velocita_[riga.Nome] = riga.Valore;
-  // Not a number differs from every number: no first write is taken for a repetition.
   Regolatori[riga.Nome] = {.Cambia =
                                [&proprieta, &timer](double valore) {
                                  proprieta = static_cast<int>(valore);
                                  timer.Interval(proprieta);
                                },
-                           .Valore = std::numeric_limits<double>::quiet_NaN()};
+                           .Valore = Mai_Scritta};
 }
 
 // Neither trip nor reset changes what the motor does.
@@ -82,19 +81,6 @@ void Serbatoio_Agitato::Monta_Termico(const Riga_Termico& riga) {
     Disegno[riga.Motore].Picture = scattato ? "imgFR" : Motore(false);
     Disegno[riga.imgFR].Picture = scattato ? "aperto" : "chiuso";
     Ingresso(riga.Ingresso, scattato ? '0' : '1');
-    Invia();
-  };
-}
-
-void Serbatoio_Agitato::Monta_Emergenza(int ingresso) {
-  Figura& ImgEm = Disegno["ImgEm"];
-  Figura& imgCEM = Disegno["imgCEM"];
-  ImgEm.Premi = [&ImgEm] { ImgEm.Picture = "imgRON"; };
-  ImgEm.Rilascia = [&ImgEm] { ImgEm.Picture = "imgROFF"; };
-  ImgEm.Clic = [this, &imgCEM, ingresso, inserito = false]() mutable {
-    inserito = !inserito;
-    imgCEM.Picture = inserito ? "imgCA" : "imgCC";
-    Ingresso(ingresso, inserito ? '0' : '1');
     Invia();
   };
 }

@@ -117,8 +117,6 @@ class Serbatoio_Agitato : public Impianto {
   /// Steam is a picture: `imgV4` with the pipe of this name and the spray `imgSp(2)`.
   void Mostra_Vapore(bool aperto, const char* tubo);
   void Agita(bool acceso);
-  /// A latching button `ImgEm` with its contact `imgCEM`.
-  void Monta_Emergenza(int ingresso);
 
   static const char* Motore(bool acceso) { return acceso ? "imgMON" : "imgMOF"; }
   static const char* Elettrovalvola(bool aperta) { return aperta ? "imgEVON" : "imgEVOF"; }

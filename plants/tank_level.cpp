@@ -75,7 +75,17 @@ constexpr Riga_Lampada lampade[] = {
 constexpr Riga_Micro SL1 = {1, "imgMax1", "imgRaggi(0)"}, SL2 = {2, "imgMin1", "imgRaggi(1)"};
 constexpr Riga_Micro SL3 = {4, "imgMin2", "imgRaggi(2)"}, SL4 = {5, "imgMed", "imgRaggi(3)"};
 constexpr Riga_Micro SL5 = {6, "imgMax2", "imgRaggi(4)"};
-constexpr int FR1 = 3;                               // input of the thermal relay
+constexpr int FR1 = 3;  // input of the thermal relay
+
+/// Levels, twips: a switch is operated beyond the first and at rest again beyond the second.
+struct Soglie {
+  int Azionato, Riposo;
+};
+constexpr Soglie max_vasca = {825, 725}, min_vasca = {45, 145};
+constexpr Soglie max_serbatoio = {1305, 1205}, min_serbatoio = {50, 80};
+constexpr int medio_serbatoio = 700;  // without hysteresis
+constexpr std::int16_t pozza = 5;     // what stays of a level below the bottom, twips
+
 constexpr int intervallo = 200;                      // ms, of all three timers
 constexpr int carico = 8, pompata = 5, scarico = 7;  // twips per tick
 constexpr Colore accesa = 255, spenta = 16512;
@@ -93,7 +103,7 @@ void Sposta(std::int16_t& livello, int twip) {
 /// The liquid in a tank; what would lie below the bottom stays as a puddle.
 void Mostra(Figura& liquido, std::int16_t fondo, std::int16_t& livello) {
   liquido.Top = static_cast<float>(fondo - livello);
-  if (livello < 0) livello = 5;
+  if (livello < 0) livello = pozza;
   liquido.Height = static_cast<float>(livello);
 }
 
@@ -184,9 +194,10 @@ void Ctr_Level0::Micro(const Riga_Micro& micro, bool azionato) {
 
 void Ctr_Level0::Aggiorna_Vasca() {
   tavorno::Mostra(shL1, fondo_vasca_, livello_vasca_);
-  if (livello_vasca_ > 825 || livello_vasca_ < 725) Micro(SL1, livello_vasca_ > 825);
-  if (livello_vasca_ < 45 || livello_vasca_ > 145) {
-    vasca_vuota_ = livello_vasca_ < 45 ? -1 : 0;
+  if (livello_vasca_ > max_vasca.Azionato || livello_vasca_ < max_vasca.Riposo)
+    Micro(SL1, livello_vasca_ > max_vasca.Azionato);
+  if (livello_vasca_ < min_vasca.Azionato || livello_vasca_ > min_vasca.Riposo) {
+    vasca_vuota_ = livello_vasca_ < min_vasca.Azionato ? -1 : 0;
     Mostra_Tubi();
     Micro(SL2, vasca_vuota_ != 0);
   }
@@ -195,10 +206,11 @@ void Ctr_Level0::Aggiorna_Vasca() {
 
 void Ctr_Level0::Aggiorna_Serbatoio() {
   tavorno::Mostra(shL2, fondo_serbatoio_, livello_serbatoio_);
-  Micro(SL4, livello_serbatoio_ > 700);
-  if (livello_serbatoio_ > 1305 || livello_serbatoio_ < 1205) Micro(SL5, livello_serbatoio_ > 1305);
-  if (livello_serbatoio_ < 50 || livello_serbatoio_ > 80) {
-    serbatoio_vuoto_ = livello_serbatoio_ < 50 ? -1 : 0;
+  Micro(SL4, livello_serbatoio_ > medio_serbatoio);
+  if (livello_serbatoio_ > max_serbatoio.Azionato || livello_serbatoio_ < max_serbatoio.Riposo)
+    Micro(SL5, livello_serbatoio_ > max_serbatoio.Azionato);
+  if (livello_serbatoio_ < min_serbatoio.Azionato || livello_serbatoio_ > min_serbatoio.Riposo) {
+    serbatoio_vuoto_ = livello_serbatoio_ < min_serbatoio.Azionato ? -1 : 0;
     Mostra_Scarico();
     Micro(SL3, serbatoio_vuoto_ != 0);
   }

@@ -22,9 +22,9 @@ enum class Esito : std::uint8_t {
   Ignota,  ///< the interpreter has no branch for this mnemonic
 };
 
-/// A branch of the interpreter; see `Ramo_Di`.
+/// A branch of the interpreter: executes one line, which is the row of `PC`.
 using Ramo = Esito (*)(Plc&, Riga_PLC&);
-/// What stands for a branch where there is none.
+/// What stands for a branch where there is none; its outcome is `Esito::Ignota`.
 Ramo Ramo_Assente();
 
 /// How a comparison contact joins the logic stack.
@@ -73,10 +73,10 @@ struct Istruzione {
   std::string Nome;
   Famiglia Gruppo_Manuale;
   Gruppo Trattamento;
-  const Regola* Operandi;                ///< set exactly when `Trattamento` is `Con_Regola`
-  Ramo Esegui;                           ///< `&Plc::Senza_Ramo` is the declared absence of a branch
-  std::string Aiuto;                     ///< one line of Italian, UTF-8
-  Connessione Unione = Connessione::LD;  ///< comparisons only
+  const Regola* Operandi;                    ///< set exactly when `Trattamento` is `Con_Regola`
+  Ramo Esegui;                               ///< `Ramo_Assente()` where the interpreter has none
+  std::string Aiuto;                         ///< one line of Italian, UTF-8
+  Connessione Unione = Connessione::LD;      ///< comparisons only
   Relazione Confronto = Relazione::Nessuna;  ///< comparisons only
 };
 

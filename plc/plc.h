@@ -111,6 +111,7 @@ struct Plc : Memoria {
   /// An operation on the logic stack by its code: 0 clear, 1 push, 2 and-pop, 3 or-pop, 4 set top,
   /// 5 duplicate, 6 read second, 7 pop; others change nothing.
   void GestStak(std::uint8_t codice, std::int16_t valore = 0);
+  /// The same on the table of return lines: 0 clear, 1 push, 2 remove two; others change nothing.
   void Rit_Stak(std::uint8_t codice, std::int16_t valore = 0);
 
   // ---- what a window shows ---------------------------------------------------------------------

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -42,8 +43,26 @@ QWidget* Finestra_Sotto(QWidget* sopra) {
   return sopra != nullptr ? sopra : QApplication::activeWindow();
 }
 
+/// Saves under the extension of its filter. The library leaves a name that has a dot as it is, and
+/// the dialog that opens files would not offer "esercizio 1.2" again.
+class Dialogo_File : public QFileDialog {
+ public:
+  using QFileDialog::QFileDialog;
+
+  void accept() override {
+    auto* nome = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    const QString scritto = nome->text();
+    const QFileInfo file(directory(), scritto);
+    const bool altra = !file.suffix().isEmpty() &&
+                       file.suffix().compare(defaultSuffix(), Qt::CaseInsensitive) != 0;
+    if (acceptMode() == AcceptSave && altra && !file.isDir())
+      nome->setText(scritto + '.' + defaultSuffix());
+    QFileDialog::accept();
+  }
+};
+
 std::optional<File_Scelto> Scegli_File(QWidget* sopra, const Richiesta_File& richiesta) {
-  QFileDialog dialogo(Finestra_Sotto(sopra));
+  Dialogo_File dialogo(Finestra_Sotto(sopra));
   dialogo.setObjectName(QStringLiteral("Scelta_File"));
   dialogo.setOption(QFileDialog::DontUseNativeDialog);
   dialogo.setNameFilter(Filtro_Qt(richiesta.Filtro));

@@ -74,7 +74,9 @@ FrmMain::~FrmMain() {
 
 void FrmMain::Avvia(int Avvio_File) {
   avvio_ = Avvio_File;
-  const bool vuoto = Copia_Progetto(p_).Vuota();
+  const Perso prima{Copia_Progetto(p_), documenti_, false};
+  const bool vuoto = prima.Progetto.Vuota();
+  const bool non_salvato = p_.Modificato && !vuoto;
   switch (Avvio_File) {
     case Modifica:
       Rileggi();
@@ -98,12 +100,13 @@ void FrmMain::Avvia(int Avvio_File) {
       p_.Gestione_Voci(0);
       documenti_.Svuota();
       if (Avvio_File == Da_Capo) Nuovo();
+      if (non_salvato) perso_ = prima;
       break;
   }
   p_.Pagina = 0;
   Specchia();
-  // The texts that a window opens with are where its undo ends, unless there was something before.
-  if (perso_ || (Avvio_File == Da_File && !vuoto)) return;
+  // The texts that a window opens with are where its undo ends, unless it took something away.
+  if (perso_ || non_salvato || (Avvio_File == Da_File && !vuoto)) return;
   txtList->Dimentica_Annulla();
   txtP->Dimentica_Annulla();
 }
@@ -205,7 +208,8 @@ void FrmMain::Lettura(const std::function<void()>& comando) {
   const Copia_Progetto prima(p_);
   comando();
   if (p_.Err_Lettura && !prima.Vuota() && p_.txtList.empty() && p_.Num_SBR == 0) {
-    if (!perso_ || documenti_.Quanti() > 0) perso_ = Perso{prima, documenti_};
+    if (!perso_ || !perso_->Da_Lettura || documenti_.Quanti() > 0)
+      perso_ = Perso{prima, documenti_, true};
     documenti_.Svuota();
     segni_.Dimentica();
     return;
@@ -317,7 +321,7 @@ void FrmMain::Vai_A_Riga(int numero) {
   testo->Vai_A(segni_.Linea(*testo, numero));
 }
 
-/// The text of a project that a failed read took away is back: so are its procedures.
+/// The text of a project that was taken away is back: so are its procedures.
 void FrmMain::Riprendi_Perso() {
   if (!perso_ || p_.Num_SBR != 0) return;
   const Copia_Progetto& copia = perso_->Progetto;

@@ -113,10 +113,11 @@ class FrmMain : public QMainWindow {
 
   Documenti_Procedure documenti_;
   Segni_Errori segni_;
-  /// What a failed read took away, with the texts of its procedures.
+  /// What a failed read or a new start took away, with the texts of its procedures.
   struct Perso {
     Copia_Progetto Progetto;
     Documenti_Procedure Documenti;
+    bool Da_Lettura;
   };
   std::optional<Perso> perso_;
 };

@@ -44,8 +44,8 @@ Funzioni degli script (Lua 5.4, senza file, processi e rete):
 )";
 
 constexpr const char* stati = R"(
-Stato di uscita: 0 tutte le prove superate, 1 qualcuna no, 2 progetto o script
-illeggibile, 64 uso errato.
+Stato di uscita: 0 tutte le prove superate, 1 qualcuna no oppure un rapporto che non
+si può scrivere, 2 progetto o script illeggibile, 64 uso errato.
 )";
 
 class Illeggibile : public std::runtime_error {

@@ -48,11 +48,11 @@ double Arg_Numero(lua_State* stato, int numero, const char* funzione, double min
 
 long long Arg_Intero(lua_State* stato, int numero, const char* funzione, long long minimo,
                      long long massimo) {
-  int intero = 0;
+  int intero = 1;
   const long long valore = lua_type(stato, numero) == LUA_TBOOLEAN
-                               ? (intero = 1, lua_toboolean(stato, numero))
+                               ? lua_toboolean(stato, numero)
                                : lua_tointegerx(stato, numero, &intero);
-  if (!intero || valore < minimo || valore > massimo)
+  if (intero == 0 || valore < minimo || valore > massimo)
     Sbagliato(numero, funzione,
               "un numero intero tra " + std::to_string(minimo) + " e " + std::to_string(massimo));
   return valore;

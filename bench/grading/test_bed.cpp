@@ -22,7 +22,7 @@ std::string Righe_Intorno(const Plc& plc) {
   return testo;
 }
 
-/// Names that come close to help whoever mistyped one.
+/// The names that there are, for whoever mistyped one.
 std::string Elenco(const std::vector<std::string>& nomi) {
   std::string testo;
   for (const std::string& nome : nomi) testo += (testo.empty() ? "" : ", ") + nome;

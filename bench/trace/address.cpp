@@ -71,6 +71,11 @@ double Byte(const Celle& celle) {
   return byte;
 }
 
+template <class Celle>
+void Scrivi_Byte(Celle& celle, std::uint8_t byte) {
+  for (int bit = 0; bit < 8; ++bit) celle[bit] = static_cast<std::uint8_t>(byte >> bit & 1);
+}
+
 std::uint8_t Con_Bit(std::uint8_t byte, int bit, bool acceso) {
   const unsigned peso = 1U << static_cast<unsigned>(bit);
   return static_cast<std::uint8_t>(acceso ? byte | peso : byte & ~peso);
@@ -239,13 +244,11 @@ bool Scrivi_Cella(Plc& plc, const Indirizzo& indirizzo, double valore) {
       Scrivi_Uscite(plc, num, byte);
       break;
     case Campo::MB:
-      for (int bit = 0; bit < 8; ++bit)
-        plc.Mem_M[num].Bit[bit] = static_cast<std::uint8_t>(byte >> bit & 1);
+      Scrivi_Byte(plc.Mem_M[num].Bit, byte);
       plc.Setta_Marker();
       break;
     case Campo::SMB:
-      for (int bit = 0; bit < 8; ++bit)
-        plc.Mem_SM[num].Bit[bit] = static_cast<std::uint8_t>(byte >> bit & 1);
+      Scrivi_Byte(plc.Mem_SM[num].Bit, byte);
       plc.Mem_SM[num].Val_B = byte;
       break;
     case Campo::VB:

@@ -83,7 +83,42 @@ TEST_F(StartMode, TwoBeginsANewProjectWithoutAQuestion) {
   EXPECT_TRUE(Voce("mnuFileSave").isEnabled());
   EXPECT_TRUE(Voce("mnuPlcCarica").isEnabled());
   EXPECT_EQ(SSTb2().currentIndex(), 0);
+}
+
+TEST_F(StartMode, TwoHasNothingToUndoAfterASavedProject) {
+  progetto.Scrivi_Main("NOT");
+  progetto.Modificato = 0;
+  Avvia(2);
   EXPECT_FALSE(txtList().isUndoAvailable());
+}
+
+TEST_F(StartMode, UndoBringsBackAProjectThatWasNeverSaved) {
+  progetto.New_Sub();
+  progetto.Scrivi_Main("NOT");
+  const std::string procedura = progetto.Tab_SBR[1].Testo;
+  Avvia(2);
+  EXPECT_EQ(progetto.Num_SBR, 0);
+  txtList().undo();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(progetto.Testo_Main, "NOT");
+  EXPECT_EQ(progetto.Num_SBR, 1);
+  EXPECT_EQ(progetto.Tab_SBR[1].Testo, procedura);
+  EXPECT_EQ(Schede(), std::vector<std::string>{"SBR_0"});
+}
+
+TEST_F(StartMode, UndoBringsBackWhatWasNotSavedBeforeReadingAgain) {
+  Scrivi_File("mio.AWL", Blocco_Main({"NETWORK 1", "LD I0.0"}) + Blocco_SBR(0, {"NOT"}));
+  progetto.File_Progetto = Percorso("mio.AWL");
+  progetto.New_Sub();
+  progetto.Scrivi_Procedura("CRET");
+  progetto.Scrivi_Main("NOT");
+  Avvia(1);
+  ASSERT_NE(txtList().Byte(), "NOT");
+  txtList().undo();
+  txtP().undo();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(progetto.Testo_Main, "NOT");
+  EXPECT_EQ(progetto.Tab_SBR[1].Testo, "CRET");
 }
 
 TEST_F(StartMode, ThreeAsksForAFile) {

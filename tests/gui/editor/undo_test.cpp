@@ -170,6 +170,22 @@ TEST_F(Undo, AFailedReadAtTheStartComesBackToo) {
   EXPECT_EQ(txtP().text(0), "// SBR_0\r\n");
 }
 
+TEST_F(Undo, AFailedReadOutweighsWhatTheWindowTookAwayWhenItOpened) {
+  progetto.New_Sub();
+  progetto.Scrivi_Main("//mio\r\n");
+  Avvia(2);
+  txtList().Vai_In_Fondo();
+  txtList().insert("MOVW VW0,VW2 123456789012345678901234567890\r\n");
+  const std::string nuovo = txtList().Byte();
+  Scegli("salvato.AWL");
+  Comanda("mnuPlcCompile");
+  ASSERT_EQ(txtList().Byte(), "");
+  txtList().undo();
+  Lascia_Finire();
+  EXPECT_EQ(txtList().Byte(), nuovo);
+  EXPECT_TRUE(Voce("mnuPlcCompile").isEnabled());
+}
+
 TEST_F(Undo, ProceduresMadeSinceAreNotOverwritten) {
   Avvia_Con(due_procedure);
   Scegli_Da_Aprire("niente", "guasto.AWL");

@@ -179,6 +179,21 @@ TEST_F(FileChoice, SavesUnderTheProposalWithTheExtensionOfTheFilter) {
   EXPECT_EQ(scelta->Titolo, "nuovo.AWL");
 }
 
+// Without it the dialog that opens files would not offer the file again.
+TEST_F(FileChoice, GivesTheExtensionToANameWithADotToo) {
+  const struct {
+    const char *Scritto, *Titolo;
+  } casi[] = {{"esercizio 1.2", "esercizio 1.2.AWL"},
+              {"lista.TXT", "lista.TXT.AWL"},
+              {"piccolo.awl", "piccolo.awl"}};
+  for (const auto& caso : casi) {
+    const Scelta scelta =
+        Chiedi(salva, [&](QFileDialog& dialogo) { Scrivi(dialogo, Percorso(Q(caso.Scritto))); });
+    ASSERT_TRUE(scelta) << caso.Scritto;
+    EXPECT_EQ(scelta->Titolo, caso.Titolo);
+  }
+}
+
 TEST_F(FileChoice, AsksBeforeItOverwrites) {
   Crea("vecchio.AWL");
   for (const auto tasto : {QMessageBox::No, QMessageBox::Yes}) {
