@@ -40,10 +40,6 @@ std::string Con_CRLF(const std::string& testo) {
   return uguale;
 }
 
-bool Vuoto(const Progetto& progetto) {
-  return progetto.txtList.empty() && progetto.Num_SBR == 0;
-}
-
 std::string Proposta(const std::string& titolo, const char* estensione) {
   return (titolo.empty() ? "NoName" : Testo_Base(titolo)) + estensione;
 }
@@ -88,20 +84,28 @@ void Progetto::Gestione_Voci(std::uint8_t stato) {
 // ---- projects -----------------------------------------------------------------------------------
 
 void Progetto::mnuFileNew(bool chiedi_di_salvare) {
-  if (chiedi_di_salvare && Modificato) {
-    if (Avvisa(
-            {"Attenzione!", "Salvare il progetto corrente?", Icona::Domanda, Tasti::Si_No, {}}) ==
-        Risposta::Si) {
-      mnuFileSave();
-      if (Annulla && !Vuoto(*this)) return;  // the edits were to be kept
-    }
-  }
+  if (chiedi_di_salvare && Modificato && !Chiedi_Di_Salvare()) return;  // the edits are kept
   Scrivi_Main(Testo_Nuovo_Main());
   Num_SBR = 0;
   Formattato = 0;
   Gestione_Voci(1);
   File_Titolo = "NoName.AWL";
   stB[0] = "File: NoName.AWL";
+  Testi_Salvati = Testi();
+}
+
+bool Progetto::Chiedi_Di_Salvare() {
+  const Avviso domanda{
+      "Attenzione!", "Salvare il progetto corrente?", Icona::Domanda, Tasti::Si_No, {}};
+  if (Avvisa(domanda) != Risposta::Si) return true;
+  mnuFileSave();
+  return !Annulla || Vuoto();
+}
+
+std::string Progetto::Testi() const {
+  std::string testi = txtList;
+  for (int i = 1; i <= Num_SBR; ++i) testi += '\0' + Tab_SBR[i].Nome + '\0' + Tab_SBR[i].Testo;
+  return testi;
 }
 
 void Progetto::mnuFileOpen() {
@@ -122,7 +126,7 @@ void Progetto::mnuFileOpen() {
 }
 
 void Progetto::mnuFileSave() {
-  if (Vuoto(*this)) {
+  if (Vuoto()) {
     Avvisa({"Attenzione", "Nessuna riga di codice inserita!", Icona::Critica, Tasti::Ok, {}});
     Annulla = -1;
     return;
@@ -133,6 +137,7 @@ void Progetto::mnuFileSave() {
   stB[0] = "File: " + scelto->Titolo;
   Testo_Main = txtList + std::string(CRLF);
   Annulla = Crea_Progetto() && SalvaFile() ? 0 : -1;
+  if (!Annulla) Testi_Salvati = Testi();
 }
 
 // ---- text files ---------------------------------------------------------------------------------

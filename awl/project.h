@@ -66,6 +66,7 @@ struct Progetto {
 
   std::int16_t Formattato = 0;  ///< -1: the text on screen came from a read of a saved project
   std::int16_t Modificato = 0;  ///< -1: edited after the last read
+  std::string Testi_Salvati;    ///< `Testi` as they were last read, saved or begun anew
   std::int16_t Compilato = 0;   ///< -1: the last compile ended with no error
   std::uint8_t Carica_CPU = 0;  ///< 1: a compiled program was handed to the panel
   std::string Lista_Comp;       ///< listing of the last compile; each line ends in CR, CR, LF
@@ -125,6 +126,14 @@ struct Progetto {
   // ---- commands of the editor (editor_commands.cpp, procedures.cpp) ----------------------------
 
   void mnuFileNew(bool chiedi_di_salvare);
+  /// Asks whether to save the project, and does. False when it was to be saved and is not.
+  bool Chiedi_Di_Salvare();
+  bool Vuoto() const { return txtList.empty() && Num_SBR == 0; }
+  /// The texts that a save keeps, as they stand on the screen, one behind the other.
+  std::string Testi() const;
+  /// Whether leaving now would lose something, which `Modificato` does not tell: a save leaves it
+  /// set, and so does the choice of a procedure.
+  bool Da_Salvare() const { return !Vuoto() && Testi() != Testi_Salvati; }
   void mnuFileOpen();
   void mnuFileSave();
   void mnuFileTxtImp();

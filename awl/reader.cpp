@@ -157,6 +157,7 @@ void Progetto::LeggiTxt() {
   stB[1] = "List:" + Numero_Con_Spazio(CPU.NRighe) + "  SBR:" + Numero_Con_Spazio(Num_SBR);
   CPU.Prog.Ridimensiona(CPU.NRighe + 1);
   Modificato = 0;
+  Testi_Salvati = Testi();
 }
 
 void Progetto::Lettura_Fallita() {

@@ -43,6 +43,7 @@ int main(int argc, char** argv) {
     const std::string rapporto = Rapporto_Fatale(fatale, plc);
     std::fprintf(stderr, "%s\n", rapporto.c_str());
     Mostra_Avviso(&pannello, {"Errore!", rapporto, Icona::Critica, Tasti::Ok, {}});
+    pannello.Salva_Il_Progetto();
   };
   pannello.show();
   return Applicazione::exec();

@@ -28,6 +28,7 @@
 #include "plants/exercises.h"
 #include "plc/byte_text.h"
 #include "widgets/command_tables.h"
+#include "widgets/qt_dialogs.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
 
@@ -149,7 +150,17 @@ void FrmPLC::Apri_Scalaro() {
                     {}});
 }
 
+bool FrmPLC::Salva_Il_Progetto() {
+  if (!progetto_.Da_Salvare()) return true;
+  const Dialoghi prima = progetto_.Chiedi;
+  if (!prima.Mostra) progetto_.Chiedi = Dialoghi_Qt(this);  // no editor is open
+  const bool salvato = progetto_.Chiedi_Di_Salvare();
+  progetto_.Chiedi = prima;
+  return salvato;
+}
+
 void FrmPLC::closeEvent(QCloseEvent* evento) {
+  if (!Salva_Il_Progetto()) return evento->ignore();
   // A run in progress sees the flag behind the present line and leaves; the event loops follow.
   plc_.Ferma = -1;
   evento->accept();

@@ -51,6 +51,10 @@ class FrmPLC : public QMainWindow {
 
   Controlli_Pannello& Controlli() { return c_; }
 
+  /// The process is about to end: offers to save what is not. False when it was to be saved and is
+  /// not, so that the process should go on.
+  bool Salva_Il_Progetto();
+
  protected:
   void closeEvent(QCloseEvent* evento) override;
 

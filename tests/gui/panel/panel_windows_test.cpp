@@ -186,5 +186,49 @@ TEST_F(Finestre_Pannello, ClosingAndTerminaEndTheRun) {
   }
 }
 
+// ---- leaving with a text that is not saved ------------------------------------------------------
+
+TEST_F(Finestre_Pannello, TheEndAsksForATextThatIsNotSaved) {
+  QTemporaryDir cartella;
+  const QString file = cartella.filePath("mio.AWL");
+  bool sceglie = false;
+  progetto.Chiedi.Scegli_File = [&](const Richiesta_File&) {
+    return sceglie ? std::optional(File_Scelto{file.toStdString(), "mio.AWL"}) : std::nullopt;
+  };
+  std::vector<std::string> domande;
+  Risposta risposta = Risposta::Si;
+  progetto.Chiedi.Mostra = [&](const Avviso& avviso) {
+    domande.push_back(avviso.Testo);
+    return risposta;
+  };
+  progetto.mnuFileNew(false);
+  pannello.close();
+  EXPECT_TRUE(domande.empty()) << "nothing was typed";
+
+  pannello.show();
+  progetto.Scrivi_Main("LD I0.0");
+  pannello.close();
+  EXPECT_EQ(domande, std::vector<std::string>{"Salvare il progetto corrente?"});
+  EXPECT_TRUE(pannello.isVisible()) << "Yes, and then no file was chosen";
+  EXPECT_EQ(progetto.txtList, "LD I0.0");
+
+  sceglie = true;
+  pannello.close();
+  EXPECT_EQ(domande.size(), 2U);
+  EXPECT_FALSE(pannello.isVisible());
+  EXPECT_TRUE(QFile::exists(file));
+
+  pannello.show();
+  pannello.close();
+  EXPECT_EQ(domande.size(), 2U) << "all is saved, whatever the flag of the compiler says";
+
+  pannello.show();
+  progetto.Scrivi_Main("LD I0.1");
+  risposta = Risposta::No;
+  pannello.close();
+  EXPECT_EQ(domande.size(), 3U);
+  EXPECT_FALSE(pannello.isVisible());
+}
+
 }  // namespace
 }  // namespace tavorno

@@ -51,7 +51,7 @@ int main(int argc, char** argv) {
   QApplication applicazione(argc, argv);
   Apri_Risorse();
   const Esercizio& esercizio =
-      Tabella_Esercizi()[static_cast<std::size_t>(std::atoi(argv[1])) % 18];
+      Tabella_Esercizi()[static_cast<std::size_t>(std::atoi(argv[1])) % Tabella_Esercizi().size()];
   if (esercizio.Crea == nullptr) {
     std::fprintf(stderr, "exercise %d has no plant\n", esercizio.Indice);
     return 1;
