@@ -28,8 +28,8 @@
 #include "plants/exercises.h"
 #include "plc/byte_text.h"
 #include "widgets/command_tables.h"
-#include "widgets/qt_dialogs.h"
 #include "widgets/naming.h"
+#include "widgets/qt_dialogs.h"
 #include "widgets/text.h"
 
 namespace tavorno {
