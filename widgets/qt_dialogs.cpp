@@ -105,7 +105,7 @@ Risposta Mostra_Avviso(QWidget* sopra, const Avviso& avviso) {
       break;
     case Tasti::Si_No:
       box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-      box.setEscapeButton(QMessageBox::No);
+      box.setEscapeButton(QMessageBox::Yes);  // saving loses nothing, and can still be cancelled
       break;
   }
   switch (box.exec()) {

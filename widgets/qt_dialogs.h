@@ -12,8 +12,8 @@ namespace tavorno {
 Dialoghi Dialoghi_Qt(QWidget* sopra);
 
 /// One message box, over the active window if `sopra` is null; returns when the user has answered.
-/// Closing it counts as the answer that changes nothing: Annulla, No, or Ok where there is no
-/// other.
+/// Closing it counts as the answer that loses nothing: Annulla, Yes to a question whether to save,
+/// or Ok where there is no other.
 Risposta Mostra_Avviso(QWidget* sopra, const Avviso& avviso);
 
 }  // namespace tavorno

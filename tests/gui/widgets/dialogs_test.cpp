@@ -68,7 +68,7 @@ TEST_P(Box, GivesTheAnswerOfItsButton) {
   }
 }
 
-TEST_P(Box, ClosedWithoutAnAnswerChangesNothing) {
+TEST_P(Box, ClosedWithoutAnAnswerLosesNothing) {
   All_Apertura<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
   EXPECT_EQ(Mostra_Avviso(nullptr, {"", "", GetParam().Simbolo, GetParam().Scelte, ""}),
             GetParam().Con_Esc);
@@ -91,7 +91,7 @@ INSTANTIATE_TEST_SUITE_P(All, Box,
                                                     QMessageBox::Question,
                                                     {{QMessageBox::Yes, Risposta::Si},
                                                      {QMessageBox::No, Risposta::No}},
-                                                    Risposta::No}));
+                                                    Risposta::Si}));
 
 TEST(BoxPlace, IsOverItsWindowAndInFrontOfWhatIsModal) {
   QWidget sua, attiva;
