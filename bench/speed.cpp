@@ -1,19 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/speed.h"
 
+#include "bench/driven_run.h"
+
 namespace tavorno {
 
 Velocita Misura(Plc& plc, std::chrono::milliseconds durata) {
   using Orario = std::chrono::steady_clock;
   constexpr int righe_per_sguardo = 96;  // as the run in the window
   Velocita velocita;
-  // The run loop leaves after its first line, and the lines are counted here.
-  plc.Hook.Cedi = [&plc] { plc.Ferma = -1; };
   const auto inizio = Orario::now();
   plc.mnuPlcCont();
-  plc.mnuPlcRun();
-  plc.Hook.Cedi = nullptr;
-  plc.Ferma = 0;
+  Avvia_Guidata(plc, &Plc::mnuPlcRun);
   velocita.Righe = 1;
   auto passato = Orario::duration{0};
   while (passato < durata && plc.PLC_Acceso) {

@@ -1,6 +1,20 @@
 -- Il ciclo dei banchi pneumatici: SB1 ciclo automatico, SB2 ciclo singolo, SB3 fine del ciclo automatico,
 -- SB4 ripristino, SB5 emergenza, SA aria. Gli script che lo usano dicono soltanto che cosa cambia.
 
+function premi_per(pulsante, ms)
+  premi(pulsante)
+  attendi(ms)
+  rilascia(pulsante)
+  attendi(50)
+end
+
+function con_aria()
+  run()
+  attendi(300)
+  clic("imgCom")
+  attendi(500)
+end
+
 -- banco.sequenza: una riga per passo, i movimenti di un passo vanno insieme; banco.finecorsa: il punto
 -- di ogni movimento; banco.aria; banco.uscenti: le bobine che fanno uscire i cilindri.
 function prove_del_ciclo(banco)
@@ -24,20 +38,6 @@ function prove_del_ciclo(banco)
       if leggi(bobina) == 1 then return false end
     end
     return true
-  end
-
-  local function premi_per(pulsante, ms)
-    premi(pulsante)
-    attendi(ms)
-    rilascia(pulsante)
-    attendi(50)
-  end
-
-  local function con_aria()
-    run()
-    attendi(300)
-    clic("imgCom")
-    attendi(500)
   end
 
   -- I movimenti nell'ordine in cui arrivano al fine corsa; si ferma dopo "massimo" movimenti.

@@ -4,23 +4,11 @@
 -- 0Y1 Q0.0 aria, 1Y1 Q0.1 A fuori, 1Y2 Q0.2 A dentro.
 -- Ciclo chiesto: A fuori, pausa di 1 secondo (tra 0,8 e 1,5), A dentro.
 
+usa("ciclo_pneumatico.lua")
+
 local function dentro() return leggi("I0.1") == 1 end
 local function fuori() return leggi("I0.2") == 1 end
 local function lascia_a0() return not dentro() end
-
-local function premi_per(pulsante, ms)
-  premi(pulsante)
-  attendi(ms)
-  rilascia(pulsante)
-  attendi(50)
-end
-
-local function con_aria()
-  run()
-  attendi(300)
-  clic("imgCom")
-  attendi(500)
-end
 
 -- Quante volte il cilindro arriva fuori in questo tempo.
 local function cicli_in(ms)

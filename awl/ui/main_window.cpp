@@ -207,7 +207,7 @@ void FrmMain::Collega_Testi() {
 void FrmMain::Lettura(const std::function<void()>& comando) {
   const Copia_Progetto prima(p_);
   comando();
-  if (p_.Err_Lettura && !prima.Vuota() && p_.txtList.empty() && p_.Num_SBR == 0) {
+  if (p_.Err_Lettura && !prima.Vuota() && p_.Vuoto()) {
     if (!perso_ || !perso_->Da_Lettura || documenti_.Quanti() > 0)
       perso_ = Perso{prima, documenti_, true};
     documenti_.Svuota();

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "bench/driven_run.h"
 #include "plc/codepage.h"
 
 namespace tavorno {
@@ -83,18 +84,10 @@ void Collaudo::Scansione() {
   Rompi(std::move(testo));
 }
 
-/// The run loop of the CPU returns after its first line, and the script's time drives the rest.
-void Collaudo::Comanda(void (Plc::*comando)()) {
-  plc_.Hook.Cedi = [this] { plc_.Ferma = -1; };
-  (plc_.*comando)();
-  plc_.Hook.Cedi = nullptr;
-  plc_.Ferma = 0;
-}
-
 void Collaudo::Run() {
   if (plc_.PLC_Acceso) return;
   Proteggi([this] {
-    Comanda(&Plc::mnuPlcRun);
+    Avvia_Guidata(plc_, &Plc::mnuPlcRun);
     if (plc_.Modo_Run != Modo::Step && plc_.N_Cicli == 0) Scansione();
   });
 }
@@ -113,7 +106,7 @@ void Collaudo::Scegli_Modo(Modo modo) {
   Proteggi([&] {
     switch (modo) {
       case Modo::Cont:
-        Comanda(&Plc::mnuPlcCont);
+        Avvia_Guidata(plc_, &Plc::mnuPlcCont);
         break;
       case Modo::Ciclo:
         plc_.mnuPlcCiclo();

@@ -84,7 +84,6 @@ class Collaudo {
  private:
   template <class Azione>
   void Proteggi(Azione azione);
-  void Comanda(void (Plc::*comando)());
   void Scansione();
   void Un_Millisecondo(bool scansione);
   void Consuma(std::int64_t ms);
