@@ -11,12 +11,12 @@
 #include "bench/arguments.h"
 #include "bench/json_report.h"
 #include "bench/plant_options.h"
-#include "bench/session.h"
 #include "bench/speed.h"
 #include "bench/trace_options.h"
-#include "bench/virtual_run.h"
 #include "plants/link.h"
 #include "plc/codepage.h"
+#include "recorder/session.h"
+#include "recorder/virtual_run.h"
 
 namespace tavorno {
 

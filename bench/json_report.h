@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "bench/session.h"
+#include "recorder/session.h"
 
 namespace tavorno {
 

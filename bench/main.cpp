@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "bench/commands.h"
-#include "bench/grading/command.h"
+#include "bench/grade_command.h"
 
 int main(int argc, char** argv) {
   try {

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "bench/session.h"
+#include "recorder/session.h"
 
 namespace tavorno {
 

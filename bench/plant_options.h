@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "bench/arguments.h"
-#include "bench/hands.h"
-#include "bench/virtual_run.h"
 #include "plants/exercises.h"
+#include "recorder/hands.h"
+#include "recorder/virtual_run.h"
 
 // What the command line says of the plant. Wrong use throws `Uso_Errato`; where an exercise is a
 // pointer, nullptr means a run without a plant.

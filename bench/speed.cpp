@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/speed.h"
 
-#include "bench/driven_run.h"
+#include "recorder/driven_run.h"
 
 namespace tavorno {
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "bench/arguments.h"
-#include "bench/trace/trace.h"
+#include "trace/trace.h"
 
 // The files that the command line asks for.
 namespace tavorno {

@@ -11,10 +11,10 @@
 #include <functional>
 #include <map>
 
-#include "bench/session.h"
 #include "panel/controls/cpu_front.h"
 #include "panel/panel_window.h"
 #include "panel/program_list.h"
+#include "recorder/session.h"
 #include "widgets/command_tables.h"
 
 namespace tavorno {

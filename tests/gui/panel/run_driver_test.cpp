@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "bench/session.h"
+#include "recorder/session.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tavorno::prova {

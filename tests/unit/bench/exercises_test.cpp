@@ -2,9 +2,9 @@
 // Every exercise with its solved project, opened, run and closed again and again in one process.
 #include <gtest/gtest.h>
 
-#include "bench/session.h"
-#include "bench/virtual_run.h"
 #include "plants/link.h"
+#include "recorder/session.h"
+#include "recorder/virtual_run.h"
 
 namespace tavorno {
 namespace {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gmock/gmock.h>
 
-#include "bench/hands.h"
 #include "bench/plant_options.h"
-#include "bench/session.h"
 #include "command_bed.h"
+#include "recorder/hands.h"
+#include "recorder/session.h"
 
 namespace tavorno::prova {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gmock/gmock.h>
 
-#include "bench/session.h"
 #include "bench/speed.h"
 #include "command_bed.h"
+#include "recorder/session.h"
 
 namespace tavorno::prova {
 

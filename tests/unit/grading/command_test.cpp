@@ -5,9 +5,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "bench/grading/reports.h"
-#include "bench/trace/markup.h"
+#include "grading/reports.h"
 #include "grading_bed.h"
+#include "trace/markup.h"
 #include "xml_reader.h"
 
 namespace tavorno::prova {

@@ -2,7 +2,7 @@
 // The functions that a script calls.
 #include <gmock/gmock.h>
 
-#include "bench/grading/script_functions.h"
+#include "grading/script_functions.h"
 #include "grading_bed.h"
 
 namespace tavorno::prova {

@@ -3,8 +3,8 @@
 
 #include <sstream>
 
-#include "bench/grading/command.h"
-#include "bench/grading/grader.h"
+#include "bench/grade_command.h"
+#include "grading/grader.h"
 #include "tests/support/hand_in_bed.h"
 
 namespace tavorno::prova {

@@ -2,7 +2,7 @@
 // Scripts and projects that would hang, exhaust or escape.
 #include <gmock/gmock.h>
 
-#include "bench/grading/lua_messages.h"
+#include "grading/lua_messages.h"
 #include "grading_bed.h"
 
 namespace tavorno::prova {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Value change dumps and timing diagrams, read back.
-#include "bench/trace/trace.h"
+#include "trace/trace.h"
 
 #include <gmock/gmock.h>
 

@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bench/grade_command.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <iostream>
+#include <thread>
+
+#include "bench/arguments.h"
+#include "bench/commands.h"
+#include "bench/plant_options.h"
+#include "bench/trace_options.h"
+#include "grading/grader.h"
+#include "grading/reports.h"
+#include "grading/script_functions.h"
+
+namespace tavorno {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* aiuto =
+    R"(tavorno-banco prova: esamina progetti con uno o più script, in tempo virtuale.
+
+Uso:
+  tavorno-banco prova PROGETTO.AWL... SCRIPT.lua... [opzioni]
+      I file .lua sono gli script, gli altri i progetti; di una cartella si
+      esaminano tutti i file .AWL, anche quelli nelle sue sottocartelle.
+      Con un solo progetto stampa ogni caso; con più progetti li esamina insieme
+      su tutti i processori e stampa una riga per ciascuno.
+      --impianto N       l'esercizio collegato alla CPU (0..17)
+      --caso NOME        esegue soltanto la prova con questo nome
+      --junit FILE       rapporto JUnit XML, un testcase per ogni prova
+      --csv FILE         tabella dei punti, una riga per progetto
+      --json             stampa il rapporto in JSON
+      --vcd FILE         ingressi e uscite nel tempo, per GTKWave (un solo progetto)
+      --svg FILE         diagramma dei tempi (un solo progetto)
+      --processi N       quanti progetti alla volta (normalmente i processori)
+
+Funzioni degli script (Lua 5.4, senza file, processi e rete):
+)";
+
+constexpr const char* stati = R"(
+Stato di uscita: 0 tutte le prove superate, 1 qualcuna no oppure un rapporto che non
+si può scrivere, 2 progetto o script illeggibile, 64 uso errato.
+)";
+
+class Illeggibile : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+std::string Estensione(const fs::path& file) {
+  std::string estensione = file.extension().string();
+  for (char& c : estensione) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return estensione;
+}
+
+Sorgente_Script Leggi_Script(const std::string& file) {
+  try {
+    Sorgente_Script script = Leggi_Sorgente(file);
+    const std::string sbaglio = Errore_Di_Sintassi(script);
+    if (!sbaglio.empty()) throw std::runtime_error(sbaglio);
+    return script;
+  } catch (const std::runtime_error& errore) {
+    throw Illeggibile(file + ": " + errore.what());
+  }
+}
+
+bool Cartella(const std::string& percorso) {
+  std::error_code errore;  // an impossible path is no folder
+  return fs::is_directory(percorso, errore);
+}
+
+/// The projects of a folder, in the order of their paths.
+void Aggiungi_Cartella(const std::string& cartella, std::vector<std::string>& progetti) {
+  std::vector<std::string> trovati;
+  std::error_code errore;
+  const auto opzioni = fs::directory_options::skip_permission_denied;
+  for (fs::recursive_directory_iterator voce(cartella, opzioni, errore), fine;
+       !errore && voce != fine; voce.increment(errore)) {
+    if (voce->is_regular_file(errore) && Estensione(voce->path()) == ".awl")
+      trovati.push_back(voce->path().string());
+  }
+  if (trovati.empty()) throw Illeggibile(cartella + ": la cartella non contiene progetti .AWL.");
+  std::ranges::sort(trovati);
+  progetti.insert(progetti.end(), trovati.begin(), trovati.end());
+}
+
+/// What the command line names.
+struct Incarico {
+  std::vector<std::string> Progetti;
+  bool Molti = false;
+  Verifiche Con;
+};
+
+Incarico Leggi_Incarico(const Argomenti& argomenti) {
+  Incarico incarico;
+  std::vector<std::string> altri;
+  for (const std::string& file : argomenti.File()) {
+    if (Estensione(file) == ".lua" && !Cartella(file))
+      incarico.Con.Script.push_back(Leggi_Script(file));
+    else
+      altri.push_back(file);
+  }
+  if (altri.empty()) throw Uso_Errato("manca il file del progetto");
+  if (incarico.Con.Script.empty()) throw Uso_Errato("manca lo script (un file .lua)");
+  incarico.Molti = altri.size() > 1;
+  for (const std::string& file : altri) {
+    if (Cartella(file)) {
+      incarico.Molti = true;
+      Aggiungi_Cartella(file, incarico.Progetti);
+    } else {
+      incarico.Progetti.push_back(file);
+    }
+  }
+  incarico.Con.Solo_Caso = argomenti.Testo("--caso", "");
+  incarico.Con.Impianto = Impianto_Di(argomenti);
+  return incarico;
+}
+
+std::vector<Esito_Progetto> Esamina_Molti(const Incarico& incarico, unsigned processi, bool righe,
+                                          std::ostream& out, std::ostream& err) {
+  std::vector<Esito_Progetto> esiti;
+  // Nobody wants the progress in a file.
+  const bool terminale = &err == &std::cerr && ::isatty(STDERR_FILENO) == 1;
+  const std::size_t tutti = incarico.Progetti.size();
+  Esamina_Tutti(
+      incarico.Progetti, incarico.Con, processi,
+      [&](const Esito_Progetto& esito) {
+        if (terminale) err << "\r\033[K";
+        if (righe) Stampa_Riga(out, esito);
+        esiti.push_back(esito);
+      },
+      [&](std::size_t fatti) {
+        if (!terminale) return;
+        out.flush();
+        err << "esaminati " << fatti << " di " << tutti << std::flush;
+        if (fatti == tutti) err << "\r\033[K";
+      });
+  return esiti;
+}
+
+void Stampa_Somma(std::ostream& out, const std::vector<Esito_Progetto>& esiti) {
+  const auto superati = std::ranges::count_if(esiti, &Esito_Progetto::Superato);
+  out << "Superati " << superati << " progetti su " << esiti.size() << ".\n";
+}
+
+int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
+  const Incarico incarico = Leggi_Incarico(argomenti);
+  const bool json = argomenti.Ha("--json");
+  const bool tracce = Vuole_Traccia(argomenti);
+  if (incarico.Molti && tracce)
+    throw Uso_Errato("le opzioni --vcd e --svg vogliono un solo progetto");
+  const auto processi = static_cast<unsigned>(
+      argomenti.Numero("--processi", std::max(1U, std::thread::hardware_concurrency()), 1, 256));
+
+  std::vector<Esito_Progetto> esiti;
+  // A file that cannot be written must not cost the others: the grading may have taken an hour.
+  std::string non_scritto;
+  const auto Prova_A_Scrivere = [&non_scritto](const auto& scrivi) {
+    try {
+      scrivi();
+    } catch (const std::runtime_error& errore) {
+      if (non_scritto.empty()) non_scritto = errore.what();
+    }
+  };
+  const auto Scrivi = [&](const char* opzione, auto rapporto) {
+    if (argomenti.Ha(opzione))
+      Prova_A_Scrivere([&] { Scrivi_Rapporto(argomenti.Testo(opzione, ""), rapporto(esiti)); });
+  };
+  if (incarico.Molti) {
+    esiti = Esamina_Molti(incarico, processi, !json, out, err);
+    if (!json) Stampa_Somma(out, esiti);
+  } else {
+    Traccia traccia(incarico.Con.Impianto);
+    const std::string& progetto = incarico.Progetti.front();
+    esiti.push_back(Esamina(progetto, incarico.Con, tracce ? &traccia : nullptr));
+    if (!json) Stampa_Progetto(out, esiti.front());
+    Prova_A_Scrivere([&] { Scrivi_Traccia(argomenti, traccia, progetto); });
+  }
+  if (json) out << Rapporto_Json(esiti) << '\n';
+  Scrivi("--junit", Rapporto_Junit);
+  Scrivi("--csv", Rapporto_Csv);
+  if (!non_scritto.empty()) throw std::runtime_error(non_scritto);
+
+  if (!incarico.Molti && esiti.front().Illeggibile) return Uscita_Illeggibile;
+  return std::ranges::all_of(esiti, &Esito_Progetto::Superato) ? Uscita_Buona : Uscita_Errori;
+}
+
+}  // namespace
+
+std::string Aiuto_Prova() {
+  std::string testo = aiuto;
+  for (const Riga_Funzione& riga : Funzioni_Script())
+    testo += std::string("  ") + riga.Uso + "\n      " + riga.Aiuto + "\n";
+  return testo + stati;
+}
+
+int Comando_Prova(const std::vector<std::string>& parole, std::ostream& out, std::ostream& err) {
+  if (std::ranges::any_of(parole, [](const auto& p) { return p == "--help" || p == "-h"; })) {
+    out << Aiuto_Prova();
+    return Uscita_Buona;
+  }
+  try {
+    return Esegui(
+        Argomenti(parole,
+                  {"--impianto", "--caso", "--junit", "--csv", "--vcd", "--svg", "--processi"},
+                  {"--json"}),
+        out, err);
+  } catch (const Uso_Errato& errore) {
+    err << "tavorno-banco: " << errore.what() << " (tavorno-banco prova --help per l'aiuto)\n";
+    return Uscita_Uso;
+  } catch (const Illeggibile& errore) {
+    err << errore.what() << '\n';
+    return Uscita_Illeggibile;
+  } catch (const std::exception& errore) {
+    err << "tavorno-banco: " << errore.what() << '\n';
+    return Uscita_Errori;
+  }
+}
+
+}  // namespace tavorno

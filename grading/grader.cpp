@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "grading/grader.h"
+
+#include <exception>
+
+#include "plc/codepage.h"
+#include "recorder/session.h"
+
+namespace tavorno {
+
+namespace {
+
+std::string Senza_CR(std::string testo) {
+  std::erase(testo, '\r');
+  return testo;
+}
+
+/// Reads and compiles into `ambiente`.
+void Prepara(Seduta& seduta, const std::string& percorso, Ambiente_Script& ambiente,
+             Esito_Progetto& esito) {
+  if (!seduta.Apri(percorso)) {
+    esito.Illeggibile = true;
+    ambiente.Motivo =
+        "Impossibile leggere il progetto: " + Senza_CR(seduta.progetto.Dettaglio.Come_Testo());
+    return;
+  }
+  seduta.progetto.Compila();
+  if (seduta.progetto.Compilato) {
+    ambiente.Programma = &seduta.plc;
+    return;
+  }
+  ambiente.Motivo = "Il progetto non si compila: errori " + std::to_string(seduta.progetto.Errori);
+  ambiente.Listato = Senza_CR(A_Utf8(seduta.progetto.Lista_Comp));
+}
+
+}  // namespace
+
+Esito_Progetto Esamina(const std::string& percorso, const Verifiche& verifiche, Traccia* traccia) {
+  Esito_Progetto esito;
+  esito.Progetto = percorso;
+  const auto Fallisci = [&](const std::string& perche) {
+    Caso caso;
+    caso.Nome = "esame";
+    caso.Rilievi.push_back({0, perche});
+    esito.Casi.push_back(std::move(caso));
+  };
+  try {
+    const auto seduta = std::make_unique<Seduta>();
+    Ambiente_Script ambiente;
+    ambiente.Impianto = verifiche.Impianto;
+    ambiente.Registra = traccia;
+    ambiente.Solo_Caso = verifiche.Solo_Caso;
+    ambiente.Basta_Un_Errore = verifiche.Basta_Un_Errore;
+    ambiente.Limiti = verifiche.Limiti;
+    ambiente.Inizio = verifiche.Inizio;
+    Prepara(*seduta, percorso, ambiente, esito);
+    for (const Sorgente_Script& script : verifiche.Script) {
+      Esame esame(script, ambiente);
+      for (Caso& caso : esame.Esegui()) esito.Casi.push_back(std::move(caso));
+    }
+    if (!ambiente.Programma && esito.Superato()) Fallisci(ambiente.Motivo);
+    if (esito.Casi.empty()) Fallisci("nessuno script contiene una prova che si possa eseguire");
+  } catch (const std::exception& errore) {
+    Fallisci(std::string("errore interno del banco: ") + errore.what());
+  }
+  return esito;
+}
+
+}  // namespace tavorno

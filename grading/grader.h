@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "grading/outcome.h"
+#include "grading/script.h"
+
+namespace tavorno {
+
+/// What every hand-in is examined with.
+struct Verifiche {
+  std::vector<Sorgente_Script> Script;
+  const Esercizio* Impianto = nullptr;
+  std::string Solo_Caso;         ///< empty: all
+  bool Basta_Un_Errore = false;  ///< cases behind the first that fails are not run
+  Limiti_Script Limiti;
+  Scorte Inizio;
+};
+
+/// Compiles a project and runs all scripts on it. Never throws for what the project or a script
+/// does: a project that cannot be read or compiled fails every case, and still counts its marks.
+Esito_Progetto Esamina(const std::string& percorso, const Verifiche& verifiche,
+                       Traccia* traccia = nullptr);
+
+/// Examines many on `processi` threads. `Finito` is called in the order of the list, one at a time.
+void Esamina_Tutti(const std::vector<std::string>& percorsi, const Verifiche& verifiche,
+                   unsigned processi, const std::function<void(const Esito_Progetto&)>& finito,
+                   const std::function<void(std::size_t)>& avanzamento = {});
+
+}  // namespace tavorno

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "grading/outcome.h"
+
+#include <algorithm>
+
+namespace tavorno {
+
+int Esito_Progetto::Superati() const {
+  return static_cast<int>(std::ranges::count_if(Casi, &Caso::Superato));
+}
+
+double Esito_Progetto::Punti() const {
+  double somma = 0;
+  for (const Caso& caso : Casi) somma += caso.Punti;
+  return somma;
+}
+
+double Esito_Progetto::Massimo() const {
+  double somma = 0;
+  for (const Caso& caso : Casi) somma += caso.Massimo;
+  return somma;
+}
+
+std::string Esito_Progetto::Primo_Rilievo() const {
+  for (const Caso& caso : Casi) {
+    if (!caso.Superato()) return caso.Rilievi.front().Testo;
+  }
+  return "";
+}
+
+}  // namespace tavorno

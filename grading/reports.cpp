@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "grading/reports.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <iomanip>
+#include <nlohmann/json.hpp>
+
+#include "trace/markup.h"
+
+namespace tavorno {
+
+namespace {
+
+constexpr std::size_t larghezza_nome = 44;
+
+std::string Allarga(const std::string& testo, std::size_t larghezza) {
+  const std::size_t lungo = Lunghezza_Utf8(testo);
+  return testo + std::string(lungo < larghezza ? larghezza - lungo : 0, ' ');
+}
+
+/// A text of others on one line of a terminal, which shall not obey it.
+std::string Su_Una_Riga(std::string testo) {
+  std::ranges::replace_if(
+      testo, [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }, ' ');
+  return Utf8_Valido(testo);
+}
+
+std::string Su_Massimo(double punti, double massimo) {
+  return Testo_Punti(punti) + "/" + Testo_Punti(massimo);
+}
+
+void Stampa_Listato(std::ostream& out, const std::string& listato) {
+  std::size_t inizio = 0;
+  while (inizio < listato.size()) {
+    const std::size_t fine = std::min(listato.find('\n', inizio), listato.size());
+    out << "                     | " << Su_Una_Riga(listato.substr(inizio, fine - inizio)) << '\n';
+    inizio = fine + 1;
+  }
+}
+
+}  // namespace
+
+std::string Testo_Punti(double punti) {
+  char testo[32];
+  std::snprintf(testo, sizeof testo, "%.2f", punti);
+  std::string cifre = testo;
+  while (cifre.ends_with('0')) cifre.pop_back();
+  if (cifre.ends_with('.')) cifre.pop_back();
+  std::ranges::replace(cifre, '.', ',');
+  return cifre;
+}
+
+void Stampa_Progetto(std::ostream& out, const Esito_Progetto& esito) {
+  out << Su_Una_Riga(esito.Progetto) << '\n';
+  std::string listato;  // the same for all cases when the project does not compile
+  for (const Caso& caso : esito.Casi) {
+    out << (caso.Superato() ? "  ok       " : "  FALLITO  ")
+        << Allarga(Su_Una_Riga(caso.Nome), larghezza_nome) << std::setw(9) << caso.Ms << " ms";
+    if (caso.Massimo > 0) out << "   " << Su_Massimo(caso.Punti, caso.Massimo) << " punti";
+    out << '\n';
+    for (const Rilievo& rilievo : caso.Rilievi)
+      out << std::setw(16) << rilievo.Ms << " ms: " << Su_Una_Riga(rilievo.Testo) << '\n';
+    for (const std::string& nota : caso.Note)
+      out << "             nota: " << Su_Una_Riga(nota) << '\n';
+    if (caso.Listato != listato) Stampa_Listato(out, caso.Listato);
+    listato = caso.Listato;
+  }
+  out << "Superati " << esito.Superati() << " casi su " << esito.Casi.size() << ".";
+  if (esito.Massimo() > 0)
+    out << " Punti: " << Testo_Punti(esito.Punti()) << " su " << Testo_Punti(esito.Massimo())
+        << ".";
+  out << '\n';
+}
+
+void Stampa_Riga(std::ostream& out, const Esito_Progetto& esito) {
+  out << (esito.Superato() ? "ok       " : "FALLITO  ")
+      << Allarga(Su_Una_Riga(esito.Progetto), larghezza_nome) << " casi " << esito.Superati() << "/"
+      << esito.Casi.size();
+  if (esito.Massimo() > 0) out << "  punti " << Su_Massimo(esito.Punti(), esito.Massimo());
+  if (!esito.Superato()) out << "  " << Su_Una_Riga(esito.Primo_Rilievo());
+  out << '\n';
+}
+
+std::string Rapporto_Csv(const std::vector<Esito_Progetto>& esiti) {
+  std::string csv = "progetto;esito;casi superati;casi;punti;massimo;primo rilievo\n";
+  for (const Esito_Progetto& esito : esiti) {
+    const char* giudizio = esito.Illeggibile  ? "illeggibile"
+                           : esito.Superato() ? "superato"
+                                              : "fallito";
+    csv += In_Csv(Utf8_Valido(esito.Progetto)) + ";" + giudizio + ";" +
+           std::to_string(esito.Superati()) + ";" + std::to_string(esito.Casi.size()) + ";" +
+           Testo_Punti(esito.Punti()) + ";" + Testo_Punti(esito.Massimo()) + ";" +
+           In_Csv(esito.Primo_Rilievo()) + "\n";
+  }
+  return csv;
+}
+
+std::string Rapporto_Json(const std::vector<Esito_Progetto>& esiti) {
+  using Json = nlohmann::ordered_json;
+  Json progetti = Json::array();
+  for (const Esito_Progetto& esito : esiti) {
+    Json casi = Json::array();
+    for (const Caso& caso : esito.Casi) {
+      Json rilievi = Json::array();
+      for (const Rilievo& rilievo : caso.Rilievi)
+        rilievi.push_back({{"ms", rilievo.Ms}, {"text", rilievo.Testo}});
+      casi.push_back({{"script", caso.Script},
+                      {"name", caso.Nome},
+                      {"passed", caso.Superato()},
+                      {"ms", caso.Ms},
+                      {"marks", caso.Punti},
+                      {"maximum", caso.Massimo},
+                      {"findings", rilievi},
+                      {"notes", caso.Note},
+                      {"listing", caso.Listato}});
+    }
+    progetti.push_back({{"project", esito.Progetto},
+                        {"readable", !esito.Illeggibile},
+                        {"passed", esito.Superato()},
+                        {"marks", esito.Punti()},
+                        {"maximum", esito.Massimo()},
+                        {"cases", casi}});
+  }
+  return progetti.dump(2, ' ', false, Json::error_handler_t::replace);
+}
+
+}  // namespace tavorno

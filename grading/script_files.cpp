@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "grading/script_files.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <stdexcept>
+
+#include "awl/file_io.h"
+
+namespace tavorno {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::uintmax_t script_massimo = 1024 * 1024;
+
+/// A name, and not a path, on any system; one that begins with a point is hidden or a folder.
+bool Nome_Semplice(const std::string& nome) {
+  return nome.ends_with(".lua") && !nome.starts_with(".") && std::ranges::none_of(nome, [](char c) {
+           return c == '/' || c == '\\' || c == ':' || static_cast<unsigned char>(c) < 0x20 ||
+                  c == 0x7F;
+         });
+}
+
+}  // namespace
+
+Sorgente_Script Leggi_Sorgente(const std::string& file) {
+  std::error_code errore;
+  if (fs::file_size(file, errore) > script_massimo && !errore)
+    throw std::runtime_error("lo script è troppo grande");
+  Contenuto_File contenuto = Leggi_File(file);
+  if (!contenuto.Errore.empty())
+    throw std::runtime_error("impossibile leggere lo script: " + contenuto.Errore);
+  const fs::path percorso(file);
+  Sorgente_Script script{percorso.filename().string(), std::move(contenuto.Byte),
+                         percorso.has_parent_path() ? percorso.parent_path().string() : "."};
+  std::ranges::replace(script.Nome, ':', '_');  // ends the name in the messages of the language
+  if (script.Testo.starts_with("\xEF\xBB\xBF")) script.Testo.erase(0, 3);
+  return script;
+}
+
+Sorgente_Script Leggi_Vicino(const Sorgente_Script& script, const std::string& nome) {
+  if (!Nome_Semplice(nome))
+    throw std::runtime_error("serve il nome di un file .lua, senza cartelle");
+  const fs::path file = fs::path(script.Cartella) / nome;
+  std::error_code errore;
+  if (script.Cartella.empty() || !fs::is_regular_file(fs::symlink_status(file, errore)))
+    throw std::runtime_error("accanto allo script non c'è un file \"" + nome + "\"");
+  return Leggi_Sorgente(file.string());
+}
+
+}  // namespace tavorno

@@ -1,0 +1,352 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a script can do. An error of the language leaps over destructors, so a function that may
+// raise one holds nothing on its stack that owns memory: texts on their way lie in the `Esame`.
+#include "grading/script_functions.h"
+
+#include <algorithm>
+#include <lua5.4/lua.hpp>
+#include <new>
+
+#include "grading/lua_messages.h"
+#include "grading/script.h"
+#include "grading/script_arguments.h"
+#include "trace/address.h"
+
+namespace tavorno {
+
+namespace {
+
+constexpr long long costo_chiamata = 20;  // instructions
+constexpr long long tempo_massimo = 24 * 3'600'000LL;
+constexpr const char* tipo_elemento = "tavorno.elemento";
+
+std::string Riga_Chiamante(lua_State* stato) {
+  lua_Debug posto{};
+  if (!lua_getstack(stato, 1, &posto) || !lua_getinfo(stato, "l", &posto)) return "";
+  return " (riga " + std::to_string(posto.currentline) + ")";
+}
+
+std::string Messaggio_O_Riga(lua_State* stato, int numero, const char* funzione) {
+  if (lua_type(stato, numero) == LUA_TNUMBER) lua_tolstring(stato, numero, nullptr);  // in place
+  const std::string_view testo = Arg_Testo_Facoltativo(stato, numero, funzione);
+  return testo.empty() ? "condizione non verificata" + Riga_Chiamante(stato) : std::string(testo);
+}
+
+// ---- run ----------------------------------------------------------------------------------------
+
+int Fa_Run(lua_State*, Esame& esame) {
+  esame.Banco().Run();
+  return 0;
+}
+
+int Fa_Stop(lua_State*, Esame& esame) {
+  esame.Banco().Stop();
+  return 0;
+}
+
+int Fa_Modo(lua_State* stato, Esame& esame) {
+  struct Riga_Modo {
+    std::string_view Nome;
+    Modo Quale;
+  };
+  static constexpr Riga_Modo modi[] = {
+      {"Cont", Modo::Cont}, {"Ciclo", Modo::Ciclo}, {"Step", Modo::Step}};
+  const std::string_view nome = Arg_Testo(stato, 1, "modo");
+  for (const Riga_Modo& riga : modi) {
+    if (riga.Nome != nome) continue;
+    esame.Banco().Scegli_Modo(riga.Quale);
+    return 0;
+  }
+  throw Errore_Script("modo: i modi sono \"Cont\", \"Ciclo\" e \"Step\"");
+}
+
+int Fa_Passo(lua_State*, Esame& esame) {
+  esame.Banco().Passo();
+  return 0;
+}
+
+int Fa_Cicli(lua_State* stato, Esame& esame) {
+  esame.Banco().Cicli(static_cast<int>(Arg_Intero(stato, 1, "cicli", 0, 100'000'000)));
+  return 0;
+}
+
+int Fa_Attendi(lua_State* stato, Esame& esame) {
+  esame.Banco().Passa(Arg_Intero(stato, 1, "attendi", 0, tempo_massimo));
+  return 0;
+}
+
+int Fa_Attendi_Fino(lua_State* stato, Esame& esame) {
+  Arg_Funzione(stato, 1, "attendi_fino");
+  const long long limite = Arg_Intero(stato, 2, "attendi_fino", 0, tempo_massimo);
+  esame.Banco();
+  const int caso = esame.Numero_Caso;
+  for (long long ms = 0;; ++ms) {
+    lua_pushvalue(stato, 1);
+    lua_call(stato, 0, 1);
+    const bool vero = Vero(stato, -1);
+    lua_pop(stato, 1);
+    if (esame.Numero_Caso != caso)
+      throw Errore_Script("attendi_fino: la funzione non può cominciare un'altra prova");
+    const bool rotto = !esame.Banco().Guasto().empty();
+    if ((vero && !rotto) || ms == limite || rotto) {
+      if (rotto) esame.Banco().Passa(limite - ms);
+      lua_pushboolean(stato, vero && !rotto);
+      lua_pushinteger(stato, ms);
+      return 2;
+    }
+    esame.Banco().Passa(1);
+  }
+}
+
+// ---- the user's hand ----------------------------------------------------------------------------
+
+template <bool (Collaudo::*azione)(std::string_view), const char* const& nome>
+int Aziona(lua_State* stato, Esame& esame) {
+  lua_pushboolean(stato, (esame.Banco().*azione)(Arg_Testo(stato, 1, nome)));
+  return 1;
+}
+constexpr const char* premi = "premi";
+constexpr const char* rilascia = "rilascia";
+constexpr const char* clic = "clic";
+constexpr const char* doppio_clic = "doppio_clic";
+
+int Fa_Regola(lua_State* stato, Esame& esame) {
+  const std::string_view nome = Arg_Testo(stato, 1, "regola");
+  esame.Banco().Regola(nome, Arg_Numero(stato, 2, "regola", -1e9, 1e9));
+  return 0;
+}
+
+// ---- memory -------------------------------------------------------------------------------------
+
+Indirizzo Arg_Indirizzo(lua_State* stato, const char* funzione) {
+  const std::string_view testo = Arg_Testo(stato, 1, funzione);
+  if (const auto indirizzo = Leggi_Indirizzo(testo)) return *indirizzo;
+  throw Errore_Script(std::string(funzione) + ": l'indirizzo \"" + std::string(testo) +
+                      "\" non esiste; ci sono " + Indirizzi_Ammessi());
+}
+
+void Scrivi(lua_State* stato, Esame& esame, const char* funzione, const Indirizzo& indirizzo) {
+  esame.Banco().Scrivi(indirizzo, Arg_Numero(stato, 2, funzione, -1e12, 1e12), funzione);
+}
+
+int Fa_Ingresso(lua_State* stato, Esame& esame) {
+  const Indirizzo indirizzo = Arg_Indirizzo(stato, "ingresso");
+  if (indirizzo.Dove != Campo::I) throw Errore_Script("ingresso: serve un punto tra I0.0 e I1.7");
+  Scrivi(stato, esame, "ingresso", indirizzo);
+  return 0;
+}
+
+int Fa_Analogico(lua_State* stato, Esame& esame) {
+  const long long canale = Arg_Intero(stato, 1, "analogico", 0, 2);
+  const double volt = Arg_Numero(stato, 2, "analogico", -1000, 1000);
+  esame.Banco().Cpu().Volt_AI[static_cast<int>(canale)] = static_cast<float>(volt);
+  return 0;
+}
+
+int Fa_Leggi(lua_State* stato, Esame& esame) {
+  const Indirizzo indirizzo = Arg_Indirizzo(stato, "leggi");
+  const double valore = Leggi_Cella(esame.Banco().Cpu(), indirizzo);
+  if (indirizzo.Dove == Campo::AC)
+    lua_pushnumber(stato, valore);
+  else
+    lua_pushinteger(stato, static_cast<lua_Integer>(valore));
+  return 1;
+}
+
+int Fa_Scrivi(lua_State* stato, Esame& esame) {
+  Scrivi(stato, esame, "scrivi", Arg_Indirizzo(stato, "scrivi"));
+  return 0;
+}
+
+// ---- pictures and messages ----------------------------------------------------------------------
+
+/// A figure of the machine of one case.
+struct Maniglia {
+  const Figura* Quale;
+  int Numero_Caso;
+};
+
+int Fa_Elemento(lua_State* stato, Esame& esame) {
+  const Figura& figura = esame.Banco().Elemento(Arg_Testo(stato, 1, "elemento"));
+  void* posto = lua_newuserdatauv(stato, sizeof(Maniglia), 0);
+  new (posto) Maniglia{&figura, esame.Numero_Caso};
+  luaL_setmetatable(stato, tipo_elemento);
+  return 1;
+}
+
+struct Riga_Proprieta {
+  std::string_view Nome;
+  void (*Metti)(lua_State*, const Figura&);
+};
+
+void Metti_Testo(lua_State* stato, const std::string& testo) {
+  lua_pushlstring(stato, testo.data(), testo.size());
+}
+
+constexpr Riga_Proprieta proprieta[] = {
+    {"Left", [](lua_State* s, const Figura& f) { lua_pushnumber(s, f.Left()); }},
+    {"Top", [](lua_State* s, const Figura& f) { lua_pushnumber(s, f.Top()); }},
+    {"Width", [](lua_State* s, const Figura& f) { lua_pushnumber(s, f.Width()); }},
+    {"Height", [](lua_State* s, const Figura& f) { lua_pushnumber(s, f.Height()); }},
+    {"Visible", [](lua_State* s, const Figura& f) { lua_pushboolean(s, f.Visible()); }},
+    {"Picture", [](lua_State* s, const Figura& f) { Metti_Testo(s, f.Picture()); }},
+    {"Caption", [](lua_State* s, const Figura& f) { Metti_Testo(s, f.Caption()); }},
+    {"ToolTip", [](lua_State* s, const Figura& f) { Metti_Testo(s, f.ToolTip()); }},
+    {"FillColor", [](lua_State* s, const Figura& f) { lua_pushinteger(s, f.FillColor()); }},
+    {"ForeColor", [](lua_State* s, const Figura& f) { lua_pushinteger(s, f.ForeColor()); }},
+    {"FillStyle", [](lua_State* s, const Figura& f) { lua_pushinteger(s, f.FillStyle()); }},
+};
+
+int Proprieta_Elemento(lua_State* stato, Esame& esame) {
+  const auto& maniglia = *static_cast<const Maniglia*>(lua_touserdata(stato, 1));
+  if (maniglia.Numero_Caso != esame.Numero_Caso)
+    throw Errore_Script("questo elemento appartiene a una prova già finita");
+  const std::string_view nome = Arg_Testo(stato, 2, "elemento");
+  for (const Riga_Proprieta& riga : proprieta) {
+    if (riga.Nome != nome) continue;
+    riga.Metti(stato, *maniglia.Quale);
+    return 1;
+  }
+  throw Errore_Script("la proprietà \"" + std::string(nome) + "\" non esiste");
+}
+
+int Assegna_Proprieta(lua_State*, Esame&) {
+  throw Errore_Script("le proprietà di un elemento si leggono soltanto");
+}
+
+int Fa_Messaggi(lua_State* stato, Esame& esame) {
+  esame.Avvisi = esame.Banco().Prendi_Avvisi();
+  lua_createtable(stato, static_cast<int>(esame.Avvisi.size()), 0);
+  for (lua_Integer n = 0; const Avviso& avviso : esame.Avvisi) {
+    lua_pushfstring(stato, "%s: %s", avviso.Titolo.c_str(), avviso.Testo.c_str());
+    lua_rawseti(stato, -2, ++n);
+  }
+  return 1;
+}
+
+/// Runs in the state and within the limits of the script.
+int Fa_Usa(lua_State* stato, Esame& esame) {
+  if (esame.Usa(std::string(Arg_Testo(stato, 1, "usa")))) lua_call(stato, 0, 0);
+  return 0;
+}
+
+// ---- verdicts -----------------------------------------------------------------------------------
+
+int Fa_Verifica(lua_State* stato, Esame& esame) {
+  const bool vero = Vero(stato, 1);
+  if (!vero) esame.Rileva(Messaggio_O_Riga(stato, 2, "verifica"));
+  lua_pushboolean(stato, vero);
+  return 1;
+}
+
+int Fa_Punti(lua_State* stato, Esame& esame) {
+  const double punti = Arg_Numero(stato, 1, "punti", 0, 1000);
+  const bool vero = Vero(stato, 2);
+  esame.Segna_Punti(punti, vero, Messaggio_O_Riga(stato, 3, "punti"));
+  lua_pushboolean(stato, vero);
+  return 1;
+}
+
+int Fa_Prova(lua_State* stato, Esame& esame) {
+  const std::string_view nome = Arg_Testo(stato, 1, "prova");
+  Arg_Funzione(stato, 2, "prova");
+  if (esame.In_Prova) throw Errore_Script("prova: una prova non può contenerne un'altra");
+  esame.In_Prova = true;
+  if (esame.Inizia(std::string(nome))) {
+    lua_pushvalue(stato, 2);
+    if (lua_pcall(stato, 0, 0, 0) != LUA_OK) esame.Registra_Errore(stato);
+    esame.Fine();
+  }
+  esame.In_Prova = false;
+  if (esame.Esaurito()) {
+    esame.Interrotto = true;
+    throw Limite_Superato("interrotto");
+  }
+  return 0;
+}
+
+int Fa_Print(lua_State* stato, Esame& esame) {
+  esame.Errore.clear();
+  const int quanti = lua_gettop(stato);
+  // No more than the report keeps: the text grows outside the memory of the script.
+  for (int numero = 1; numero <= quanti && esame.Errore.size() <= lunghezza_messaggio; ++numero) {
+    if (numero > 1) esame.Errore += ' ';
+    std::size_t lungo = 0;
+    const char* testo = luaL_tolstring(stato, numero, &lungo);
+    esame.Errore.append(testo, std::min(lungo, lunghezza_messaggio + 1));
+    lua_pop(stato, 1);
+  }
+  esame.Annota(esame.Errore);
+  return 0;
+}
+
+// clang-format off
+constexpr Riga_Funzione funzioni[] = {
+    {"prova", "prova(nome, funzione)", "un caso con un nome, su una CPU e un impianto nuovi", Fa_Prova},
+    {"verifica", "verifica(condizione, messaggio)", "se la condizione è falsa il caso non è superato; restituisce la condizione", Fa_Verifica},
+    {"punti", "punti(n, condizione, messaggio)", "come verifica, e vale n punti", Fa_Punti},
+    {"run", "run()", "avvia la CPU; nei modi Cont e Ciclo esegue subito la prima scansione", Fa_Run},
+    {"stop", "stop()", "ferma la CPU", Fa_Stop},
+    {"modo", "modo(\"Cont\"|\"Ciclo\"|\"Step\")", "sceglie il modo: Cont scandisce mentre il tempo passa, Ciclo con cicli(n), Step con passo()", Fa_Modo},
+    {"passo", "passo()", "esegue una riga, nel modo Step", Fa_Passo},
+    {"cicli", "cicli(n)", "esegue n scansioni intere, di un millisecondo l'una", Fa_Cicli},
+    {"attendi", "attendi(ms)", "lascia passare il tempo virtuale", Fa_Attendi},
+    {"attendi_fino", "attendi_fino(funzione, ms)", "aspetta che la funzione dia vero, al massimo ms; restituisce vero o falso e i millisecondi passati", Fa_Attendi_Fino},
+    {"premi", "premi(elemento)", "preme un elemento dell'impianto; falso se è nascosto", Aziona<&Collaudo::Premi, premi>},
+    {"rilascia", "rilascia(elemento)", "lo rilascia", Aziona<&Collaudo::Rilascia, rilascia>},
+    {"clic", "clic(elemento)", "un clic; un pulsante resta premuto 100 ms", Aziona<&Collaudo::Clic, clic>},
+    {"doppio_clic", "doppio_clic(elemento)", "un doppio clic", Aziona<&Collaudo::Doppio_Clic, doppio_clic>},
+    {"regola", "regola(nome, valore)", "muove un cursore o un regolatore dell'impianto", Fa_Regola},
+    {"ingresso", "ingresso(\"I0.3\", 1)", "accende o spegne un ingresso", Fa_Ingresso},
+    {"analogico", "analogico(canale, volt)", "tensione dell'ingresso analogico 0, 1 o 2 (AIW0, AIW2, AIW4)", Fa_Analogico},
+    {"leggi", "leggi(indirizzo)", "valore di un indirizzo: \"Q0.0\", \"VW10\", \"T37.Val\"; i bit valgono 0 o 1", Fa_Leggi},
+    {"scrivi", "scrivi(indirizzo, valore)", "lo cambia", Fa_Scrivi},
+    {"elemento", "elemento(nome).Left", "una proprietà di un elemento del disegno: Left, Top, Width, Height, Visible, Picture, Caption, ToolTip, FillColor, ForeColor, FillStyle", Fa_Elemento},
+    {"messaggi", "messaggi()", "tabella con i messaggi mostrati dalla CPU dall'ultima chiamata", Fa_Messaggi},
+    {"usa", "usa(\"file.lua\")", "esegue, una volta sola, un altro script della stessa cartella: le sue funzioni restano", Fa_Usa},
+    {"print", "print(...)", "scrive una nota nel rapporto del caso", Fa_Print},
+};
+// clang-format on
+
+constexpr Riga_Funzione uso_elemento[] = {{"__index", "", "", Proprieta_Elemento},
+                                          {"__newindex", "", "", Assegna_Proprieta}};
+
+/// Between the language and the rows above: exceptions end here and become errors of the language.
+int Ponte(lua_State* stato) {
+  Esame& esame = Esame::Di(stato);
+  const auto& riga = *static_cast<const Riga_Funzione*>(lua_touserdata(stato, lua_upvalueindex(1)));
+  esame.Spazio().Addebita(costo_chiamata);
+  try {
+    return riga.Esegui(stato, esame);
+  } catch (const std::exception& errore) {
+    esame.Errore = errore.what();
+  }
+  return luaL_error(stato, "%s", esame.Errore.c_str());
+}
+
+void Metti_Funzione(lua_State* stato, const Riga_Funzione& riga) {
+  // The language keeps pointers without const; the row is only read.
+  lua_pushlightuserdata(stato, const_cast<Riga_Funzione*>(&riga));
+  lua_pushcclosure(stato, Ponte, 1);
+}
+
+}  // namespace
+
+std::span<const Riga_Funzione> Funzioni_Script() {
+  return funzioni;
+}
+
+int Registra_Funzioni(lua_State* stato) {
+  for (const Riga_Funzione& riga : funzioni) {
+    Metti_Funzione(stato, riga);
+    lua_setglobal(stato, riga.Nome);
+  }
+  luaL_newmetatable(stato, tipo_elemento);
+  for (const Riga_Funzione& riga : uso_elemento) {
+    Metti_Funzione(stato, riga);
+    lua_setfield(stato, -2, riga.Nome);
+  }
+  return 0;
+}
+
+}  // namespace tavorno

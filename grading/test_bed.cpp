@@ -1,0 +1,260 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "grading/test_bed.h"
+
+#include <algorithm>
+
+#include "plc/codepage.h"
+#include "recorder/driven_run.h"
+
+namespace tavorno {
+
+namespace {
+
+/// The lines around `PC`, with a mark at it.
+std::string Righe_Intorno(const Plc& plc) {
+  constexpr int intorno = 3;
+  std::string testo;
+  const int prima = std::max(0, plc.PC - intorno);
+  const int ultima = std::min(plc.Prog.Righe() - 1, plc.PC + intorno);
+  for (int riga = prima; riga <= ultima; ++riga) {
+    testo += (riga == plc.PC ? "> " : "  ") + std::to_string(riga) + "  " +
+             A_Utf8(Testo_Riga(plc.Prog[riga])) + "\n";
+  }
+  return testo;
+}
+
+/// The names that there are, for whoever mistyped one.
+std::string Elenco(const std::vector<std::string>& nomi) {
+  std::string testo;
+  for (const std::string& nome : nomi) testo += (testo.empty() ? "" : ", ") + nome;
+  return testo;
+}
+
+}  // namespace
+
+Collaudo::Collaudo(const Memoria* programma, const std::string& motivo, const Esercizio* esercizio,
+                   Scorte& scorte)
+    : scorte_(scorte) {
+  plc_.Hook.Mostra = [this](const Avviso& avviso) { avvisi_.push_back(avviso); };
+  if (programma)
+    static_cast<Memoria&>(plc_) = *programma;
+  else
+    guasto_ = motivo;
+  if (esercizio) {
+    filo_ = std::make_unique<Collegamento>(plc_, stato_, *esercizio);
+    filo_->Carica();
+  }
+}
+
+void Collaudo::Rompi(std::string guasto) {
+  guasto_ = std::move(guasto);
+  listato_ = Righe_Intorno(plc_);
+}
+
+/// What goes wrong inside the CPU or the plant is the end of this CPU, and not of the grading.
+template <class Azione>
+void Collaudo::Proteggi(Azione azione) {
+  if (!guasto_.empty()) return;
+  try {
+    azione();
+  } catch (const Fatale& fatale) {
+    std::string rapporto = Rapporto_Fatale(fatale, plc_);
+    std::ranges::replace(rapporto, '\n', ' ');
+    Rompi("Errore fatale del programma: " + rapporto);
+  }
+  Campiona();
+}
+
+void Collaudo::Scansione() {
+  const std::int32_t prima = plc_.N_Cicli;
+  std::int64_t resto = scorte_.Righe_Scansione;
+  while (resto > 0 && plc_.N_Cicli == prima && plc_.PLC_Acceso)
+    resto -= plc_.Esegui_Righe(static_cast<int>(resto));
+  if (resto == 0 && plc_.N_Cicli == prima && plc_.PLC_Acceso) {
+    Rompi("Il programma non raggiunge MEND (" + std::to_string(scorte_.Righe_Scansione) +
+          " righe senza finire la scansione).");
+    return;
+  }
+  scorte_.Righe -= scorte_.Righe_Scansione - resto;
+  if (scorte_.Righe < 0) throw Limite_Superato("il programma esegue troppe righe per questa prova");
+  if (plc_.PLC_Acceso) return;
+  std::string testo = "La CPU si è fermata alla riga " + std::to_string(plc_.PC) + ".";
+  if (!avvisi_.empty()) testo += " " + avvisi_.back().Titolo + ": " + avvisi_.back().Testo;
+  std::ranges::replace(testo, '\n', ' ');
+  Rompi(std::move(testo));
+}
+
+void Collaudo::Run() {
+  if (plc_.PLC_Acceso) return;
+  Proteggi([this] {
+    Avvia_Guidata(plc_, &Plc::mnuPlcRun);
+    if (plc_.Modo_Run != Modo::Step && plc_.N_Cicli == 0) Scansione();
+  });
+}
+
+void Collaudo::Stop() {
+  if (plc_.PLC_Acceso) Proteggi([this] { plc_.mnuPlcStop(); });
+}
+
+void Collaudo::Scegli_Modo(Modo modo) {
+  const bool acceso = plc_.PLC_Acceso != 0;
+  if (acceso && modo != plc_.Modo_Run &&
+      !(modo == Modo::Cont    ? plc_.Attivi.mnuPlcCont
+        : modo == Modo::Ciclo ? plc_.Attivi.mnuPlcCiclo
+                              : plc_.Attivi.mnuPlcStep))
+    throw Errore_Script("modo: con la CPU in RUN questo modo non si può scegliere; prima stop()");
+  Proteggi([&] {
+    switch (modo) {
+      case Modo::Cont:
+        Avvia_Guidata(plc_, &Plc::mnuPlcCont);
+        break;
+      case Modo::Ciclo:
+        plc_.mnuPlcCiclo();
+        break;
+      case Modo::Step:
+        plc_.mnuPlcStep();
+        break;
+    }
+  });
+}
+
+void Collaudo::Passo() {
+  if (!guasto_.empty()) return;
+  if (!plc_.PLC_Acceso || plc_.Modo_Run != Modo::Step)
+    throw Errore_Script("passo: serve la CPU in RUN nel modo Step");
+  Proteggi([this] {
+    plc_.CmdStep();
+    --scorte_.Righe;
+  });
+}
+
+void Collaudo::Cicli(int quanti) {
+  if (!guasto_.empty()) {
+    Consuma(quanti);
+    perso_ += quanti;
+    return;
+  }
+  if (!plc_.PLC_Acceso) throw Errore_Script("cicli: la CPU è ferma; prima run()");
+  for (int n = 0; n < quanti; ++n) Un_Millisecondo(true);
+}
+
+void Collaudo::Consuma(std::int64_t ms) {
+  scorte_.Ms -= ms;
+  if (scorte_.Ms < 0) throw Limite_Superato("lo script supera il limite di tempo virtuale");
+}
+
+void Collaudo::Un_Millisecondo(bool scansione) {
+  Consuma(1);
+  if (!guasto_.empty()) {
+    ++perso_;
+    return;
+  }
+  Proteggi([&] {
+    orologio_.Avanza(1);
+    if (scansione) Scansione();
+  });
+}
+
+void Collaudo::Passa(std::int64_t ms) {
+  for (std::int64_t n = 0; n < ms; ++n) {
+    if (!guasto_.empty()) {
+      Consuma(ms - n);
+      perso_ += ms - n;
+      return;
+    }
+    Un_Millisecondo(plc_.PLC_Acceso && plc_.Modo_Run == Modo::Cont);
+  }
+}
+
+std::vector<Avviso> Collaudo::Prendi_Avvisi() {
+  return std::exchange(avvisi_, {});
+}
+
+// ---- the user's hand ----------------------------------------------------------------------------
+
+Impianto& Collaudo::Macchina() {
+  if (!filo_)
+    throw Errore_Script("nessun impianto: il banco va avviato con l'opzione --impianto N");
+  return filo_->Macchina();
+}
+
+Figura& Collaudo::Elemento(std::string_view nome) {
+  Impianto& macchina = Macchina();
+  if (Figura* figura = macchina.Disegno.Trova(nome)) return *figura;
+  std::vector<std::string> nomi;
+  for (const Figura& figura : macchina.Disegno) nomi.push_back(figura.Nome);
+  throw Errore_Script("l'elemento \"" + std::string(nome) + "\" non esiste; ci sono " +
+                      Elenco(nomi));
+}
+
+Figura& Collaudo::Elemento_Operabile(std::string_view nome) {
+  Figura& figura = Elemento(nome);
+  if (figura.Operabile()) return figura;
+  std::vector<std::string> nomi;
+  for (const Figura& altra : Macchina().Disegno) {
+    if (altra.Operabile()) nomi.push_back(altra.Nome);
+  }
+  throw Errore_Script("l'elemento \"" + std::string(nome) + "\" non si aziona; si azionano " +
+                      Elenco(nomi));
+}
+
+bool Collaudo::Premi(std::string_view nome) {
+  if (!Elemento_Operabile(nome).Visible) return false;
+  Proteggi([&] { Macchina().Premi(nome); });
+  return true;
+}
+
+bool Collaudo::Rilascia(std::string_view nome) {
+  Elemento_Operabile(nome);
+  Proteggi([&] { Macchina().Rilascia(nome); });
+  return true;
+}
+
+bool Collaudo::Clic(std::string_view nome) {
+  const Figura& figura = Elemento_Operabile(nome);
+  if (!figura.Visible) return false;
+  if (figura.Premi || figura.Rilascia) {
+    Proteggi([&] { Macchina().Premi(nome); });
+    Passa(durata_clic);
+    Proteggi([&] { Macchina().Rilascia(nome); });
+  }
+  Proteggi([&] { Macchina().Clic(nome); });
+  return true;
+}
+
+bool Collaudo::Doppio_Clic(std::string_view nome) {
+  if (!Clic(nome)) return false;
+  Proteggi([&] {
+    if (!Macchina().Doppio_Clic(nome)) Macchina().Premi(nome);
+    Macchina().Rilascia(nome);
+  });
+  return true;
+}
+
+void Collaudo::Regola(std::string_view nome, double valore) {
+  Impianto& macchina = Macchina();
+  std::vector<std::string> nomi;
+  for (std::size_t n = 0; const Cursore& cursore : filo_->Tabella().Cursori) {
+    if (nome == cursore.Nome) {
+      Proteggi([&] { filo_->Muovi(n, static_cast<int>(std::clamp(valore, -1e6, 1e6))); });
+      return;
+    }
+    nomi.emplace_back(cursore.Nome);
+    ++n;
+  }
+  if (macchina.Trova_Regolatore(nome)) {
+    Proteggi([&] { macchina.Regola(nome, valore); });
+    return;
+  }
+  throw Errore_Script("il regolatore \"" + std::string(nome) + "\" non esiste" +
+                      (nomi.empty() ? "" : "; i cursori sono " + Elenco(nomi)));
+}
+
+void Collaudo::Scrivi(const Indirizzo& indirizzo, double valore, const char* funzione) {
+  bool scritto = true;
+  Proteggi([&] { scritto = Scrivi_Cella(plc_, indirizzo, valore); });
+  if (!scritto)
+    throw Errore_Script(std::string(funzione) + ": il valore non sta in questo indirizzo");
+}
+
+}  // namespace tavorno

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "plants/link.h"
+#include "plc/plc.h"
+#include "trace/address.h"
+
+namespace tavorno {
+
+/// A bound of the script was passed; the message is Italian, UTF-8.
+class Limite_Superato : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// A call that the script may not make like this; the message is Italian, UTF-8.
+class Errore_Script : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// What a script may still spend. All cases of a script draw on the same.
+struct Scorte {
+  std::int64_t Ms = 6 * 3'600'000LL;       ///< virtual time
+  std::int64_t Righe = 2'000'000'000;      ///< lines of the program
+  std::int64_t Righe_Scansione = 100'000;  ///< lines of one scan; not consumed
+};
+
+/// A fresh CPU with a program, and a fresh plant if there is one, in virtual time at one scan per
+/// millisecond. Nothing here blocks: a run goes on only while time passes.
+class Collaudo {
+ public:
+  /// Without a program (it does not compile) the CPU is broken from the start, for `motivo`.
+  Collaudo(const Memoria* programma, const std::string& motivo, const Esercizio* esercizio,
+           Scorte& scorte);
+  Collaudo(const Collaudo&) = delete;
+  Collaudo& operator=(const Collaudo&) = delete;
+
+  /// In Cont and Ciclo the first scan follows at once.
+  void Run();
+  void Stop();
+  void Scegli_Modo(Modo modo);
+  void Passo();            ///< one line, in mode Step
+  void Cicli(int quanti);  ///< whole scans, a millisecond each
+  /// Time passes; the CPU scans if it is running in mode Cont.
+  void Passa(std::int64_t ms);
+
+  // The user's hand. False for a hidden figure; an unknown one, and one that listens to nothing,
+  // throws `Errore_Script`.
+  bool Premi(std::string_view nome);
+  bool Rilascia(std::string_view nome);
+  bool Clic(std::string_view nome);  ///< a push button is held for `durata_clic`
+  bool Doppio_Clic(std::string_view nome);
+  void Regola(std::string_view nome, double valore);
+
+  /// Throws `Errore_Script` for a value that the cell cannot hold.
+  void Scrivi(const Indirizzo& indirizzo, double valore, const char* funzione);
+
+  Plc& Cpu() { return plc_; }
+  Impianto& Macchina();  ///< throws `Errore_Script` without a plant
+  Figura& Elemento(std::string_view nome);
+
+  std::int64_t Tempo() const { return orologio_.Adesso() + perso_; }
+  /// Why the program came to an end that is none; empty while all is well. From then on time passes
+  /// and nothing else happens.
+  const std::string& Guasto() const { return guasto_; }
+  std::int64_t Istante_Guasto() const { return orologio_.Adesso(); }
+  const std::string& Listato() const { return listato_; }  ///< lines around the failure
+  std::vector<Avviso> Prendi_Avvisi();
+
+  /// Something may have changed: called after each scan and each act of the hand.
+  std::function<void()> Campione;
+
+  static constexpr int durata_clic = 100;  // ms
+
+ private:
+  template <class Azione>
+  void Proteggi(Azione azione);
+  void Scansione();
+  void Un_Millisecondo(bool scansione);
+  void Consuma(std::int64_t ms);
+  void Rompi(std::string guasto);
+  void Campiona() const {
+    if (Campione) Campione();
+  }
+  Figura& Elemento_Operabile(std::string_view nome);
+
+  Scorte& scorte_;
+  Orologio orologio_;
+  Plc plc_{orologio_};
+  Stato_Impianto stato_;
+  std::unique_ptr<Collegamento> filo_;
+  std::vector<Avviso> avvisi_;
+  std::string guasto_, listato_;
+  std::int64_t perso_ = 0;  // time that passed over a broken CPU
+};
+
+}  // namespace tavorno

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "recorder/session.h"
+
+#include <filesystem>
+
+namespace tavorno {
+
+Seduta::Seduta() : plc(orologio), progetto(plc, {}) {
+  plc.Hook.Mostra = [this](const Avviso& avviso) { Avvisi.push_back(avviso); };
+  progetto.Chiedi.Mostra = [this](const Avviso& avviso) {
+    Avvisi.push_back(avviso);
+    return avviso.Scelte == Tasti::Si_No ? Risposta::Si : Risposta::Ok;
+  };
+}
+
+bool Seduta::Apri(const std::string& percorso) {
+  progetto.File_Progetto = percorso;
+  progetto.File_Titolo = std::filesystem::path(percorso).filename().string();
+  progetto.LeggiTxt();
+  return progetto.Err_Lettura == 0;
+}
+
+}  // namespace tavorno

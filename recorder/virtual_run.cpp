@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "recorder/virtual_run.h"
+
+#include <optional>
+#include <string_view>
+
+#include "recorder/entry_reader.h"
+
+namespace tavorno {
+
+namespace {
+
+/// One entry of the list; empty when it is not well formed.
+std::optional<Evento_Ingresso> Leggi_Ingresso(std::string_view testo) {
+  Voce voce(testo);
+  Evento_Ingresso evento;
+  evento.Ms = voce.Istante();
+  voce.Vuole(":");
+  evento.Analogico = voce.Inizia_Con("AI");
+  if (evento.Analogico) {
+    evento.Canale = voce.Numero(0, 2);
+    voce.Vuole("=");
+    evento.Valore = voce.Numero(-1000.0F, 1000.0F);
+  } else {
+    voce.Vuole("I");
+    evento.Byte = voce.Numero(0, 1);
+    voce.Vuole(".");
+    evento.Bit = voce.Numero(0, 7);
+    voce.Vuole("=");
+    evento.Acceso = voce.Numero(0, 1) == 1;
+  }
+  if (!voce.Finita_Bene()) return {};
+  return evento;
+}
+
+}  // namespace
+
+std::vector<Evento_Ingresso> Leggi_Ingressi(const std::string& testo, std::string& errore) {
+  std::optional<std::string> errata;
+  std::vector<Evento_Ingresso> eventi = Leggi_Lista(testo, Leggi_Ingresso, errata);
+  if (errata)
+    errore = "ingresso non valido \"" + *errata + "\": si scrive 500:I0.1=1 oppure 500:AI0=2.5";
+  return eventi;
+}
+
+Corsa::Corsa(Plc& plc, Limiti limiti) : plc_(plc), limiti_(limiti) {}
+
+void Corsa::Applica_Eventi() {
+  while (prossimo_ingresso_ < Ingressi.size() && Ingressi[prossimo_ingresso_].Ms <= Tempo()) {
+    const Evento_Ingresso& evento = Ingressi[prossimo_ingresso_++];
+    if (evento.Analogico) {
+      plc_.Volt_AI[evento.Canale] = evento.Valore;
+      continue;
+    }
+    LedI& barra = plc_.SI[static_cast<std::size_t>(evento.Byte)];
+    std::string stato = barra.Stato_I();
+    stato[static_cast<std::size_t>(evento.Bit)] = evento.Acceso ? '1' : '0';
+    barra.Stato_I(stato);
+  }
+  while (Impianto_Collegato && prossimo_gesto_ < Mani.size() &&
+         Mani[prossimo_gesto_].Ms <= Tempo()) {
+    const Gesto& gesto = Mani[prossimo_gesto_++];
+    if (!Esegui_Gesto(gesto, *Impianto_Collegato) && Senza_Effetto) Senza_Effetto(Tempo(), gesto);
+  }
+}
+
+void Corsa::Campiona() {
+  if (Registra) Registra->Campiona(Tempo(), plc_);
+}
+
+/// The yield of the run. It comes again within a scan only when the lines of the limit are used up.
+void Corsa::Prima_Della_Scansione() {
+  const bool prima = scansioni_viste_ < 0;
+  if (plc_.N_Cicli == scansioni_viste_) {
+    senza_mend_ = true;
+    plc_.Ferma = -1;
+    return;
+  }
+  scansioni_viste_ = plc_.N_Cicli;
+  if (prima) return;
+  Campiona();
+  plc_.Tempo.Avanza(limiti_.Scansione);
+  Applica_Eventi();
+  Campiona();
+  if (Tempo() >= limiti_.Durata) plc_.Ferma = -1;
+}
+
+void Corsa::Confronta(char area, std::array<std::uint8_t, 2>& visti, int byte,
+                      std::uint8_t adesso) {
+  std::uint8_t& prima = visti[static_cast<std::size_t>(byte)];
+  const unsigned diversi = prima ^ adesso;
+  prima = adesso;
+  for (int bit = 0; bit < 8; ++bit) {
+    if ((diversi >> bit & 1U) != 0 && Cambio) Cambio(Tempo(), area, byte, bit, adesso >> bit & 1U);
+  }
+}
+
+Fine_Corsa Corsa::Esegui() {
+  // The bars raise one event each; the handlers that they have stay in front of ours.
+  std::array<std::function<void()>, 2> di_i, di_q;
+  for (std::size_t n = 0; n < 2; ++n) {
+    di_i[n] = plc_.SI[n].Change;
+    di_q[n] = plc_.SQ[n].Change;
+    plc_.SI[n].Change = [this, n, prima = di_i[n]] {
+      if (prima) prima();
+      Confronta('I', ingressi_visti_, static_cast<int>(n), plc_.SI[n].Stato_IB());
+    };
+    plc_.SQ[n].Change = [this, n, prima = di_q[n]] {
+      Confronta('Q', uscite_viste_, static_cast<int>(n), plc_.SQ[n].Stato_QB());
+      if (prima) prima();
+    };
+  }
+  plc_.Hook.Cedi = [this] { Prima_Della_Scansione(); };
+  plc_.Hook.Righe_Per_Cessione = limiti_.Righe_Scansione;
+  inizio_ = plc_.Tempo.Adesso();
+  if (Registra) Registra->Inizia_Caso("esecuzione");
+
+  Fine_Corsa fine = Fine_Corsa::Tempo;
+  try {
+    if (Impianto_Collegato) Impianto_Collegato->Carica();
+    Applica_Eventi();
+    Campiona();
+    plc_.mnuPlcCont();
+    plc_.mnuPlcRun();
+    if (senza_mend_)
+      fine = Fine_Corsa::Senza_MEND;
+    else if (!plc_.PLC_Acceso)
+      fine = Fine_Corsa::Arresto;
+  } catch (const Fatale& fatale) {
+    rapporto_ = Rapporto_Fatale(fatale, plc_);
+    fine = Fine_Corsa::Fatale;
+  }
+  if (Registra) Registra->Fine_Caso(Tempo());
+  plc_.Hook.Cedi = nullptr;
+  plc_.Hook.Righe_Per_Cessione = 1;
+  for (std::size_t n = 0; n < 2; ++n) {
+    plc_.SI[n].Change = di_i[n];
+    plc_.SQ[n].Change = di_q[n];
+  }
+  return fine;
+}
+
+}  // namespace tavorno
