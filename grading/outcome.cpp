@@ -2,6 +2,7 @@
 #include "grading/outcome.h"
 
 #include <algorithm>
+#include <cstdio>
 
 namespace tavorno {
 
@@ -26,6 +27,16 @@ std::string Esito_Progetto::Primo_Rilievo() const {
     if (!caso.Superato()) return caso.Rilievi.front().Testo;
   }
   return "";
+}
+
+std::string Testo_Punti(double punti) {
+  char testo[32];
+  std::snprintf(testo, sizeof testo, "%.2f", punti);
+  std::string cifre = testo;
+  while (cifre.ends_with('0')) cifre.pop_back();
+  if (cifre.ends_with('.')) cifre.pop_back();
+  std::ranges::replace(cifre, '.', ',');
+  return cifre;
 }
 
 }  // namespace tavorno

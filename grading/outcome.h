@@ -15,15 +15,37 @@ struct Rilievo {
   bool operator==(const Rilievo&) const = default;
 };
 
-/// One `prova` of a script. What a script does outside of all is a case of its own.
+/// What became of something that a script asks for.
+enum class Giudizio {
+  Soddisfatta,
+  Mancata,
+  Non_Giudicata  ///< something that must come before did not happen, or the program broke
+};
+
+/// One `punti` or `serve` that a script came by, in its own words.
+struct Richiesta {
+  bool Premessa = false;  ///< of `serve`, which carries no marks itself
+  double Punti = 0;       ///< marks that it is worth
+  std::string Testo;
+  Giudizio Esito = Giudizio::Soddisfatta;
+  std::int64_t Ms = 0;  ///< virtual time since the case began
+
+  bool operator==(const Richiesta&) const = default;
+};
+
+/// One `prova` of a script. What a script does outside of all is a case of its own. A case that is
+/// not passed never has full marks, unless the script is to blame.
 struct Caso {
   std::string Script;  ///< file name
   std::string Nome;
-  std::vector<Rilievo> Rilievi;   ///< empty: the case is passed
-  std::vector<std::string> Note;  ///< what the script printed
-  std::int64_t Ms = 0;            ///< virtual time of the case
-  double Punti = 0, Massimo = 0;
-  std::string Listato;  ///< the program where it went wrong, in lines; empty when it did not
+  std::vector<Richiesta> Richieste;  ///< in the order in which the script came by them
+  std::vector<Rilievo> Rilievi;      ///< empty: the case is passed
+  std::vector<std::string> Note;     ///< what the script printed
+  std::int64_t Ms = 0;               ///< virtual time of the case
+  double Punti = 0;
+  double Massimo = 0;          ///< what the case declares, or else what it came by
+  bool Script_Errato = false;  ///< the script went wrong here, and not the program
+  std::string Listato;         ///< the program where it went wrong, in lines; empty when it did not
 
   bool Superato() const { return Rilievi.empty(); }
   bool operator==(const Caso&) const = default;
@@ -42,5 +64,8 @@ struct Esito_Progetto {
   /// The first thing that did not hold; empty when all did.
   std::string Primo_Rilievo() const;
 };
+
+/// Marks as they are written in Italian: "7", "2,5".
+std::string Testo_Punti(double punti);
 
 }  // namespace tavorno

@@ -2,7 +2,6 @@
 #include "grading/reports.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <iomanip>
 #include <nlohmann/json.hpp>
 
@@ -40,16 +39,6 @@ void Stampa_Listato(std::ostream& out, const std::string& listato) {
 }
 
 }  // namespace
-
-std::string Testo_Punti(double punti) {
-  char testo[32];
-  std::snprintf(testo, sizeof testo, "%.2f", punti);
-  std::string cifre = testo;
-  while (cifre.ends_with('0')) cifre.pop_back();
-  if (cifre.ends_with('.')) cifre.pop_back();
-  std::ranges::replace(cifre, '.', ',');
-  return cifre;
-}
 
 void Stampa_Progetto(std::ostream& out, const Esito_Progetto& esito) {
   out << Su_Una_Riga(esito.Progetto) << '\n';
@@ -96,8 +85,36 @@ std::string Rapporto_Csv(const std::vector<Esito_Progetto>& esiti) {
   return csv;
 }
 
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+const char* Parola(Giudizio esito) {
+  switch (esito) {
+    case Giudizio::Soddisfatta:
+      return "met";
+    case Giudizio::Mancata:
+      return "missed";
+    case Giudizio::Non_Giudicata:
+      break;
+  }
+  return "not judged";
+}
+
+Json Richieste_Json(const Caso& caso) {
+  Json richieste = Json::array();
+  for (const Richiesta& richiesta : caso.Richieste)
+    richieste.push_back({{"ms", richiesta.Ms},
+                         {"text", richiesta.Testo},
+                         {"premise", richiesta.Premessa},
+                         {"marks", richiesta.Punti},
+                         {"outcome", Parola(richiesta.Esito)}});
+  return richieste;
+}
+
+}  // namespace
+
 std::string Rapporto_Json(const std::vector<Esito_Progetto>& esiti) {
-  using Json = nlohmann::ordered_json;
   Json progetti = Json::array();
   for (const Esito_Progetto& esito : esiti) {
     Json casi = Json::array();
@@ -111,6 +128,7 @@ std::string Rapporto_Json(const std::vector<Esito_Progetto>& esiti) {
                       {"ms", caso.Ms},
                       {"marks", caso.Punti},
                       {"maximum", caso.Massimo},
+                      {"demands", Richieste_Json(caso)},
                       {"findings", rilievi},
                       {"notes", caso.Note},
                       {"listing", caso.Listato}});

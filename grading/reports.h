@@ -25,7 +25,4 @@ std::string Rapporto_Csv(const std::vector<Esito_Progetto>& esiti);
 /// An array of projects with their cases.
 std::string Rapporto_Json(const std::vector<Esito_Progetto>& esiti);
 
-/// Marks as they are written in Italian: "7", "2,5".
-std::string Testo_Punti(double punti);
-
 }  // namespace tavorno

@@ -14,6 +14,8 @@ namespace {
 
 constexpr std::size_t rilievi_massimi = 100;
 constexpr std::size_t note_massime = 100;
+constexpr std::size_t richieste_massime = 1000;
+constexpr double arrotondamento = 1e-6;  // of marks like 0,1
 
 int Carica(lua_State* stato, const Sorgente_Script& script) {
   return luaL_loadbufferx(stato, script.Testo.data(), script.Testo.size(),
@@ -50,13 +52,42 @@ std::vector<Caso> Esame::Esegui() {
   int esito = lua_pcall(stato, 0, 0, 0);
   if (esito == LUA_OK) esito = Carica(stato, script_);
   if (esito == LUA_OK) esito = lua_pcall(stato, 0, 0, 0);
-  if (esito != LUA_OK && !Interrotto) Registra_Errore(stato);
+  if (esito != LUA_OK) Registra_Errore(stato);
   if (banco_) Fine();
+  for (const Prova& prova : prove_) {
+    if (Voluta(prova)) Esegui_Prova(prova);
+  }
   return std::move(casi_);
 }
 
+void Esame::Aggiungi_Prova(const std::string& nome, std::optional<double> massimo, int funzione) {
+  if (In_Prova) throw Errore_Script("prova: una prova non può contenerne un'altra");
+  if (static_cast<int>(prove_.size()) >= ambiente_.Limiti.Casi)
+    throw Errore_Script("lo script ha più di " + std::to_string(ambiente_.Limiti.Casi) + " casi");
+  prove_.push_back({nome, massimo, funzione});
+}
+
+bool Esame::Voluta(const Prova& prova) const {
+  if (!ambiente_.Solo_Caso.empty() && prova.Nome != ambiente_.Solo_Caso) return false;
+  return !ambiente_.Basta_Un_Errore || std::ranges::all_of(casi_, &Caso::Superato);
+}
+
+void Esame::Esegui_Prova(const Prova& prova) {
+  Inizia(prova.Nome, prova.Massimo);
+  if (Esaurito()) {
+    Incolpa_Script("prova non eseguita, perché lo script ha già superato un limite");
+  } else {
+    lua_State* stato = recinto_.Stato();
+    In_Prova = true;
+    lua_rawgeti(stato, LUA_REGISTRYINDEX, prova.Funzione);
+    if (lua_pcall(stato, 0, 0, 0) != LUA_OK) Registra_Errore(stato);
+    In_Prova = false;
+  }
+  Fine();
+}
+
 Collaudo& Esame::Banco() {
-  if (!banco_) Inizia(script_.Nome);
+  if (!banco_) Inizia(script_.Nome, {});
   return *banco_;
 }
 
@@ -65,18 +96,14 @@ Caso& Esame::Adesso() {
   return casi_.back();
 }
 
-bool Esame::Inizia(const std::string& nome) {
-  if (In_Prova && !ambiente_.Solo_Caso.empty() && nome != ambiente_.Solo_Caso) return false;
-  const bool fallito = !std::ranges::all_of(casi_, &Caso::Superato);
-  if (In_Prova && ambiente_.Basta_Un_Errore && fallito) return false;
-  if (In_Prova && static_cast<int>(casi_.size()) >= ambiente_.Limiti.Casi) {
-    In_Prova = false;
-    throw Errore_Script("lo script ha più di " + std::to_string(ambiente_.Limiti.Casi) + " casi");
-  }
-  if (banco_) Fine();
+void Esame::Inizia(const std::string& nome, std::optional<double> massimo) {
   ++Numero_Caso;
-  banco_ = std::make_unique<Collaudo>(ambiente_.Programma, ambiente_.Motivo, ambiente_.Impianto,
-                                      scorte_);
+  conto_ = {};
+  conto_.Dichiarati = massimo;
+  const bool troppe = scorte_.Righe < 0;
+  banco_ = std::make_unique<Collaudo>(troppe ? nullptr : ambiente_.Programma,
+                                      troppe ? Collaudo::troppe_righe : ambiente_.Motivo,
+                                      ambiente_.Impianto, scorte_);
   Caso caso;
   caso.Script = script_.Nome;
   caso.Nome = Accorcia(nome);
@@ -86,38 +113,64 @@ bool Esame::Inizia(const std::string& nome) {
     banco_->Campione = [this] { ambiente_.Registra->Campiona(banco_->Tempo(), banco_->Cpu()); };
     banco_->Campione();
   }
-  return true;
 }
 
 void Esame::Fine() {
   Caso& caso = casi_.back();
   caso.Ms = banco_->Tempo();
   if (!banco_->Guasto().empty()) {
+    conto_.Senza_Punti = true;
     caso.Rilievi.insert(caso.Rilievi.begin(), {banco_->Istante_Guasto(), banco_->Guasto()});
     caso.Listato = ambiente_.Programma ? banco_->Listato() : ambiente_.Listato;
   }
+  if (conto_.Senza_Punti) caso.Punti = 0;
+  caso.Massimo = conto_.Dichiarati.value_or(conto_.Contati);
+  const double differenza = conto_.Contati - caso.Massimo;
+  if (differenza > arrotondamento || (caso.Superato() && differenza < -arrotondamento))
+    Incolpa_Script("la prova dichiara " + Testo_Punti(caso.Massimo) + " punti e ne assegna " +
+                   Testo_Punti(conto_.Contati));
+  if (caso.Punti > caso.Massimo - arrotondamento) caso.Punti = caso.Massimo;
   if (ambiente_.Registra) ambiente_.Registra->Fine_Caso(caso.Ms);
   banco_.reset();
   ++Numero_Caso;
 }
 
-void Esame::Rileva(const std::string& testo) {
-  // What a broken program goes on doing wrong follows from its failure.
-  if (Banco().Guasto().empty()) Rileva_Sempre(banco_->Tempo(), testo);
+bool Esame::Si_Giudica() {
+  // What a broken program, or one that never began, goes on doing wrong follows from that.
+  return Banco().Guasto().empty() && !conto_.Senza_Premessa;
 }
 
-void Esame::Rileva_Sempre(std::int64_t ms, const std::string& testo) {
+void Esame::Rileva(const std::string& testo) {
   Caso& caso = Adesso();
-  if (caso.Rilievi.size() < rilievi_massimi) caso.Rilievi.push_back({ms, Accorcia(testo)});
+  if (caso.Rilievi.size() < rilievi_massimi)
+    caso.Rilievi.push_back({banco_->Tempo(), Accorcia(testo)});
+}
+
+void Esame::Verifica(bool vera, const std::string& testo) {
+  if (vera || !Si_Giudica()) return;
+  conto_.Senza_Punti = true;
+  Rileva(testo);
+}
+
+void Esame::Serve(bool vera, const std::string& testo) {
+  Registra(true, 0, vera, testo);
+  if (!vera) conto_.Senza_Premessa = true;
 }
 
 void Esame::Segna_Punti(double punti, bool meritati, const std::string& testo) {
+  Registra(false, punti, meritati, testo);
+}
+
+void Esame::Registra(bool premessa, double punti, bool soddisfatta, const std::string& testo) {
   Caso& caso = Adesso();
-  caso.Massimo += punti;
-  if (meritati && banco_->Guasto().empty())
-    caso.Punti += punti;
-  else
-    Rileva(testo);
+  const Giudizio esito = !Si_Giudica() ? Giudizio::Non_Giudicata
+                         : soddisfatta ? Giudizio::Soddisfatta
+                                       : Giudizio::Mancata;
+  conto_.Contati += punti;
+  if (esito == Giudizio::Soddisfatta) caso.Punti += punti;
+  if (esito == Giudizio::Mancata) Rileva((premessa ? "premessa mancata: " : "") + testo);
+  if (caso.Richieste.size() < richieste_massime)
+    caso.Richieste.push_back({premessa, punti, Accorcia(testo), esito, banco_->Tempo()});
 }
 
 void Esame::Annota(const std::string& testo) {
@@ -139,7 +192,13 @@ bool Esame::Usa(const std::string& nome) {
 }
 
 void Esame::Registra_Errore(lua_State* stato) {
-  Rileva_Sempre(Banco().Tempo(), "errore nello script: " + Messaggio(stato));
+  Banco();
+  Incolpa_Script("errore nello script: " + Messaggio(stato));
+}
+
+void Esame::Incolpa_Script(const std::string& testo) {
+  Rileva(testo);
+  casi_.back().Script_Errato = true;
 }
 
 }  // namespace tavorno

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -41,27 +42,49 @@ class Esame {
 
   /// The machine of the present case.
   Collaudo& Banco();
-  bool Inizia(const std::string& nome);  ///< false: the case is not wanted
-  void Fine();
+  /// A case that is played once the whole script is read, so that a limit or an error in one case
+  /// leaves the others and their marks in the sum. `funzione` is its place in the registry of the
+  /// language.
+  void Aggiungi_Prova(const std::string& nome, std::optional<double> massimo, int funzione);
   void Rileva(const std::string& testo);
+  void Verifica(bool vera, const std::string& testo);
+  void Serve(bool vera, const std::string& testo);
   void Segna_Punti(double punti, bool meritati, const std::string& testo);
   void Annota(const std::string& testo);
   /// Puts a file that stands beside the script on the stack, as a function; false: it was there
   /// before.
   bool Usa(const std::string& nome);
-  void Registra_Errore(lua_State* stato);  ///< takes the message from the top of the stack
-
   bool In_Prova = false;       ///< a `prova` is running
-  bool Interrotto = false;     ///< a limit was passed, which ends the script
   int Numero_Caso = 0;         ///< moves with each machine, so that nothing of an old one is used
   std::string Errore;          ///< the message on its way to the script
   std::vector<Avviso> Avvisi;  ///< on their way to the script
   Recinto& Spazio() { return recinto_; }
-  bool Esaurito() const { return recinto_.Esaurito() || scorte_.Ms < 0 || scorte_.Righe < 0; }
 
   static Esame& Di(lua_State* stato);
 
  private:
+  struct Prova {
+    std::string Nome;
+    std::optional<double> Massimo;
+    int Funzione;
+  };
+  /// What decides on the marks of the present case.
+  struct Conto {
+    std::optional<double> Dichiarati;
+    double Contati = 0;  // of all `punti` so far
+    bool Senza_Premessa = false;
+    bool Senza_Punti = false;  // failed for something that carries no marks
+  };
+
+  bool Voluta(const Prova& prova) const;
+  void Esegui_Prova(const Prova& prova);
+  void Inizia(const std::string& nome, std::optional<double> massimo);
+  void Fine();
+  bool Si_Giudica();
+  void Registra(bool premessa, double punti, bool soddisfatta, const std::string& testo);
+  void Registra_Errore(lua_State* stato);  // takes the message from the top of the stack
+  void Incolpa_Script(const std::string& testo);
+  bool Esaurito() const { return recinto_.Esaurito() || scorte_.Ms < 0; }
   Caso& Adesso();
   void Rileva_Sempre(std::int64_t ms, const std::string& testo);
 
@@ -69,7 +92,9 @@ class Esame {
   const Ambiente_Script& ambiente_;
   Scorte scorte_;
   std::set<std::string> usati_;  // files beside the script
+  std::vector<Prova> prove_;
   std::vector<Caso> casi_;
+  Conto conto_;
   std::unique_ptr<Collaudo> banco_;  // of the present case
   Recinto recinto_;
 };

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <lua5.4/lua.hpp>
 #include <new>
+#include <optional>
 
 #include "grading/lua_messages.h"
 #include "grading/script.h"
@@ -17,6 +18,7 @@ namespace tavorno {
 namespace {
 
 constexpr long long costo_chiamata = 20;  // instructions
+constexpr double punti_massimi = 1000;    // of a case, and of one demand
 constexpr long long tempo_massimo = 24 * 3'600'000LL;
 constexpr const char* tipo_elemento = "tavorno.elemento";
 
@@ -232,15 +234,20 @@ int Fa_Usa(lua_State* stato, Esame& esame) {
 
 // ---- verdicts -----------------------------------------------------------------------------------
 
-int Fa_Verifica(lua_State* stato, Esame& esame) {
+using Verdetto = void (Esame::*)(bool, const std::string&);
+
+template <Verdetto verdetto, const char* const& nome>
+int Giudica(lua_State* stato, Esame& esame) {
   const bool vero = Vero(stato, 1);
-  if (!vero) esame.Rileva(Messaggio_O_Riga(stato, 2, "verifica"));
+  (esame.*verdetto)(vero, Messaggio_O_Riga(stato, 2, nome));
   lua_pushboolean(stato, vero);
   return 1;
 }
+constexpr const char* verifica = "verifica";
+constexpr const char* serve = "serve";
 
 int Fa_Punti(lua_State* stato, Esame& esame) {
-  const double punti = Arg_Numero(stato, 1, "punti", 0, 1000);
+  const double punti = Arg_Numero(stato, 1, "punti", 0, punti_massimi);
   const bool vero = Vero(stato, 2);
   esame.Segna_Punti(punti, vero, Messaggio_O_Riga(stato, 3, "punti"));
   lua_pushboolean(stato, vero);
@@ -249,19 +256,13 @@ int Fa_Punti(lua_State* stato, Esame& esame) {
 
 int Fa_Prova(lua_State* stato, Esame& esame) {
   const std::string_view nome = Arg_Testo(stato, 1, "prova");
-  Arg_Funzione(stato, 2, "prova");
-  if (esame.In_Prova) throw Errore_Script("prova: una prova non può contenerne un'altra");
-  esame.In_Prova = true;
-  if (esame.Inizia(std::string(nome))) {
-    lua_pushvalue(stato, 2);
-    if (lua_pcall(stato, 0, 0, 0) != LUA_OK) esame.Registra_Errore(stato);
-    esame.Fine();
-  }
-  esame.In_Prova = false;
-  if (esame.Esaurito()) {
-    esame.Interrotto = true;
-    throw Limite_Superato("interrotto");
-  }
+  std::optional<double> massimo;
+  if (lua_isnumber(stato, 2)) massimo = Arg_Numero(stato, 2, "prova", 0, punti_massimi);
+  const int funzione = massimo ? 3 : 2;
+  Arg_Funzione(stato, funzione, "prova");
+  lua_pushvalue(stato, funzione);
+  const int riferimento = luaL_ref(stato, LUA_REGISTRYINDEX);
+  esame.Aggiungi_Prova(std::string(nome), massimo, riferimento);
   return 0;
 }
 
@@ -282,9 +283,10 @@ int Fa_Print(lua_State* stato, Esame& esame) {
 
 // clang-format off
 constexpr Riga_Funzione funzioni[] = {
-    {"prova", "prova(nome, funzione)", "un caso con un nome, su una CPU e un impianto nuovi", Fa_Prova},
-    {"verifica", "verifica(condizione, messaggio)", "se la condizione è falsa il caso non è superato; restituisce la condizione", Fa_Verifica},
-    {"punti", "punti(n, condizione, messaggio)", "come verifica, e vale n punti", Fa_Punti},
+    {"prova", "prova(nome, [punti,] funzione)", "un caso con un nome, che vale quei punti, su una CPU e un impianto nuovi", Fa_Prova},
+    {"punti", "punti(n, condizione, messaggio)", "n punti se la condizione è vera, altrimenti il caso non è superato; restituisce la condizione", Fa_Punti},
+    {"serve", "serve(condizione, messaggio)", "una premessa: se è falsa il caso non è superato e i punti che seguono non si guadagnano; restituisce la condizione", Giudica<&Esame::Serve, serve>},
+    {"verifica", "verifica(condizione, messaggio)", "se la condizione è falsa il caso non è superato e non dà punti; restituisce la condizione", Giudica<&Esame::Verifica, verifica>},
     {"run", "run()", "avvia la CPU; nei modi Cont e Ciclo esegue subito la prima scansione", Fa_Run},
     {"stop", "stop()", "ferma la CPU", Fa_Stop},
     {"modo", "modo(\"Cont\"|\"Ciclo\"|\"Step\")", "sceglie il modo: Cont scandisce mentre il tempo passa, Ciclo con cicli(n), Step con passo()", Fa_Modo},

@@ -76,7 +76,10 @@ void Collaudo::Scansione() {
     return;
   }
   scorte_.Righe -= scorte_.Righe_Scansione - resto;
-  if (scorte_.Righe < 0) throw Limite_Superato("il programma esegue troppe righe per questa prova");
+  if (scorte_.Righe < 0) {
+    Rompi(troppe_righe);
+    return;
+  }
   if (plc_.PLC_Acceso) return;
   std::string testo = "La CPU si è fermata alla riga " + std::to_string(plc_.PC) + ".";
   if (!avvisi_.empty()) testo += " " + avvisi_.back().Titolo + ": " + avvisi_.back().Testo;

@@ -80,6 +80,8 @@ class Collaudo {
   std::function<void()> Campione;
 
   static constexpr int durata_clic = 100;  // ms
+  /// The failure of a program whose lines are spent.
+  static constexpr const char* troppe_righe = "Il programma esegue troppe righe.";
 
  private:
   template <class Azione>

@@ -286,9 +286,9 @@ TEST_F(ScriptFunctions, HelpNamesAllOfThem) {
        {"run",          "stop",      "modo",     "passo",  "cicli",       "attendi",
         "attendi_fino", "premi",     "rilascia", "clic",   "doppio_clic", "regola",
         "ingresso",     "analogico", "leggi",    "scrivi", "elemento",    "messaggi",
-        "verifica",     "punti",     "prova",    "usa"})
+        "verifica",     "serve",     "punti",    "prova",  "usa"})
     EXPECT_THAT(out, HasSubstr(std::string("\n  ") + nome + "(")) << nome;
-  EXPECT_EQ(Funzioni_Script().size(), 23);
+  EXPECT_EQ(Funzioni_Script().size(), 24);
 }
 
 TEST_F(ScriptFunctions, TheManualHasAllOfThem) {

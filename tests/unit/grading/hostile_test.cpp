@@ -132,11 +132,12 @@ TEST_F(HostileScript, ProcessorTimeIsLimitedToo) {
   EXPECT_THAT(Rilievo_Di("while true do end"), HasSubstr("impiega troppo tempo"));
 }
 
-TEST_F(HostileScript, ALimitEndsTheWholeScript) {
+TEST_F(HostileScript, ALimitEndsTheWholeScriptAndNamesTheCasesBehind) {
   const Esito_Progetto esito = Esito({"NOP"}, R"(
     prova('a', function() while true do end end)
-    prova('b', function() end))");
-  EXPECT_EQ(esito.Casi.size(), 1);
+    prova('b', function() verifica(false, 'eseguita') end))");
+  ASSERT_EQ(esito.Casi.size(), 2);
+  EXPECT_THAT(esito.Casi[1].Rilievi[0].Testo, StartsWith("prova non eseguita"));
 }
 
 TEST_F(HostileScript, AMistakeEndsOnlyItsCase) {
