@@ -6,8 +6,7 @@
 
 namespace tavorno::prova {
 
-const std::filesystem::path esempi =
-    std::filesystem::path(__FILE__).parent_path() / "../../../examples";
+const std::filesystem::path esempi = std::filesystem::path(TAVORNO_SOURCES) / "examples";
 
 struct Esempio {
   int Numero;

@@ -292,8 +292,7 @@ TEST_F(ScriptFunctions, HelpNamesAllOfThem) {
 }
 
 TEST_F(ScriptFunctions, TheManualHasAllOfThem) {
-  const std::string pagina =
-      Leggi_Byte(std::filesystem::path(__FILE__).parent_path() / "../../../docs/banco.md");
+  const std::string pagina = Leggi_Byte(std::filesystem::path(TAVORNO_SOURCES) / "docs/banco.md");
   for (const Riga_Funzione& riga : Funzioni_Script())
     EXPECT_THAT(pagina, HasSubstr("`" + std::string(riga.Nome) + "(")) << riga.Nome;
 }

@@ -6,7 +6,7 @@
 
 namespace tavorno::prova {
 
-using Marks = Banco_Esami;
+using CaseMarks = Banco_Esami;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
@@ -84,7 +84,7 @@ TEST_F(Premise, AndMarksAreRecordedWithTheirOutcome) {
                           Richiesta{false, 5, "cinque", Giudizio::Non_Giudicata, 3}));
 }
 
-TEST_F(Marks, DemandsStandInTheJsonReport) {
+TEST_F(CaseMarks, DemandsStandInTheJsonReport) {
   Prova({Progetto_Con(niente),
          File("s.lua",
               "prova('x', function() punti(1, true, 'uno') serve(false, 'due') "
@@ -96,7 +96,7 @@ TEST_F(Marks, DemandsStandInTheJsonReport) {
     EXPECT_THAT(out, HasSubstr(parte));
 }
 
-TEST_F(Marks, DemandsAreBoundedAndStillCounted) {
+TEST_F(CaseMarks, DemandsAreBoundedAndStillCounted) {
   const Esito_Progetto esito =
       Esito(niente, "prova('x', function() for n = 1, 5000 do punti(1, true, 'n') end end)");
   EXPECT_EQ(esito.Casi[0].Richieste.size(), 1000);
@@ -112,7 +112,7 @@ TEST_F(Premise, AFalseVerificaLeavesNoMarks) {
   EXPECT_EQ(caso.Massimo, 6);
 }
 
-TEST_F(Marks, AProgramThatBreaksLeavesNoMarksInItsCase) {
+TEST_F(CaseMarks, AProgramThatBreaksLeavesNoMarksInItsCase) {
   const Esito_Progetto esito = Esito({"LDB= SMB28 +0"}, R"(
     prova('si rompe', function() punti(4, true, 'x') run() attendi(5) end)
     prova('sta fermo', function() punti(2, true, 'y') end))");
@@ -173,7 +173,7 @@ TEST_F(Premise, WrongDeclarationsAreRefused) {
 }
 
 // The maximum of a script is that of all its cases, whatever happens in one of them.
-TEST_F(Marks, TheCasesBehindALimitStillCount) {
+TEST_F(CaseMarks, TheCasesBehindALimitStillCount) {
   base.Limiti.Istruzioni = 1'000'000;
   const Esito_Progetto esito = Esito(niente, R"(
     prova('a', 4, function() punti(4, true, 'x') end)
@@ -186,7 +186,7 @@ TEST_F(Marks, TheCasesBehindALimitStillCount) {
             "prova non eseguita, perché lo script ha già superato un limite");
 }
 
-TEST_F(Marks, TheCasesAroundAMistakeStillCount) {
+TEST_F(CaseMarks, TheCasesAroundAMistakeStillCount) {
   const Esito_Progetto esito = Esito(niente, R"(
     prova('a', 4, function() punti(4, true, 'x') end)
     manca())");
@@ -195,7 +195,7 @@ TEST_F(Marks, TheCasesAroundAMistakeStillCount) {
   EXPECT_TRUE(esito.Casi[0].Script_Errato);
 }
 
-TEST_F(Marks, LinesThatAProgramSpendsAreItsOwnFault) {
+TEST_F(CaseMarks, LinesThatAProgramSpendsAreItsOwnFault) {
   base.Inizio.Righe = 1000;
   const Esito_Progetto esito = Esito({"NOP", "NOP"}, R"(
     prova('a', 4, function() run() attendi(10000) punti(4, true, 'x') end)
