@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/child_windows.h"
 
+#include <QApplication>
+#include <QWindow>
+#include <initializer_list>
+
 #include "awl/ui/main_window.h"
 #include "panel/controls/cpu_front.h"
 #include "panel/documents/about_window.h"
@@ -25,8 +29,8 @@ void Porta_Avanti(QWidget& finestra) {
 }
 
 /// Makes a window when it is not there.
-template <class Crea>
-QWidget& Trova(QPointer<QWidget>& finestra, Crea crea) {
+template <class Finestra, class Crea>
+Finestra& Trova(QPointer<Finestra>& finestra, Crea crea) {
   if (!finestra) {
     finestra = crea();
     finestra->setAttribute(Qt::WA_DeleteOnClose);
@@ -34,8 +38,8 @@ QWidget& Trova(QPointer<QWidget>& finestra, Crea crea) {
   return *finestra;
 }
 
-template <class Crea>
-void Mostra(QPointer<QWidget>& finestra, Crea crea) {
+template <class Finestra, class Crea>
+void Mostra(QPointer<Finestra>& finestra, Crea crea) {
   Porta_Avanti(Trova(finestra, crea));
 }
 
@@ -44,7 +48,7 @@ void Mostra(QPointer<QWidget>& finestra, Crea crea) {
 Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
     : pannello_(pannello), plc_(plc), progetto_(progetto), guida_(guida) {
   Legami_Pannello legami;
-  legami.Mostra_Editor = [this](int avvio_file) { Mostra_Editor(avvio_file); };
+  legami.Mostra_Editor = [this](Avvio avvio_file) { Mostra_Editor(avvio_file); };
   legami.Mostra_Impostazioni = [this] { Mostra_Impostazioni(); };
   legami.Mostra_Analogici = [this] { Mostra_Analogici(); };
   legami.Mostra_Stati = [this] { Mostra_Stati(); };
@@ -52,15 +56,40 @@ Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
   legami.Mostra_Impianto = [this](int indice) { Apri_Impianto(indice); };
   legami.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
   pannello_.Collega_Finestre(std::move(legami));
+  QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &ascolto_,
+                   [this](const QWindow* finestra) { Fuoco_A(finestra); });
 }
 
 Finestre::~Finestre() {
-  for (const QPointer<QWidget>& finestra :
-       {impianto_, editor_, impostazioni_, analogici_, stati_, debug_, aiuto_})
-    delete finestra.data();
+  for (const QWidget* finestra : Tutte()) {
+    if (finestra != &pannello_) delete finestra;
+  }
 }
 
-void Finestre::Mostra_Editor(int avvio_file) {
+/// Those that are there. No message box and no file dialog is among them.
+std::vector<QWidget*> Finestre::Tutte() const {
+  std::vector<QWidget*> tutte;
+  for (QWidget* finestra : std::initializer_list<QWidget*>{
+           &pannello_, impianto_, editor_, impostazioni_, analogici_, stati_, debug_, aiuto_}) {
+    if (finestra != nullptr) tutte.push_back(finestra);
+  }
+  return tutte;
+}
+
+void Finestre::Fuoco_A(const QWindow* finestra) {
+  const QWidget* ora = nullptr;
+  std::vector<QWidget*> tutte = Tutte();
+  if (modale_) tutte.push_back(modale_);
+  for (const QWidget* candidata : tutte) {
+    if (finestra != nullptr && candidata->windowHandle() == finestra) ora = candidata;
+  }
+  // No window at all: another program. A message box or a menu: no coming and going.
+  if (finestra != nullptr && ora == nullptr) return;
+  if (ora == &pannello_ && prima_ != nullptr && prima_ != &pannello_) pannello_.Attivata();
+  prima_ = ora;
+}
+
+void Finestre::Mostra_Editor(Avvio avvio_file) {
   const bool nuova = editor_.isNull();
   Mostra(editor_, [this] {
     Legami_Editor legami;
@@ -74,7 +103,7 @@ void Finestre::Mostra_Editor(int avvio_file) {
     legami.Mostra_Aiuto = [this](const QString& pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
     return new FrmMain(progetto_, plc_, std::move(legami));
   });
-  if (nuova) static_cast<FrmMain*>(editor_.data())->Avvia(avvio_file);
+  if (nuova) editor_->Avvia(static_cast<int>(avvio_file));
 }
 
 void Finestre::Mostra_Impostazioni() {
@@ -95,18 +124,18 @@ void Finestre::Mostra_Stati() {
 }
 
 FrmStatiL& Finestre::Stati() {
-  return static_cast<FrmStatiL&>(Trova(stati_, [this] { return new FrmStatiL(plc_, &pannello_); }));
+  return Trova(stati_, [this] { return new FrmStatiL(plc_, &pannello_); });
 }
 
 void Finestre::Apri_Impianto(int indice) {
   pannello_.setCursor(Qt::WaitCursor);
   auto collegamento = std::make_unique<Collegamento>(
       plc_, impianto_aperto_, Tabella_Esercizi()[static_cast<std::size_t>(indice)],
-      [this](std::uint8_t modo) { pannello_.PLC_Sportello(modo); });
+      [this](Modo_Sportello modo) { pannello_.PLC_Sportello(modo); });
   Collegamento& fili = *collegamento;
   pannello_.Segna_Impianto(indice);
   Mostra(impianto_, [&] { return new Finestra_Impianto(std::move(collegamento)); });
-  auto& finestra = static_cast<Finestra_Impianto&>(*impianto_);
+  Finestra_Impianto& finestra = *impianto_;
   finestra.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Panel + pagina); };
   finestra.Chiusa = [this] {
     pannello_.Segna_Impianto(-1);
@@ -125,18 +154,25 @@ void Finestre::Mostra_Debug() {
 }
 
 void Finestre::Mostra_Stampe() {
-  FrmStampe(progetto_, Scegli_Stampante, QApplication::activeWindow()).exec();
+  FrmStampe stampe(progetto_, Scegli_Stampante, QApplication::activeWindow());
+  Mostra_Modale(stampe);
 }
 
 void Finestre::Mostra_Info() {
-  FrmAbaut(QApplication::activeWindow()).exec();
+  FrmAbaut info(QApplication::activeWindow());
+  Mostra_Modale(info);
+}
+
+void Finestre::Mostra_Modale(QDialog& dialogo) {
+  modale_ = &dialogo;
+  dialogo.exec();
 }
 
 void Finestre::Mostra_Aiuto(const QString& indirizzo) {
   guida_.Url_Help = indirizzo;
   const bool nuova = aiuto_.isNull();
   Mostra(aiuto_, [this] { return new FrmBrowser(guida_); });
-  if (!nuova) static_cast<FrmBrowser*>(aiuto_.data())->Vai(indirizzo);
+  if (!nuova) aiuto_->Vai(indirizzo);
 }
 
 }  // namespace tavorno

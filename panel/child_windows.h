@@ -1,17 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QObject>
 #include <QPointer>
-#include <QWidget>
+#include <vector>
 
 #include "awl/project.h"
+#include "awl/ui/start_mode.h"
 #include "panel/documents/browser_window.h"
 #include "panel/panel_window.h"
 #include "plants/link.h"
 #include "plc/plc.h"
 
+class QDialog;
+class QWindow;
+
 namespace tavorno {
 
+class Finestra_Impianto;
+class FrmDebug;
+class FrmMain;
+class FrmSetPLC;
+class FrmSimAI;
 class FrmStatiL;
 
 /// The windows beside the panel. Each is made when it is first asked for and thrown away when it is
@@ -23,7 +33,7 @@ class Finestre {
   Finestre(const Finestre&) = delete;
   Finestre& operator=(const Finestre&) = delete;
 
-  void Mostra_Editor(int avvio_file);
+  void Mostra_Editor(Avvio avvio_file);
   void Mostra_Impostazioni();
   void Mostra_Analogici();
   void Mostra_Stati();
@@ -39,13 +49,25 @@ class Finestre {
 
  private:
   FrmStatiL& Stati();
+  void Mostra_Modale(QDialog& dialogo);
+  std::vector<QWidget*> Tutte() const;
+  void Fuoco_A(const QWindow* finestra);
 
   FrmPLC& pannello_;
   Plc& plc_;
   Progetto& progetto_;
   Guida& guida_;
   Stato_Impianto impianto_aperto_;
-  QPointer<QWidget> impianto_, editor_, impostazioni_, analogici_, stati_, debug_, aiuto_;
+  QPointer<Finestra_Impianto> impianto_;
+  QPointer<FrmMain> editor_;
+  QPointer<FrmSetPLC> impostazioni_;
+  QPointer<FrmSimAI> analogici_;
+  QPointer<FrmStatiL> stati_;
+  QPointer<FrmDebug> debug_;
+  QPointer<FrmBrowser> aiuto_;
+  QPointer<QDialog> modale_;        // print window or about box
+  const QWidget* prima_ = nullptr;  // the program's own window that had the focus last
+  QObject ascolto_;                 // ends what this object listens to
 };
 
 }  // namespace tavorno

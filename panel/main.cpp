@@ -10,7 +10,7 @@
 #include "panel/application.h"
 #include "panel/child_windows.h"
 #include "panel/run_driver.h"
-#include "widgets/qt_dialogs.h"
+#include "widgets/message_box.h"
 
 using namespace tavorno;
 

@@ -3,6 +3,8 @@
 
 #include <array>
 
+#include "panel/panel_tables.h"
+
 class QCheckBox;
 class QFrame;
 class QGroupBox;
@@ -47,7 +49,8 @@ struct Controlli_Pannello {
   std::array<QLabel*, 4> stB;
 };
 
-/// Makes and lays out everything below the menus of the panel.
-Controlli_Pannello Crea_Controlli(QMainWindow& finestra, Plc& plc);
+/// Makes and lays out everything below the menus of the panel. The tool bar's buttons go to
+/// `tasti`.
+Controlli_Pannello Crea_Controlli(QMainWindow& finestra, Plc& plc, Azioni_Pannello::Tasti& tasti);
 
 }  // namespace tavorno

@@ -275,9 +275,9 @@ void Crea_Stato(QMainWindow& finestra, Controlli_Pannello& c) {
 
 }  // namespace
 
-Controlli_Pannello Crea_Controlli(QMainWindow& finestra, Plc& plc) {
+Controlli_Pannello Crea_Controlli(QMainWindow& finestra, Plc& plc, Azioni_Pannello::Tasti& tasti) {
   Controlli_Pannello c{};
-  c.tB1 = Crea_Barra(finestra, "tB1", Barra_Pannello());
+  c.tB1 = Crea_Barra(finestra, "tB1", Barra_Pannello(tasti));
 
   auto* centro = Chiama(QStringLiteral("picF"), new QWidget);
   auto* griglia = new QGridLayout(centro);

@@ -14,7 +14,6 @@
 #include "panel/panel_window.h"
 #include "panel/program_list.h"
 #include "plc/number_text.h"
-#include "widgets/command_tables.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -48,25 +47,25 @@ void FrmPLC::Aggiorna() {
 void FrmPLC::Mostra_Comandi() {
   if (acceso_mostrato_ != plc_.PLC_Acceso) PLC_Stato();
   const Comandi& attivi = plc_.Attivi;
-  Azione(*this, "mnuPlcRun").setEnabled(attivi.mnuPlcRun);
-  Azione(*this, "mnuPlcStop").setEnabled(attivi.mnuPlcStop);
+  a_.mnuPlcRun->setEnabled(attivi.mnuPlcRun);
+  a_.mnuPlcStop->setEnabled(attivi.mnuPlcStop);
   const struct {
-    const char* voce;
-    const char* tasto;
+    QAction* voce;
+    QAction* tasto;
     bool attivo;
     Modo modo;
-  } modi[] = {{"mnuPlcCont", "tB1(Cont)", attivi.mnuPlcCont, Modo::Cont},
-              {"mnuPLCCiclo", "tB1(Ciclo)", attivi.mnuPlcCiclo, Modo::Ciclo},
-              {"mnuPlcStep", "tB1(Step)", attivi.mnuPlcStep, Modo::Step}};
+  } modi[] = {{a_.mnuPlcCont, a_.tB1.Cont, attivi.mnuPlcCont, Modo::Cont},
+              {a_.mnuPLCCiclo, a_.tB1.Ciclo, attivi.mnuPlcCiclo, Modo::Ciclo},
+              {a_.mnuPlcStep, a_.tB1.Step, attivi.mnuPlcStep, Modo::Step}};
   for (const auto& riga : modi) {
-    for (const char* nome : {riga.voce, riga.tasto}) {
-      Azione(*this, nome).setEnabled(riga.attivo);
-      Azione(*this, nome).setChecked(riga.modo == plc_.Modo_Run);
+    for (QAction* azione : {riga.voce, riga.tasto}) {
+      azione->setEnabled(riga.attivo);
+      azione->setChecked(riga.modo == plc_.Modo_Run);
     }
   }
-  Azione(*this, "tB1(Run)").setChecked(plc_.PLC_Acceso);
-  Azione(*this, "tB1(Stop)").setChecked(!plc_.PLC_Acceso);
-  Azione(*this, "mnuPLCPiu").setEnabled(attivi.CmdStep);
+  a_.tB1.Run->setChecked(plc_.PLC_Acceso);
+  a_.tB1.Stop->setChecked(!plc_.PLC_Acceso);
+  a_.mnuPLCPiu->setEnabled(attivi.CmdStep);
   c_.CmdStep->setEnabled(attivi.CmdStep);
   c_.cmdRest->setEnabled(attivi.cmdRest);
   c_.SSTb3->setCurrentIndex(attivi.SSTb3);
@@ -79,10 +78,9 @@ void FrmPLC::PLC_Stato() {
   const bool acceso = plc_.PLC_Acceso != 0;
   acceso_mostrato_ = plc_.PLC_Acceso;
   c_.Fronte->Stato(acceso);
-  for (const char* nome :
-       {"mnuFileNew", "mnuFileOpen", "mnuFileEdit", "tB1(New)", "tB1(Open)", "tB1(Save)"}) {
-    Azione(*this, nome).setEnabled(!acceso);
-  }
+  for (QAction* azione :
+       {a_.mnuFileNew, a_.mnuFileOpen, a_.mnuFileEdit, a_.tB1.New, a_.tB1.Open, a_.tB1.Save})
+    azione->setEnabled(!acceso);
 }
 
 void FrmPLC::Mostra_Modo() {

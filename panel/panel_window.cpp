@@ -3,12 +3,11 @@
 #include "panel/panel_window.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QFrame>
 #include <QGroupBox>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -20,8 +19,8 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
-#include <QWindow>
 
+#include "awl/ui/file_dialog.h"
 #include "panel/controls/cpu_front.h"
 #include "panel/panel_tables.h"
 #include "panel/program_list.h"
@@ -29,7 +28,6 @@
 #include "plc/byte_text.h"
 #include "widgets/command_tables.h"
 #include "widgets/naming.h"
-#include "widgets/qt_dialogs.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -37,8 +35,8 @@ namespace tavorno {
 FrmPLC::FrmPLC(Plc& plc, Progetto& progetto) : plc_(plc), progetto_(progetto) {
   setObjectName(QStringLiteral("frmPLC"));
   setWindowTitle(QStringLiteral(" Simulatore PLC Siemens S7-200."));
-  Crea_Menu(*this, Menu_Pannello());
-  c_ = Crea_Controlli(*this, plc_);
+  Crea_Menu(*this, Menu_Pannello(a_));
+  c_ = Crea_Controlli(*this, plc_, a_.tB1);
   Crea_Menu_Processi();
 
   Scrivi_Stato(QStringLiteral("List: "));
@@ -50,7 +48,6 @@ FrmPLC::FrmPLC(Plc& plc, Progetto& progetto) : plc_(plc), progetto_(progetto) {
   Mostra_Comandi();
   Mostra_Pila();
   Attivata();
-  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &FrmPLC::Fuoco_A);
 }
 
 void FrmPLC::Scrivi_Stato(const QString& lista) {
@@ -62,55 +59,57 @@ void FrmPLC::Scrivi_Stato(const QString& lista) {
 void FrmPLC::Collega_Finestre(Legami_Pannello legami) {
   legami_ = std::move(legami);
   const struct {
-    const char* voce;
+    QAction* voce;
     std::function<void()> apri;
     bool esiste;
   } voci[] = {
-      {"mnuFileNew", [this] { Apri_Editor(2); }, legami_.Mostra_Editor != nullptr},
-      {"mnuFileOpen", [this] { Apri_Editor(3); }, legami_.Mostra_Editor != nullptr},
-      {"mnuFileEdit", [this] { Modifica(); }, legami_.Mostra_Editor != nullptr},
-      {"mnuViewSet", legami_.Mostra_Impostazioni, legami_.Mostra_Impostazioni != nullptr},
-      {"mnuViewIO", legami_.Mostra_Analogici, legami_.Mostra_Analogici != nullptr},
-      {"mnuViewStati", legami_.Mostra_Stati, legami_.Mostra_Stati != nullptr},
-      {"mnuInfAb", legami_.Mostra_Info, legami_.Mostra_Info != nullptr},
-      {"mnuHlpGen", [this] { legami_.Mostra_Aiuto("Index.htm"); }, legami_.Mostra_Aiuto != nullptr},
-      {"mnuHlpSet", [this] { legami_.Mostra_Aiuto("SET_IST.htm"); },
-       legami_.Mostra_Aiuto != nullptr},
+      {a_.mnuFileNew, [this] { legami_.Mostra_Editor(Avvio::Nuovo); }, bool(legami_.Mostra_Editor)},
+      {a_.mnuFileOpen, [this] { legami_.Mostra_Editor(Avvio::Apri); }, bool(legami_.Mostra_Editor)},
+      {a_.mnuFileEdit, [this] { Modifica(); }, bool(legami_.Mostra_Editor)},
+      {a_.mnuViewSet, legami_.Mostra_Impostazioni, bool(legami_.Mostra_Impostazioni)},
+      {a_.mnuViewIO, legami_.Mostra_Analogici, bool(legami_.Mostra_Analogici)},
+      {a_.mnuViewStati, legami_.Mostra_Stati, bool(legami_.Mostra_Stati)},
+      {a_.mnuInfAb, legami_.Mostra_Info, bool(legami_.Mostra_Info)},
+      {a_.mnuHlpGen, [this] { legami_.Mostra_Aiuto("Index.htm"); }, bool(legami_.Mostra_Aiuto)},
+      {a_.mnuHlpSet, [this] { legami_.Mostra_Aiuto("SET_IST.htm"); }, bool(legami_.Mostra_Aiuto)},
   };
   for (const auto& riga : voci) {
-    if (riga.esiste) Collega(*this, riga.voce, riga.apri);
+    if (riga.esiste) Al_Comando(riga.voce, riga.apri);
   }
 }
 
 // ---- menus --------------------------------------------------------------------------------------
 
+void FrmPLC::Al_Comando(QAction* voce, std::function<void()> comando) {
+  connect(voce, &QAction::triggered, this, std::move(comando));
+}
+
 void FrmPLC::Collega_Comandi() {
-  Collega(*this, "mnuFileEnd", [this] { close(); });
-  Comando_Di_Corsa("mnuPlcRun", [this] { plc_.mnuPlcRun(); });
-  Comando_Di_Corsa("mnuPlcStop", [this] { plc_.mnuPlcStop(); });
-  Comando_Di_Corsa("mnuPLCCiclo", [this] { plc_.mnuPlcCiclo(); });
-  Comando_Di_Corsa("mnuPLCPiu", [this] { plc_.CmdStep(); });
-  Comando_Di_Corsa("mnuPlcStep", [this] {
+  Al_Comando(a_.mnuFileEnd, [this] { close(); });
+  Comando_Di_Corsa(a_.mnuPlcRun, [this] { plc_.mnuPlcRun(); });
+  Comando_Di_Corsa(a_.mnuPlcStop, [this] { plc_.mnuPlcStop(); });
+  Comando_Di_Corsa(a_.mnuPLCCiclo, [this] { plc_.mnuPlcCiclo(); });
+  Comando_Di_Corsa(a_.mnuPLCPiu, [this] { plc_.CmdStep(); });
+  Comando_Di_Corsa(a_.mnuPlcStep, [this] {
     c_.frSP->setVisible(true);
     plc_.mnuPlcStep();
   });
-  Comando_Di_Corsa("mnuPlcCont", [this] {
+  Comando_Di_Corsa(a_.mnuPlcCont, [this] {
     c_.frSP->setVisible(false);
     plc_.mnuPlcCont();
   });
-  Collega(*this, "mnuViewTB", [this] { c_.tB1->setVisible(!c_.tB1->isVisibleTo(this)); });
-  Collega(*this, "mnuViewSTB",
-          [this] { statusBar()->setVisible(!statusBar()->isVisibleTo(this)); });
-  Collega(*this, "mnuViewKOP", [this] { Apri_Scalaro(); });
+  Al_Comando(a_.mnuViewTB, [this] { c_.tB1->setVisible(!c_.tB1->isVisibleTo(this)); });
+  Al_Comando(a_.mnuViewSTB, [this] { statusBar()->setVisible(!statusBar()->isVisibleTo(this)); });
+  Al_Comando(a_.mnuViewKOP, [this] { Apri_Scalaro(); });
 }
 
 /// A command that may start a run begins in an event of its own: the menu or button it was given
 /// with is done by then, while the run may go on for hours.
-void FrmPLC::Comando_Di_Corsa(const QString& voce, std::function<void()> comando) {
-  Collega(*this, voce, [this, voce, comando = std::move(comando)] {
+void FrmPLC::Comando_Di_Corsa(QAction* voce, std::function<void()> comando) {
+  Al_Comando(voce, [this, voce, comando = std::move(comando)] {
     // A choice ticks its entry by itself; what is ticked follows from the CPU.
     plc_.Segna(Segno_Comandi);
-    if (Si_Puo(voce)) Piu_Tardi(comando);
+    if (Si_Puo(*voce)) Piu_Tardi(comando);
   });
 }
 
@@ -124,17 +123,18 @@ void FrmPLC::Piu_Tardi(std::function<void()> comando) {
       Qt::QueuedConnection);
 }
 
-void FrmPLC::Apri_Editor(int avvio_file) {
-  legami_.Mostra_Editor(avvio_file);
-}
-
 void FrmPLC::Modifica() {
   plc_.mnuPlcStop();
   Aggiorna();
   c_.listSrc->clear();
-  for (const char* nome : {"mnuPlc", "mnuFileEdit", "tB1(Run)", "tB1(Save)"})
-    Azione(*this, nome).setEnabled(false);
-  Apri_Editor(1);
+  Abilita_Programma(false);
+  legami_.Mostra_Editor(Avvio::Modifica);
+}
+
+/// The commands that need a program in the CPU.
+void FrmPLC::Abilita_Programma(bool caricato) {
+  for (QAction* azione : {a_.mnuPlc, a_.mnuFileEdit, a_.tB1.Run, a_.tB1.Save})
+    azione->setEnabled(caricato);
 }
 
 void FrmPLC::Apri_Scalaro() {
@@ -168,10 +168,11 @@ void FrmPLC::closeEvent(QCloseEvent* evento) {
 }
 
 void FrmPLC::Crea_Menu_Processi() {
-  QMenu* menu = Azione(*this, "mnuProgetti").menu();
+  QMenu* menu = a_.mnuProgetti->menu();
   for (const Esercizio& esercizio : Tabella_Esercizi()) {
     QAction* voce =
         Chiama(Con_Indice("mnuPrj", esercizio.Indice), menu->addAction(Q(esercizio.Voce)));
+    a_.mnuPrj.push_back(voce);
     voce->setCheckable(true);
     const int indice = esercizio.Indice;
     connect(voce, &QAction::triggered, this, [this, indice] { legami_.Mostra_Impianto(indice); });
@@ -182,7 +183,7 @@ void FrmPLC::Crea_Menu_Processi() {
 void FrmPLC::Segna_Impianto(int indice) {
   QString aperto;
   for (const Esercizio& esercizio : Tabella_Esercizi()) {
-    QAction& voce = Azione(*this, Con_Indice("mnuPrj", esercizio.Indice));
+    QAction& voce = *a_.mnuPrj[static_cast<std::size_t>(esercizio.Indice)];
     voce.setChecked(esercizio.Indice == indice);
     voce.setEnabled(indice < 0 && esercizio.Crea != nullptr);
     if (esercizio.Indice == indice) aperto = Q(esercizio.Voce);
@@ -194,22 +195,33 @@ void FrmPLC::Segna_Impianto(int indice) {
 // ---- tool bar -----------------------------------------------------------------------------------
 
 void FrmPLC::Collega_Barra() {
-  for (const Tasto_Barra& tasto : Barra_Pannello()) {
-    const QString voce = QString::fromUtf8(tasto.Voce);
-    if (voce.isEmpty()) continue;
-    Collega(*this, QStringLiteral("tB1(%1)").arg(tasto.Chiave),
-            [this, voce] { Premi_Tasto(voce); });
-  }
-  Collega(*this, "tB1(Centra)", [this] { Centra(*this); });
+  const Azioni_Pannello::Tasti& tasti = a_.tB1;
+  for (const auto& [tasto, voce] :
+       std::initializer_list<std::pair<QAction*, QAction*>>{{tasti.New, a_.mnuFileNew},
+                                                            {tasti.Open, a_.mnuFileOpen},
+                                                            {tasti.Save, a_.mnuFileEdit},
+                                                            {tasti.Run, a_.mnuPlcRun},
+                                                            {tasti.Stop, a_.mnuPlcStop},
+                                                            {tasti.Step, a_.mnuPlcStep},
+                                                            {tasti.Ciclo, a_.mnuPLCCiclo},
+                                                            {tasti.Cont, a_.mnuPlcCont},
+                                                            {tasti.SetPLC, a_.mnuViewSet},
+                                                            {tasti.SetIst, a_.mnuHlpSet},
+                                                            {tasti.Debug, a_.mnuViewStati},
+                                                            {tasti.Info, a_.mnuInfAb},
+                                                            {tasti.Termina, a_.mnuFileEnd}})
+    Al_Comando(tasto, [this, voce = voce] { Premi_Tasto(*voce); });
+  Al_Comando(tasti.Centra, [this] { Centra(*this); });
 }
 
-bool FrmPLC::Si_Puo(const QString& voce) const {
-  const bool di_corsa = voce.startsWith(QStringLiteral("mnuPlc"), Qt::CaseInsensitive);
-  return Azione(*this, voce).isEnabled() && (!di_corsa || Azione(*this, "mnuPlc").isEnabled());
+/// The entries of a disabled menu cannot be chosen, by short cut and button neither.
+bool FrmPLC::Si_Puo(QAction& voce) const {
+  const bool di_corsa = a_.mnuPlc->menu()->actions().contains(&voce);
+  return voce.isEnabled() && (!di_corsa || a_.mnuPlc->isEnabled());
 }
 
-void FrmPLC::Premi_Tasto(const QString& voce) {
-  if (Si_Puo(voce)) Azione(*this, voce).trigger();
+void FrmPLC::Premi_Tasto(QAction& voce) {
+  if (Si_Puo(voce)) voce.trigger();
   Mostra_Comandi();  // a button that stays pressed shows the CPU's state and not the click
 }
 
@@ -255,8 +267,7 @@ void FrmPLC::Collega_Controlli() {
   connect(c_.txtNC, &QLineEdit::textChanged, this,
           [this](const QString& testo) { plc_.Scelte.txtNC = testo.toInt(); });
 
-  connect(c_.CmdStep, &QPushButton::clicked, this,
-          [this] { Azione(*this, "mnuPLCPiu").trigger(); });
+  connect(c_.CmdStep, &QPushButton::clicked, a_.mnuPLCPiu, &QAction::trigger);
   connect(c_.cmdRest, &QPushButton::clicked, this,
           [this] { Piu_Tardi([this] { plc_.cmdRest(); }); });
 
@@ -281,7 +292,7 @@ void FrmPLC::Collega_Controlli() {
   }
 }
 
-void FrmPLC::PLC_Sportello(std::uint8_t modo) {
+void FrmPLC::PLC_Sportello(Modo_Sportello modo) {
   c_.Fronte->PLC_Sportello(modo);
 }
 
@@ -297,21 +308,9 @@ void FrmPLC::Attivata() {
     Scrivi_Stato(QStringLiteral("List:"));
     plc_.Init_PLC();
   }
-  for (const char* nome : {"mnuPlc", "mnuFileEdit", "tB1(Run)", "tB1(Save)"})
-    Azione(*this, nome).setEnabled(caricata);
+  Abilita_Programma(caricata);
   plc_.Attivi.cmdRest = false;
   c_.cmdRest->setEnabled(false);
-}
-
-void FrmPLC::Fuoco_A(const QWindow* finestra) {
-  const QWidget* ora = nullptr;
-  for (const QWidget* candidata : QApplication::topLevelWidgets()) {
-    if (finestra != nullptr && candidata->windowHandle() == finestra) ora = candidata;
-  }
-  // No window of ours: another program. A message box or a menu: no coming and going.
-  if (finestra != nullptr && (ora == nullptr || !ora->objectName().startsWith("frm"))) return;
-  if (ora == this && prima_ != nullptr && prima_ != this) Attivata();
-  prima_ = ora;
 }
 
 }  // namespace tavorno

@@ -6,16 +6,16 @@
 #include <functional>
 
 #include "awl/project.h"
+#include "awl/ui/start_mode.h"
 #include "panel/panel_controls.h"
+#include "plants/cover_mode.h"
 #include "plc/plc.h"
-
-class QWindow;
 
 namespace tavorno {
 
 /// How the panel reaches the other windows. A member that is empty disables its command.
 struct Legami_Pannello {
-  std::function<void(int avvio_file)> Mostra_Editor;  ///< 1 Modifica, 2 Nuovo, 3 Apri
+  std::function<void(Avvio avvio_file)> Mostra_Editor;
   std::function<void()> Mostra_Impostazioni;
   std::function<void()> Mostra_Analogici;
   std::function<void()> Mostra_Stati;
@@ -46,8 +46,7 @@ class FrmPLC : public QMainWindow {
   /// Ticks and names the open exercise and locks the entries of all; -1: none is open.
   void Segna_Impianto(int indice);
 
-  /// 0 closes the cover, 1 opens it, 2 gives the inputs to a plant, 3 gives them back.
-  void PLC_Sportello(std::uint8_t modo);
+  void PLC_Sportello(Modo_Sportello modo);
 
   Controlli_Pannello& Controlli() { return c_; }
 
@@ -63,15 +62,15 @@ class FrmPLC : public QMainWindow {
   void Crea_Menu_Processi();
   void Collega_Barra();
   void Collega_Controlli();
-  void Comando_Di_Corsa(const QString& voce, std::function<void()> comando);
+  void Al_Comando(QAction* voce, std::function<void()> comando);
+  void Comando_Di_Corsa(QAction* voce, std::function<void()> comando);
   void Piu_Tardi(std::function<void()> comando);
   void Modifica();
-  void Apri_Editor(int avvio_file);
+  void Abilita_Programma(bool caricato);
   void Apri_Scalaro();
-  void Premi_Tasto(const QString& voce);
-  bool Si_Puo(const QString& voce) const;
+  void Premi_Tasto(QAction& voce);
+  bool Si_Puo(QAction& voce) const;
   void Scrivi_Stato(const QString& lista);
-  void Fuoco_A(const QWindow* finestra);
 
   // panel_mirror.cpp
   void Mostra_Comandi();
@@ -84,9 +83,9 @@ class FrmPLC : public QMainWindow {
   Plc& plc_;
   Progetto& progetto_;
   Legami_Pannello legami_;
+  Azioni_Pannello a_;
   Controlli_Pannello c_;
   std::int16_t acceso_mostrato_ = 0;
-  const QWidget* prima_ = nullptr;  // the program's own window that had the focus last
 };
 
 }  // namespace tavorno

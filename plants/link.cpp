@@ -6,22 +6,15 @@
 
 namespace tavorno {
 
-namespace {
-
-constexpr std::uint8_t impianto_al_posto = 2;  // modes of PLC_Sportello
-constexpr std::uint8_t interruttori = 3;
-
-}  // namespace
-
 Collegamento::Collegamento(Plc& plc, Stato_Impianto& stato, const Esercizio& esercizio,
-                           std::function<void(std::uint8_t)> sportello)
+                           std::function<void(Modo_Sportello)> sportello)
     : plc_(plc), stato_(stato), esercizio_(esercizio), sportello_(std::move(sportello)) {
   if (!esercizio_.Crea) throw std::invalid_argument(std::string("no plant ") + esercizio_.Classe);
   for (const Cursore& cursore : esercizio_.Cursori) valori_.push_back(cursore.Inizio);
 
   stato_.Impianto_Nr = static_cast<std::uint8_t>(esercizio_.Indice);
   LED_Reset();  // which also lets the output bars speak
-  if (sportello_) sportello_(impianto_al_posto);
+  if (sportello_) sportello_(Modo_Sportello::Impianto);
   stato_.Impianto_Aperto = -1;
 
   macchina_ = esercizio_.Crea(plc_);
@@ -49,7 +42,7 @@ void Collegamento::Chiudi() {
   if (!aperto_) return;
   aperto_ = false;
   LED_Reset();
-  if (sportello_) sportello_(interruttori);
+  if (sportello_) sportello_(Modo_Sportello::Interruttori);
   stato_ = {};
   macchina_->Change = nullptr;
   for (std::size_t n = 0; n < 2; ++n) plc_.SQ[n].Change = prima_[n];
@@ -58,7 +51,7 @@ void Collegamento::Chiudi() {
 void Collegamento::chkSim(bool spuntato) {
   chkSim_ = spuntato;
   if (!esercizio_.Ascolta_chkSim) return;
-  if (sportello_) sportello_(spuntato ? interruttori : impianto_al_posto);
+  if (sportello_) sportello_(spuntato ? Modo_Sportello::Interruttori : Modo_Sportello::Impianto);
   if (!spuntato) Ingressi_Cambiati();
 }
 

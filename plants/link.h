@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+#include "plants/cover_mode.h"
 #include "plants/exercises.h"
 
 namespace tavorno {
@@ -29,7 +30,7 @@ class Collegamento {
   /// `sportello` is the panel's `PLC_Sportello`, and may be empty where there is no panel.
   /// Throws `std::invalid_argument` for an exercise without a plant.
   Collegamento(Plc& plc, Stato_Impianto& stato, const Esercizio& esercizio,
-               std::function<void(std::uint8_t)> sportello = {});
+               std::function<void(Modo_Sportello)> sportello = {});
   ~Collegamento();
   Collegamento(const Collegamento&) = delete;
   Collegamento& operator=(const Collegamento&) = delete;
@@ -64,7 +65,7 @@ class Collegamento {
   Plc& plc_;
   Stato_Impianto& stato_;
   const Esercizio& esercizio_;
-  std::function<void(std::uint8_t)> sportello_;
+  std::function<void(Modo_Sportello)> sportello_;
   std::unique_ptr<Impianto> macchina_;
   std::array<std::function<void()>, 2> prima_;  // what listened to SQ before
   bool aperto_ = true;

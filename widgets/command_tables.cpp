@@ -23,6 +23,7 @@ void Prepara(QAction& azione, const Voce_Menu& voce) {
     azione.setChecked(voce.Segno == Spunta::Messa);
   }
   if (*voce.Tasti != '\0') azione.setShortcut(QKeySequence(QString::fromUtf8(voce.Tasti)));
+  if (voce.Dove != nullptr) *voce.Dove = &azione;
 }
 
 }  // namespace
@@ -61,6 +62,7 @@ QToolBar* Crea_Barra(QMainWindow& finestra, const char* nome, std::span<const Ta
     azione->setToolTip(suggerimento);
     azione->setCheckable(tasto.Spunta);
     barra->widgetForAction(azione)->setObjectName(azione->objectName());
+    if (tasto.Dove != nullptr) *tasto.Dove = azione;
   }
   finestra.addToolBar(Qt::TopToolBarArea, barra);
   return barra;

@@ -23,7 +23,8 @@ struct Voce_Menu {
   const char* Nome;   ///< objectName of the action
   const char* Testo;  ///< caption, "&" before the access key
   Spunta Segno = Spunta::Senza;
-  const char* Tasti = "";  ///< short cut as QKeySequence reads it, may be empty
+  const char* Tasti = "";    ///< short cut as QKeySequence reads it, may be empty
+  QAction** Dove = nullptr;  ///< where the window keeps the action, if it does
 };
 
 /// One button of a tool bar.
@@ -34,6 +35,7 @@ struct Tasto_Barra {
   const char* Voce = "";     ///< the menu entry that it stands for, may be empty
   bool Spunta = false;       ///< the button can stand pressed
   bool Stacco = false;       ///< a gap before it
+  QAction** Dove = nullptr;  ///< where the window keeps the action, if it does
 };
 
 void Crea_Menu(QMainWindow& finestra, std::span<const Voce_Menu> voci);

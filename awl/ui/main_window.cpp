@@ -14,10 +14,10 @@
 #include <utility>
 
 #include "awl/ui/dialog_frame.h"
+#include "awl/ui/file_dialog.h"
 #include "awl/ui/listing_line.h"
 #include "awl/ui/main_window_tables.h"
 #include "widgets/command_tables.h"
-#include "widgets/qt_dialogs.h"
 #include "widgets/text.h"
 
 namespace tavorno {

@@ -88,7 +88,7 @@ Fronte_CPU::Fronte_CPU(Plc& plc, QWidget* sopra)
 
   pic1_->Clic = [this] { sportello_.Timer1.Enabled(true); };
   sportello_.Mosso = [this] { pic1_->Muovi(sportello_.Top); };
-  PLC_Sportello(3);
+  PLC_Sportello(Modo_Sportello::Interruttori);
   Stato(false);
 }
 
@@ -107,18 +107,19 @@ void Fronte_CPU::Stato(bool run) {
   Aggiorna_Vano();
 }
 
-void Fronte_CPU::PLC_Sportello(std::uint8_t modo) {
+void Fronte_CPU::PLC_Sportello(Modo_Sportello modo) {
   const bool aperto = sportello_.Sportello_Aperto != 0;
-  if (modo == 1) {
+  const bool impianto = modo == Modo_Sportello::Impianto;
+  if (modo == Modo_Sportello::Apri) {
     if (!aperto) sportello_.Timer1.Enabled(true);
-  } else if (modo == 0 || modo == 2) {
+  } else if (modo == Modo_Sportello::Chiudi || impianto) {
     if (aperto) sportello_.Timer1.Enabled(true);
   }
-  if (modo != 2 && modo != 3) return;
-  for (SimI* interruttori : SimI_) interruttori->setVisible(modo == 3);
+  if (!impianto && modo != Modo_Sportello::Interruttori) return;
+  for (SimI* interruttori : SimI_) interruttori->setVisible(!impianto);
   SimC_->setVisible(false);
-  pic1_->Mostra_Sportello(modo == 3);
-  imgN_->setVisible(modo == 2);
+  pic1_->Mostra_Sportello(!impianto);
+  imgN_->setVisible(impianto);
 }
 
 void Fronte_CPU::Aggiorna_Vano() {

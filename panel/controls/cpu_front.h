@@ -12,6 +12,7 @@
 #include "panel/controls/led_bar.h"
 #include "panel/controls/switch_row.h"
 #include "panel/controls/thumbwheel.h"
+#include "plants/cover_mode.h"
 
 namespace tavorno {
 
@@ -37,9 +38,8 @@ class Fronte_CPU : public QWidget {
   /// The lamps: `imgPL1` and `imgPL2` in Run, `imgPS` otherwise.
   void Stato(bool run);
 
-  /// The cover and what stands at the inputs. 0 closes it, 1 opens it, 2 makes room for a plant's
-  /// plug and closes it, 3 brings the switch rows back; other modes do nothing.
-  void PLC_Sportello(std::uint8_t modo);
+  /// The cover and what stands at the inputs: the switch rows, or the plug of a plant.
+  void PLC_Sportello(Modo_Sportello modo);
   std::int16_t Sportello_Aperto() const { return sportello_.Sportello_Aperto; }  ///< -1 when open
   const Sportello& Cover() const { return sportello_; }
 

@@ -25,30 +25,6 @@ namespace tavorno {
 
 namespace {
 
-constexpr std::array tasti{
-    Tasto_Barra{"Back", "Indietro (Alt+Sinistra)", "Back"},
-    Tasto_Barra{"Forward", "Avanti (Alt+Destra)", "Forward"},
-    Tasto_Barra{"Refresh", "Aggiorna la pagina (F5)", "Refresh"},
-    Tasto_Barra{"Home", "Indice della guida (Alt+Home)", "Home"},
-    Tasto_Barra{"Search", "Cerca nella guida (Ctrl+F)", "Search"},
-    Tasto_Barra{"Stop", "Interrompi (Esc)", "StopLoad"},
-    Tasto_Barra{"Esci", "Chiudi la guida (Ctrl+W)", "Esci"},
-};
-
-struct Scorciatoia {
-  const char* Tasto;
-  const char* Combinazioni;  // separated by "; "
-};
-constexpr std::array scorciatoie{
-    Scorciatoia{"Back", "Alt+Left; Back"},
-    Scorciatoia{"Forward", "Alt+Right; Forward"},
-    Scorciatoia{"Refresh", "F5; Ctrl+R"},
-    Scorciatoia{"Home", "Alt+Home"},
-    Scorciatoia{"Search", "Ctrl+F; F3; Search"},
-    Scorciatoia{"Stop", "Esc"},
-    Scorciatoia{"Esci", "Ctrl+W"},
-};
-
 constexpr int periodo = 5;             // ms
 constexpr int senza_indirizzo = 1600;  // twips of the tool bar that the address leaves to the keys
 constexpr int bordo_pagina = 10;       // twips
@@ -57,16 +33,46 @@ constexpr QSize icona_tasto(18, 18);
 constexpr QSize area_tasto(21, 34);
 constexpr char in_lavoro[] = "Elaborazione in corso...";
 
-QString Nome_Tasto(const char* chiave) {
-  return QStringLiteral("tbToolBar(%1)").arg(Q(chiave));
-}
-
 }  // namespace
+
+QToolBar* FrmBrowser::Crea_Tasti() {
+  const std::array tasti{
+      Tasto_Barra{.Chiave = "Back",
+                  .Suggerimento = "Indietro (Alt+Sinistra)",
+                  .Icona = "Back",
+                  .Dove = &tasti_.Back},
+      Tasto_Barra{.Chiave = "Forward",
+                  .Suggerimento = "Avanti (Alt+Destra)",
+                  .Icona = "Forward",
+                  .Dove = &tasti_.Forward},
+      Tasto_Barra{.Chiave = "Refresh",
+                  .Suggerimento = "Aggiorna la pagina (F5)",
+                  .Icona = "Refresh",
+                  .Dove = &tasti_.Refresh},
+      Tasto_Barra{.Chiave = "Home",
+                  .Suggerimento = "Indice della guida (Alt+Home)",
+                  .Icona = "Home",
+                  .Dove = &tasti_.Home},
+      Tasto_Barra{.Chiave = "Search",
+                  .Suggerimento = "Cerca nella guida (Ctrl+F)",
+                  .Icona = "Search",
+                  .Dove = &tasti_.Search},
+      Tasto_Barra{.Chiave = "Stop",
+                  .Suggerimento = "Interrompi (Esc)",
+                  .Icona = "StopLoad",
+                  .Dove = &tasti_.Stop},
+      Tasto_Barra{.Chiave = "Esci",
+                  .Suggerimento = "Chiudi la guida (Ctrl+W)",
+                  .Icona = "Esci",
+                  .Dove = &tasti_.Esci},
+  };
+  return Crea_Barra(*this, "tbToolBar", tasti);
+}
 
 FrmBrowser::FrmBrowser(const Guida& guida, QWidget* sopra)
     : QMainWindow(sopra),
       guida_(guida),
-      tbToolBar_(Crea_Barra(*this, "tbToolBar", tasti)),
+      tbToolBar_(Crea_Tasti()),
       stacco_(new QWidget),
       cboAddress_(new QComboBox),
       brwWebBrowser_(new Vista_Aiuto(guida)),
@@ -74,7 +80,7 @@ FrmBrowser::FrmBrowser(const Guida& guida, QWidget* sopra)
       timTimer_(new QTimer(this)) {
   setObjectName("frmBrowser");
   setWindowTitle(Q("Guida"));
-  Crea_Tasti();
+  Collega_Tasti();
   Crea_Indirizzo();
   Crea_Scorciatoie();
 
@@ -109,27 +115,33 @@ FrmBrowser::FrmBrowser(const Guida& guida, QWidget* sopra)
   brwWebBrowser_->setFocus();
 }
 
-void FrmBrowser::Crea_Tasti() {
+void FrmBrowser::Collega_Tasti() {
   tbToolBar_->setIconSize(icona_tasto);  // forgets the height
   tbToolBar_->setFixedHeight(Px(alto_barra));
   tbToolBar_->layout()->setSpacing(0);
   for (QAction* azione : tbToolBar_->actions())
     tbToolBar_->widgetForAction(azione)->setFixedSize(area_tasto);
 
-  const std::array<std::function<void()>, tasti.size()> comandi{
-      [this] { brwWebBrowser_->backward(); },
-      [this] { brwWebBrowser_->forward(); },
-      [this] { brwWebBrowser_->reload(); },
-      [this] { Vai(guida_.Dir_Help + Q("Index.htm")); },
-      [this] { Vai(Q(Schema_Cerca) + ':'); },
-      [this] { Ferma(); },
-      [this] { close(); },
+  const struct {
+    QAction* azione;
+    const char* combinazioni;  // separated by "; "
+    std::function<void()> comando;
+  } righe[] = {
+      {tasti_.Back, "Alt+Left; Back", [this] { brwWebBrowser_->backward(); }},
+      {tasti_.Forward, "Alt+Right; Forward", [this] { brwWebBrowser_->forward(); }},
+      {tasti_.Refresh, "F5; Ctrl+R", [this] { brwWebBrowser_->reload(); }},
+      {tasti_.Home, "Alt+Home", [this] { Vai(guida_.Dir_Help + Q("Index.htm")); }},
+      {tasti_.Search, "Ctrl+F; F3; Search", [this] { Vai(Q(Schema_Cerca) + ':'); }},
+      {tasti_.Stop, "Esc", [this] { Ferma(); }},
+      {tasti_.Esci, "Ctrl+W", [this] { close(); }},
   };
-  for (std::size_t i = 0; i < tasti.size(); ++i)
-    Collega(*this, Nome_Tasto(tasti[i].Chiave), [this, comando = comandi[i]] {
+  for (const auto& riga : righe) {
+    riga.azione->setShortcuts(QKeySequence::listFromString(Q(riga.combinazioni)));
+    connect(riga.azione, &QAction::triggered, this, [this, comando = riga.comando] {
       timTimer_->start();
       comando();
     });
+  }
 }
 
 void FrmBrowser::Crea_Indirizzo() {
@@ -178,9 +190,6 @@ QWidget* FrmBrowser::Crea_Ricerca() {
 }
 
 void FrmBrowser::Crea_Scorciatoie() {
-  for (const Scorciatoia& scorciatoia : scorciatoie)
-    Azione(*this, Nome_Tasto(scorciatoia.Tasto))
-        .setShortcuts(QKeySequence::listFromString(Q(scorciatoia.Combinazioni)));
   const auto tasto = [this](const QKeySequence& combinazione, std::function<void()> comando) {
     connect(new QShortcut(combinazione, this), &QShortcut::activated, this, std::move(comando));
   };

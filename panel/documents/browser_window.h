@@ -5,6 +5,7 @@
 
 #include "panel/documents/help_folder.h"
 
+class QAction;
 class QComboBox;
 class QLineEdit;
 class QTimer;
@@ -30,7 +31,8 @@ class FrmBrowser : public QMainWindow {
   void resizeEvent(QResizeEvent* evento) override;
 
  private:
-  void Crea_Tasti();
+  QToolBar* Crea_Tasti();
+  void Collega_Tasti();
   void Crea_Indirizzo();
   QWidget* Crea_Ricerca();
   void Crea_Scorciatoie();
@@ -40,6 +42,9 @@ class FrmBrowser : public QMainWindow {
   void Ferma();
 
   const Guida& guida_;
+  struct {
+    QAction *Back, *Forward, *Refresh, *Home, *Search, *Stop, *Esci;
+  } tasti_{};
   QToolBar* tbToolBar_;
   QWidget* stacco_;  // between the keys and the address
   QComboBox* cboAddress_;

@@ -76,24 +76,24 @@ TEST_F(CpuFront, TheLampsTellRunAndStop) {
   EXPECT_TRUE(Visibile("imgPS"));
 }
 
-struct Modo_Sportello {
-  std::uint8_t Modo;
+struct Caso_Sportello {
+  int Modo;
   bool Aperto;      // before
   bool Parte;       // the cover begins to move
   bool SimI, SimC;  // shown afterwards, where both the thumbwheel and SimI(0) were shown before
   bool pic2, imgN;
 };
-class CoverMode : public CpuFront, public ::testing::WithParamInterface<Modo_Sportello> {};
+class CoverMode : public CpuFront, public ::testing::WithParamInterface<Caso_Sportello> {};
 
 TEST_P(CoverMode, DoesWhatItsRowTells) {
-  const Modo_Sportello& atteso = GetParam();
+  const Caso_Sportello& atteso = GetParam();
   if (atteso.Aperto) {
-    fronte.PLC_Sportello(1);
+    fronte.PLC_Sportello(Modo_Sportello::Apri);
     Tick(17);
   }
   fronte.Sim_I(1).hide();
   fronte.Sim_C().show();
-  fronte.PLC_Sportello(atteso.Modo);
+  fronte.PLC_Sportello(static_cast<Modo_Sportello>(atteso.Modo));
   EXPECT_EQ(In_Moto(), atteso.Parte);
   EXPECT_EQ(Visibile("SimI(0)"), atteso.SimI);
   EXPECT_EQ(Visibile("SimI(1)"), atteso.Modo == 3);
@@ -107,21 +107,21 @@ TEST_P(CoverMode, DoesWhatItsRowTells) {
 INSTANTIATE_TEST_SUITE_P(All, CoverMode,
                          ::testing::Values(
                              //             mode open  moves SimI  SimC  pic2  imgN
-                             Modo_Sportello{0, false, false, true, true, true, false},
-                             Modo_Sportello{0, true, true, true, true, true, false},
-                             Modo_Sportello{1, false, true, true, true, true, false},
-                             Modo_Sportello{1, true, false, true, true, true, false},
-                             Modo_Sportello{2, false, false, false, false, false, true},
-                             Modo_Sportello{2, true, true, false, false, false, true},
-                             Modo_Sportello{3, false, false, true, false, true, false},
-                             Modo_Sportello{3, true, false, true, false, true, false},
-                             Modo_Sportello{4, false, false, true, true, true, false}));
+                             Caso_Sportello{0, false, false, true, true, true, false},
+                             Caso_Sportello{0, true, true, true, true, true, false},
+                             Caso_Sportello{1, false, true, true, true, true, false},
+                             Caso_Sportello{1, true, false, true, true, true, false},
+                             Caso_Sportello{2, false, false, false, false, false, true},
+                             Caso_Sportello{2, true, true, false, false, false, true},
+                             Caso_Sportello{3, false, false, true, false, true, false},
+                             Caso_Sportello{3, true, false, true, false, true, false},
+                             Caso_Sportello{4, false, false, true, true, true, false}));
 
 TEST_F(CpuFront, ClosingAPlantBringsTheSwitchRowsBackAndNotTheThumbwheel) {
   fronte.Sim_I(1).hide();
   fronte.Sim_C().show();
-  fronte.PLC_Sportello(2);
-  fronte.PLC_Sportello(3);
+  fronte.PLC_Sportello(Modo_Sportello::Impianto);
+  fronte.PLC_Sportello(Modo_Sportello::Interruttori);
   EXPECT_TRUE(Visibile("SimI(1)"));
   EXPECT_FALSE(Visibile("SimC"));
 }
@@ -155,7 +155,7 @@ TEST_F(CpuFront, TheSpaceBarMovesTheCover) {
 }
 
 TEST_F(CpuFront, TheOpenCompartmentShowsTheStateOfTheCpu) {
-  fronte.PLC_Sportello(1);
+  fronte.PLC_Sportello(Modo_Sportello::Apri);
   Tick(17);
   const auto vano = [this] { return Figlio_Di<>(fronte, "pic1").grab().toImage(); };
   const QImage prima = vano();

@@ -24,7 +24,7 @@ struct Banco_Host {
   explicit Banco_Host(int indice) {
     finestra = std::make_unique<Finestra_Impianto>(std::make_unique<Collegamento>(
         plc, stato, Tabella_Esercizi()[static_cast<std::size_t>(indice)],
-        [this](std::uint8_t modo) { sportello.push_back(modo); }));
+        [this](Modo_Sportello modo) { sportello.push_back(static_cast<int>(modo)); }));
     finestra->Fili().Carica();
     finestra->show();
   }

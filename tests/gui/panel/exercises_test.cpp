@@ -75,10 +75,10 @@ TEST_F(Esercizi_Dal_Menu, ThePanelAndTheEditorOpenEveryOtherWindow) {
   finestre.Mostra_Analogici();
   finestre.Mostra_Stati();
   finestre.Mostra_Debug();
-  finestre.Mostra_Editor(2);
+  finestre.Mostra_Editor(Avvio::Nuovo);
   for (const char* nome : {"frmSimAI", "frmStatiL", "frmDebug", "frmMain"})
     EXPECT_NE(Finestra(nome), nullptr) << nome;
-  finestre.Mostra_Editor(2);  // the same window comes to the front
+  finestre.Mostra_Editor(Avvio::Nuovo);  // the same window comes to the front
   int quante = 0;
   for (const QWidget* finestra : QApplication::topLevelWidgets())
     quante += finestra->objectName() == "frmMain" && finestra->isVisible();
@@ -104,12 +104,32 @@ TEST_F(Esercizi_Dal_Menu, EveryHelpCommandOpensItsPage) {
   Finestra("frm4P")->close();
 }
 
+TEST_F(Esercizi_Dal_Menu, TheFocusFromAnotherWindowOfTheProgramActivatesThePanel) {
+  Carica("LD SM0.0\r\n= Q0.0\r\n");
+  QWidget estranea;
+  const auto vai = [](QWidget& finestra) {
+    finestra.show();
+    finestra.activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return finestra.isActiveWindow(); }, 20000));
+  };
+  vai(pannello);
+  plc.Mem_C[1].Val = 5;
+  vai(estranea);
+  vai(pannello);
+  EXPECT_EQ(plc.Mem_C[1].Val, 5) << "a message box is no other window";
+  finestre.Mostra_Analogici();
+  vai(*Finestra("frmSimAI"));
+  EXPECT_EQ(plc.Mem_C[1].Val, 5);
+  vai(pannello);
+  EXPECT_EQ(plc.Mem_C[1].Val, 0);
+}
+
 TEST_F(Esercizi_Dal_Menu, AWindowThatIsAskedForComesBackFromTheTaskBar) {
   finestre.Mostra_Stati();
   Finestra("frmStatiL")->showMinimized();
   finestre.Mostra_Stati();
   EXPECT_FALSE(Finestra("frmStatiL")->isMinimized());
-  finestre.Mostra_Editor(2);
+  finestre.Mostra_Editor(Avvio::Nuovo);
   pannello.showMinimized();
   Finestra("frmMain")->close();
   EXPECT_FALSE(pannello.isMinimized());

@@ -27,8 +27,9 @@ class Banco_Impianto : public ::testing::Test {
   /// Opens an exercise as its window does.
   void Apri(int numero) { Apri(Tabella_Esercizi()[static_cast<std::size_t>(numero)]); }
   void Apri(const Esercizio& esercizio) {
-    filo = std::make_unique<Collegamento>(plc, stato, esercizio,
-                                          [this](std::uint8_t modo) { sportello.push_back(modo); });
+    filo = std::make_unique<Collegamento>(plc, stato, esercizio, [this](Modo_Sportello modo) {
+      sportello.push_back(static_cast<int>(modo));
+    });
     filo->Carica();
   }
 

@@ -83,8 +83,9 @@ TEST_F(Link, OpeningResetsTheBarsBeforeThePlantSpeaks) {
   plc.SI[1].Change = [&] { visti.push_back("SI1 " + plc.SI[1].Stato_I()); };
   plc.SQ[0].Change = [&] { visti.push_back("SQ0 " + plc.SQ[0].Stato_Q()); };
   const auto aperto =
-      std::make_unique<Collegamento>(plc, stato, Tabella_Esercizi()[1], [&](std::uint8_t modo) {
-        visti.push_back("door " + std::to_string(modo) + (stato.Impianto_Aperto ? " open" : ""));
+      std::make_unique<Collegamento>(plc, stato, Tabella_Esercizi()[1], [&](Modo_Sportello modo) {
+        visti.push_back("door " + std::to_string(static_cast<int>(modo)) +
+                        (stato.Impianto_Aperto ? " open" : ""));
       });
   visti.push_back("window");
   EXPECT_EQ(stato.Impianto_Aperto, -1);

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "awl/dialogs.h"
+#include "plc/hooks.h"
 
 class QWidget;
 
 namespace tavorno {
 
-/// Message and file dialogs over the window `sopra`, which must outlive the result, or over what is
-/// modal at the time.
-Dialoghi Dialoghi_Qt(QWidget* sopra);
+/// The window that a dialog belongs over: what is modal, else `sopra`, else the active window. What
+/// is modal would hide a dialog that belongs to a window behind it.
+QWidget* Finestra_Sotto(QWidget* sopra);
 
 /// One message box, over the active window if `sopra` is null; returns when the user has answered.
 /// Closing it counts as the answer that loses nothing: Annulla, Yes to a question whether to save,

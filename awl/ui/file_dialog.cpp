@@ -1,31 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "widgets/qt_dialogs.h"
+#include "awl/ui/file_dialog.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 
+#include "widgets/message_box.h"
 #include "widgets/text.h"
 
 namespace tavorno {
 
 namespace {
-
-QMessageBox::Icon Icona_Qt(Icona simbolo) {
-  switch (simbolo) {
-    case Icona::Critica:
-      return QMessageBox::Critical;
-    case Icona::Domanda:
-      return QMessageBox::Question;
-    case Icona::Nessuna:
-      break;
-  }
-  return QMessageBox::NoIcon;
-}
 
 // "File AWL (*.AWL)|*.AWL" as the window library writes it; small letters count as well.
 QString Filtro_Qt(const std::string& filtro) {
@@ -35,12 +21,6 @@ QString Filtro_Qt(const std::string& filtro) {
   const QString maschera = parti[1];
   nome.remove(QStringLiteral(" (%1)").arg(maschera));
   return QStringLiteral("%1 (%2 %3)").arg(nome, maschera, maschera.toLower());
-}
-
-/// What is modal would hide a dialog that belongs to a window behind it.
-QWidget* Finestra_Sotto(QWidget* sopra) {
-  if (QWidget* modale = QApplication::activeModalWidget()) return modale;
-  return sopra != nullptr ? sopra : QApplication::activeWindow();
 }
 
 /// Saves under the extension of its filter. The library leaves a name that has a dot as it is, and
@@ -87,38 +67,6 @@ std::optional<File_Scelto> Scegli_File(QWidget* sopra, const Richiesta_File& ric
 }
 
 }  // namespace
-
-Risposta Mostra_Avviso(QWidget* sopra, const Avviso& avviso) {
-  QMessageBox box(Finestra_Sotto(sopra));
-  box.setObjectName(QStringLiteral("Avviso"));
-  box.setWindowTitle(Q(avviso.Titolo));
-  box.setTextFormat(Qt::PlainText);
-  box.setText(Q(avviso.Testo));
-  box.setIcon(Icona_Qt(avviso.Simbolo));
-  if (!avviso.Dettagli.empty()) box.setDetailedText(Q(avviso.Dettagli));
-  switch (avviso.Scelte) {
-    case Tasti::Ok:
-      box.setStandardButtons(QMessageBox::Ok);
-      break;
-    case Tasti::Ok_Annulla:
-      box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
-      break;
-    case Tasti::Si_No:
-      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-      box.setEscapeButton(QMessageBox::Yes);  // saving loses nothing, and can still be cancelled
-      break;
-  }
-  switch (box.exec()) {
-    case QMessageBox::Yes:
-      return Risposta::Si;
-    case QMessageBox::No:
-      return Risposta::No;
-    case QMessageBox::Cancel:
-      return Risposta::Annulla;
-    default:
-      return Risposta::Ok;
-  }
-}
 
 Dialoghi Dialoghi_Qt(QWidget* sopra) {
   return {[sopra](const Avviso& avviso) { return Mostra_Avviso(sopra, avviso); },

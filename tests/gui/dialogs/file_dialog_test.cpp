@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The file dialogs that a user really sees.
+#include "awl/ui/file_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTemporaryDir>
+
+#include "support/modal.h"
+#include "widgets/text.h"
+
+namespace tavorno {
+namespace {
+
+class FileChoice : public ::testing::Test {
+ protected:
+  using Scelta = std::optional<File_Scelto>;
+
+  QString Percorso(const QString& nome) const { return cartella.filePath(nome); }
+  void Crea(const QString& nome) const {
+    QFile file(Percorso(nome));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  }
+  /// Types a path and presses the button that ends the dialog.
+  static void Scrivi(QFileDialog& dialogo, const QString& percorso) {
+    dialogo.findChild<QLineEdit*>("fileNameEdit")->setText(percorso);
+    QMetaObject::invokeMethod(&dialogo, "accept");
+  }
+  static Scelta Chiedi(const Richiesta_File& richiesta, std::function<void(QFileDialog&)> azione) {
+    All_Apertura<QFileDialog>(std::move(azione));
+    return Dialoghi_Qt(nullptr).Scegli_File(richiesta);
+  }
+
+  QTemporaryDir cartella;
+  const Richiesta_File apri{false, "", "File AWL (*.AWL)|*.AWL"};
+  const Richiesta_File salva{true, "NoName.AWL", "File AWL (*.AWL)|*.AWL"};
+};
+
+TEST_F(FileChoice, OpensAnExistingFile) {
+  Crea("prova.AWL");
+  const Scelta scelta = Chiedi(apri, [this](QFileDialog& dialogo) {
+    EXPECT_EQ(dialogo.acceptMode(), QFileDialog::AcceptOpen);
+    EXPECT_EQ(dialogo.nameFilters(), QStringList{"File AWL (*.AWL *.awl)"});
+    Scrivi(dialogo, Percorso("prova.AWL"));
+  });
+  ASSERT_TRUE(scelta);
+  EXPECT_EQ(scelta->Percorso, Utf8(Percorso("prova.AWL")));
+  EXPECT_EQ(scelta->Titolo, "prova.AWL");
+}
+
+TEST_F(FileChoice, ToOpenRefusesWhatDoesNotExist) {
+  bool detto = false;
+  const Scelta scelta = Chiedi(apri, [&](QFileDialog& dialogo) {
+    All_Apertura<QMessageBox>([&](QMessageBox& box) {
+      detto = true;
+      Premi(box, QMessageBox::Ok);
+    });
+    Scrivi(dialogo, Percorso("assente.AWL"));
+    EXPECT_TRUE(dialogo.isVisible());
+    dialogo.reject();
+  });
+  EXPECT_TRUE(detto);
+  EXPECT_FALSE(scelta);
+}
+
+TEST_F(FileChoice, SavesUnderTheProposalWithTheExtensionOfTheFilter) {
+  const Scelta scelta = Chiedi(salva, [this](QFileDialog& dialogo) {
+    EXPECT_EQ(dialogo.acceptMode(), QFileDialog::AcceptSave);
+    EXPECT_EQ(dialogo.findChild<QLineEdit*>("fileNameEdit")->text(), "NoName.AWL");
+    Scrivi(dialogo, Percorso("nuovo"));
+  });
+  ASSERT_TRUE(scelta);
+  EXPECT_EQ(scelta->Percorso, Utf8(Percorso("nuovo.AWL")));
+  EXPECT_EQ(scelta->Titolo, "nuovo.AWL");
+}
+
+// Without it the dialog that opens files would not offer the file again.
+TEST_F(FileChoice, GivesTheExtensionToANameWithADotToo) {
+  const struct {
+    const char *Scritto, *Titolo;
+  } casi[] = {{"esercizio 1.2", "esercizio 1.2.AWL"},
+              {"lista.TXT", "lista.TXT.AWL"},
+              {"piccolo.awl", "piccolo.awl"}};
+  for (const auto& caso : casi) {
+    const Scelta scelta =
+        Chiedi(salva, [&](QFileDialog& dialogo) { Scrivi(dialogo, Percorso(Q(caso.Scritto))); });
+    ASSERT_TRUE(scelta) << caso.Scritto;
+    EXPECT_EQ(scelta->Titolo, caso.Titolo);
+  }
+}
+
+TEST_F(FileChoice, AsksBeforeItOverwrites) {
+  Crea("vecchio.AWL");
+  for (const auto tasto : {QMessageBox::No, QMessageBox::Yes}) {
+    int domande = 0;
+    const Scelta scelta = Chiedi(salva, [&](QFileDialog& dialogo) {
+      All_Apertura<QMessageBox>([&](QMessageBox& box) {
+        ++domande;
+        Premi(box, tasto);
+      });
+      Scrivi(dialogo, Percorso("vecchio"));
+      if (dialogo.isVisible()) dialogo.reject();
+    });
+    EXPECT_EQ(domande, 1);
+    EXPECT_EQ(scelta.has_value(), tasto == QMessageBox::Yes);
+  }
+}
+
+TEST_F(FileChoice, ComesBackToTheFolderOfTheLastChoice) {
+  Chiedi(salva, [this](QFileDialog& dialogo) { Scrivi(dialogo, Percorso("uno.AWL")); });
+  const Scelta scelta = Chiedi(apri, [this](QFileDialog& dialogo) {
+    EXPECT_EQ(dialogo.directory(), QDir(cartella.path()));
+    dialogo.reject();
+  });
+  EXPECT_FALSE(scelta);
+}
+
+}  // namespace
+}  // namespace tavorno
