@@ -7,7 +7,7 @@ cd "$1" || exit 1
 shift
 bad=0
 folders=()
-for folder in plc awl plants trace recorder grading bench HTML; do [ -d "$folder" ] && folders+=("$folder"); done
+for folder in plc awl plants trace recorder ladder grading bench HTML; do [ -d "$folder" ] && folders+=("$folder"); done
 
 while IFS= read -r -d '' file; do
   if grep -HnE '^[[:space:]]*#[[:space:]]*include[[:space:]]*[<"](Q[A-Z]|Qt|Qsci/)' "$file"; then bad=1; fi

@@ -8,7 +8,7 @@ build=$2
 stamps=$build/tidy
 mkdir -p "$stamps"
 folders=()
-for folder in plc awl plants trace recorder grading bench HTML; do [ -d "$folder" ] && folders+=("$folder"); done
+for folder in plc awl plants trace recorder ladder grading bench HTML; do [ -d "$folder" ] && folders+=("$folder"); done
 common=$({ cat .clang-tidy; find "${folders[@]}" -name '*.h' -print0 | sort -z | xargs -0 cat; } | sha256sum)
 
 check() {

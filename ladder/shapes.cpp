@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ladder/shapes.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "plc/codepage.h"
+
+namespace tavorno {
+
+namespace {
+
+constexpr double mezzo_contatto = 7;  // half the gap between its strokes
+constexpr double mezza_altezza = 12;
+constexpr double per_lettera = 7.5;
+constexpr double rientro_scatola = 14;
+constexpr double margine = 8;
+
+/// What stands beside the wires of a box and before its operands.
+struct Piedini {
+  std::string_view Istr;
+  std::array<std::string_view, 3> Ingressi;
+  bool Primo_Sopra;  ///< the first operand is the box's own name and stands above it
+  std::array<std::string_view, 2> Operandi;
+};
+constexpr std::array scatole = {
+    Piedini{"TON", {"IN"}, true, {"", "PT"}},
+    Piedini{"TOF", {"IN"}, true, {"", "PT"}},
+    Piedini{"TONR", {"IN"}, true, {"", "PT"}},
+    Piedini{"CTU", {"CU", "R"}, true, {"", "PV"}},
+    Piedini{"CTD", {"CD", "LD"}, true, {"", "PV"}},
+    Piedini{"CTUD", {"CU", "CD", "R"}, true, {"", "PV"}},
+    Piedini{"+I", {"EN"}, false, {"IN1", "IN2=OUT"}},
+    Piedini{"-I", {"EN"}, false, {"IN1", "IN2=OUT"}},
+    Piedini{"*I", {"EN"}, false, {"IN1", "IN2=OUT"}},
+    Piedini{"/I", {"EN"}, false, {"IN1", "IN2=OUT"}},
+    Piedini{"+D", {"EN"}, false, {"IN1", "IN2=OUT"}},
+    Piedini{"-D", {"EN"}, false, {"IN1", "IN2=OUT"}},
+    Piedini{"*D", {"EN"}, false, {"IN1", "IN2=OUT"}},
+    Piedini{"/D", {"EN"}, false, {"IN1", "IN2=OUT"}},
+    Piedini{"INCB", {"EN"}, false, {"IN=OUT", ""}},
+    Piedini{"INCW", {"EN"}, false, {"IN=OUT", ""}},
+    Piedini{"INCD", {"EN"}, false, {"IN=OUT", ""}},
+    Piedini{"DECB", {"EN"}, false, {"IN=OUT", ""}},
+    Piedini{"DECW", {"EN"}, false, {"IN=OUT", ""}},
+    Piedini{"DECD", {"EN"}, false, {"IN=OUT", ""}},
+};
+constexpr Piedini scatola_comune = {"", {"EN"}, false, {"IN", "OUT"}};
+
+const Piedini& Piedini_Di(const std::string& istr) {
+  const auto riga = std::ranges::find(scatole, istr, &Piedini::Istr);
+  return riga == scatole.end() ? scatola_comune : *riga;
+}
+
+std::string Operando(const Passo_Scala& passo, std::size_t quale) {
+  return quale < passo.Operandi.size() ? A_Utf8(passo.Operandi[quale]) : std::string();
+}
+
+class Tracciatore {
+ public:
+  Tracciatore(const Disegno& disegno, const Nome_Simbolico& nome)
+      : disegno_(disegno), nome_(nome) {}
+
+  Tratteggio_Rete Traccia() {
+    forme_.Larghezza = X(disegno_.Colonne) + margine;
+    forme_.Altezza = disegno_.Righe * altezza_cella;
+    for (const Filo& filo : disegno_.Fili)
+      forme_.Tratti.push_back(
+          {X(filo.Colonna), Y(filo.Riga), X(filo.Colonna_Fine), Y(filo.Riga_Fine), filo.Nodo, -1});
+    for (std::size_t n = 0; n < disegno_.Riquadri.size(); ++n) {
+      indice_ = static_cast<int>(n);
+      Metti(disegno_.Riquadri[n]);
+    }
+    forme_.Tratti.push_back({X(0), 0, X(0), forme_.Altezza, 0, -1});
+    return std::move(forme_);
+  }
+
+ private:
+  static double X(int colonna) { return margine + colonna * larghezza_cella; }
+  static double Y(int riga) { return riga * altezza_cella + quota_filo; }
+
+  void Linea(double x1, double y1, double x2, double y2, Nodo_Elettrico nodo) {
+    forme_.Tratti.push_back({x1, y1, x2, y2, nodo, indice_});
+  }
+  void Scrivi(double x, double y, std::string testo, Stile_Scritta stile,
+              Ancora posto = Ancora::Centro) {
+    if (!testo.empty()) forme_.Scritte.push_back({x, y, std::move(testo), stile, posto, indice_});
+  }
+
+  /// The address above a symbol, and the plant's name for it above that.
+  void Etichetta(double x, double y, const std::string& operando) {
+    Scrivi(x, y, operando, Stile_Scritta::Indirizzo);
+    if (nome_ && !operando.empty()) Scrivi(x, y - 13, nome_(operando), Stile_Scritta::Simbolo);
+  }
+
+  void Metti(const Riquadro& riquadro) {
+    switch (riquadro.Come.Cosa) {
+      case Ruolo::Contatto:
+      case Ruolo::Trasforma:
+        Contatto(riquadro);
+        break;
+      case Ruolo::Bobina:
+        Bobina(riquadro);
+        break;
+      case Ruolo::Da_Solo:
+        Da_Solo(riquadro);
+        break;
+      default:
+        Scatola(riquadro);
+        break;
+    }
+  }
+
+  void Contatto(const Riquadro& r) {
+    const double x = X(r.Colonna);
+    const double y = Y(r.Riga);
+    const double centro = x + larghezza_cella / 2;
+    std::string segno = r.Come.Segno;
+    const bool negato = segno.starts_with('/');
+    if (negato) segno.erase(0, 1);
+    const double mezzo =
+        std::max(mezzo_contatto, static_cast<double>(segno.size()) * per_lettera / 2 + 7);
+    Linea(x, y, centro - mezzo, y, r.Prima);
+    Linea(centro + mezzo, y, x + larghezza_cella, y, r.Dopo);
+    Linea(centro - mezzo, y - mezza_altezza, centro - mezzo, y + mezza_altezza, r.Prima);
+    Linea(centro + mezzo, y - mezza_altezza, centro + mezzo, y + mezza_altezza, r.Dopo);
+    if (negato)
+      Linea(centro - mezzo, y + mezza_altezza, centro + mezzo, y - mezza_altezza, r.Prima);
+    Scrivi(centro, y + 4, segno, Stile_Scritta::Segno);
+    Etichetta(centro, y - mezza_altezza - 6, Operando(r.Passo, 0));
+    Scrivi(centro, y + mezza_altezza + 13, Operando(r.Passo, 1), Stile_Scritta::Indirizzo);
+  }
+
+  void Bobina(const Riquadro& r) {
+    const double x = X(r.Colonna);
+    const double y = Y(r.Riga);
+    const double centro = x + larghezza_cella / 2;
+    const double mezzo =
+        std::max(12.0, static_cast<double>(r.Come.Segno.size()) * per_lettera / 2 + 6);
+    Linea(x, y, centro - mezzo, y, r.Prima);
+    constexpr double pancia = 5;
+    forme_.Curve.push_back({centro - mezzo, y, pancia, 2 * mezza_altezza, r.Prima, indice_});
+    forme_.Curve.push_back({centro + mezzo, y, -pancia, 2 * mezza_altezza, r.Prima, indice_});
+    Scrivi(centro, y + 4, r.Come.Segno, Stile_Scritta::Segno);
+    Etichetta(centro, y - mezza_altezza - 6, Operando(r.Passo, 0));
+    Scrivi(centro, y + mezza_altezza + 13, Operando(r.Passo, 1), Stile_Scritta::Indirizzo);
+  }
+
+  void Scatola(const Riquadro& r) {
+    const Piedini& piedini = Piedini_Di(r.Passo.Istr);
+    const double sinistra = X(r.Colonna) + rientro_scatola;
+    const double larghezza = r.Larghezza * larghezza_cella - 2 * rientro_scatola;
+    const double sopra = Y(r.Riga) - 20;
+    const double altezza = r.Altezza * altezza_cella - quota_filo + 24;
+    forme_.Cornici.push_back({sinistra, sopra, larghezza, altezza, r.Prima, indice_});
+    const double centro = sinistra + larghezza / 2;
+    Scrivi(centro, sopra + 15, A_Utf8(r.Come.Segno), Stile_Scritta::Nome);
+    // The wires come in one below the other; those between have their own rows.
+    for (std::size_t n = 0; n < piedini.Ingressi.size(); ++n) {
+      if (piedini.Ingressi[n].empty()) break;
+      const auto riga =
+          static_cast<std::size_t>(n) < r.Entrate.size() ? r.Entrate[n] : Entrata{r.Riga, r.Prima};
+      const double y = Y(riga.Riga);
+      Linea(X(r.Colonna), y, sinistra, y, riga.Nodo);
+      Scrivi(sinistra + 5, y + 4, std::string(piedini.Ingressi[n]), Stile_Scritta::Piedino,
+             Ancora::Sinistra);
+    }
+    std::size_t primo = 0;
+    if (piedini.Primo_Sopra) {
+      Etichetta(centro, sopra - 5, Operando(r.Passo, 0));
+      primo = 1;
+    }
+    double y = sopra + altezza - 9;
+    for (std::size_t n = r.Passo.Operandi.size(); n-- > primo;) {
+      const std::string nome = n < 2 ? std::string(piedini.Operandi[n]) : std::string();
+      Scrivi(sinistra + 5, y, nome, Stile_Scritta::Piedino, Ancora::Sinistra);
+      Scrivi(sinistra + larghezza - 5, y, Operando(r.Passo, n), Stile_Scritta::Indirizzo,
+             Ancora::Destra);
+      y -= 16;
+    }
+  }
+
+  void Da_Solo(const Riquadro& r) {
+    const double y = Y(r.Riga);
+    Linea(X(0), y, X(0) + larghezza_cella / 2, y, -1);
+    const double larghezza = 1.5 * larghezza_cella;
+    const double sinistra = X(0) + larghezza_cella / 2;
+    forme_.Cornici.push_back({sinistra, y - 14, larghezza, 28, -1, indice_});
+    std::string testo = A_Utf8(r.Come.Segno);
+    if (!r.Passo.Operandi.empty()) testo += "  " + Operando(r.Passo, 0);
+    Scrivi(sinistra + larghezza / 2, y + 5, std::move(testo), Stile_Scritta::Nome);
+  }
+
+  const Disegno& disegno_;
+  const Nome_Simbolico& nome_;
+  Tratteggio_Rete forme_;
+  int indice_ = -1;
+};
+
+}  // namespace
+
+Tratteggio_Rete Traccia_Forme(const Disegno& disegno, const Nome_Simbolico& nome) {
+  return Tracciatore(disegno, nome).Traccia();
+}
+
+}  // namespace tavorno
