@@ -8,21 +8,15 @@ open_screen
 for way in close menu; do
   start_program "$1"
   load_project "$2"
-  keys F5
+  start_run
   for window in 'i:Impostazioni pannello' 'n:Simulatore Ingressi an' 'e:Indicatori Stato'; do
-    focus 'Simulatore PLC'
-    keys alt+v "${window%%:*}"
-    wait_window "${window#*:}"
+    open_by "$panel" "alt+v ${window%%:*}" "${window#*:}"
   done
-  focus 'Simulatore PLC'
-  keys F1
-  wait_window 'Tavorno|Indice'
-  focus 'Simulatore PLC'
+  open_by "$panel" F1 'Tavorno|Indice'
   if [ $way = close ]; then
-    keys alt+F4
+    ends_with 0 "$panel" alt+F4
   else
-    keys ctrl+q
+    ends_with 0 "$panel" ctrl+q
   fi
-  ends_with 0
 done
 echo "closed with status 0"

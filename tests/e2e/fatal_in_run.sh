@@ -8,7 +8,7 @@ source "$(dirname "$0")/screen.sh"
 open_screen
 start_program "$1"
 load_project "$2"
-keys F5
+open_by "$panel" F5 '^Errore!$'
 answer '^Errore!$'
 ends_with 70
 for part in 'Tabella o operazione: ' 'Indice o valore: ' 'Riga: 5  S M0.7'; do
@@ -17,11 +17,10 @@ done
 
 start_program "$1"
 load_project "$2"
-keys ctrl+n
-wait_until "the editor in front" active 'Editor AWL'
+open_by "$panel" ctrl+n "$editor"
+focus "$editor"
 xdotool type --delay 10 '//non salvato'
-focus 'Simulatore PLC'
-keys F5
+open_by "$panel" F5 '^Errore!$'
 answer '^Errore!$'
 answer '^Attenzione!$'
 choose_file 'Salva con nome' "$work/salvato.AWL"

@@ -16,16 +16,17 @@ plant='00-Marcia/arresto'
 # Held until the parts look as they should, since a tap may be shorter than a scan.
 # Usage: press X Y TEST
 press() {
-  xdotool mousemove --window "$(visible "$plant" | tail -1)" "$1" "$2" mousedown 1
-  for part in coil lamp; do wait_until "$part $3" "$3" "$plant" "${!part}" "$work/$part.png"; done
+  act_until "$plant" "move_to '$plant' $1 $2; xdotool mouseup 1 mousedown 1" "coil $3" \
+    "$3" "$plant" $coil "$work/coil.png"
+  wait_until "lamp $3" "$3" "$plant" $lamp "$work/lamp.png"
   xdotool mouseup 1
 }
 
 open_screen
 start_program "$1"
 load_project "$2"
-keys F5
-keys alt+s Return
+start_run
+open_by "$panel" 'alt+s Return' "$plant"
 focus "$plant"
 wait_window 'Indicatori Stato'
 for part in coil lamp button; do piece "$plant" "${!part}" "$work/$part.png"; done
@@ -37,10 +38,7 @@ for part in coil lamp; do
 done
 # shellcheck disable=SC2086
 press $stop looks_like
-keys alt+F4
-wait_gone "$plant"
+close_by "$plant" alt+F4
 wait_gone 'Indicatori Stato'
-focus 'Simulatore PLC'
-keys ctrl+q
-ends_with 0
+ends_with 0 "$panel" ctrl+q
 echo "started, held and stopped"

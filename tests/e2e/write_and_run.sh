@@ -8,12 +8,11 @@ source "$(dirname "$0")/screen.sh"
 # In the panel as it opens: the LED of Q0.0 and the switch of I0.0.
 led=20x20+92+176
 switch='102 418'
-panel='Simulatore PLC'
-editor='Editor AWL'
 
 listing() {
+  active "$editor" || return
   keys ctrl+a ctrl+c
-  xclip -selection clipboard -o >"$work/listing" && grep -q "$1" "$work/listing"
+  timeout $patience xclip -selection clipboard -o >"$work/listing" && grep -q "$1" "$work/listing"
 }
 error_marks() {
   import -window "$(visible "$editor" | tail -1)" "$work/now.png"
@@ -24,51 +23,39 @@ error_marks() {
 
 open_screen
 start_program "$1"
-focus "$panel"
-keys ctrl+n
+open_by "$panel" ctrl+n "$editor"
 focus "$editor"
 keys ctrl+End
 write_lines 'LD I0.0' '= Q0.0'
-keys ctrl+s
+open_by "$editor" ctrl+s 'Salva con nome'
 choose_file 'Salva con nome' "$work/first.AWL"
 wait_until 'the saved project' grep -q 'LD  *I0.0' "$work/first.AWL"
 
-focus "$editor"
-keys F7
+open_by "$editor" F7 '^Attenzione!$'
 answer '^Attenzione!$'
 choose_file 'Salva con nome' "$work/second.AWL"
 answer '^Attenzione!$'
-focus "$editor"
-keys ctrl+3
-wait_until 'the listing' listing 'Ok!.*Q0.0'
-keys F8
+act_until "$editor" 'keys ctrl+3' 'the listing' listing 'Ok!.*Q0.0'
+open_by "$editor" F8 '^Attenzione!$'
 answer '^Attenzione!$'
 wait_gone "$editor"
 
 focus "$panel"
 piece "$panel" $led "$work/dark.png"
-keys F5
-# shellcheck disable=SC2086
-click_at "$panel" $switch
-wait_until 'the lit LED' looks_unlike "$panel" $led "$work/dark.png"
-keys shift+F5
-wait_until 'the dark LED' looks_like "$panel" $led "$work/dark.png"
+start_run
+act_until "$panel" "click_at '$panel' $switch" 'the lit LED' looks_unlike "$panel" $led "$work/dark.png"
+act_until "$panel" 'keys shift+F5' 'the dark LED' looks_like "$panel" $led "$work/dark.png"
 
-keys ctrl+e
+open_by "$panel" ctrl+e "$editor"
 focus "$editor"
 keys ctrl+End
 write_lines 'LDX I0.0'
-keys F7
+open_by "$editor" F7 '^Attenzione!$'
 answer '^Attenzione!$'
 choose_file 'Salva con nome' "$work/third.AWL"
 answer '^Attenzione!$'
-focus "$editor"
-wait_until 'the listing with the error' listing 'Err.*LDX'
-keys ctrl+1
-wait_until 'the mark of the error' error_marks
-keys ctrl+q
-wait_gone "$editor"
-focus "$panel"
-keys ctrl+q
-ends_with 0
+act_until "$editor" 'keys ctrl+3' 'the listing with the error' listing 'Err.*LDX'
+act_until "$editor" 'keys ctrl+1' 'the mark of the error' error_marks
+close_by "$editor" ctrl+q
+ends_with 0 "$panel" ctrl+q
 echo "written, run and marked"
