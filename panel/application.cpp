@@ -3,7 +3,18 @@
 
 #include <cstdlib>
 
+#include "panel/windows/status_window.h"
+#include "plc/plc.h"
+
 namespace tavorno {
+
+std::string Rapporto_Fine(const Fatale& fatale, const Plc& plc) {
+  const auto* finestra = dynamic_cast<const Fatale_In_Finestra*>(&fatale);
+  if (finestra == nullptr) return Rapporto_Fatale(fatale, plc);
+  return fatale.Cosa() + "\nTabella: " + fatale.Tabella() +
+         "\nIndice: " + std::to_string(fatale.Indice()) + "\nLetto da: " + finestra->Finestra() +
+         ". Nessuna riga del programma ne è la causa.";
+}
 
 bool Applicazione::notify(QObject* oggetto, QEvent* evento) {
   try {

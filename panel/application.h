@@ -3,10 +3,17 @@
 
 #include <QApplication>
 #include <functional>
+#include <string>
 
 #include "plc/fatal.h"
 
 namespace tavorno {
+
+struct Plc;
+
+/// What the user is told of a fatal end: with the line of the program, or with the window that
+/// read where there is nothing. Italian, UTF-8.
+std::string Rapporto_Fine(const Fatale& fatale, const Plc& plc);
 
 /// The process with its event loop: where a fatal end of the simulated CPU arrives, whatever event
 /// it began in.

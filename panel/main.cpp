@@ -40,7 +40,7 @@ int main(int argc, char** argv) {
 
   applicazione.Fine_Fatale = [&](const Fatale& fatale) {
     corsa.Ferma();
-    const std::string rapporto = Rapporto_Fatale(fatale, plc);
+    const std::string rapporto = Rapporto_Fine(fatale, plc);
     std::fprintf(stderr, "%s\n", rapporto.c_str());
     Mostra_Avviso(&pannello, {"Errore!", rapporto, Icona::Critica, Tasti::Ok, {}});
     pannello.Salva_Il_Progetto();

@@ -116,6 +116,8 @@ void Plc::Scegli_Modo(Modo modo) {
 void Plc::mnuPlcStep() {
   Scegli_Modo(Modo::Step);
   if (PLC_Acceso) Attivi.CmdStep = true;
+  etPc = PC;  // a run that stands at a stop line executes no line on the way here
+  Segna(Segno_PC);
   Ferma = -1;
 }
 

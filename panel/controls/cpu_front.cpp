@@ -4,6 +4,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <algorithm>
+#include <initializer_list>
 
 #include "panel/controls/compartment.h"
 #include "panel/controls/element.h"
@@ -85,6 +86,7 @@ Fronte_CPU::Fronte_CPU(Plc& plc, QWidget* sopra)
     pennello.translate(-posto_spina.topLeft());
     Disegna_Gruppo(pennello, disegni_, QStringLiteral("imgN"));
   });
+  imgN_->setAttribute(Qt::WA_TransparentForMouseEvents, false);  // it covers the switches
 
   pic1_->Clic = [this] { sportello_.Timer1.Enabled(true); };
   sportello_.Mosso = [this] { pic1_->Muovi(sportello_.Top); };
@@ -118,6 +120,9 @@ void Fronte_CPU::PLC_Sportello(Modo_Sportello modo) {
   if (!impianto && modo != Modo_Sportello::Interruttori) return;
   for (SimI* interruttori : SimI_) interruttori->setVisible(!impianto);
   SimC_->setVisible(false);
+  // The settings may show them again below the plug: out of reach, by keyboard too.
+  for (QWidget* coperto : std::initializer_list<QWidget*>{SimI_[0], SimI_[1], SimC_})
+    coperto->setEnabled(!impianto);
   pic1_->Mostra_Sportello(!impianto);
   imgN_->setVisible(impianto);
 }

@@ -66,6 +66,15 @@ FrmStatiL::FrmStatiL(Plc& plc, QWidget* panel) : plc_(plc), panel_(panel), timV_
 void FrmStatiL::Aggiorna() {
   if (Aggiornando) return;
   Aggiornando = -1;
+  try {
+    Mostra_Tutto();
+  } catch (const Fatale& fatale) {
+    throw Fatale_In_Finestra(fatale, "Finestra Stati Elementi");
+  }
+  Aggiornando = 0;
+}
+
+void FrmStatiL::Mostra_Tutto() {
   int riga = cmbM1_->currentIndex();
   for (Byte& byte : marker_) {
     const Riga_M& marker = plc_.Mem_M[riga++];
@@ -99,7 +108,6 @@ void FrmStatiL::Aggiorna() {
   for (Visto_Numero& cella : vd_.Celle) cella.Mostra(plc_.Mem_VD[v++]);
   int ac = 0;
   for (Visto<float>& cella : ac_) cella.Mostra(plc_.Mem_AC[ac++]);
-  Aggiornando = 0;
 }
 
 void FrmStatiL::Poni(int left_twip, int top_twip) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "panel/windows/fields.h"
+#include "plc/fatal.h"
 
 class QComboBox;
 class QGridLayout;
@@ -18,6 +19,17 @@ namespace tavorno {
 
 struct Plc;
 
+/// A failure of a window that reads the memory: no line of the program is to blame.
+class Fatale_In_Finestra : public Fatale {
+ public:
+  Fatale_In_Finestra(const Fatale& fatale, const char* finestra)
+      : Fatale(fatale), finestra_(finestra) {}
+  const char* Finestra() const { return finestra_; }  ///< in Italian, UTF-8
+
+ private:
+  const char* finestra_;
+};
+
 /// Live monitor of the memory. It only reads, in the middle of a scan if need be. A closed window
 /// is finished: whoever opens it again makes a new one.
 class FrmStatiL : public QWidget {
@@ -26,7 +38,8 @@ class FrmStatiL : public QWidget {
   /// outlive the window.
   FrmStatiL(Plc& plc, QWidget* panel);
 
-  /// One tick of `timV`. Fatal when a list stands at a row whose neighbour does not exist
+  /// One tick of `timV`. Throws `Fatale_In_Finestra` when a list stands at a row whose neighbour
+  /// does not exist
   /// ("Mem_VB" and "Mem_VW" at 100).
   void Aggiorna();
 
@@ -68,6 +81,7 @@ class FrmStatiL : public QWidget {
                                             const Tabella_Colonne& tabella);
   static Memoria_V Metti_V(QGridLayout& griglia, int riga, const Tabella_V& tabella);
 
+  void Mostra_Tutto();
   void Posa_Panel();
   void Ritocca_Posa();
 

@@ -4,8 +4,10 @@
 
 #include <QComboBox>
 
+#include "panel/application.h"
 #include "panel/child_windows.h"
 #include "panel/panel_bed.h"
+#include "panel/windows/status_window.h"
 
 namespace tavorno {
 namespace {
@@ -71,6 +73,24 @@ TEST_F(Esercizi_Dal_Menu, AThumbwheelGivesWayToTheSwitchesWhenAPlantCloses) {
   EXPECT_EQ(finestre.Sim_Contraves, -1);
 }
 
+TEST_F(Esercizi_Dal_Menu, UnderThePlugOfAPlantNoSwitchCanBeReached) {
+  Azione(pannello, Voce(0)).trigger();
+  finestre.Mostra_Impostazioni();
+  Finestra("frmSetPLC")->findChild<QAbstractButton*>("cmdSet")->click();
+  EXPECT_TRUE(c.Fronte->Sim_I(1).isVisibleTo(&pannello)) << "the settings show it, as told";
+  const std::string ingressi = plc.SI[1].Stato_I();
+  auto& interruttore = *c.Fronte->Sim_I(1).findChild<QWidget*>("imgI0(2)");
+  const QPoint centro = interruttore.mapTo(&pannello, interruttore.rect().center());
+  QTest::mouseClick(pannello.childAt(centro), Qt::LeftButton);
+  EXPECT_EQ(plc.SI[1].Stato_I(), ingressi);
+  EXPECT_FALSE(interruttore.isEnabled()) << "nor by keyboard";
+
+  Finestra("frmMA")->findChild<QAbstractButton*>("chkSim")->click();
+  QTest::mouseClick(pannello.childAt(centro), Qt::LeftButton);
+  EXPECT_EQ(plc.SI[1].Stato_I(), "00100000") << "the switches are back in front of the plug";
+  Finestra("frmMA")->close();
+}
+
 TEST_F(Esercizi_Dal_Menu, ThePanelAndTheEditorOpenEveryOtherWindow) {
   finestre.Mostra_Analogici();
   finestre.Mostra_Stati();
@@ -122,6 +142,28 @@ TEST_F(Esercizi_Dal_Menu, TheFocusFromAnotherWindowOfTheProgramActivatesThePanel
   EXPECT_EQ(plc.Mem_C[1].Val, 5);
   vai(pannello);
   EXPECT_EQ(plc.Mem_C[1].Val, 0);
+}
+
+TEST_F(Esercizi_Dal_Menu, AFatalReadOfTheStatusWindowBlamesNoLine) {
+  Carica("LD SM0.0\r\n= Q0.0\r\n");
+  finestre.Mostra_Stati();
+  auto& stati = dynamic_cast<FrmStatiL&>(*Finestra("frmStatiL"));
+  stati.findChild<QComboBox*>("cmbVb")->setCurrentIndex(100);
+  try {
+    stati.Aggiorna();
+    FAIL() << "no failure";
+  } catch (const Fatale& fatale) {
+    const std::string rapporto = Rapporto_Fine(fatale, plc);
+    EXPECT_EQ(rapporto.find("Riga"), std::string::npos) << rapporto;
+    EXPECT_NE(rapporto.find("Mem_VB"), std::string::npos);
+    EXPECT_NE(rapporto.find("Finestra Stati Elementi"), std::string::npos);
+  }
+  stati.close();
+  try {
+    Fatale_Indice("Mem_VB", 101);
+  } catch (const Fatale& fatale) {
+    EXPECT_EQ(Rapporto_Fine(fatale, plc), Rapporto_Fatale(fatale, plc));
+  }
 }
 
 TEST_F(Esercizi_Dal_Menu, AWindowThatIsAskedForComesBackFromTheTaskBar) {

@@ -108,6 +108,17 @@ TEST_F(Corsa_Pannello, StepModeExecutesOneLineAtAPress) {
   EXPECT_FALSE(c.CmdStep->isEnabled());
 }
 
+TEST_F(Corsa_Pannello, StepAfterAStopInCicloShowsTheNextLine) {
+  Carica(autoritenuta);
+  Scegli("mnuPLCCiclo");
+  c.chkStop->setChecked(true);
+  c.txtStop->setText("2");
+  Scegli("mnuPlcRun");
+  ASSERT_EQ(plc.PC, 2);
+  Scegli("mnuPlcStep");
+  EXPECT_EQ(c.etPc->text(), "2");
+}
+
 TEST_F(Corsa_Pannello, ContHidesThePositionAndTicksTheTime) {
   Carica(autoritenuta);
   Scegli("mnuPlcStep");
