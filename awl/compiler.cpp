@@ -1,107 +1,89 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The compile driver: guards, the loop over the lines, the link passes and the report.
+// Rows of source into a program: the loop over the lines and the link passes.
+#include "awl/checker.h"
 #include "awl/link.h"
-#include "awl/project.h"
+#include "awl/program.h"
 #include "awl/text.h"
-#include "plc/number_text.h"
+#include "plc/codepage.h"
 
 namespace tavorno {
 
-Risposta Progetto::Avvisa(const Avviso& avviso) const {
-  return Chiedi.Mostra ? Chiedi.Mostra(avviso) : Risposta::Ok;
+namespace {
+
+/// SBR, MEND and RET come from the keywords of the blocks and stand in no text.
+bool Nel_Testo(const Riga_Src& sorgente) {
+  return !sorgente.Istr.starts_with("SBR") && sorgente.Istr != "MEND" && sorgente.Istr != "RET";
 }
 
-void Progetto::mnuPlcCompile() {
-  Annulla = 0;
-  if (!Formattato) {
-    Avvisa({"Attenzione!",
-            "Il progetto non è formattato correttamente!\r\n"
-            "Occorre salvare il file prima della compilazione.",
-            Icona::Critica,
-            Tasti::Ok,
-            {}});
-    Save_Read();
-    if (Annulla) return;
-    Modificato = 0;
-  }
-  if (Modificato) {
-    const Risposta risposta = Avvisa({"Attenzione!",
-                                      "Il codice è stato modificato! Occorre salvare il file prima "
-                                      "della compilazione.",
-                                      Icona::Nessuna,
-                                      Tasti::Ok_Annulla,
-                                      {}});
-    if (risposta != Risposta::Ok) return;
-    Save_Read();
-    if (Annulla) return;
-  }
-  if (!Err_Lettura) Compila();  // the box of a failed read has been shown
+Diagnosi Di_Riga(const Riga_Src& sorgente, int riga, Parte_Riga parte) {
+  const Tratto tratto = Nel_Testo(sorgente) ? Tratto_Di(sorgente, parte) : Tratto{};
+  Diagnosi diagnosi;
+  diagnosi.Posto = sorgente.Posto;
+  diagnosi.Colonna = tratto.Colonna;
+  diagnosi.Lunghezza = tratto.Lunghezza;
+  diagnosi.Riga = riga;
+  diagnosi.Testo = A_Utf8(Trim(sorgente.Testo_Lista));
+  return diagnosi;
 }
 
-void Progetto::Save_Read() {
-  if (File_Titolo.empty()) File_Titolo = "NoName.AWL";
-  mnuFileSave();
-  if (Annulla) return;
-  Testo_Main = txtList + std::string(CRLF);
-  if (!Crea_Progetto() || !SalvaFile()) {
-    Annulla = -1;
-    return;
+struct Nome_Passo {
+  Genere Di;
+  Passo (*Esegui)(std::span<Riga_PLC>);
+  Gravita Grado;
+};
+
+// Only the last pass counts as an error, and then as the only one.
+constexpr std::array<Nome_Passo, 3> passi = {{
+    {.Di = Genere::Salti, .Esegui = Assegna_JMP, .Grado = Gravita::Avvertimento},
+    {.Di = Genere::Procedure, .Esegui = Assegna_SBR, .Grado = Gravita::Avvertimento},
+    {.Di = Genere::Sezioni, .Esegui = Assegna_SCR, .Grado = Gravita::Errore},
+}};
+
+}  // namespace
+
+Compilazione Compila_Righe(std::span<const Riga_Src> righe) {
+  Compilazione esito;
+  std::vector<Riga_PLC>& prodotte = esito.Prodotto.Righe;
+  prodotte.resize(righe.size());
+  for (std::size_t k = 0; k < righe.size(); ++k) {
+    Riempi_Riga(prodotte[k], righe[k]);
+    const Giudizio giudizio = Controlla_Riga(prodotte[k], righe[k]);
+    if (giudizio.Stato == 0) continue;
+    ++esito.Errori;
+    Diagnosi& diagnosi =
+        esito.Rilievi.emplace_back(Di_Riga(righe[k], static_cast<int>(k), giudizio.Dove));
+    diagnosi.Stato = giudizio.Stato;
+    diagnosi.Messaggio = giudizio.Testo;
   }
-  File_Progetto = File_Salva;
-  LeggiTxt();
-  if (Err_Lettura)
-    Avvisa_Lettura_Fallita();
-  else
-    Formattato = -1;
+
+  for (const Nome_Passo& nome : passi) {
+    const Passo passo = nome.Esegui(prodotte);
+    for (const Guasto& guasto : passo.Guasti) {
+      const auto riga = static_cast<std::size_t>(guasto.Riga);
+      Diagnosi& diagnosi =
+          esito.Rilievi.emplace_back(Di_Riga(righe[riga], guasto.Riga, Parte_Riga::Intera));
+      diagnosi.Grado = nome.Grado;
+      diagnosi.Di = nome.Di;
+      diagnosi.Stato = 1;
+      diagnosi.Messaggio = guasto.Motivo;
+    }
+    if (passo.Esito != 0) esito.Passi_Errati.push_back(nome.Di);
+    if (nome.Di != Genere::Sezioni) continue;
+    esito.Prodotto.Righe_Abilitate = passo.Righe_Viste;
+    if (passo.Esito != 0) esito.Errori = 1;
+  }
+  return esito;
 }
 
-void Progetto::Compila() {
-  Lista_Comp.clear();
-  Errori = 0;
-  for (int k = 0; k <= CPU.NRighe; ++k) {
-    Riempi_Riga(CPU.Prog[k], Righe_Src[k]);
-    if (Controlla_Riga(k) > 0) ++Errori;
-    Lista_Comp += CRLF;
+void Carica(const Programma& programma, Memoria& cpu) {
+  const int righe = static_cast<int>(programma.Righe.size());
+  if (cpu.Prog.Righe() != righe) cpu.Prog.Ridimensiona(righe);
+  for (int i = 0; i < righe; ++i) {
+    const std::int16_t abilitata = cpu.Prog[i].Abil_SCR;
+    cpu.Prog[i] = programma.Righe[static_cast<std::size_t>(i)];
+    if (i >= programma.Righe_Abilitate) cpu.Prog[i].Abil_SCR = abilitata;
   }
-
-  // Only the last pass counts as an error, and then as the only one.
-  if (Assegna_JMP(CPU) != 0)
-    Avvisa({"Errore!", "Controllo Salti con Errori!", Icona::Critica, Tasti::Ok, {}});
-  if (Assegna_SBR(CPU) != 0)
-    Avvisa({"Errore!", "Controllo Procedure con Errori!", Icona::Critica, Tasti::Ok, {}});
-  if (Assegna_SCR(CPU) != 0) {
-    Avvisa({"Errore!", "Controllo SCR con Errori!", Icona::Critica, Tasti::Ok, {}});
-    Errori = 1;
-  }
-
-  stB[2] = "Errori:" + Numero_Con_Spazio(Errori);
-  etNR[0] = std::to_string(CPU.NRighe);
-  etNR[1] = std::to_string(Errori);
-  if (Errori > 0) {
-    Avvisa({"Attenzione!",
-            Numero_Con_Spazio(CPU.NRighe) + " Righe compilate con " + Numero_Con_Spazio(Errori) +
-                " Errori!!",
-            Icona::Critica,
-            Tasti::Ok,
-            {}});
-    Compilato = 0;
-    Pagina = 3;
-  } else {
-    Avvisa({"Attenzione!",
-            Numero_Con_Spazio(CPU.NRighe) + " Righe compilate con successo!",
-            Icona::Nessuna,
-            Tasti::Ok,
-            {}});
-    Compilato = -1;
-  }
-}
-
-void Progetto::mnuPlcCarica() {
-  mnuPlcCompile();
-  if (Compilato)
-    Carica_CPU = 1;
-  else
-    Avvisa({"Errori!", "Impossibile caricare nella CPU", Icona::Critica, Tasti::Ok, {}});
+  cpu.NRighe = static_cast<std::int16_t>(righe - 1);
 }
 
 }  // namespace tavorno

@@ -4,6 +4,7 @@
 #include "awl/project.h"
 #include "awl/templates.h"
 #include "awl/text.h"
+#include "awl/writer.h"
 
 namespace tavorno {
 
@@ -48,7 +49,8 @@ std::string Proposta(const std::string& titolo, const char* estensione) {
 
 /// The user's choice; a cancelled dialog sets `Annulla`.
 std::optional<File_Scelto> Progetto::Scegli_File(const Richiesta_File& richiesta) {
-  auto scelto = Chiedi.Scegli_File ? Chiedi.Scegli_File(richiesta) : std::nullopt;
+  const auto& scegli = Chiedi.Scegli_File ? Chiedi.Scegli_File : Riserva.Scegli_File;
+  auto scelto = scegli ? scegli(richiesta) : std::nullopt;
   if (!scelto) Annulla = -1;
   return scelto;
 }
@@ -102,27 +104,32 @@ bool Progetto::Chiedi_Di_Salvare() {
   return !Annulla || Vuoto();
 }
 
-std::string Progetto::Testi() const {
-  std::string testi = txtList;
-  for (int i = 1; i <= Num_SBR; ++i) testi += '\0' + Tab_SBR[i].Nome + '\0' + Tab_SBR[i].Testo;
-  return testi;
+std::optional<File_Scelto> Progetto::Scegli_Da_Aprire() {
+  return Scegli_File({false, "", filtro_awl});
 }
 
 void Progetto::mnuFileOpen() {
-  const auto scelto = Scegli_File({false, "", filtro_awl});
+  const auto scelto = Scegli_Da_Aprire();
   if (!scelto) return;
-  File_Progetto = scelto->Percorso;
-  File_Titolo = scelto->Titolo;
+  Apri_File(*scelto);
+  Riferisci_Apertura();
+}
+
+void Progetto::Apri_File(const File_Scelto& scelto) {
+  File_Progetto = scelto.Percorso;
+  File_Titolo = scelto.Titolo;
   stB[0] = "File: " + File_Titolo;
   Annulla = 0;
-  LeggiTxt();
-  if (Err_Lettura) {
-    Avvisa_Lettura_Fallita();
-    return;
-  }
+  Leggi_File_Progetto();
+  if (Err_Lettura) return;
   Gestione_Voci(1);
   Formattato = -1;
   Compilato = 0;
+}
+
+void Progetto::Riferisci_Apertura() const {
+  Mostra_Rilievi_Lettura();
+  if (Err_Lettura) Avvisa_Lettura_Fallita();
 }
 
 void Progetto::mnuFileSave() {
@@ -180,7 +187,7 @@ void Progetto::mnuFileTxtExp() {
 }
 
 void Progetto::mnufiltxtT() {
-  Esporta(Testo_Progetto() + std::string(CRLF));
+  Esporta(Testo_Progetto(Come_Sorgente(Testo_Main)) + std::string(CRLF));
 }
 
 }  // namespace tavorno

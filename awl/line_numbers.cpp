@@ -50,30 +50,26 @@ bool Diventa_Riga(std::string_view linea, bool nome_vecchio) {
 }
 
 Numerazione::Numerazione(const Progetto& progetto) {
-  const auto vecchia = [&](std::size_t riga) {
-    return riga <= static_cast<std::size_t>(progetto.Righe_Src.ultimo) &&
-           !progetto.Righe_Src[static_cast<int>(riga)].Istr.empty();
+  int righe = 0;
+  const auto vecchia = [&](int riga) {
+    return riga <= progetto.Righe_Src.ultimo && !progetto.Righe_Src[riga].Istr.empty();
   };
   const auto aggiungi = [&](const std::string& testo) {
-    const int numero_testo = static_cast<int>(testi_.size());
     std::vector<std::string_view> linee = Linee(testo);
     // The blanks in front of the whole text are not saved.
     linee[0].remove_prefix(std::min(linee[0].find_first_not_of(' '), linee[0].size()));
     std::vector<int> numeri;
     numeri.reserve(linee.size());
     for (const std::string_view linea : linee) {
-      const int posto = static_cast<int>(numeri.size());
-      const bool riga = Diventa_Riga(linea, vecchia(righe_.size()));
-      numeri.push_back(riga ? static_cast<int>(righe_.size()) : Nessuno);
-      if (riga) righe_.push_back({numero_testo, posto});
+      numeri.push_back(Diventa_Riga(linea, vecchia(righe)) ? righe++ : Nessuno);
     }
-    righe_.push_back({numero_testo, static_cast<int>(linee.size()) - 1});  // MEND or RET
+    ++righe;  // MEND or RET
     testi_.push_back(std::move(numeri));
   };
 
   aggiungi(progetto.txtList);
   for (int i = 1; i <= progetto.Num_SBR; ++i) {
-    righe_.push_back({i, 0});  // SBR
+    ++righe;  // SBR
     aggiungi(progetto.Tab_SBR[i].Testo);
   }
 }
@@ -82,11 +78,6 @@ const std::vector<int>& Numerazione::Numeri(int testo) const {
   static const std::vector<int> nessuno;
   if (testo < 0 || static_cast<std::size_t>(testo) >= testi_.size()) return nessuno;
   return testi_[static_cast<std::size_t>(testo)];
-}
-
-std::optional<Posto_Riga> Numerazione::Posto(int numero) const {
-  if (numero < 0 || static_cast<std::size_t>(numero) >= righe_.size()) return std::nullopt;
-  return righe_[static_cast<std::size_t>(numero)];
 }
 
 }  // namespace tavorno

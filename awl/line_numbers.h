@@ -1,21 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "awl/project.h"
 
 namespace tavorno {
-
-/// A line of the project's texts.
-struct Posto_Riga {
-  int Testo = 0;  ///< 0 the Main text, else the row of the procedure in `Tab_SBR`
-  int Linea = 0;  ///< from 0
-
-  bool operator==(const Posto_Riga&) const = default;
-};
 
 /// A line of the editor becomes a row of the CPU's program when the project is saved and read.
 /// `nome_vecchio` tells what `SBR` or `INT` without a blank find in their row from an earlier read.
@@ -35,13 +26,8 @@ class Numerazione {
   /// for a text that the project does not have.
   const std::vector<int>& Numeri(int testo) const;
 
-  /// Where a row comes from. MEND and RET stand for the last line of their text and SBR for the
-  /// first; none for a number that no row has.
-  std::optional<Posto_Riga> Posto(int numero) const;
-
  private:
   std::vector<std::vector<int>> testi_;
-  std::vector<Posto_Riga> righe_;
 };
 
 }  // namespace tavorno

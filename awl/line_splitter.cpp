@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One text line into one row of `Righe_Src`, and its canonical look.
+#include "awl/line_splitter.h"
+
 #include <algorithm>
 
-#include "awl/project.h"
 #include "awl/text.h"
 #include "plc/codepage.h"
 
@@ -14,7 +15,6 @@ constexpr std::size_t colonna_commento = 36;          // of an instruction in th
 constexpr std::size_t colonna_commento_network = 16;  // of a NETWORK line in the editor
 constexpr std::size_t colonna_cpu = 22;               // of an instruction in the CPU's listing
 constexpr std::size_t colonna_cpu_network = 12;
-constexpr std::size_t colonna_operandi = 7;
 
 void Dividi_Network(const std::string& riga, bool commento_nel_listato, Riga_Src& sorgente) {
   const std::size_t barra = riga.find('/');
@@ -59,11 +59,30 @@ std::vector<std::string> Pezzi(const std::string& testo) {
 
 }  // namespace
 
-std::string Progetto::Cerca_Com(const std::string& riga) {
-  if (CPU.NRighe > Righe_Src.ultimo) throw Riga_Rifiutata(righe_esaurite);
-  Riga_Src& sorgente = Righe_Src[CPU.NRighe];
+/// One place for each of the two boxes that the reader can show of a line.
+void Righe_Lette::Rileva(Genere genere, const std::string& riga, Posto_Riga posto) {
+  const bool tre = genere == Genere::Tre_Operandi;
+  Rilievi.push_back({.Grado = tre ? Gravita::Avvertimento : Gravita::Errore,
+                     .Di = genere,
+                     .Posto = posto,
+                     .Colonna = 0,
+                     .Lunghezza = static_cast<int>(Trim(riga.substr(0, riga.find("//"))).size()),
+                     .Riga = NRighe,
+                     .Stato = 0,
+                     .Testo = A_Utf8(riga),
+                     .Messaggio = tre ? "Il simulatore non supporta istruzioni con tre operandi!"
+                                      : "Errori nella lettura degli operandi!"});
+}
+
+std::string Righe_Lette::Cerca_Com(const std::string& riga, Posto_Riga posto) {
+  if (NRighe >= Righe_Massime)
+    throw Riga_Rifiutata("Il progetto supera le 300 righe di istruzioni!", Causa::Capienza);
+  const auto libera = static_cast<std::size_t>(NRighe);
+  if (Tabella.size() <= libera) Tabella.resize(libera + 1);
+  Riga_Src& sorgente = Tabella[libera];
+  sorgente.Posto = posto;
   if (riga.starts_with("NETWORK")) {
-    Dividi_Network(riga, chkCom[1], sorgente);
+    Dividi_Network(riga, commenti_[1], sorgente);
     return sorgente.Testo_Lista;
   }
   if (riga.starts_with("SBR") || riga.starts_with("INT")) {
@@ -83,8 +102,7 @@ std::string Progetto::Cerca_Com(const std::string& riga) {
   sorgente.NOp = static_cast<std::uint8_t>(spazi);
   sorgente.Istr = Maiuscole(pezzi[0]);
   if (spazi == 4) {
-    Avvisa({"Errore!", "Errori nella lettura degli operandi!", Icona::Critica, Tasti::Ok,
-            A_Utf8(riga)});
+    Rileva(Genere::Quattro_Operandi, riga, posto);
     sorgente.Op1 = sorgente.Op2 = sorgente.Op3 = "";
     sorgente.Testo_CPU = istruzione;
     sorgente.Testo_Lista = riga;
@@ -95,26 +113,24 @@ std::string Progetto::Cerca_Com(const std::string& riga) {
   sorgente.Op3 = Maiuscole(pezzi[3]);
 
   std::string canonica = istruzione;  // as typed when it has no operands
-  if (spazi >= 1) canonica = Incolonna(sorgente.Istr, colonna_operandi) + sorgente.Op1;
+  if (spazi >= 1) canonica = Incolonna(sorgente.Istr, Colonna_Operandi) + sorgente.Op1;
   if (spazi >= 2) canonica += ", " + sorgente.Op2;
   if (spazi >= 3) canonica += ", " + sorgente.Op3;
   sorgente.Testo_CPU = Incolonna(canonica, colonna_cpu);
-  if (chkCom[0]) sorgente.Testo_CPU += commento;
+  if (commenti_[0]) sorgente.Testo_CPU += commento;
   sorgente.Testo_Lista = Incolonna(canonica, colonna_commento) + commento;
-  if (spazi == 3)
-    Avvisa({"Attenzione", "Il simulatore non supporta istruzioni con tre operandi!", Icona::Critica,
-            Tasti::Ok, A_Utf8(riga)});
+  if (spazi == 3) Rileva(Genere::Tre_Operandi, riga, posto);
   return sorgente.Testo_Lista;
 }
 
-std::string Progetto::Debug_Line(const std::string& riga) {
+std::string Righe_Lette::Debug_Line(const std::string& riga, Posto_Riga posto) {
   if (riga.empty() || riga.starts_with("//")) return riga;
   if (riga.starts_with(" //"))
     return std::string(colonna_commento, ' ') + riga.substr(riga.find_first_not_of(' '));
   if (riga.starts_with("TITLE=")) return "//" + riga.substr(6);
-  std::string testo = Cerca_Com(riga);
-  const std::string& istr = Righe_Src[CPU.NRighe].Istr;
-  if (!istr.empty() && !istr.starts_with("     ")) ++CPU.NRighe;
+  std::string testo = Cerca_Com(riga, posto);
+  const std::string& istr = Tabella[static_cast<std::size_t>(NRighe)].Istr;
+  if (!istr.empty() && !istr.starts_with("     ")) ++NRighe;
   return testo;
 }
 

@@ -12,78 +12,109 @@ bool Temporizza(const Riga_PLC& riga) {
 }
 
 /// The timers on rows `da`..`fino_a`, behind the unused entry 0.
-std::vector<std::int16_t> Timer_Tra(const Memoria& memoria, int da, int fino_a) {
+std::vector<std::int16_t> Timer_Tra(std::span<const Riga_PLC> righe, std::size_t da,
+                                    std::size_t fino_a) {
   std::vector<std::int16_t> lista = {0};
-  for (int riga = da; riga <= fino_a; ++riga) {
-    if (Temporizza(memoria.Prog[riga])) lista.push_back(memoria.Prog[riga].Num1);
+  for (std::size_t i = da; i <= fino_a; ++i) {
+    if (Temporizza(righe[i])) lista.push_back(righe[i].Num1);
   }
   return lista;
 }
 
 /// The row that closes the procedure which begins at `inizio`; the last row if none does.
-int Fine_Procedura(const Memoria& memoria, int inizio) {
-  int riga = inizio;
-  while (riga < memoria.NRighe && memoria.Prog[riga].Istr != "RET") ++riga;
+std::size_t Fine_Procedura(std::span<const Riga_PLC> righe, std::size_t inizio) {
+  std::size_t riga = inizio;
+  while (riga + 1 < righe.size() && righe[riga].Istr != "RET") ++riga;
   return riga;
 }
 
+/// Jumps, and labels of their number, or calls and procedures of their name, counted against each
+/// other.
+class Conto {
+ public:
+  /// `cosa` is what the row leads to, and was found so many times.
+  void Chiudi(std::size_t riga, int trovate, const std::string& cosa) {
+    aperti_ += 1 - trovate;
+    if (trovate == 1) return;
+    passo_.Guasti.push_back(
+        {static_cast<int>(riga),
+         trovate == 0 ? "Manca " + cosa
+                      : cosa + " c'è " + std::to_string(trovate) + " volte: vale l'ultima"});
+  }
+  Passo Esito() {
+    passo_.Esito = aperti_ != 0 ? 1 : 0;
+    return std::move(passo_);
+  }
+
+ private:
+  int aperti_ = 0;
+  Passo passo_;
+};
+
 }  // namespace
 
-std::uint8_t Assegna_JMP(Memoria& memoria) {
-  int aperti = 0;
-  int meta = 0;  // not reset between jumps
-  for (int i = 0; i <= memoria.NRighe; ++i) {
-    Riga_PLC& salto = memoria.Prog[i];
+Passo Assegna_JMP(std::span<Riga_PLC> righe) {
+  Conto conto;
+  std::size_t meta = 0;  // not reset between jumps
+  for (std::size_t i = 0; i < righe.size(); ++i) {
+    Riga_PLC& salto = righe[i];
     if (salto.Istr != "JMP") continue;
-    ++aperti;
-    for (int j = 0; j <= memoria.NRighe; ++j) {
-      const Riga_PLC& etichetta = memoria.Prog[j];
-      if (etichetta.Istr != "LBL" || etichetta.Num1 != salto.Num1) continue;
+    int etichette = 0;
+    for (std::size_t j = 0; j < righe.size(); ++j) {
+      if (righe[j].Istr != "LBL" || righe[j].Num1 != salto.Num1) continue;
       meta = j;
       salto.Salto = static_cast<std::int16_t>(j);
-      --aperti;  // once for every label of this number
+      ++etichette;
     }
-    salto.Lista_T = Timer_Tra(memoria, i, meta);
+    salto.Lista_T = Timer_Tra(righe, i, meta);
+    conto.Chiudi(i, etichette, "l'etichetta LBL " + std::to_string(salto.Num1));
   }
-  return aperti != 0 ? 1 : 0;
+  return conto.Esito();
 }
 
-std::uint8_t Assegna_SBR(Memoria& memoria) {
-  int aperte = 0;
-  for (int i = 0; i <= memoria.NRighe; ++i) {
-    Riga_PLC& chiamata = memoria.Prog[i];
+Passo Assegna_SBR(std::span<Riga_PLC> righe) {
+  Conto conto;
+  for (std::size_t i = 0; i < righe.size(); ++i) {
+    Riga_PLC& chiamata = righe[i];
     if (chiamata.Istr != "CALL") continue;
-    ++aperte;
+    int procedure = 0;
     const std::string nome = Maiuscole(chiamata.Area1);
-    for (int j = 0; j <= memoria.NRighe; ++j) {
-      const Riga_PLC& procedura = memoria.Prog[j];
+    for (std::size_t j = 0; j < righe.size(); ++j) {
+      const Riga_PLC& procedura = righe[j];
       if (!procedura.Istr.starts_with("SBR") || Maiuscole(procedura.Area1) != nome) continue;
       chiamata.Salto = static_cast<std::int16_t>(j);
-      --aperte;
-      chiamata.Lista_T = Timer_Tra(memoria, j, Fine_Procedura(memoria, j));
+      ++procedure;
+      chiamata.Lista_T = Timer_Tra(righe, j, Fine_Procedura(righe, j));
     }
+    conto.Chiudi(i, procedure, "la procedura di nome \"" + A_Utf8(nome) + "\"");
   }
-  return aperte != 0 ? 1 : 0;
+  return conto.Esito();
 }
 
-std::uint8_t Assegna_SCR(Memoria& memoria) {
-  int aperte = 0;
-  for (int i = 0; i <= memoria.NRighe; ++i) {
-    Riga_PLC& sezione = memoria.Prog[i];
+Passo Assegna_SCR(std::span<Riga_PLC> righe) {
+  Passo passo;
+  const auto guasto = [&](std::size_t riga, const char* motivo) {
+    passo.Guasti.push_back({static_cast<int>(riga), motivo});
+    passo.Esito = 1;
+  };
+  for (std::size_t i = 0; i < righe.size(); ++i) {
+    Riga_PLC& sezione = righe[i];
     sezione.Abil_SCR = 1;
+    passo.Righe_Viste = static_cast<int>(i) + 1;
     if (sezione.Istr != "LSCR") continue;
     sezione.SCR_Prima = static_cast<std::int16_t>(i + 1);
-    ++aperte;
-    for (int j = i + 1; j <= memoria.NRighe; ++j) {
-      const std::string& istr = memoria.Prog[j].Istr;
-      if (istr == "LBL" || istr == "JMP") return 1;  // refused inside a section, at once
-      if (istr != "SCRE") continue;
-      sezione.SCR_Ultima = static_cast<std::int16_t>(j - 1);
-      --aperte;
-      break;
+    std::size_t j = i + 1;
+    for (; j < righe.size() && righe[j].Istr != "SCRE"; ++j) {
+      if (righe[j].Istr != "LBL" && righe[j].Istr != "JMP") continue;
+      guasto(j, "LBL e JMP non possono stare tra LSCR e SCRE");
+      return passo;
     }
+    if (j == righe.size())
+      guasto(i, "Manca SCRE, che chiude la sezione");
+    else
+      sezione.SCR_Ultima = static_cast<std::int16_t>(j - 1);
   }
-  return aperte != 0 ? 1 : 0;
+  return passo;
 }
 
 }  // namespace tavorno

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "awl/reader.h"
+
 #include <algorithm>
 
-#include "awl/file_io.h"
-#include "awl/project.h"
 #include "awl/text.h"
 #include "plc/codepage.h"
 #include "plc/number_text.h"
@@ -14,20 +14,20 @@ namespace {
 /// Lines of a file: ended by CR LF, LF or CR; what follows the last end counts only if not empty.
 class Righe_File {
  public:
-  explicit Righe_File(std::string byte) : byte_(std::move(byte)) {}
+  explicit Righe_File(std::string_view byte) : byte_(byte) {}
 
   bool Prossima(std::string& riga) {
     if (posto_ >= byte_.size()) return false;
     const std::size_t fine = std::min(byte_.find_first_of("\r\n", posto_), byte_.size());
     riga = byte_.substr(posto_, fine - posto_);
-    posto_ = fine + (byte_.compare(fine, 2, CRLF) == 0 ? 2 : 1);
+    posto_ = fine + (byte_.substr(fine, 2) == CRLF ? 2 : 1);
     ++lette_;
     return true;
   }
   int Lette() const { return lette_; }
 
  private:
-  std::string byte_;
+  std::string_view byte_;
   std::size_t posto_ = 0;
   int lette_ = 0;
 };
@@ -43,7 +43,7 @@ std::uint8_t Numero_Procedura(const std::string& sigla) {
 /// The state of one read.
 class Lettore {
  public:
-  explicit Lettore(Progetto& progetto) : p_(progetto) {}
+  Lettore(Sorgente& letta, Righe_Lette& righe) : letta_(letta), righe_(righe) {}
 
   /// One line of the file; throws `Riga_Rifiutata` when the read is to be given up.
   void Leggi(std::string riga) {
@@ -52,139 +52,95 @@ class Lettore {
       salta = true;
       in_main_ = true;
     } else if (riga.starts_with("END_ORGANIZATION_BLOCK")) {
+      const Posto_Riga fine = in_sbr_ && !in_main_ ? Qui() : Posto_Riga{0, linee_main_};
       in_main_ = false;
-      p_.Debug_Line("MEND");
+      righe_.Debug_Line("MEND", fine);
     } else if (riga.starts_with("SUBROUTINE_BLOCK")) {
       salta = true;
       Apri_Procedura(riga);
     } else if (riga.starts_with("END_SUBROUTINE_BLOCK")) {
+      const Posto_Riga fine = Qui();
       in_sbr_ = false;
-      p_.Debug_Line("RET");
+      righe_.Debug_Line("RET", fine);
     } else if (riga.starts_with("INTERRUPT_BLOCK")) {
-      if (p_.Chiedi.Mostra)
-        p_.Chiedi.Mostra({"Attenzione!",
-                          "Il simulatore non supporta routin di interrupt!",
-                          Icona::Critica,
-                          Tasti::Ok,
-                          {}});
-      throw Riga_Rifiutata("il simulatore non supporta le routine di interrupt");
+      throw Riga_Rifiutata("il simulatore non supporta le routine di interrupt", Causa::Interrupt);
     } else if (riga.starts_with("END_INTERRUPT_BLOCK")) {
-      p_.Debug_Line("RETI");
+      righe_.Debug_Line("RETI", Qui());
     } else if (riga.starts_with("TITLE=")) {
-      riga = p_.Debug_Line(riga);
+      riga = righe_.Debug_Line(riga);
     } else if (riga.starts_with("BEGIN")) {
       salta = true;
     }
     if (salta) return;
-    if (in_main_)
-      p_.Testo_Main.append(p_.Debug_Line(riga)).append(CRLF);
-    else if (in_sbr_)
-      p_.Tab_SBR[p_.Num_SBR].Testo.append(p_.Debug_Line(riga)).append(CRLF);
+    if (in_main_) {
+      letta_.Main.append(righe_.Debug_Line(riga, Qui())).append(CRLF);
+      ++linee_main_;
+    } else if (in_sbr_) {
+      letta_.Procedure.back().Testo.append(righe_.Debug_Line(riga, Qui())).append(CRLF);
+      ++linee_procedura_;
+    }
   }
 
  private:
+  /// Where a line that is text of a block would go; behind the last procedure outside of any.
+  Posto_Riga Qui() const {
+    if (in_main_ || letta_.Procedure.empty()) return {0, linee_main_};
+    return {static_cast<int>(letta_.Procedure.size()), linee_procedura_};
+  }
+
   void Apri_Procedura(const std::string& riga) {
     constexpr std::size_t inizio_nome = 17;  // behind the keyword and its blank
     const std::string resto = riga.size() > inizio_nome ? riga.substr(inizio_nome) : "";
     const std::size_t due_punti = resto.find(':');
     if (due_punti == std::string::npos)
       throw Riga_Rifiutata("manca il carattere \":\" tra il nome e la sigla della procedura");
-    if (p_.Num_SBR == p_.Tab_SBR.ultimo) throw Riga_Rifiutata("il progetto supera le 64 procedure");
+    const std::size_t posto = letta_.Procedure.size() + 1;
+    if (posto > Procedure_Massime) throw Riga_Rifiutata("il progetto supera le 64 procedure");
     const std::string nome = resto.substr(0, due_punti);
     const std::string sigla = resto.substr(due_punti + 1);
     const std::uint8_t numero = Numero_Procedura(sigla);
-    ++p_.Num_SBR;
-    p_.TabSP.push_back(nome);
-    Riga_SBR& procedura = p_.Tab_SBR[p_.Num_SBR];
-    procedura.Num = numero;
-    procedura.Nome = nome;
-    procedura.Sigla = sigla;
-    procedura.Indice = p_.Num_SBR;
-    procedura.Testo.clear();
+    letta_.Procedure.push_back({.Num = numero,
+                                .Nome = nome,
+                                .Sigla = sigla,
+                                .Indice = static_cast<std::uint8_t>(posto),
+                                .Testo = {}});
+    linee_procedura_ = 0;
     in_sbr_ = true;
-    p_.Debug_Line(sigla + " " + nome);
+    righe_.Debug_Line(sigla + " " + nome, {static_cast<int>(posto), 0});
   }
 
-  Progetto& p_;
+  Sorgente& letta_;
+  Righe_Lette& righe_;
   bool in_main_ = false;
   bool in_sbr_ = false;
+  int linee_main_ = 0;
+  int linee_procedura_ = 0;  // of the last one
 };
 
 }  // namespace
 
-std::string Dettaglio_Lettura::Come_Testo() const {
-  if (Riga == 0) return Motivo;
-  return "Riga " + std::to_string(Riga) + ": " + Testo + "\n" + Motivo;
-}
-
-void Progetto::LeggiTxt() {
-  Testo_Main.clear();
-  txtP.clear();
-  for (int riga = 0; riga <= 10; ++riga) Tab_SBR[riga].Testo.clear();  // and no others
-  Num_SBR = 0;
-  CPU.NRighe = 0;
-  Err_Lettura = 0;
-  Dettaglio = {};
-  TabSP.clear();
-  Scheda = 0;
-
+Lettura Leggi_Sorgente(std::string_view byte, Commenti_Listato commenti,
+                       std::vector<Riga_Src> prima) {
+  Lettura lettura;
+  Righe_Lette righe(commenti, std::move(prima));
+  Righe_File file(byte);
   std::string riga;
-  const Contenuto_File file = Leggi_File(File_Progetto);
-  Righe_File righe(file.Byte);
   try {
-    if (!file.Errore.empty()) throw Riga_Rifiutata(file.Errore);
-    Lettore lettore(*this);
-    while (righe.Prossima(riga)) lettore.Leggi(riga);
-    if (CPU.NRighe == 0) {
+    Lettore lettore(lettura.Letta, righe);
+    while (file.Prossima(riga)) lettore.Leggi(riga);
+    if (righe.NRighe == 0) {
       riga.clear();
       throw Riga_Rifiutata("il file non contiene nessun blocco di programma");
     }
   } catch (const Riga_Rifiutata& rifiuto) {
-    Dettaglio = {riga.empty() ? 0 : righe.Lette(), A_Utf8(riga), rifiuto.what()};
-    Lettura_Fallita();
-    return;
+    lettura.Rifiuto = {riga.empty() ? 0 : file.Lette(), A_Utf8(riga), rifiuto.what(),
+                       rifiuto.Perche()};
   }
-
-  etNR[2] = std::to_string(righe.Lette() - 1);
-  --CPU.NRighe;  // the last row from here on
-  txtList = Testo_Main;
-  if (Num_SBR > 0) {
-    txtP = Tab_SBR[1].Testo;
-    Scheda = 1;
-  } else {
-    TabSP.assign(1, "");
-  }
-  stB[1] = "List:" + Numero_Con_Spazio(CPU.NRighe) + "  SBR:" + Numero_Con_Spazio(Num_SBR);
-  CPU.Prog.Ridimensiona(CPU.NRighe + 1);
-  Modificato = 0;
-  Testi_Salvati = Testi();
-}
-
-void Progetto::Lettura_Fallita() {
-  Err_Lettura = -1;
-  Num_SBR = 0;
-  CPU.NRighe = 0;
-  TabSP.assign(1, "");
-  Scheda = 0;
-  File_Progetto.clear();
-  Testo_Main.clear();
-  txtList.clear();
-  txtP.clear();
-  stB = {"File:", "List: 0   SBR: 0", "Read Error"};
-  Gestione_Voci(0);
-  Modificato = 0;
-  Compilato = 0;  // nothing is left that could be loaded
-  NRighe_Prog = 0;
-  etNR[2] = "0";
-}
-
-/// What every caller of a failed read says.
-void Progetto::Avvisa_Lettura_Fallita() {
-  const bool troppe_righe = Dettaglio.Motivo == righe_esaurite;
-  Avvisa(
-      {"Errore!",
-       troppe_righe ? righe_esaurite : "Impossibile Caricare il progetto per errori nel formato!",
-       Icona::Critica, Tasti::Ok, Dettaglio.Come_Testo()});
+  lettura.Letta.Righe_Lette = file.Lette();
+  lettura.Letta.Righe.assign(righe.Tabella.begin(), righe.Tabella.begin() + righe.NRighe);
+  lettura.Rilievi = std::move(righe.Rilievi);
+  lettura.Tabella = std::move(righe.Tabella);
+  return lettura;
 }
 
 }  // namespace tavorno

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "awl/diagnostic.h"
 #include "plc/memory.h"
 
 namespace tavorno {
@@ -15,6 +16,9 @@ struct Riga_Src {
   std::uint8_t NOp = 0;       ///< blanks that separated the operands
   std::string Testo_Lista;    ///< the canonical line of the editor
   std::string Testo_CPU;      ///< the short canonical line of the CPU's listing
+  /// Where the row stands in the texts. MEND and RET stand behind the last line of theirs, SBR on
+  /// the first.
+  Posto_Riga Posto{};
 
   bool operator==(const Riga_Src&) const = default;
 };

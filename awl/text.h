@@ -10,6 +10,9 @@ namespace tavorno {
 
 inline constexpr std::string_view CRLF = "\r\n";
 
+/// Where the operands of an instruction begin in its canonical line, in characters from 0.
+inline constexpr std::size_t Colonna_Operandi = 7;
+
 /// Without the blanks at either end; other white space stays.
 inline std::string Trim(std::string_view testo) {
   const std::size_t primo = testo.find_first_not_of(' ');

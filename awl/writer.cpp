@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <algorithm>
-#include <vector>
+#include "awl/writer.h"
 
-#include "awl/file_io.h"
-#include "awl/project.h"
+#include <algorithm>
+
 #include "awl/text.h"
 #include "plc/codepage.h"
 
@@ -37,11 +36,7 @@ std::vector<std::string> Righe_Blocco(const std::string& testo) {
 
 }  // namespace
 
-std::string Testo_Base(const std::string& testo) {
-  return testo.substr(0, testo.find('.'));
-}
-
-std::string Progetto::Norm_Operandi(const std::string& testo) {
+std::string Norm_Operandi(const std::string& testo) {
   std::vector<std::string> parti(1);
   for (const char c : testo) {
     if (c != ',')
@@ -58,7 +53,7 @@ std::string Progetto::Norm_Operandi(const std::string& testo) {
   return unite;
 }
 
-std::string Progetto::Norm_Riga(const std::string& riga) {
+std::string Norm_Riga(const std::string& riga) {
   if (riga.empty() || riga.starts_with("//") || riga.starts_with("TITLE=")) return riga;
   if (riga.starts_with("NETWORK")) return Norm_Network(riga);
   const std::size_t spazio = riga.find(' ');
@@ -74,16 +69,16 @@ std::string Progetto::Norm_Riga(const std::string& riga) {
          Trim(resto.substr(barra));
 }
 
-bool Progetto::Crea_Progetto() {
-  int usate = 0;
+Scrittura Scrivi_Sorgente(const Sorgente& sorgente) {
+  Scrittura scrittura;
+  std::vector<std::string>& righe = scrittura.Righe;
   const auto prova_posto = [&] {
-    if (usate > Righe_Prog.ultimo)
-      throw Riga_Rifiutata("il progetto supera le 1001 righe del file");
+    if (righe.size() >= Righe_File_Massime)
+      throw Riga_Rifiutata("il progetto supera le 1001 righe del file", Causa::Capienza);
   };
-  const auto aggiungi = [&](const std::string& riga) {
+  const auto aggiungi = [&](std::string riga) {
     prova_posto();
-    Righe_Prog[usate] = riga;
-    ++usate;
+    righe.push_back(std::move(riga));
   };
   std::string in_corso;  // for the message
   const auto blocco = [&](const std::string& testo) {
@@ -108,54 +103,41 @@ bool Progetto::Crea_Progetto() {
 
   try {
     aggiungi("ORGANIZATION_BLOCK MAIN:OB1");
-    blocco(txtList);
+    blocco(sorgente.Main);
     aggiungi("END_ORGANIZATION_BLOCK");
     aggiungi("");
-    for (int i = 1; i <= Num_SBR; ++i) {
-      aggiungi("SUBROUTINE_BLOCK " + Tab_SBR[i].Nome + ":" + Tab_SBR[i].Sigla);
-      blocco(Tab_SBR[i].Testo);
+    for (const Riga_SBR& procedura : sorgente.Procedure) {
+      aggiungi("SUBROUTINE_BLOCK " + procedura.Nome + ":" + procedura.Sigla);
+      blocco(procedura.Testo);
       aggiungi("END_SUBROUTINE_BLOCK");
       aggiungi("");
     }
-    prova_posto();  // of the entry behind the last one, which goes out as it is
+    prova_posto();  // of the entry behind the last one
   } catch (const Riga_Rifiutata& rifiuto) {
-    Avvisa({"Errore!",
-            "Impossibile salvare il progetto: " + std::string(rifiuto.what()) + "!\n" +
-                A_Utf8(in_corso),
-            Icona::Critica,
-            Tasti::Ok,
-            {}});
-    return false;
+    scrittura.Rifiuto = {0, A_Utf8(in_corso), rifiuto.what(), rifiuto.Perche()};
   }
-  NRighe_Prog = static_cast<std::int16_t>(usate);
-  etNR[2] = std::to_string(NRighe_Prog);
-  return true;
+  return scrittura;
 }
 
-bool Progetto::Scrivi_Testo(const std::string& testo) {
-  const std::string errore = Scrivi_File(File_Salva, testo);
-  if (errore.empty()) return true;
-  Avvisa({"Errore!",
-          "Impossibile scrivere il file \"" + File_Salva + "\": " + errore +
-              "!\nIl file precedente non è stato toccato.",
-          Icona::Critica,
-          Tasti::Ok,
-          {}});
-  return false;
+std::string Byte_Di(std::span<const std::string> righe) {
+  std::string byte;
+  for (const std::string& riga : righe) byte.append(riga).append(CRLF);
+  return byte;
 }
 
-bool Progetto::SalvaFile() {
-  std::string testo;
-  for (int i = 0; i <= NRighe_Prog; ++i) testo.append(Righe_Prog[i]).append(CRLF);
-  return Scrivi_Testo(testo);
+std::string Byte_Di(const Sorgente& sorgente) {
+  Scrittura scrittura = Scrivi_Sorgente(sorgente);
+  if (!scrittura.Riuscita())
+    throw Riga_Rifiutata(scrittura.Rifiuto.Motivo, scrittura.Rifiuto.Perche);
+  scrittura.Righe.emplace_back();
+  return Byte_Di(scrittura.Righe);
 }
 
-std::string Progetto::Testo_Progetto() const {
+std::string Testo_Progetto(const Sorgente& sorgente) {
   const std::string fine(CRLF);
-  std::string testo = "----  Main Program ----" + fine + Testo_Main + fine + fine +
+  std::string testo = "----  Main Program ----" + fine + sorgente.Main + fine + fine +
                       "---- End Main Program ----" + fine + fine;
-  for (int i = 1; i <= Num_SBR; ++i) {
-    const Riga_SBR& procedura = Tab_SBR[i];
+  for (const Riga_SBR& procedura : sorgente.Procedure) {
     testo += "--------- Procedura:" + procedura.Nome + " ------------------" + fine +
              procedura.Testo + "--------- END Procedura:" + procedura.Nome + " --------------" +
              fine + fine;

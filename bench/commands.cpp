@@ -28,7 +28,8 @@ constexpr const char* aiuto =
 Uso:
   tavorno-banco compila FILE.AWL [--json]
       Stampa il listato di compilazione e gli avvisi.
-      --json             un oggetto JSON con listing, errors, boxes e prog
+      --json             un oggetto JSON con listing, errors, boxes, diagnostics
+                         (ogni rilievo con blocco, riga e colonna) e prog
 
   tavorno-banco esegui FILE.AWL [opzioni]
       Compila, esegue e stampa ogni cambiamento di ingressi e uscite.

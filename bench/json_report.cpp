@@ -23,6 +23,32 @@ Json Riga_Json(const Riga_PLC& riga) {
           {"SCR_Prima", riga.SCR_Prima}, {"SCR_Ultima", riga.SCR_Ultima}};
 }
 
+const char* Nome_Gravita(Gravita grado) {
+  switch (grado) {
+    case Gravita::Errore:
+      return "error";
+    case Gravita::Avvertimento:
+      return "warning";
+    case Gravita::Suggerimento:
+      break;
+  }
+  return "hint";
+}
+
+/// Lines and columns as an editor shows them, from 1; rows as the CPU counts them, from 0.
+Json Diagnosi_Json(const Diagnosi& diagnosi, const Progetto& progetto) {
+  const int procedura = diagnosi.Posto.Testo;
+  return {{"severity", Nome_Gravita(diagnosi.Grado)},
+          {"block", procedura == 0 ? "MAIN" : A_Utf8(progetto.Tab_SBR[procedura].Nome)},
+          {"line", diagnosi.Posto.Linea + 1},
+          {"column", diagnosi.Colonna + 1},
+          {"length", diagnosi.Lunghezza},
+          {"row", diagnosi.Riga},
+          {"status", diagnosi.Stato},
+          {"text", diagnosi.Testo},
+          {"message", Senza_Freccia(diagnosi.Messaggio)}};
+}
+
 }  // namespace
 
 std::string Rapporto_Json(const Seduta& seduta) {
@@ -31,9 +57,13 @@ std::string Rapporto_Json(const Seduta& seduta) {
     boxes.push_back({{"title", avviso.Titolo}, {"text", avviso.Testo}});
   Json prog = Json::array();
   for (const Riga_PLC& riga : seduta.plc.Prog) prog.push_back(Riga_Json(riga));
+  Json diagnostics = Json::array();
+  for (const Diagnosi& diagnosi : seduta.progetto.Rilievi)
+    diagnostics.push_back(Diagnosi_Json(diagnosi, seduta.progetto));
   const Json rapporto = {{"listing", A_Utf8(seduta.progetto.Lista_Comp)},
                          {"errors", seduta.progetto.Errori},
                          {"boxes", boxes},
+                         {"diagnostics", diagnostics},
                          {"prog", prog}};
   return rapporto.dump(2);
 }

@@ -163,9 +163,9 @@ void Carica(Plc& plc, Programma programma) {
     }
     Riempi_Riga(plc.Prog[i], sorgente);
   }
-  Assegna_JMP(plc);
-  Assegna_SBR(plc);
-  Assegna_SCR(plc);
+  Assegna_JMP(plc.Prog);
+  Assegna_SBR(plc.Prog);
+  Assegna_SCR(plc.Prog);
   plc.SI[0].Stato_I("10110010");
   plc.mnuPlcStep();
   plc.mnuPlcRun();

@@ -103,7 +103,7 @@ void Finestre::Mostra_Editor(Avvio avvio_file) {
     legami.Mostra_Aiuto = [this](const QString& pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
     return new FrmMain(progetto_, plc_, std::move(legami));
   });
-  if (nuova) editor_->Avvia(static_cast<int>(avvio_file));
+  if (nuova) editor_->Avvia(avvio_file);
 }
 
 void Finestre::Mostra_Impostazioni() {

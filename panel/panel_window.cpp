@@ -34,6 +34,7 @@ namespace tavorno {
 
 FrmPLC::FrmPLC(Plc& plc, Progetto& progetto) : plc_(plc), progetto_(progetto) {
   setObjectName(QStringLiteral("frmPLC"));
+  progetto_.Riserva = Dialoghi_Qt(this);  // while no editor is open
   setWindowTitle(QStringLiteral(" Simulatore PLC Siemens S7-200."));
   Crea_Menu(*this, Menu_Pannello(a_));
   c_ = Crea_Controlli(*this, plc_, a_.tB1);
@@ -151,12 +152,7 @@ void FrmPLC::Apri_Scalaro() {
 }
 
 bool FrmPLC::Salva_Il_Progetto() {
-  if (!progetto_.Da_Salvare()) return true;
-  const Dialoghi prima = progetto_.Chiedi;
-  if (!prima.Mostra) progetto_.Chiedi = Dialoghi_Qt(this);  // no editor is open
-  const bool salvato = progetto_.Chiedi_Di_Salvare();
-  progetto_.Chiedi = prima;
-  return salvato;
+  return !progetto_.Da_Salvare() || progetto_.Chiedi_Di_Salvare();
 }
 
 void FrmPLC::closeEvent(QCloseEvent* evento) {

@@ -20,4 +20,10 @@ bool Seduta::Apri(const std::string& percorso) {
   return progetto.Err_Lettura == 0;
 }
 
+bool Seduta::Leggi(std::string_view byte) {
+  progetto.Leggi_Byte(byte);
+  progetto.Mostra_Rilievi_Lettura();
+  return progetto.Err_Lettura == 0;
+}
+
 }  // namespace tavorno

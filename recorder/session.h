@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "awl/project.h"
@@ -19,6 +20,8 @@ class Seduta {
 
   /// Reads a project; false when it is unreadable, and `progetto.Dettaglio` tells why.
   bool Apri(const std::string& percorso);
+  /// The same from the bytes of a project file.
+  bool Leggi(std::string_view byte);
 
   Orologio orologio;
   Plc plc;

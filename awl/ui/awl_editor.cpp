@@ -15,7 +15,12 @@ namespace tavorno {
 namespace {
 
 enum Margine : int { Margine_Numeri = 0, Margine_Segni = 1, Margine_Pieghe = 2 };
-enum Segno_Riga : int { Segno_Errore = 0, Segno_Fondo = 1, Segno_Invisibile = 2 };
+enum Segno_Riga : int {
+  Segno_Errore = 0,
+  Segno_Fondo = 1,
+  Segno_Invisibile = 2,
+  Segno_Avvertimento = 3,
+};
 
 // A tab goes to the column of the operands in the canonical line.
 constexpr int larghezza_tabulazione = 7;
@@ -52,9 +57,9 @@ bool Taglio_Vietato(std::string_view testo, std::size_t posto) {
 }  // namespace
 
 AwlEditor::AwlEditor(Genere_Testo genere, const char* nome, QWidget* sopra)
-    : QsciScintilla(sopra), genere_(genere) {
+    : QsciScintilla(sopra), genere_(genere), lexer_(new AwlLexer(genere, this)) {
   setObjectName(QString::fromUtf8(nome));
-  setLexer(new AwlLexer(genere, this));
+  setLexer(lexer_);
   Prepara_Vista();
   Prepara_Documento();
   if (genere_ == Genere_Testo::Programma) Prepara_Aiuti();
@@ -100,12 +105,15 @@ void AwlEditor::Prepara_Vista() {
   setMarginMarkerMask(Margine_Numeri, 0);
   setMarginType(Margine_Segni, SymbolMargin);
   setMarginWidth(Margine_Segni, programma ? 16 : 0);
-  setMarginMarkerMask(Margine_Segni, 1 << Segno_Errore);
+  setMarginMarkerMask(Margine_Segni, 1 << Segno_Errore | 1 << Segno_Avvertimento);
   setMarginWidth(Margine_Pieghe, 0);
 
   markerDefine(Circle, Segno_Errore);
   setMarkerBackgroundColor(QColor(0xd0112b), Segno_Errore);
   setMarkerForegroundColor(QColor(0x8c0019), Segno_Errore);
+  markerDefine(RightTriangle, Segno_Avvertimento);
+  setMarkerBackgroundColor(QColor(0xe8a200), Segno_Avvertimento);
+  setMarkerForegroundColor(QColor(0x7a5b00), Segno_Avvertimento);
   markerDefine(Background, Segno_Fondo);
   setMarkerBackgroundColor(QColor(0xfdecec), Segno_Fondo);
   markerDefine(Invisible, Segno_Invisibile);
@@ -161,6 +169,37 @@ void AwlEditor::Scrivi(const std::string& byte) {
   scrive_ = false;
 }
 
+void AwlEditor::Scrivi_Listato(const std::vector<Riga_Listato>& righe,
+                               const std::vector<Diagnosi>& rilievi) {
+  std::string testo;
+  for (const Riga_Listato& riga : righe) testo.append(riga.Come_Testo()).append("\r\n");
+  lexer_->Righe_Listato = righe;
+  Scrivi(testo);
+  clearAnnotations();
+  for (const Diagnosi& rilievo : rilievi) {
+    // The listing tells the faults of its own lines; of the link passes it has no words.
+    if (rilievo.Stato != 1 || rilievo.Riga < 0 || rilievo.Riga >= lines()) continue;
+    const QString prima = annotation(rilievo.Riga);
+    annotate(rilievo.Riga,
+             prima.isEmpty() ? Q(rilievo.Messaggio) : prima + '\n' + Q(rilievo.Messaggio),
+             stile::Messaggio);
+  }
+}
+
+void AwlEditor::undo() {
+  if (isUndoAvailable())
+    SendScintilla(SCI_UNDO);
+  else if (Va_Oltre(Oltre_Annulla))
+    Oltre_Annulla.Fai();
+}
+
+void AwlEditor::redo() {
+  if (isRedoAvailable())
+    SendScintilla(SCI_REDO);
+  else if (Va_Oltre(Oltre_Ripeti))
+    Oltre_Ripeti.Fai();
+}
+
 void AwlEditor::Mostra_Documento(const QsciDocument& documento) {
   cancelList();
   SendScintilla(SCI_CALLTIPCANCEL);
@@ -207,17 +246,24 @@ int AwlEditor::Linea_Seguita(int segno) const {
   return markerLine(segno);
 }
 
-void AwlEditor::Segna_Errore(int linea, const QString& messaggio) {
-  markerAdd(linea, Segno_Errore);
-  markerAdd(linea, Segno_Fondo);
+void AwlEditor::Segna(int linea, Gravita grado, const QString& messaggio) {
+  if (grado == Gravita::Errore) {
+    markerAdd(linea, Segno_Errore);
+    markerAdd(linea, Segno_Fondo);
+  } else {
+    markerAdd(linea, Segno_Avvertimento);
+  }
   annotate(linea, messaggio, stile::Messaggio);
 }
 
 void AwlEditor::Togli_Segni() {
-  markerDeleteAll(Segno_Errore);
-  markerDeleteAll(Segno_Fondo);
-  markerDeleteAll(Segno_Invisibile);
+  for (const int segno : {Segno_Errore, Segno_Fondo, Segno_Invisibile, Segno_Avvertimento})
+    markerDeleteAll(segno);
   clearAnnotations();
+}
+
+bool AwlEditor::Ha_Avvertimento(int linea) const {
+  return (markersAtLine(linea) & (1U << Segno_Avvertimento)) != 0;
 }
 
 bool AwlEditor::Ha_Errore(int linea) const {
@@ -302,8 +348,10 @@ void AwlEditor::keyPressEvent(QKeyEvent* evento) {
   } else if (genere_ == Genere_Testo::Programma && spazio) {
     Offri_Completamenti();
     if (!isListActive()) Mostra_Suggerimento();
+  } else if (evento->matches(QKeySequence::Undo)) {
+    undo();
   } else if (evento->matches(QKeySequence::Redo)) {
-    SendScintilla(SCI_REDO);  // the component knows one of its keys only
+    redo();
   } else {
     QsciScintilla::keyPressEvent(evento);
   }
@@ -316,16 +364,22 @@ std::unique_ptr<QMenu> AwlEditor::Menu_Modifica() {
   for (const Comando_Modifica& comando : comandi_modifica) {
     if (comando.Modifica && isReadOnly()) continue;
     if (comando.Stacco && !menu->isEmpty()) menu->addSeparator();
-    QAction* azione = menu->addAction(QString::fromUtf8(comando.Testo),
-                                      [this, &comando] { SendScintilla(comando.Messaggio); });
+    QAction* azione = menu->addAction(QString::fromUtf8(comando.Testo), [this, &comando] {
+      if (comando.Messaggio == SCI_UNDO)
+        undo();
+      else if (comando.Messaggio == SCI_REDO)
+        redo();
+      else
+        SendScintilla(comando.Messaggio);
+    });
     azione->setShortcut(comando.Tasti);
     azione->setShortcutVisibleInContextMenu(true);
     switch (comando.Messaggio) {
       case SCI_UNDO:
-        azione->setEnabled(isUndoAvailable());
+        azione->setEnabled(Annullabile());
         break;
       case SCI_REDO:
-        azione->setEnabled(isRedoAvailable());
+        azione->setEnabled(Ripetibile());
         break;
       case SCI_PASTE:
         azione->setEnabled(SendScintilla(SCI_CANPASTE) != 0);

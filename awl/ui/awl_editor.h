@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "awl/diagnostic.h"
 #include "awl/ui/awl_lexer.h"
 #include "awl/ui/scintilla.h"
 
@@ -23,11 +24,24 @@ class AwlEditor : public QsciScintilla {
   std::function<void()> Cambiato;         ///< the user changed the text, undo included
   std::function<void(int)> Linea_Scelta;  ///< a line (from 0) was double clicked or got Enter
 
+  /// What undo and redo go on to when this text has nothing left to take back or to do again.
+  struct Oltre {
+    std::function<bool()> Possibile;
+    std::function<void()> Fai;
+  };
+  Oltre Oltre_Annulla, Oltre_Ripeti;
+  void undo() override;
+  void redo() override;
+  bool Annullabile() const { return isUndoAvailable() || Va_Oltre(Oltre_Annulla); }
+  bool Ripetibile() const { return isRedoAvailable() || Va_Oltre(Oltre_Ripeti); }
+
   /// The text in the code page of the files, lines joined by CR LF.
   std::string Byte() const;
   /// Makes the text this one, in one step that can be undone. Only what differs is replaced, so
   /// that the caret keeps its place. Does not call `Cambiato`.
   void Scrivi(const std::string& byte);
+  /// The same for a listing, with what there is to say of its lines besides.
+  void Scrivi_Listato(const std::vector<Riga_Listato>& righe, const std::vector<Diagnosi>& rilievi);
   void Dimentica_Annulla() { SendScintilla(SCI_EMPTYUNDOBUFFER); }
 
   /// Shows another text. Its undo history and its marks are its own.
@@ -40,9 +54,10 @@ class AwlEditor : public QsciScintilla {
   /// Marks: where a row is now, though lines have come and gone above it.
   int Segui(int linea);                ///< returns the handle of a mark that nobody sees
   int Linea_Seguita(int segno) const;  ///< -1 when the line is gone
-  void Segna_Errore(int linea, const QString& messaggio);
+  void Segna(int linea, Gravita grado, const QString& messaggio);
   void Togli_Segni();
   bool Ha_Errore(int linea) const;
+  bool Ha_Avvertimento(int linea) const;
 
   /// The caret at the beginning of a line, in sight, and the keyboard to this text.
   void Vai_A(int linea);
@@ -65,8 +80,10 @@ class AwlEditor : public QsciScintilla {
   std::string Linea_Byte(int linea) const;  // UTF-8, without its end
   void Dopo_Carattere(int carattere);
   void Mostra_Suggerimento_A(int posizione, int x, int y);
+  static bool Va_Oltre(const Oltre& oltre) { return oltre.Possibile && oltre.Possibile(); }
 
   Genere_Testo genere_;
+  AwlLexer* lexer_;
   bool scrive_ = false;  // a command, not the user, is changing the text
 };
 

@@ -6,7 +6,6 @@
 #include <array>
 
 #include "awl/ui/completion.h"
-#include "awl/ui/listing_line.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -121,21 +120,21 @@ void Colora_Istruzione(Penna& penna, std::size_t fine) {
 
 }  // namespace
 
-void Colora_Linea(Genere_Testo genere, std::string_view linea,
-                  const std::function<void(int, int)>& pezzo) {
+void Colora_Linea(std::string_view linea, const std::function<void(int, int)>& pezzo) {
   Penna penna(linea, pezzo);
-  if (genere == Genere_Testo::Listato) {
-    const Riga_Listato riga = Leggi_Riga_Listato(linea);
-    if (riga.Valida) {
-      penna.Fino_A(linea.find('['), stile::Numero_Listato);
-      penna.Fino_A(riga.Testo - 2, riga.Errata ? stile::Esito_Errato : stile::Esito_Buono);
-      penna.Fino_A(riga.Testo, stile::Normale);
-      Colora_Istruzione(penna, riga.Avviso);
-      penna.Fino_A(linea.size(), stile::Messaggio);
-      return;
-    }
-  }
   Colora_Istruzione(penna, linea.size());
+}
+
+void Colora_Linea(const Riga_Listato& riga, const std::function<void(int, int)>& pezzo) {
+  const std::string linea = A_Utf8(riga.Come_Testo());
+  const std::size_t esito = riga.Numero.size() + 1;
+  const std::size_t istruzione = esito + riga.Esito.size() + 2;
+  Penna penna(linea, pezzo);
+  penna.Fino_A(esito, stile::Numero_Listato);
+  penna.Fino_A(istruzione - 2, riga.Errata ? stile::Esito_Errato : stile::Esito_Buono);
+  penna.Fino_A(istruzione, stile::Normale);
+  Colora_Istruzione(penna, linea.size() - riga.Messaggio.size());
+  penna.Fino_A(linea.size(), stile::Messaggio);
 }
 
 AwlLexer::AwlLexer(Genere_Testo genere, QsciScintilla* editor)
@@ -174,13 +173,19 @@ void AwlLexer::styleText(int inizio, int fine) {
       editor()->SendScintillaPtrResult(QsciScintilla::SCI_GETCHARACTERPOINTER));
   const std::string_view testo(byte, lunghezza);
   auto posto = static_cast<std::size_t>(inizio);
+  auto numero_linea = static_cast<std::size_t>(
+      editor()->SendScintilla(QsciScintilla::SCI_LINEFROMPOSITION, inizio));
   startStyling(inizio);
   while (posto < std::min(static_cast<std::size_t>(fine), lunghezza)) {
     std::size_t dopo = std::min(testo.find('\n', posto), lunghezza - 1) + 1;
     std::string_view linea = testo.substr(posto, dopo - posto);
     const std::size_t fine_linea = std::min(linea.find_first_of("\r\n"), linea.size());
-    Colora_Linea(genere_, linea.substr(0, fine_linea),
-                 [this](int quanti, int numero) { setStyling(quanti, numero); });
+    const auto colora = [this](int quanti, int numero) { setStyling(quanti, numero); };
+    if (genere_ == Genere_Testo::Listato && numero_linea < Righe_Listato.size())
+      Colora_Linea(Righe_Listato[numero_linea], colora);
+    else
+      Colora_Linea(linea.substr(0, fine_linea), colora);
+    ++numero_linea;
     if (fine_linea < linea.size())
       setStyling(static_cast<int>(linea.size() - fine_linea), stile::Normale);
     posto = dopo;

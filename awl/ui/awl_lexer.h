@@ -3,7 +3,9 @@
 
 #include <functional>
 #include <string_view>
+#include <vector>
 
+#include "awl/listing.h"
 #include "awl/ui/scintilla.h"
 #include "plc/instructions.h"
 
@@ -36,8 +38,9 @@ enum class Genere_Testo { Programma, Listato };
 
 /// Takes a line apart into pieces of one look: `pezzo(length in bytes, look)` is called from left
 /// to right and covers the whole line.
-void Colora_Linea(Genere_Testo genere, std::string_view linea,
-                  const std::function<void(int, int)>& pezzo);
+void Colora_Linea(std::string_view linea, const std::function<void(int, int)>& pezzo);
+/// The same for a line of the compile listing, as it is shown in UTF-8.
+void Colora_Linea(const Riga_Listato& riga, const std::function<void(int, int)>& pezzo);
 
 /// Colours a text by the table of instructions.
 class AwlLexer : public QsciLexerCustom {
@@ -50,6 +53,9 @@ class AwlLexer : public QsciLexerCustom {
   QColor defaultPaper(int numero) const override;
   QFont defaultFont(int numero) const override;
   void styleText(int inizio, int fine) override;
+
+  /// What the lines of a listing are made of, one for each from the first; others are plain.
+  std::vector<Riga_Listato> Righe_Listato;
 
  private:
   Genere_Testo genere_;

@@ -1,30 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "awl/ui/error_marks.h"
 
-#include "awl/line_numbers.h"
-#include "awl/ui/listing_line.h"
+#include <algorithm>
+
 #include "widgets/text.h"
 
 namespace tavorno {
 
 void Segni_Errori::Prendi(const Progetto& progetto, const Documenti_Procedure& documenti) {
   Dimentica();
-  constexpr std::string_view fine_riga = "\r\r\n";
-  constexpr std::size_t freccia = 3;  // the arrow is the listing's own
-  const Numerazione numerazione(progetto);
-  std::string_view listato = progetto.Lista_Comp;
-  for (std::size_t fine = listato.find(fine_riga); fine != std::string_view::npos;
-       fine = listato.find(fine_riga)) {
-    const std::string_view testo = listato.substr(0, fine);
-    listato.remove_prefix(fine + fine_riga.size());
-    const Riga_Listato letta = Leggi_Riga_Listato(testo);
+  for (int k = 0; k <= progetto.CPU.NRighe; ++k) {
+    const Posto_Riga& posto = progetto.Righe_Src[k].Posto;
     Riga& riga = righe_.emplace_back();
-    riga.Errata = letta.Errata;
-    if (letta.Avviso < testo.size()) riga.Messaggio = Da_Byte(testo.substr(letta.Avviso + freccia));
-    const auto posto = numerazione.Posto(letta.Numero);
-    if (!letta.Valida || !posto) continue;
-    riga.Chiave = posto->Testo == 0 ? Chiave_Main : documenti.Chiave(posto->Testo);
-    riga.Linea = posto->Linea;
+    riga.Chiave = posto.Testo == 0 ? Chiave_Main : documenti.Chiave(posto.Testo);
+    riga.Linea = posto.Linea;
+  }
+  for (const Diagnosi& rilievo : progetto.Rilievi) {
+    if (!Nota(rilievo.Riga)) continue;
+    Riga& riga = righe_[static_cast<std::size_t>(rilievo.Riga)];
+    riga.Grado = std::min(riga.Grado.value_or(rilievo.Grado), rilievo.Grado);
+    if (!riga.Messaggio.isEmpty()) riga.Messaggio += '\n';
+    riga.Messaggio += Q(Senza_Freccia(rilievo.Messaggio));
   }
 }
 
@@ -39,7 +35,7 @@ void Segni_Errori::Metti(AwlEditor& editor, int chiave) {
   for (Riga& riga : righe_) {
     if (riga.Chiave != chiave) continue;
     riga.Segno = editor.Segui(riga.Linea);
-    if (riga.Errata) editor.Segna_Errore(riga.Linea, riga.Messaggio);
+    if (riga.Grado) editor.Segna(riga.Linea, *riga.Grado, riga.Messaggio);
   }
 }
 

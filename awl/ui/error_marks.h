@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -32,10 +33,10 @@ class Segni_Errori {
  private:
   struct Riga {
     int Chiave = -1;
-    int Linea = 0;  // at the time of the compile
-    bool Errata = false;
-    QString Messaggio;
-    int Segno = -1;  // of the mark that follows the line
+    int Linea = 0;                 // at the time of the compile
+    std::optional<Gravita> Grado;  // of the worst that there is to say; none for a good row
+    QString Messaggio;             // all of it
+    int Segno = -1;                // of the mark that follows the line
   };
   bool Nota(int riga) const { return riga >= 0 && static_cast<std::size_t>(riga) < righe_.size(); }
 

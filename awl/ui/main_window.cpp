@@ -13,9 +13,7 @@
 #include <QToolBar>
 #include <utility>
 
-#include "awl/ui/dialog_frame.h"
 #include "awl/ui/file_dialog.h"
-#include "awl/ui/listing_line.h"
 #include "awl/ui/main_window_tables.h"
 #include "widgets/command_tables.h"
 #include "widgets/text.h"
@@ -24,22 +22,13 @@ namespace tavorno {
 
 namespace {
 
-/// The reasons of `Avvio_File` that do something of their own.
-enum Avvio : int { Modifica = 1, Da_Capo = 2, Da_File = 3, Vista_Lista = 5 };
-
-/// The pointer shows an hourglass while a file is read, but not over a question.
+/// The pointer shows an hourglass while a file is read.
 class Clessidra {
  public:
-  ~Clessidra() { Togli(); }
-  void Metti() {
-    if (!std::exchange(messa_, true)) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  }
-  void Togli() {
-    if (std::exchange(messa_, false)) QGuiApplication::restoreOverrideCursor();
-  }
-
- private:
-  bool messa_ = false;
+  Clessidra() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+  ~Clessidra() { QGuiApplication::restoreOverrideCursor(); }
+  Clessidra(const Clessidra&) = delete;
+  Clessidra& operator=(const Clessidra&) = delete;
 };
 
 }  // namespace
@@ -54,12 +43,16 @@ FrmMain::FrmMain(Progetto& progetto, Plc& plc, Legami_Editor legami)
   p_.Compilato = 0;  // a new window has nothing to load yet
   p_.stB = {"File:", "", "Errori: ----"};
   p_.etNR = {"0", "0", "0"};
+  p_.Righe_Listato.clear();
   p_.Lista_Comp.clear();
+  p_.Rilievi.clear();
   if (p_.TabSP.empty()) p_.TabSP.assign(1, "");
   documenti_.Adegua(p_.Num_SBR);
   Crea_Controlli();
   Collega_Comandi();
   Collega_Testi();
+  Collega_Storia();
+  storia_.Ricomincia(p_.Testi());
   Specchia();
   txtList->Dimentica_Annulla();
   txtP->Dimentica_Annulla();
@@ -72,24 +65,28 @@ FrmMain::~FrmMain() {
   if (dialoghi_propri_) p_.Chiedi = {};
 }
 
-void FrmMain::Avvia(int Avvio_File) {
+void FrmMain::Avvia(Avvio Avvio_File) {
   avvio_ = Avvio_File;
-  const Perso prima{Copia_Progetto(p_), documenti_, false};
-  const bool vuoto = prima.Progetto.Vuota();
-  const bool non_salvato = p_.Modificato && !vuoto;
+  Vista prima = Come_Sta();
+  const bool non_salvato = p_.Modificato != 0;
   switch (Avvio_File) {
-    case Modifica:
-      Rileggi();
+    case Avvio::Modifica:
+      Apri({p_.File_Progetto, p_.File_Titolo});
+      if (!p_.Err_Lettura && !non_salvato) storia_.Ricomincia(p_.Testi());
       break;
-    case Da_File:
-      Apri();
+    case Avvio::Apri:
+      Chiedi_E_Apri();
       break;
-    case Vista_Lista: {
+    case Avvio::Lista: {
       std::string lista = "//\r\n//\r\n";
       for (int i = 0; i < p_.CPU.NRighe; ++i) lista += p_.Righe_Src[i].Testo_CPU + "\r\n";
       p_.Scrivi_Main(lista);
+      testi_nuovi_ = true;
+      storia_.Ricomincia(p_.Testi());
       break;
     }
+    case Avvio::Nuovo:
+    case Avvio::Vuoto:
     default:
       p_.Num_SBR = 0;
       p_.TabSP.assign(1, "");
@@ -98,17 +95,14 @@ void FrmMain::Avvia(int Avvio_File) {
       p_.txtP.clear();
       p_.Formattato = 0;
       p_.Gestione_Voci(0);
-      documenti_.Svuota();
-      if (Avvio_File == Da_Capo) Nuovo();
-      if (non_salvato) perso_ = prima;
+      if (Avvio_File == Avvio::Nuovo) p_.mnuFileNew(false);
+      Sostituito(std::move(prima));
+      // A project that was saved, or read and left as it was, needs no way back.
+      if (!non_salvato) storia_.Ricomincia(p_.Testi());
       break;
   }
   p_.Pagina = 0;
   Specchia();
-  // The texts that a window opens with are where its undo ends, unless it took something away.
-  if (perso_ || non_salvato || (Avvio_File == Da_File && !vuoto)) return;
-  txtList->Dimentica_Annulla();
-  txtP->Dimentica_Annulla();
 }
 
 void FrmMain::Collega_Comandi() {
@@ -116,7 +110,7 @@ void FrmMain::Collega_Comandi() {
     Collega(*this, QString::fromUtf8(nome), funzione);
   };
   comando("mnuFileNew", [this] { Nuovo(); });
-  comando("mnuFileOpen", [this] { Apri(); });
+  comando("mnuFileOpen", [this] { Chiedi_E_Apri(); });
   comando("mnuFileSave", [this] {
     p_.mnuFileSave();
     Specchia();
@@ -130,9 +124,9 @@ void FrmMain::Collega_Comandi() {
     p_.Carica_CPU = 0;
     close();
   });
-  comando("mnuPlcCompile", [this] { Compila([this] { p_.mnuPlcCompile(); }); });
+  comando("mnuPlcCompile", [this] { Compila(false); });
   comando("mnuPlcCarica", [this] {
-    Compila([this] { p_.mnuPlcCarica(); });
+    Compila(true);
     if (p_.Compilato) close();
   });
   const auto mostra = [this](QWidget& barra, bool visibile) {
@@ -182,8 +176,7 @@ void FrmMain::Collega_Testi() {
   txtList->Cambiato = [this] { Testo_Cambiato(*txtList); };
   txtP->Cambiato = [this] { Testo_Cambiato(*txtP); };
   txtLst->Linea_Scelta = [this](int linea) {
-    const Riga_Listato riga = Leggi_Riga_Listato(Utf8(txtLst->text(linea)));
-    if (riga.Valida) Vai_A_Riga(riga.Numero);
+    if (linea < static_cast<int>(p_.Righe_Listato.size())) Vai_A_Riga(linea);
   };
   connect(SSTb2, &QTabWidget::currentChanged, this, [this](int pagina) { Cambia_Pagina(pagina); });
   // A click counts on the tab in front as well: the text on screen may be a removed procedure's.
@@ -202,85 +195,70 @@ void FrmMain::Collega_Testi() {
 
 // ---- commands -----------------------------------------------------------------------------------
 
-/// A command that may read a project: rows keep their texts by place, and what a failed read takes
-/// away is kept.
-void FrmMain::Lettura(const std::function<void()>& comando) {
-  const Copia_Progetto prima(p_);
-  comando();
-  if (p_.Err_Lettura && !prima.Vuota() && p_.Vuoto()) {
-    if (!perso_ || !perso_->Da_Lettura || documenti_.Quanti() > 0)
-      perso_ = Perso{prima, documenti_, true};
-    documenti_.Svuota();
-    segni_.Dimentica();
-    return;
-  }
-  if (!p_.Err_Lettura) perso_.reset();
-  documenti_.Adegua(p_.Num_SBR);
+void FrmMain::Chiedi_E_Apri() {
+  if (const auto scelto = p_.Scegli_Da_Aprire()) Apri(*scelto);
 }
 
-void FrmMain::Apri() {
-  Clessidra clessidra;
+void FrmMain::Apri(const File_Scelto& file) {
+  Vista prima = Come_Sta();
   {
-    const Intorno_Ai_Dialoghi intorno(
-        p_.Chiedi, [&] { clessidra.Togli(); }, [&] { clessidra.Metti(); });
-    Lettura([this] { p_.mnuFileOpen(); });
+    const Clessidra clessidra;
+    p_.Apri_File(file);
   }
-  if (!p_.Annulla) segni_.Dimentica();
+  p_.Riferisci_Apertura();
+  Sostituito(std::move(prima));
   Specchia();
-}
-
-/// The project that the CPU was loaded from, as if its file had been chosen.
-void FrmMain::Rileggi() {
-  const auto domanda = p_.Chiedi.Scegli_File;
-  p_.Chiedi.Scegli_File = [this](const Richiesta_File&) {
-    return File_Scelto{p_.File_Progetto, p_.File_Titolo};
-  };
-  Apri();
-  p_.Chiedi.Scegli_File = domanda;
 }
 
 void FrmMain::Nuovo() {
+  Vista prima = Come_Sta();
   p_.Annulla = 0;
-  p_.mnuFileNew(avvio_ != Da_Capo);
-  if (!p_.Annulla) segni_.Dimentica();
+  p_.mnuFileNew(avvio_ != Avvio::Nuovo);
+  if (!p_.Annulla) Sostituito(std::move(prima));
   Specchia();
 }
 
-void FrmMain::Compila(const std::function<void()>& comando) {
-  const std::string vecchia = std::exchange(p_.Lista_Comp, {});
-  {
-    // The result stands on its page before the box that tells it.
-    const Intorno_Ai_Dialoghi intorno(
-        p_.Chiedi,
-        [this] {
-          if (!p_.Lista_Comp.empty()) Specchia_Esiti();
-        },
-        [] {});
-    Lettura(comando);
-  }
-  if (p_.Lista_Comp.empty())
-    p_.Lista_Comp = vecchia;  // there was no compile
+/// Rows keep their texts by place, and what a failed read takes away is kept.
+void FrmMain::Compila(bool carica) {
+  Vista prima = Come_Sta();
+  const bool pronta = p_.Prepara_Compilazione();
+  if (p_.Err_Lettura && p_.Vuoto() && !prima.Stato.Vuoto())
+    Sostituito(std::move(prima));
   else
+    documenti_.Adegua(p_.Num_SBR);
+  if (pronta) {
+    p_.Compila_Righe_Lette();
     segni_.Prendi(p_, documenti_);
+    Specchia_Esiti();  // the result stands on its page before the box that tells it
+    p_.Riferisci();
+  }
+  if (carica) p_.Consegna();
   Specchia();
 }
 
 /// A command that may add a procedure.
 void FrmMain::Inserimento(const std::function<void()>& comando) {
-  const int prima = p_.Num_SBR;
+  Vista prima = Come_Sta();
+  const int quante = p_.Num_SBR;
   comando();
-  if (p_.Num_SBR > prima) {
-    if (prima == 0) documenti_.Svuota();
+  if (p_.Num_SBR > quante) {
+    if (quante == 0) documenti_.Svuota();
     documenti_.Inserisci(p_.Scheda);
+    storia_.Passo(std::move(prima), p_.Testi());
   }
   Specchia();
 }
 
 void FrmMain::Rimozione() {
-  const int prima = p_.Num_SBR;
+  Vista prima = Come_Sta();
+  const int quante = p_.Num_SBR;
   const int tolta = p_.Scheda;
   p_.Remove_Sub();
-  if (p_.Num_SBR < prima) documenti_.Togli(tolta);
+  if (p_.Num_SBR < quante) {
+    documenti_.Togli(tolta);
+    residuo_ = QsciDocument();
+    storia_.Passo(std::move(prima), p_.Testi());
+  }
   Specchia();
 }
 
@@ -319,20 +297,6 @@ void FrmMain::Vai_A_Riga(int numero) {
   }
   SSTb2->setCurrentIndex(testo == txtList ? 0 : 1);
   testo->Vai_A(segni_.Linea(*testo, numero));
-}
-
-/// The text of a project that was taken away is back: so are its procedures.
-void FrmMain::Riprendi_Perso() {
-  if (!perso_ || p_.Num_SBR != 0) return;
-  const Copia_Progetto& copia = perso_->Progetto;
-  const bool tornato = (!copia.Main.empty() && p_.txtList == copia.Main) ||
-                       (!copia.Procedura.empty() && p_.txtP == copia.Procedura);
-  if (!tornato) return;
-  copia.Rimetti(p_);
-  documenti_ = perso_->Documenti;
-  documenti_.Adegua(p_.Num_SBR);
-  perso_.reset();
-  Specchia();
 }
 
 // ---- window -------------------------------------------------------------------------------------

@@ -4,14 +4,14 @@
 #include <QMainWindow>
 #include <array>
 #include <functional>
-#include <optional>
 #include <string>
 
 #include "awl/project.h"
 #include "awl/ui/awl_editor.h"
 #include "awl/ui/error_marks.h"
 #include "awl/ui/procedure_documents.h"
-#include "awl/ui/project_copy.h"
+#include "awl/ui/project_history.h"
+#include "awl/ui/start_mode.h"
 #include "plc/plc.h"
 
 class QCheckBox;
@@ -41,9 +41,8 @@ class FrmMain : public QMainWindow {
   FrmMain(Progetto& progetto, Plc& plc, Legami_Editor legami);
   ~FrmMain() override;
 
-  /// Why the window opens: 1 reads the loaded project again, 2 begins a new one, 3 asks for a file,
-  /// 5 shows the compiled list; any other starts empty.
-  void Avvia(int Avvio_File);
+  /// What the window opens for.
+  void Avvia(Avvio Avvio_File);
 
   /// Goes to the line that row `numero` of the last compile came from.
   void Vai_A_Riga(int numero);
@@ -70,17 +69,28 @@ class FrmMain : public QMainWindow {
   // main_window.cpp: commands
   void Collega_Comandi();
   void Collega_Testi();
-  void Lettura(const std::function<void()>& comando);
-  void Apri();
-  void Rileggi();
+  void Apri(const File_Scelto& file);
+  void Chiedi_E_Apri();
   void Nuovo();
-  void Compila(const std::function<void()>& comando);
+  void Compila(bool carica);
   void Inserimento(const std::function<void()>& comando);
   void Rimozione();
   void Network(int indice);
   void Scegli_Procedura(int scheda);
   void Cambia_Pagina(int pagina);
-  void Riprendi_Perso();
+
+  // main_window_history.cpp: undo beyond the texts
+  /// The project with the texts that show it, their histories and marks.
+  struct Vista {
+    Stato_Progetto Stato;
+    QsciDocument Main;
+    Documenti_Procedure Procedure;
+    Segni_Errori Segni;
+  };
+  Vista Come_Sta() const;
+  void Sostituito(Vista prima);
+  void Rimetti(Vista vista);
+  void Collega_Storia();
 
   // main_window_mirror.cpp: what the project holds, on the screen
   void Specchia();
@@ -94,7 +104,7 @@ class FrmMain : public QMainWindow {
   Plc& plc_;
   Legami_Editor legami_;
   bool dialoghi_propri_ = false;
-  int avvio_ = 0;
+  Avvio avvio_ = Avvio::Vuoto;
   bool salva_attivo_ = false;
   bool chiusa_ = false;
   bool specchia_ = false;  // the controls change because the project did, not the other way round
@@ -113,13 +123,9 @@ class FrmMain : public QMainWindow {
 
   Documenti_Procedure documenti_;
   Segni_Errori segni_;
-  /// What a failed read or a new start took away, with the texts of its procedures.
-  struct Perso {
-    Copia_Progetto Progetto;
-    Documenti_Procedure Documenti;
-    bool Da_Lettura;
-  };
-  std::optional<Perso> perso_;
+  QsciDocument residuo_;      // what `txtP` shows while no procedure is selected
+  bool testi_nuovi_ = false;  // the texts on screen have no history yet
+  Storia_Comandi<Vista> storia_;
 };
 
 }  // namespace tavorno

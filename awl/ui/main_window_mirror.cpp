@@ -6,6 +6,7 @@
 #include <QScopedValueRollback>
 #include <QTabBar>
 #include <QTabWidget>
+#include <utility>
 
 #include "awl/line_numbers.h"
 #include "awl/ui/main_window.h"
@@ -15,18 +16,6 @@
 
 namespace tavorno {
 
-namespace {
-
-/// The listing's lines end in CR, CR, LF, which an editor would show as two line ends.
-std::string Da_Mostrare(const std::string& listato) {
-  std::string righe;
-  for (std::size_t i = 0; i < listato.size(); ++i)
-    if (listato.compare(i, 3, "\r\r\n") != 0) righe += listato[i];
-  return righe;
-}
-
-}  // namespace
-
 void FrmMain::Specchia() {
   const QScopedValueRollback guardia(specchia_, true);
   if (p_.Pagina == Pagina_Nascosta) p_.Pagina = Pagina_Listato;
@@ -35,6 +24,7 @@ void FrmMain::Specchia() {
   const bool prima_volta = Specchia_Schede();
   txtList->Scrivi(p_.txtList);
   txtP->Scrivi(p_.txtP);
+  if (std::exchange(testi_nuovi_, false)) txtList->Dimentica_Annulla();
   if (prima_volta) txtP->Dimentica_Annulla();
   SSTb2->setCurrentIndex(p_.Pagina);
   Specchia_Esiti();
@@ -60,8 +50,11 @@ bool FrmMain::Specchia_Schede() {
       TabSP->setTabText(i, nome);
   }
   if (p_.Scheda >= 1) TabSP->setCurrentIndex(p_.Scheda - 1);
-  // Without a selected row the text on screen belongs to nobody and stays where it is.
-  if (p_.Scheda < 1 || p_.Scheda > p_.Num_SBR) return false;
+  // Without a selected row the text on screen belongs to nobody.
+  if (p_.Scheda < 1 || p_.Scheda > p_.Num_SBR) {
+    txtP->Mostra_Documento(residuo_);
+    return true;
+  }
   txtP->Mostra_Documento(documenti_.Di(p_.Scheda));
   return documenti_.Prima_Volta(p_.Scheda);
 }
@@ -72,7 +65,7 @@ void FrmMain::Specchia_Esiti() {
     pannelli_[i]->setToolTip(Q(p_.stB[i]));
   }
   for (std::size_t i = 0; i < etNR.size(); ++i) etNR[i]->setText(Q(p_.etNR[i]));
-  txtLst->Scrivi(Da_Mostrare(p_.Lista_Comp));
+  txtLst->Scrivi_Listato(p_.Righe_Listato, p_.Rilievi);
 }
 
 void FrmMain::Specchia_Voci() {
@@ -105,10 +98,6 @@ void FrmMain::Testo_Cambiato(AwlEditor& editor) {
   }
   Specchia_Voci();
   Specchia_Numeri();
-  // The editor is in the middle of a change and takes no other before it is through.
-  if (perso_)
-    QMetaObject::invokeMethod(
-        this, [this] { Riprendi_Perso(); }, Qt::QueuedConnection);
 }
 
 }  // namespace tavorno

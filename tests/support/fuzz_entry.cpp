@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fuzz_entry.h"
 
-#include <sys/mman.h>
-#include <unistd.h>
-
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 
+#include "awl/writer.h"
 #include "random_program.h"
 
 namespace tavorno::prova {
@@ -19,22 +18,6 @@ void Pretendi(bool vero, const std::string& cosa) {
   std::fprintf(stderr, "breach: %s\n", cosa.c_str());
   std::abort();
 }
-
-/// A file in memory, so that a fuzzer does not wear out a disk.
-class File_In_Memoria {
- public:
-  explicit File_In_Memoria(const std::uint8_t* dati, std::size_t quanti)
-      : descrittore_(::memfd_create("prova", 0)) {
-    Pretendi(::write(descrittore_, dati, quanti) == static_cast<ssize_t>(quanti), "memfd");
-  }
-  ~File_In_Memoria() { ::close(descrittore_); }
-  File_In_Memoria(const File_In_Memoria&) = delete;
-  File_In_Memoria& operator=(const File_In_Memoria&) = delete;
-  std::string Percorso() const { return "/proc/self/fd/" + std::to_string(descrittore_); }
-
- private:
-  int descrittore_;
-};
 
 /// Numbers from the bytes, and zeros when they are used up.
 class Byte_Del_Fuzzer {
@@ -60,23 +43,27 @@ class Byte_Del_Fuzzer {
 }  // namespace
 
 void Prova_Progetto(const std::uint8_t* dati, std::size_t quanti) {
-  const File_In_Memoria file(dati, quanti);
-  Orologio orologio;
-  Plc plc(orologio);
-  Progetto progetto(plc, {});
-  progetto.File_Progetto = file.Percorso();
-  progetto.LeggiTxt();
-  if (progetto.Err_Lettura) {
-    Pretendi(!progetto.Dettaglio.Motivo.empty(), "a failed read without a reason");
+  const std::string_view byte(reinterpret_cast<const char*>(dati), quanti);
+  const Lettura lettura = Leggi_Sorgente(byte);
+  if (!lettura.Riuscita()) {
+    Pretendi(!lettura.Rifiuto.Motivo.empty(), "a failed read without a reason");
     return;
   }
-  Pretendi(plc.Prog.Righe() == plc.NRighe + 1, "rows after a read");
+  const Compilazione esito = Compila_Sorgente(lettura.Letta);
+  for (const Diagnosi& rilievo : esito.Rilievi) {
+    Pretendi(rilievo.Riga >= 0 && rilievo.Riga < static_cast<int>(esito.Prodotto.Righe.size()),
+             "a row that does not exist");
+    Pretendi(rilievo.Posto.Testo <= static_cast<int>(lettura.Letta.Procedure.size()),
+             "a text that does not exist");
+    Pretendi(!rilievo.Messaggio.empty(), "a finding without a word");
+  }
+  const Scrittura scrittura = Scrivi_Sorgente(lettura.Letta);
+  Pretendi(scrittura.Riuscita() || !scrittura.Rifiuto.Motivo.empty(), "no reason for no file");
+  if (esito.Errori != 0) return;
 
-  progetto.Compila();
-  Pretendi((progetto.Compilato != 0) == (progetto.Errori == 0), "Compilato");
-  progetto.Crea_Progetto();
-  if (!progetto.Compilato) return;
-
+  Orologio orologio;
+  Plc plc(orologio);
+  Carica(esito.Prodotto, plc);
   plc.Modo_Run = Modo::Step;
   try {
     plc.mnuPlcRun();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "random_program.h"
 
+#include "awl/checker.h"
 #include "invariants.h"
 
 namespace tavorno::prova {
@@ -70,14 +71,13 @@ const std::vector<const Istruzione*>& Ammesse() {
 }  // namespace
 
 int Programma_Casuale(Progetto& progetto, const Caso& caso, int righe) {
-  Memoria& cpu = progetto.CPU;
-  cpu.Prog.Ridimensiona(progetto.Righe_Src.ultimo + 1);
   int usate = 0;
   const auto aggiungi = [&](const Riga_Src& riga) {
+    Riga_PLC compilata;
+    Riempi_Riga(compilata, riga);
+    if (Controlla_Riga(compilata, riga).Stato != 0) return;
     progetto.Righe_Src[usate] = riga;
-    Riempi_Riga(cpu.Prog[usate], riga);
-    progetto.Lista_Comp.clear();
-    if (progetto.Controlla_Riga(usate) == 0) ++usate;
+    ++usate;
   };
   const auto blocco = [&](int quante) {
     const int fino_a = usate + quante;
@@ -105,8 +105,7 @@ int Programma_Casuale(Progetto& progetto, const Caso& caso, int righe) {
   blocco(righe / 4);
   aggiungi(riga("RET", ""));
 
-  cpu.NRighe = static_cast<std::int16_t>(usate - 1);
-  cpu.Prog.Ridimensiona(usate);
+  progetto.CPU.NRighe = static_cast<std::int16_t>(usate - 1);
   progetto.Compila();
   return usate;
 }

@@ -18,16 +18,23 @@ class AwlText : public ::testing::Test {
     editor.show();
   }
   /// The looks of a line, one letter each as in the tables below.
-  std::vector<std::pair<std::string, int>> Pezzi(const std::string& riga,
-                                                 Genere_Testo genere = Genere_Testo::Programma) {
+  static std::vector<std::pair<std::string, int>> Pezzi(const std::string& riga) {
+    return Pezzi_Di(riga, std::string_view(riga));
+  }
+  static std::vector<std::pair<std::string, int>> Pezzi(const Riga_Listato& riga) {
+    return Pezzi_Di(A_Utf8(riga.Come_Testo()), riga);
+  }
+  template <class Linea>
+  static std::vector<std::pair<std::string, int>> Pezzi_Di(const std::string& testo,
+                                                           const Linea& linea) {
     std::vector<std::pair<std::string, int>> pezzi;
     std::size_t posto = 0;
-    Colora_Linea(genere, riga, [&](int quanti, int numero) {
+    Colora_Linea(linea, [&](int quanti, int numero) {
       const auto lunghezza = static_cast<std::size_t>(quanti);
-      if (numero != stile::Normale) pezzi.emplace_back(riga.substr(posto, lunghezza), numero);
+      if (numero != stile::Normale) pezzi.emplace_back(testo.substr(posto, lunghezza), numero);
       posto += lunghezza;
     });
-    EXPECT_EQ(posto, riga.size()) << riga;
+    EXPECT_EQ(posto, testo.size()) << testo;
     return pezzi;
   }
   int Stile_In(int posizione) {
@@ -127,17 +134,17 @@ INSTANTIATE_TEST_SUITE_P(
         Caso_Colore{"XYZ", {{"XYZ", stile::Sconosciuta}}}));
 
 TEST_F(AwlText, ALineOfTheListingShowsItsResult) {
-  EXPECT_EQ(Pezzi("0005 [Ok!   ]: NOT                    ", Genere_Testo::Listato),
+  EXPECT_EQ(Pezzi(Riga_Listato{"0005", "[Ok!   ]", false, "NOT                   ", ""}),
             (std::vector<Pezzo>{{"0005 ", stile::Numero_Listato},
                                 {"[Ok!   ]", stile::Esito_Buono},
                                 {"NOT", stile::Di(Famiglia::Contatti)}}));
-  EXPECT_EQ(Pezzi("0012 [Err. 3]: XYZ -> no //a -> b", Genere_Testo::Listato),
+  EXPECT_EQ(Pezzi(Riga_Listato{"0012", "[Err. 3]", true, "XYZ -> no //\xE0", "-> b"}),
             (std::vector<Pezzo>{{"0012 ", stile::Numero_Listato},
                                 {"[Err. 3]", stile::Esito_Errato},
                                 {"XYZ", stile::Sconosciuta},
                                 {"->", stile::Costante},
                                 {"no", stile::Operando},
-                                {"//a ", stile::Commento},
+                                {"//à ", stile::Commento},
                                 {"-> b", stile::Messaggio}}));
 }
 

@@ -24,7 +24,7 @@ class MenuEntry : public Banco_Editor, public testing::WithParamInterface<Caso_V
 
 TEST_P(MenuEntry, StandsAtItsPlaceWithItsCaption) {
   const Caso_Voce& caso = GetParam();
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   const QList<QAction*> voci = Voce(caso.titolo).menu()->actions();
   ASSERT_LT(caso.posto, voci.size());
   const QAction& voce = *voci[caso.posto];
@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
         Caso_Voce{"MnuHLP", 2, "", ""}, Caso_Voce{"MnuHLP", 3, "MnuHLPInfo", "&About"}));
 
 TEST_F(Controls, TheMenuBarHasItsFourTitles) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   std::vector<std::string> titoli;
   for (const QAction* titolo : finestra->menuBar()->actions())
     titoli.push_back(Utf8(titolo->objectName()) + " " + Utf8(titolo->text()));
@@ -68,7 +68,7 @@ TEST_F(Controls, TheMenuBarHasItsFourTitles) {
 // ---- tool bar -----------------------------------------------------------------------------------
 
 TEST_F(Controls, TheToolBarHasItsButtonsInOrder) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   const std::vector<std::string> attesi = {
       "tB1(New) Nuovo Progetto",       "tB1(Open) Apri Progetto",      "tB1(Save) Salva Progetto",
       "tB1(Compila) Compila Progetto", "tB1(Carica) Carica nella CPU", "tB1(Stampa) Stampa",
@@ -90,7 +90,7 @@ struct Caso_Tasto {
 class ToolButton : public Banco_Editor, public testing::WithParamInterface<Caso_Tasto> {};
 
 TEST_P(ToolButton, GivesTheCommandOfItsEntry) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   QAction& voce = Voce(GetParam().voce);
   auto& tasto = Trova<QToolButton>(GetParam().tasto);
   int volte = 0;
@@ -113,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(ToolBar, ToolButton,
                                          Caso_Tasto{"tB1(Termina)", "mnuFileEnd"}));
 
 TEST_F(Controls, CentraPutsTheWindowInTheMiddleOfTheScreen) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   finestra->move(3, 5);
   QTest::mouseClick(&Trova<QToolButton>("tB1(Centra)"), Qt::LeftButton);
   const QPoint mezzo = finestra->screen()->availableGeometry().center();
@@ -121,7 +121,7 @@ TEST_F(Controls, CentraPutsTheWindowInTheMiddleOfTheScreen) {
 }
 
 TEST_F(Controls, TheShortCutsReachTheirCommandsFromTheText) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   Attiva();
   std::set<QString> date;
   int volte = 0;
@@ -139,7 +139,7 @@ TEST_F(Controls, TheShortCutsReachTheirCommandsFromTheText) {
 }
 
 TEST_F(Controls, ShortCuts) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   const std::map<QString, QString> attesi = {
       {"mnuFileNew", "Ctrl+N"},     {"mnuFileOpen", "Ctrl+O"},   {"mnuFileSave", "Ctrl+S"},
       {"mnuFileTxtImp", "Ctrl+I"},  {"mnuFileTxtExp", "Ctrl+E"}, {"mnuFileStp", "Ctrl+P"},
@@ -156,7 +156,7 @@ TEST_F(Controls, ShortCuts) {
 }
 
 TEST_F(Controls, AShortCutGivesTheButtonOfThePageInFront) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   Attiva();
   for (const int pagina : {0, 1}) {
     SSTb2().setCurrentIndex(pagina);
@@ -170,14 +170,14 @@ TEST_F(Controls, AShortCutGivesTheButtonOfThePageInFront) {
 // ---- the rest -----------------------------------------------------------------------------------
 
 TEST_F(Controls, TheWindowHasItsNameAndCaption) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   EXPECT_EQ(finestra->objectName(), "frmMain");
   EXPECT_EQ(finestra->windowTitle(), " Editor AWL per Tavorno.");
   EXPECT_EQ(Trova<QWidget>("picF").width(), 901);
 }
 
 TEST_F(Controls, FourPagesOfWhichTheLastIsHidden) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   std::vector<std::string> pagine;
   for (int i = 0; i < SSTb2().count(); ++i) pagine.push_back(Utf8(SSTb2().tabText(i)));
   EXPECT_EQ(pagine, (std::vector<std::string>{" Main", " Procedure", " List Error", "Tab 3"}));
@@ -195,7 +195,7 @@ class Caption : public Banco_Editor, public testing::WithParamInterface<Caso_Tes
 
 TEST_P(Caption, IsAsItIsWritten) {
   const Caso_Testo& caso = GetParam();
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   auto& controllo = Trova<QWidget>(caso.nome);
   EXPECT_EQ(Utf8(controllo.property("text").toString()), caso.testo);
   for (int i = 0; i < 3; ++i) {
@@ -217,7 +217,7 @@ INSTANTIATE_TEST_SUITE_P(
         Caso_Testo{"chkCom(1)", "Inserisci commenti di Network  nel listato CPU", -1}));
 
 TEST_F(Controls, NothingIsClipped) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   finestra->resize(finestra->minimumWidth(), finestra->height());
   QCoreApplication::processEvents();
   for (int i = 0; i < 3; ++i) {
@@ -233,7 +233,7 @@ TEST_F(Controls, NothingIsClipped) {
 }
 
 TEST_F(Controls, TheTicksOfTheListingReachTheProject) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   for (const int i : {0, 1}) {
     auto& spunta = Trova<QCheckBox>(QStringLiteral("chkCom(%1)").arg(i));
     EXPECT_TRUE(Trova<QWidget>("Frame5").isAncestorOf(&spunta));
@@ -271,14 +271,14 @@ class OtherWindow : public Banco_Editor, public testing::WithParamInterface<Caso
 };
 
 TEST_P(OtherWindow, IsAskedFor) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   Da_Il_Comando();
   EXPECT_EQ(chiamati, GetParam().chiamato + std::string(" "));
 }
 
 TEST_P(OtherWindow, ThatDoesNotExistSwitchesItsCommandOff) {
   legami = {};
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   Da_Il_Comando();
   const auto* voce = finestra->findChild<QAction*>(GetParam().comando);
   EXPECT_FALSE(voce != nullptr ? voce->isEnabled() : Premibile(GetParam().comando));

@@ -26,7 +26,7 @@ TEST_F(Editing, EachChangeOfTheMainTextIsStored) {
 }
 
 TEST_F(Editing, AWrittenTextCanBeSaved) {
-  Avvia(4);
+  Avvia(Avvio::Vuoto);
   EXPECT_FALSE(Voce("mnuFileSave").isEnabled());
   Batti(txtList(), "N");
   EXPECT_TRUE(Voce("mnuFileSave").isEnabled());
@@ -64,7 +64,7 @@ TEST_F(Editing, MerelySelectingAProcedureCountsAsAChange) {
 }
 
 TEST_F(Editing, CharactersOfTheCodePageComeThroughAndOthersDoNot) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   txtList().selectAll();
   txtList().replaceSelectedText(QStringLiteral("//perché €"));
   EXPECT_EQ(progetto.txtList, "//perch\xE9 \x80");
@@ -76,7 +76,7 @@ TEST_F(Editing, CharactersOfTheCodePageComeThroughAndOthersDoNot) {
 }
 
 TEST_F(Editing, PastedLinesGetTheLineEndsOfTheFile) {
-  Avvia(4);
+  Avvia(Avvio::Vuoto);
   QApplication::clipboard()->setText("NOT\nNOP\n");
   txtList().paste();
   EXPECT_EQ(progetto.txtList, "NOT\r\nNOP\r\n");
@@ -99,7 +99,7 @@ TEST_F(Editing, TheTabKeyTypesATab) {
 }
 
 TEST_F(Editing, AnotherKeyLeadsOutOfTheText) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   Attiva();
   EXPECT_EQ(finestra->focusWidget(), &txtList());
   QTest::keyClick(&txtList(), Qt::Key_F6);
@@ -142,7 +142,7 @@ TEST_F(Editing, PageTwoDecidesWhetherANetworkFitsAProcedure) {
 // ---- procedures ---------------------------------------------------------------------------------
 
 TEST_F(Procedures, TheFirstOneTakesTheEmptyTab) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   Comanda("mnuViewC(1)");
   EXPECT_FALSE(Premibile("cmdDelP"));
   Premi("cmdSub");
@@ -153,7 +153,7 @@ TEST_F(Procedures, TheFirstOneTakesTheEmptyTab) {
 }
 
 TEST_F(Procedures, ARemovedOneLeavesAGapThatTheNextOneTakes) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   Comanda("mnuViewC(1)");
   for (int i = 0; i < 3; ++i) Premi("cmdSub");
   Clicca_Scheda(1);
@@ -169,7 +169,7 @@ TEST_F(Procedures, ARemovedOneLeavesAGapThatTheNextOneTakes) {
 }
 
 TEST_F(Procedures, TheLastOneRemovedStaysOnScreenUntilATabIsClicked) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   Comanda("mnuViewC(1)");
   Premi("cmdSub");
   Premi("cmdSub");
@@ -183,7 +183,7 @@ TEST_F(Procedures, TheLastOneRemovedStaysOnScreenUntilATabIsClicked) {
 }
 
 TEST_F(Procedures, WithNoneLeftTheTextIsEmptyAndTheButtonsOff) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   Comanda("mnuViewC(1)");
   Premi("cmdSub");
   Premi("cmdDelP");
@@ -213,7 +213,7 @@ TEST_F(FileCommands, NewOnAModifiedProjectAskedAndRefusedDropsTheEdits) {
 }
 
 TEST_F(FileCommands, NewInAWindowThatBeganNewNeverAsks) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   Batti(txtList(), "x");
   Comanda("mnuFileNew");
   EXPECT_TRUE(risponditore.Avvisi.empty());
@@ -255,7 +255,7 @@ TEST_F(FileCommands, OpenCancelledChangesNothing) {
 }
 
 TEST_F(FileCommands, ThePointerIsAnHourglassWhileAFileIsReadOnly) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   std::vector<bool> clessidra;
   const auto guarda = [&] { clessidra.push_back(QGuiApplication::overrideCursor() != nullptr); };
   progetto.Chiedi.Scegli_File = [&](const Richiesta_File&) {
@@ -287,7 +287,7 @@ TEST_F(FileCommands, SaveAlwaysAsksForTheName) {
 }
 
 TEST_F(FileCommands, NothingIsSavedWhereNothingIsWritten) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   txtList().selectAll();
   txtList().replaceSelectedText("");
   Comanda("mnuFileSave");
@@ -316,7 +316,7 @@ TEST_F(FileCommands, ImportOnThePageOfProceduresMakesOne) {
 }
 
 TEST_F(FileCommands, ImportAndExportGoWithEveryPageThatCanBeSeen) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   for (const int pagina : {0, 1, 2, 3}) {
     SSTb2().setCurrentIndex(pagina);
     EXPECT_EQ(SSTb2().currentIndex(), std::min(pagina, 2));

@@ -30,7 +30,7 @@ class Banco_Editor : public ::testing::Test {
   }
 
   /// Makes the window, shows it and starts it in a mode.
-  void Avvia(int modo) {
+  void Avvia(Avvio modo) {
     finestra = std::make_unique<FrmMain>(progetto, plc, legami);
     finestra->show();
     finestra->Avvia(modo);
@@ -38,7 +38,7 @@ class Banco_Editor : public ::testing::Test {
   /// The window with a project read from these bytes.
   void Avvia_Con(const std::string& byte) {
     Scegli_Da_Aprire(byte);
-    Avvia(3);
+    Avvia(Avvio::Apri);
   }
 
   /// Short cuts count in the active window only.

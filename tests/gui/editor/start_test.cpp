@@ -22,7 +22,7 @@ const std::string messaggio_formato =
 
 TEST_F(StartMode, ANewWindowHasNothingToLoadWhateverTheLastOneCompiled) {
   progetto.Compilato = -1;
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   Comanda("mnuPlcCarica");  // the file dialog of its save is cancelled
   EXPECT_EQ(progetto.Carica_CPU, 0);
   EXPECT_TRUE(finestra->isVisible());
@@ -33,7 +33,7 @@ TEST_F(StartMode, OneReadsTheLoadedProjectAgain) {
   progetto.File_Progetto = Percorso("mio.AWL");
   progetto.File_Titolo = "mio.AWL";
   progetto.Compilato = -1;
-  Avvia(1);
+  Avvia(Avvio::Modifica);
   EXPECT_EQ(Etichetta("stB(1)"), "File: mio.AWL");
   EXPECT_EQ(Etichetta("stB(2)"), "List: 5  SBR: 1");
   EXPECT_EQ(txtList().Byte(), progetto.Testo_Main);
@@ -54,7 +54,7 @@ TEST_F(StartMode, OneTellsOfAFailedReadAndNothingElse) {
   Scrivi_File("mio.AWL", Blocco_Main({"LD A B C D E"}));
   progetto.File_Progetto = Percorso("mio.AWL");
   progetto.File_Titolo = "mio.AWL";
-  Avvia(1);
+  Avvia(Avvio::Modifica);
   EXPECT_EQ(Testi_Avvisi(), std::vector<std::string>{messaggio_formato});
   EXPECT_NE(risponditore.Avvisi[0].Dettagli.find("Riga 4"), std::string::npos);
   EXPECT_EQ(Etichetta("stB(1)"), "File:");
@@ -68,7 +68,7 @@ TEST_F(StartMode, OneTellsOfAFailedReadAndNothingElse) {
 TEST_F(StartMode, TwoBeginsANewProjectWithoutAQuestion) {
   progetto.New_Sub();
   progetto.Scrivi_Main("NOT");
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   EXPECT_TRUE(risponditore.Avvisi.empty());
   EXPECT_EQ(txtList().Byte(), nuovo_main);
   EXPECT_EQ(progetto.Testo_Main, nuovo_main);
@@ -88,7 +88,7 @@ TEST_F(StartMode, TwoBeginsANewProjectWithoutAQuestion) {
 TEST_F(StartMode, TwoHasNothingToUndoAfterASavedProject) {
   progetto.Scrivi_Main("NOT");
   progetto.Modificato = 0;
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   EXPECT_FALSE(txtList().isUndoAvailable());
 }
 
@@ -96,7 +96,7 @@ TEST_F(StartMode, UndoBringsBackAProjectThatWasNeverSaved) {
   progetto.New_Sub();
   progetto.Scrivi_Main("NOT");
   const std::string procedura = progetto.Tab_SBR[1].Testo;
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   EXPECT_EQ(progetto.Num_SBR, 0);
   txtList().undo();
   QCoreApplication::processEvents();
@@ -112,7 +112,7 @@ TEST_F(StartMode, UndoBringsBackWhatWasNotSavedBeforeReadingAgain) {
   progetto.New_Sub();
   progetto.Scrivi_Procedura("CRET");
   progetto.Scrivi_Main("NOT");
-  Avvia(1);
+  Avvia(Avvio::Modifica);
   ASSERT_NE(txtList().Byte(), "NOT");
   txtList().undo();
   txtP().undo();
@@ -136,7 +136,7 @@ TEST_F(StartMode, ThreeCancelledChangesNothing) {
   progetto.New_Sub();
   progetto.Scrivi_Main("NOT\r\n");
   progetto.Gestione_Voci(1);
-  Avvia(3);
+  Avvia(Avvio::Apri);
   EXPECT_EQ(txtList().Byte(), "NOT\r\n");
   EXPECT_EQ(Schede(), std::vector<std::string>{"SBR_0"});
   EXPECT_EQ(txtP().Byte(), progetto.Tab_SBR[1].Testo);
@@ -147,7 +147,7 @@ TEST_F(StartMode, FiveShowsTheCompiledList) {
   Scrivi_File("mio.AWL", Blocco_Main({"NETWORK 1", "ld i0.0"}));
   progetto.File_Progetto = Percorso("mio.AWL");
   progetto.LeggiTxt();
-  Avvia(5);
+  Avvia(Avvio::Lista);
   EXPECT_EQ(txtList().Byte(), "//\r\n//\r\nNETWORK 1\r\nLD     I0.0           \r\n");
   EXPECT_EQ(SSTb2().currentIndex(), 0);
 }
@@ -155,7 +155,7 @@ TEST_F(StartMode, FiveShowsTheCompiledList) {
 TEST_F(StartMode, AnyOtherStartsEmpty) {
   progetto.New_Sub();
   progetto.Scrivi_Main("NOT");
-  Avvia(4);
+  Avvia(Avvio::Vuoto);
   EXPECT_EQ(txtList().Byte(), "");
   EXPECT_EQ(Schede(), std::vector<std::string>{""});
   EXPECT_EQ(progetto.Num_SBR, 0);
@@ -169,7 +169,7 @@ TEST_F(StartMode, AnyOtherStartsEmpty) {
 
 TEST_F(StartMode, TheDialogsOfTheWindowAreGoneWithIt) {
   progetto.Chiedi = {};
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   EXPECT_TRUE(progetto.Chiedi.Mostra);
   EXPECT_TRUE(progetto.Chiedi.Scegli_File);
   finestra.reset();
@@ -192,14 +192,14 @@ TEST_F(StartMode, TheQuestionForAFileStandsOverTheWindow) {
     sotto = dialogo->parentWidget();
     dialogo->reject();
   });
-  finestra->Avvia(3);
+  finestra->Avvia(Avvio::Apri);
   EXPECT_EQ(sotto, finestra.get());
 }
 
 // ---- leaving ------------------------------------------------------------------------------------
 
 TEST_F(Leaving, ClosingShowsThePanelWithoutAQuestion) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   Batti(txtList(), "x");
   progetto.Carica_CPU = 1;
   finestra->close();
@@ -211,7 +211,7 @@ TEST_F(Leaving, ClosingShowsThePanelWithoutAQuestion) {
 }
 
 TEST_F(Leaving, TerminaStopsTheRunAndTakesTheProgramBack) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   progetto.Carica_CPU = 1;
   Comanda("mnuFileEnd");
   EXPECT_FALSE(finestra->isVisible());
@@ -254,7 +254,7 @@ class HeightRule : public Banco_Editor, public testing::WithParamInterface<std::
 };
 
 TEST_P(HeightRule, HoldsOnEveryResize) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   const auto [barra, stato] = GetParam();
   if (!barra) Comanda("mnuViewTB");
   if (!stato) Comanda("mnuViewSTB");
@@ -277,7 +277,7 @@ INSTANTIATE_TEST_SUITE_P(Bars, HeightRule,
                                          std::pair{true, false}, std::pair{false, false}));
 
 TEST_F(WindowSize, WithTheBarsOffItShrinksByTheirHeight) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   const int intera = finestra->height();
   const int barra = Trova<QToolBar>("tB1").height();
   const int stato = finestra->statusBar()->height();
@@ -291,7 +291,7 @@ TEST_F(WindowSize, WithTheBarsOffItShrinksByTheirHeight) {
 }
 
 TEST_F(WindowSize, MaximisedItFillsTheScreen) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   const int normale = finestra->height();
   finestra->showMaximized();
   QCoreApplication::processEvents();

@@ -12,9 +12,6 @@ class Undo : public Banco_Editor {
  public:
   const std::string due_procedure =
       Blocco_Main({"NETWORK 1", "LD I0.0"}) + Blocco_SBR(0, {"NOT"}) + Blocco_SBR(1, {"NOP"});
-
-  /// What the deferred part of a command needs to end.
-  static void Lascia_Finire() { QCoreApplication::processEvents(); }
 };
 
 }  // namespace
@@ -80,7 +77,7 @@ TEST_F(Undo, TheRewritingOfACompileCanBeTakenBack) {
 }
 
 TEST_F(Undo, TheLastProcedureRemovedComesBackOnScreen) {
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   Comanda("mnuViewC(1)");
   Premi("cmdSub");
   const std::string prima = txtP().Byte();
@@ -88,6 +85,7 @@ TEST_F(Undo, TheLastProcedureRemovedComesBackOnScreen) {
   EXPECT_EQ(txtP().Byte(), "");
   txtP().undo();
   EXPECT_EQ(txtP().Byte(), prima);
+  EXPECT_EQ(Schede(), Lista{"SBR_0"});
 }
 
 // ---- failed reads -------------------------------------------------------------------------------
@@ -127,7 +125,6 @@ TEST_P(FailedRead, ComesBackWithAllProcedures) {
   EXPECT_FALSE(Voce("mnuPlcCompile").isEnabled());
 
   (GetParam().procedura ? txtP() : txtList()).undo();
-  Lascia_Finire();
   if (!main.empty()) {
     EXPECT_EQ(txtList().Byte(), main);
   }
@@ -161,10 +158,9 @@ TEST_F(Undo, AFailedReadAtTheStartComesBackToo) {
   progetto.Scrivi_Main("//mio\r\nNOT\r\n");
   progetto.New_Sub();
   progetto.File_Progetto = Percorso("assente.AWL");
-  Avvia(1);
+  Avvia(Avvio::Modifica);
   EXPECT_EQ(txtList().Byte(), "");
   txtList().undo();
-  Lascia_Finire();
   EXPECT_EQ(txtList().Byte(), "//mio\r\nNOT\r\n");
   EXPECT_EQ(Schede(), Lista{"SBR_0"});
   EXPECT_EQ(txtP().text(0), "// SBR_0\r\n");
@@ -173,7 +169,7 @@ TEST_F(Undo, AFailedReadAtTheStartComesBackToo) {
 TEST_F(Undo, AFailedReadOutweighsWhatTheWindowTookAwayWhenItOpened) {
   progetto.New_Sub();
   progetto.Scrivi_Main("//mio\r\n");
-  Avvia(2);
+  Avvia(Avvio::Nuovo);
   txtList().Vai_In_Fondo();
   txtList().insert("MOVW VW0,VW2 123456789012345678901234567890\r\n");
   const std::string nuovo = txtList().Byte();
@@ -181,22 +177,115 @@ TEST_F(Undo, AFailedReadOutweighsWhatTheWindowTookAwayWhenItOpened) {
   Comanda("mnuPlcCompile");
   ASSERT_EQ(txtList().Byte(), "");
   txtList().undo();
-  Lascia_Finire();
   EXPECT_EQ(txtList().Byte(), nuovo);
   EXPECT_TRUE(Voce("mnuPlcCompile").isEnabled());
 }
 
-TEST_F(Undo, ProceduresMadeSinceAreNotOverwritten) {
+TEST_F(Undo, ProceduresMadeSinceAreTakenBackFirstAndComeAgain) {
   Avvia_Con(due_procedure);
+  const std::string main = txtList().Byte();
   Scegli_Da_Aprire("niente", "guasto.AWL");
   Comanda("mnuFileOpen");
   Comanda("mnuViewC(1)");
   Premi("cmdSub");
+  EXPECT_EQ(Schede(), Lista{"SBR_0"});
   txtList().undo();
-  Lascia_Finire();
-  EXPECT_NE(txtList().Byte(), "");
+  EXPECT_EQ(Schede(), Lista{""});
+  EXPECT_EQ(txtList().Byte(), "");
+  txtList().undo();
+  EXPECT_EQ(txtList().Byte(), main);
+  EXPECT_EQ(Schede(), (Lista{"SBR_0", "SBR_1"}));
+  txtP().redo();
+  txtP().redo();
+  EXPECT_EQ(txtList().Byte(), "");
   EXPECT_EQ(Schede(), Lista{"SBR_0"});
   EXPECT_EQ(txtP().text(0), "// SBR_0\r\n");
+  EXPECT_FALSE(txtP().Ripetibile());
+}
+
+// ---- commands that take the project away --------------------------------------------------------
+
+struct Caso_Comando {
+  const char* nome;
+  const char* comando;  // gives the other project
+  bool procedura;       // the undo is given on the procedure's text, else on the Main's
+};
+
+class WholeProject : public Undo, public testing::WithParamInterface<Caso_Comando> {
+ protected:
+  AwlEditor& Testo_Scelto() const { return GetParam().procedura ? txtP() : txtList(); }
+  /// All that is on screen of a project.
+  Lista Schermo() const {
+    Lista tutto = Schede();
+    for (const auto& testo : {txtList().Byte(), txtP().Byte(), Etichetta("stB(1)"),
+                              progetto.File_Titolo, std::to_string(progetto.Num_SBR)})
+      tutto.push_back(testo);
+    for (int i = 1; i <= progetto.Num_SBR; ++i) tutto.push_back(progetto.Tab_SBR[i].Testo);
+    return tutto;
+  }
+};
+
+TEST_P(WholeProject, ComesBackByOneUndoAndGoesByOneRedo) {
+  Avvia(Avvio::Nuovo);  // New asks no question in this window
+  Comanda("mnuViewC(1)");
+  Premi("cmdSub");
+  Premi("cmdSub");
+  Batti_In_Fondo(txtP(), "EU");
+  Batti_In_Fondo(txtList(), "ED");
+  const Lista prima = Schermo();
+  Scegli_Da_Aprire(due_procedure, "altro.AWL");
+  Comanda(GetParam().comando);
+  const Lista dopo = Schermo();
+  ASSERT_NE(dopo, prima);
+  EXPECT_TRUE(Testo_Scelto().Annullabile());
+  Testo_Scelto().undo();
+  EXPECT_EQ(Schermo(), prima);
+  EXPECT_TRUE(Premibile("cmdDelP"));
+  Clicca_Scheda(0);
+  EXPECT_EQ(txtP().text(0), "// SBR_0\r\n");
+  Clicca_Scheda(1);
+  Testo_Scelto().redo();
+  EXPECT_EQ(Schermo(), dopo);
+  EXPECT_FALSE(Testo_Scelto().Ripetibile());
+  Testo_Scelto().undo();
+  EXPECT_EQ(Schermo(), prima);
+  txtList().undo();  // what was typed before is still to be taken back
+  EXPECT_EQ(txtList().Byte().find("ED"), std::string::npos);
+}
+
+TEST_P(WholeProject, StaysAwayOnceSomethingWasTypedInTheOtherText) {
+  Avvia_Con(due_procedure);
+  Scegli_Da_Aprire(Blocco_Main({"NOT"}) + Blocco_SBR(0, {"NOT"}), "altro.AWL");
+  Comanda("mnuFileOpen");
+  Comanda("mnuViewC(1)");
+  AwlEditor& altro = GetParam().procedura ? txtList() : txtP();
+  Batti_In_Fondo(altro, "x");
+  const Lista dopo = Schermo();
+  Testo_Scelto().undo();
+  EXPECT_EQ(Schermo(), dopo);
+  altro.undo();
+  EXPECT_TRUE(Testo_Scelto().Annullabile());
+  Testo_Scelto().undo();
+  EXPECT_EQ(progetto.Num_SBR, 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(Commands, WholeProject,
+                         testing::Values(Caso_Comando{"NewMain", "mnuFileNew", false},
+                                         Caso_Comando{"NewProcedure", "mnuFileNew", true},
+                                         Caso_Comando{"OpenMain", "mnuFileOpen", false},
+                                         Caso_Comando{"OpenProcedure", "mnuFileOpen", true}),
+                         [](const auto& caso) { return std::string(caso.param.nome); });
+
+TEST_F(Undo, ARemovedProcedureComesBackWithItsPlace) {
+  Avvia_Con(due_procedure);
+  Comanda("mnuViewC(1)");
+  const std::string prima = txtP().Byte();
+  Premi("cmdDelP");
+  EXPECT_EQ(Schede(), Lista{"SBR_1"});
+  txtList().undo();
+  EXPECT_EQ(Schede(), (Lista{"SBR_0", "SBR_1"}));
+  EXPECT_EQ(txtP().Byte(), prima);
+  EXPECT_EQ(progetto.Tab_SBR[1].Testo, prima);
 }
 
 }  // namespace tavorno::prova

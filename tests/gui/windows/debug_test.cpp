@@ -29,7 +29,7 @@ class Debug : public Banco_Finestre {
     }
     plc.Prog.Ridimensiona(plc.NRighe + 1);
     for (int k = 0; k <= plc.NRighe; ++k) Riempi_Riga(plc.Prog[k], progetto.Righe_Src[k]);
-    Assegna_JMP(plc);
+    Assegna_JMP(plc.Prog);
   }
 
   void Metti(const std::string& testo) {

@@ -7,8 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "awl/project.h"
-#include "awl/source_line.h"
+#include "awl/checker.h"
 #include "plc/plc.h"
 
 namespace tavorno::prova {
@@ -79,25 +78,19 @@ inline Riga_Src Source(const std::string& line) {
 struct LineChecker {
   Orologio clock;
   Plc plc{clock};
-  Progetto project{plc, {}};
 
   LineChecker() { plc.Prog.Ridimensiona(301); }
 
-  /// The row is compiled and checked; its listing is left in `Lista_Comp`.
+  /// The row is compiled and checked.
   int CheckRow(const Riga_Src& source, int row = 0) {
-    project.Righe_Src[row] = source;
     Riempi_Riga(plc.Prog[row], source);
-    project.Lista_Comp.clear();
-    return project.Controlla_Riga(row);
+    return Controlla_Riga(plc.Prog[row], source).Stato;
   }
 
   Verdict Check(const Riga_Src& source) {
-    const int status = CheckRow(source);
-    // Number, tag and colon have one width, and these lines have no text of their own.
-    static constexpr std::size_t head = sizeof "0000 [Err. 6]:  " - 1;
-    const std::string& listing = project.Lista_Comp;
-    if (listing.size() <= head || listing.back() != '\r') return {-1, "bad listing: " + listing};
-    return {status, listing.substr(head, listing.size() - head - 1)};
+    Riempi_Riga(plc.Prog[0], source);
+    const Giudizio found = Controlla_Riga(plc.Prog[0], source);
+    return {found.Stato, found.Testo};
   }
   Verdict Check(const std::string& line) { return Check(Source(line)); }
 };

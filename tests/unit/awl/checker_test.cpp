@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "awl/listing.h"
+#include "awl/program.h"
 #include "checked_line.h"
 #include "expected_rules.h"
 
@@ -166,44 +168,39 @@ TEST_F(CheckedLine, IsListedByteForByte) {
     const char* listing;
   };
   const std::vector<Listed> cases = {
-      {0, "LD I0.0", "LD     I0.0", 0, "0000 [Ok!   ]: LD     I0.0 \r"},
-      {0, "NETWORK 1", "", 0, "0000 [Ok!   ]:  \r"},
-      {0, "END", "END   ", 2, "0000 [Err. 2]: END    -> Istruzione non supportata\r"},
-      {12, "FOO", "FOO", 3, "0012 [Err. 3]: FOO -> Istruzione non riconosciuta\r"},
-      {12, "NOT I0.0", "NOT", 3, "0012 [Err. 3]: NOT -> Operandi non supportati\r"},
+      {0, "LD I0.0", "LD     I0.0", 0, "0000 [Ok!   ]: LD     I0.0 "},
+      {0, "NETWORK 1", "", 0, "0000 [Ok!   ]:  "},
+      {0, "END", "END   ", 2, "0000 [Err. 2]: END    -> Istruzione non supportata"},
+      {12, "FOO", "FOO", 3, "0012 [Err. 3]: FOO -> Istruzione non riconosciuta"},
+      {12, "NOT I0.0", "NOT", 3, "0012 [Err. 3]: NOT -> Operandi non supportati"},
       {12, "MOVB VB200, AC1", "MOVB   VB200, AC1      ", 6,
-       "0012 [Err. 6]: MOVB   VB200, AC1       -> Indirizzo Byte OP1 non supportato\r"},
-      {300, "LD", "LD", 5, "0300 [Err. 5]: LD -> Numero di operandi errarto\r"},
-      {300, "LD I0.8", "LD I0.8", 9, "0300 [Err. 9]: LD I0.8 -> Indirizzo Bit OP1 non ammesso\r"},
-      {300, "MEND", "MEND", 0, "0300 [Ok!   ]: MEND \r"},
-      {9, "MEND", "\xE0 ", 0, "0009 [Ok!   ]: \xE0  \r"},
-      {100, "MEND", "MEND", 0, "0100 [Ok!   ]: MEND \r"},
+       "0012 [Err. 6]: MOVB   VB200, AC1       -> Indirizzo Byte OP1 non supportato"},
+      {300, "LD", "LD", 5, "0300 [Err. 5]: LD -> Numero di operandi errarto"},
+      {300, "LD I0.8", "LD I0.8", 9, "0300 [Err. 9]: LD I0.8 -> Indirizzo Bit OP1 non ammesso"},
+      {300, "MEND", "MEND", 0, "0300 [Ok!   ]: MEND "},
+      {9, "MEND", "\xE0 ", 0, "0009 [Ok!   ]: \xE0  "},
+      {100, "MEND", "MEND", 0, "0100 [Ok!   ]: MEND "},
   };
   for (const Listed& expected : cases) {
-    Riga_Src source = Source(expected.line);
-    source.Testo_CPU = expected.text;
-    source.Testo_Lista = "not this one";
-    EXPECT_EQ(CheckRow(source, expected.row), expected.status) << expected.line;
-    EXPECT_EQ(project.Lista_Comp, expected.listing);
+    // Rows in front of it stand in for those of a project.
+    std::vector<Riga_Src> rows(static_cast<std::size_t>(expected.row) + 1, Source("MEND"));
+    rows.back() = Source(expected.line);
+    rows.back().Testo_CPU = expected.text;
+    rows.back().Testo_Lista = "not this one";
+    EXPECT_EQ(CheckRow(rows.back(), expected.row), expected.status) << expected.line;
+    const Compilazione compiled = Compila_Righe(rows);
+    EXPECT_EQ(compiled.Errori, expected.status == 0 ? 0 : 1);
+    const std::vector<Riga_Listato> listing = Listato(rows, compiled.Rilievi);
+    EXPECT_EQ(listing.back().Come_Testo(), expected.listing);
+    EXPECT_EQ(listing.back().Errata, expected.status != 0);
+    EXPECT_TRUE(Testo_Listato(listing).ends_with(std::string(expected.listing) + "\r\r\n"));
   }
 }
 
 TEST_F(CheckedLine, IsListedBehindTheLinesBeforeIt) {
-  CheckRow(Source("MEND"));
-  project.Lista_Comp = "before\r\r\n";
-  project.Controlla_Riga(0);
-  EXPECT_EQ(project.Lista_Comp, "before\r\r\n0000 [Ok!   ]:  \r");
-}
-
-TEST_F(CheckedLine, LeavesRecordAndSourceAsTheyAre) {
-  for (const char* line : {"LD I0.3", "MOVB VB200, AC1", "MOVW +40000, VW0", "FOO 1", "LD I0.9"}) {
-    const Riga_Src source = Source(line);
-    CheckRow(source, 5);
-    const Riga_PLC record = plc.Prog[5];
-    project.Controlla_Riga(5);
-    EXPECT_EQ(plc.Prog[5], record) << line;
-    EXPECT_EQ(project.Righe_Src[5], source) << line;
-  }
+  const std::vector<Riga_Src> rows = {Source("FOO"), Source("MEND")};
+  EXPECT_EQ(Testo_Listato(Listato(rows, Compila_Righe(rows).Rilievi)),
+            "0000 [Err. 3]:  -> Istruzione non riconosciuta\r\r\n0001 [Ok!   ]:  \r\r\n");
 }
 
 // ---- the table of messages --------------------------------------------------------------------

@@ -44,13 +44,11 @@ class LineNumbers : public Banco_Progetto {
         if (numeri[i] == niente) continue;
         ++numerate;
         EXPECT_EQ(progetto.Righe_Src[numeri[i]].Testo_Lista, linee[i]) << numeri[i];
-        EXPECT_EQ(numerazione.Posto(numeri[i]), (Posto_Riga{t, static_cast<int>(i)}));
+        EXPECT_EQ(progetto.Righe_Src[numeri[i]].Posto, (Posto_Riga{t, static_cast<int>(i)}));
       }
     }
     // All other rows were made by the blocks: MEND, and SBR and RET of each procedure.
     EXPECT_EQ(numerate + 1 + 2 * progetto.Num_SBR, plc.NRighe + 1);
-    EXPECT_FALSE(numerazione.Posto(plc.NRighe + 1));
-    EXPECT_TRUE(numerazione.Posto(plc.NRighe));
   }
 };
 
@@ -124,24 +122,9 @@ TEST_F(LineNumbers, TheProceduresFollowTheMain) {
   EXPECT_EQ(plc.NRighe, 9);
 }
 
-TEST_F(LineNumbers, TheRowsOfTheBlocksStandForTheEndsOfTheirTexts) {
-  progetto.Scrivi_Main("NETWORK 1\r\n//\r\nNOT");
-  progetto.New_Sub();
-  progetto.Scrivi_Procedura("//\r\nNOP\r\n");
-  const Numerazione numerazione(progetto);
-  EXPECT_EQ(numerazione.Posto(2), (Posto_Riga{0, 2}));  // MEND
-  EXPECT_EQ(numerazione.Posto(3), (Posto_Riga{1, 0}));  // SBR0
-  EXPECT_EQ(numerazione.Posto(4), (Posto_Riga{1, 1}));  // NOP
-  EXPECT_EQ(numerazione.Posto(5), (Posto_Riga{1, 2}));  // RET
-  EXPECT_FALSE(numerazione.Posto(6));
-  EXPECT_FALSE(numerazione.Posto(-1));
-}
-
 TEST_F(LineNumbers, AnEmptyProjectHasItsMendOnly) {
   const Numerazione numerazione(progetto);
   EXPECT_EQ(numerazione.Numeri(0), (std::vector<int>{niente}));
-  EXPECT_EQ(numerazione.Posto(0), (Posto_Riga{0, 0}));
-  EXPECT_FALSE(numerazione.Posto(1));
 }
 
 TEST_F(LineNumbers, AgreeWithTheRowsOfEveryExample) {

@@ -34,8 +34,9 @@ struct Caso_Riga {
 class LineClasses : public Banco_Progetto, public testing::WithParamInterface<Caso_Riga> {};
 
 TEST_P(LineClasses, GiveTheirTextAndTheirRow) {
-  EXPECT_EQ(progetto.Debug_Line(GetParam().riga), GetParam().risultato);
-  EXPECT_EQ(progetto.CPU.NRighe, GetParam().cresce);
+  Righe_Lette righe;
+  EXPECT_EQ(righe.Debug_Line(GetParam().riga), GetParam().risultato);
+  EXPECT_EQ(righe.NRighe, GetParam().cresce);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -56,12 +57,12 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& caso) { return caso.param.nome; });
 
 TEST_F(LineClasses, AStaleMnemonicOfFiveBlanksKeepsTheRowFree) {
-  progetto.Righe_Src[0].Istr = "     x";
-  EXPECT_EQ(progetto.Debug_Line("SBRX"), "SBRX");
-  EXPECT_EQ(progetto.CPU.NRighe, 0);
-  progetto.Righe_Src[0].Istr = "    x";
-  progetto.Debug_Line("SBRX");
-  EXPECT_EQ(progetto.CPU.NRighe, 1);
+  Righe_Lette righe({}, {Riga_Src{"     x", "", "", "", 0, "", ""}});
+  EXPECT_EQ(righe.Debug_Line("SBRX"), "SBRX");
+  EXPECT_EQ(righe.NRighe, 0);
+  righe.Tabella[0].Istr = "    x";
+  righe.Debug_Line("SBRX");
+  EXPECT_EQ(righe.NRighe, 1);
 }
 
 // ---- Cerca_Com ----------------------------------------------------------------------------------
@@ -79,13 +80,20 @@ class LineSplitter : public Banco_Progetto, public testing::WithParamInterface<C
 
 TEST_P(LineSplitter, FillsTheWholeRow) {
   const Caso_Taglio& caso = GetParam();
-  progetto.chkCom = {caso.chk_righe, caso.chk_network};
-  progetto.CPU.NRighe = 7;  // the row that is filled is that of the counter, which stays
-  progetto.Righe_Src[7] = riga_sporca;
-  EXPECT_EQ(progetto.Cerca_Com(caso.riga), caso.atteso.Testo_Lista);
-  EXPECT_EQ(Campi(progetto.Righe_Src[7]), Campi(caso.atteso));
-  EXPECT_EQ(Testi_Avvisi(), caso.avviso.empty() ? Lista{} : Lista{caso.avviso});
-  EXPECT_EQ(progetto.CPU.NRighe, 7);
+  Righe_Lette righe({caso.chk_righe, caso.chk_network});
+  righe.NRighe = 7;  // the row that is filled is that of the counter, which stays
+  righe.Tabella.assign(8, riga_sporca);
+  EXPECT_EQ(righe.Cerca_Com(caso.riga, {2, 5}), caso.atteso.Testo_Lista);
+  EXPECT_EQ(Campi(righe.Tabella[7]), Campi(caso.atteso));
+  EXPECT_EQ(righe.Tabella[7].Posto, (Posto_Riga{2, 5}));
+  EXPECT_EQ(righe.NRighe, 7);
+  ASSERT_EQ(righe.Rilievi.size(), caso.avviso.empty() ? 0U : 1U);
+  if (caso.avviso.empty()) return;
+  const Avviso avviso = Avviso_Di(righe.Rilievi[0]);
+  EXPECT_EQ(avviso.Titolo + ": " + avviso.Testo, caso.avviso);
+  EXPECT_EQ(avviso.Dettagli, caso.riga);
+  EXPECT_EQ(righe.Rilievi[0].Posto, (Posto_Riga{2, 5}));
+  EXPECT_EQ(righe.Rilievi[0].Riga, 7);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -43,10 +43,10 @@ struct Caso_Meta {
 
 class Targets : public LinkPass, public testing::WithParamInterface<Caso_Meta> {
  protected:
-  void Prova(const std::string& istr, std::uint8_t (*passo)(Memoria&)) {
+  void Prova(const std::string& istr, Passo (*passo)(std::span<Riga_PLC>)) {
     const Caso_Meta& caso = GetParam();
     Programma(caso.voci);
-    EXPECT_EQ(passo(plc), caso.esito);
+    EXPECT_EQ(passo(plc.Prog).Esito, caso.esito);
     std::vector<std::int16_t> salti;
     std::vector<Timer> liste;
     for (const Riga_PLC& riga : plc.Prog) {
@@ -191,7 +191,7 @@ TEST_P(Sections, AreClosed) {
   const Caso_Sezione& caso = GetParam();
   Programma(caso.voci);
   for (Riga_PLC& riga : plc.Prog) riga.Abil_SCR = 0;  // as a run may leave it
-  EXPECT_EQ(Assegna_SCR(plc), caso.esito);
+  EXPECT_EQ(Assegna_SCR(plc.Prog).Esito, caso.esito);
   std::vector<std::int16_t> prime;
   std::vector<std::int16_t> ultime;
   for (int i = 0; i <= plc.NRighe; ++i) {

@@ -187,8 +187,9 @@ TEST_F(ProjectReader, FillsEveryFieldOfAProcedure) {
   EXPECT_EQ(progetto.Tab_SBR[1],
             (Riga_SBR{4, "Pompa lenta", "SBR3", 1, "//abc\r\n" + A36("LD     I0.0") + "\r\n"}));
   EXPECT_EQ(progetto.TabSP, Lista{"Pompa lenta"});
-  EXPECT_EQ(progetto.Righe_Src[2],
-            (Riga_Src{"SBR3", "Pompa lenta", "", "", 1, "SBR3 Pompa lenta", "SBR3 Pompa lenta"}));
+  EXPECT_EQ(
+      progetto.Righe_Src[2],
+      (Riga_Src{"SBR3", "Pompa lenta", "", "", 1, "SBR3 Pompa lenta", "SBR3 Pompa lenta", {1, 0}}));
 }
 
 TEST_F(ProjectReader, SplitsABlockLineAtItsFirstColon) {
@@ -244,7 +245,7 @@ TEST_F(ProjectReader, StartsTheTextOfAnOpenedRowEmpty) {
 TEST_F(ProjectReader, LeavesStaleFieldsUnderASubroutineLineWithoutABlank) {
   ASSERT_TRUE(Apri(File_Main({"NOT", "MOVW VW0 VW2"})));
   ASSERT_TRUE(Apri(File_Main({"NOT", "SBRX"})));
-  EXPECT_EQ(progetto.Righe_Src[1], (Riga_Src{"MOVW", "VW0", "", "", 1, "SBRX", "SBRX"}));
+  EXPECT_EQ(progetto.Righe_Src[1], (Riga_Src{"MOVW", "VW0", "", "", 1, "SBRX", "SBRX", {0, 2}}));
   EXPECT_EQ(progetto.Testo_Main, Righe({"//", A36("NOT"), "SBRX"}));
   EXPECT_EQ(progetto.CPU.NRighe, 2);
 }

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "awl/writer.h"
+
 #include <algorithm>
 
 #include "project_bed.h"
@@ -21,7 +23,7 @@ struct Caso_Testo {
 class LineForms : public testing::TestWithParam<Caso_Testo> {};
 
 TEST_P(LineForms, AreWrittenNormalised) {
-  EXPECT_EQ(Progetto::Norm_Riga(GetParam().da), GetParam().atteso);
+  EXPECT_EQ(Norm_Riga(GetParam().da), GetParam().atteso);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -62,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(
 class OperandForms : public testing::TestWithParam<Caso_Testo> {};
 
 TEST_P(OperandForms, AreJoinedByTheirCommas) {
-  EXPECT_EQ(Progetto::Norm_Operandi(GetParam().da), GetParam().atteso);
+  EXPECT_EQ(Norm_Operandi(GetParam().da), GetParam().atteso);
 }
 
 INSTANTIATE_TEST_SUITE_P(AllCounts, OperandForms,

@@ -47,7 +47,8 @@ TEST_F(CompileCommand, GivesEveryFieldOfEveryRowAsJson) {
                                    "MOVW VW0 VW2", "SCRE"})}),
             0);
   const auto json = nlohmann::json::parse(out);
-  EXPECT_EQ(json.size(), 4);
+  EXPECT_EQ(json.size(), 5);
+  EXPECT_EQ(json["diagnostics"], nlohmann::json::array());
   EXPECT_EQ(json["errors"], 0);
   EXPECT_EQ(json["boxes"], nlohmann::json::parse(R"([{"title": "Attenzione!",
             "text": " 7 Righe compilate con successo!"}])"));
@@ -64,6 +65,17 @@ TEST_F(CompileCommand, GivesEveryFieldOfEveryRowAsJson) {
   EXPECT_EQ(json["prog"][4]["SCR_Ultima"], 5);
   EXPECT_EQ(json["prog"][5]["Area2"], "VW");
   EXPECT_EQ(json["prog"][7]["Istr"], "MEND");
+}
+
+TEST_F(CompileCommand, GivesEveryDiagnosticAsJson) {
+  EXPECT_EQ(
+      Comando({"compila", "--json", Progetto_Con({"NOT", "//\xE0", "MOVB VB200 AC1", "JMP 5"})}),
+      1);
+  EXPECT_EQ(nlohmann::json::parse(out)["diagnostics"], nlohmann::json::parse(R"([
+      {"severity": "error", "block": "MAIN", "line": 4, "column": 8, "length": 5, "row": 1,
+       "status": 6, "text": "MOVB   VB200, AC1", "message": "Indirizzo Byte OP1 non supportato"},
+      {"severity": "warning", "block": "MAIN", "line": 5, "column": 1, "length": 8, "row": 2,
+       "status": 1, "text": "JMP    5", "message": "Manca l'etichetta LBL 5"}])"));
 }
 
 TEST_F(CompileCommand, WritesNamesOfTheCodePageAsUtf8) {

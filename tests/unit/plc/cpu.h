@@ -58,9 +58,9 @@ class Cpu : public ::testing::Test {
     plc.Prog.Ridimensiona(static_cast<int>(righe.size()));
     plc.NRighe = static_cast<std::int16_t>(righe.size() - 1);
     for (int i = 0; i <= plc.NRighe; ++i) plc.Prog[i] = Riga(righe[static_cast<std::size_t>(i)]);
-    Assegna_JMP(plc);
-    Assegna_SBR(plc);
-    Assegna_SCR(plc);
+    Assegna_JMP(plc.Prog);
+    Assegna_SBR(plc.Prog);
+    Assegna_SCR(plc.Prog);
     plc.PC = 0;
   }
 

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A project between its file and the tables of the editor.
+#include "awl/project.h"
+
+#include <algorithm>
+
+#include "awl/file_io.h"
+#include "awl/text.h"
+#include "awl/writer.h"
+#include "plc/number_text.h"
+
+namespace tavorno {
+
+std::string Testo_Base(const std::string& testo) {
+  return testo.substr(0, testo.find('.'));
+}
+
+Risposta Progetto::Avvisa(const Avviso& avviso) const {
+  const auto& mostra = Chiedi.Mostra ? Chiedi.Mostra : Riserva.Mostra;
+  return mostra ? mostra(avviso) : Risposta::Ok;
+}
+
+// ---- texts --------------------------------------------------------------------------------------
+
+std::string Stato_Progetto::Testi() const {
+  std::string testi = txtList;
+  for (int i = 1; i <= Num_SBR; ++i) testi += '\0' + Tab_SBR[i].Nome + '\0' + Tab_SBR[i].Testo;
+  return testi;
+}
+
+Sorgente Stato_Progetto::Come_Sorgente(const std::string& main) const {
+  Sorgente sorgente;
+  sorgente.Main = main;
+  for (int i = 1; i <= Num_SBR; ++i) sorgente.Procedure.push_back(Tab_SBR[i]);
+  return sorgente;
+}
+
+// ---- reading ------------------------------------------------------------------------------------
+
+void Progetto::LeggiTxt() {
+  Leggi_File_Progetto();
+  Mostra_Rilievi_Lettura();
+}
+
+void Progetto::Leggi_File_Progetto() {
+  const Contenuto_File file = Leggi_File(File_Progetto);
+  if (file.Errore.empty()) {
+    Leggi_Byte(file.Byte);
+    return;
+  }
+  Lettura illeggibile;
+  illeggibile.Rifiuto = {0, "", file.Errore, Causa::Disco};
+  Prendi(std::move(illeggibile));
+}
+
+void Progetto::Leggi_Byte(std::string_view byte) {
+  Prendi(Leggi_Sorgente(byte, chkCom, {Righe_Src.begin(), Righe_Src.end()}));
+}
+
+void Progetto::Prendi(Lettura lettura) {
+  for (int riga = 0; riga <= 10; ++riga) Tab_SBR[riga].Testo.clear();  // and no others
+  std::ranges::move(lettura.Tabella, Righe_Src.begin());
+  Rilievi_Lettura = std::move(lettura.Rilievi);
+  Dettaglio = std::move(lettura.Rifiuto);
+  if (Dettaglio.Perche != Causa::Nessuna) {
+    Lettura_Fallita();
+    return;
+  }
+
+  Sorgente& letta = lettura.Letta;
+  Err_Lettura = 0;
+  txtList = Testo_Main = std::move(letta.Main);
+  Num_SBR = static_cast<std::uint8_t>(letta.Procedure.size());
+  TabSP.clear();
+  for (Riga_SBR& procedura : letta.Procedure) {
+    TabSP.push_back(procedura.Nome);
+    Tab_SBR[procedura.Indice] = std::move(procedura);
+  }
+  if (Num_SBR == 0) TabSP.assign(1, "");
+  Scheda = Num_SBR > 0 ? 1 : 0;
+  txtP = Num_SBR > 0 ? Tab_SBR[1].Testo : "";
+  CPU.NRighe = static_cast<std::int16_t>(letta.Righe.size() - 1);
+  CPU.Prog.Ridimensiona(CPU.NRighe + 1);
+  etNR[2] = std::to_string(letta.Righe_Lette - 1);
+  stB[1] = "List:" + Numero_Con_Spazio(CPU.NRighe) + "  SBR:" + Numero_Con_Spazio(Num_SBR);
+  Modificato = 0;
+  Testi_Salvati = Testi();
+}
+
+void Progetto::Lettura_Fallita() {
+  Err_Lettura = -1;
+  Num_SBR = 0;
+  CPU.NRighe = 0;
+  TabSP.assign(1, "");
+  Scheda = 0;
+  File_Progetto.clear();
+  Testo_Main.clear();
+  txtList.clear();
+  txtP.clear();
+  stB = {"File:", "List: 0   SBR: 0", "Read Error"};
+  Gestione_Voci(0);
+  Modificato = 0;
+  Compilato = 0;  // nothing is left that could be loaded
+  NRighe_Prog = 0;
+  etNR[2] = "0";
+}
+
+void Progetto::Mostra_Rilievi_Lettura() const {
+  for (const Diagnosi& rilievo : Rilievi_Lettura) Avvisa(Avviso_Di(rilievo));
+  if (Dettaglio.Perche == Causa::Interrupt)
+    Avvisa({.Titolo = "Attenzione!",
+            .Testo = "Il simulatore non supporta routin di interrupt!",
+            .Simbolo = Icona::Critica,
+            .Scelte = Tasti::Ok,
+            .Dettagli = {}});
+}
+
+void Progetto::Avvisa_Lettura_Fallita() const {
+  Avvisa({.Titolo = "Errore!",
+          .Testo = Dettaglio.Perche == Causa::Capienza
+                       ? Dettaglio.Motivo
+                       : "Impossibile Caricare il progetto per errori nel formato!",
+          .Simbolo = Icona::Critica,
+          .Scelte = Tasti::Ok,
+          .Dettagli = Dettaglio.Come_Testo()});
+}
+
+// ---- writing ------------------------------------------------------------------------------------
+
+bool Progetto::Crea_Progetto() {
+  const Scrittura scrittura = Scrivi_Sorgente(Come_Sorgente(txtList));
+  // The entry behind the last one keeps what it has, and goes out with the others.
+  std::ranges::copy(scrittura.Righe, Righe_Prog.begin());
+  if (!scrittura.Riuscita()) {
+    Avvisa({.Titolo = "Errore!",
+            .Testo = "Impossibile salvare il progetto: " + scrittura.Rifiuto.Motivo + "!\n" +
+                     scrittura.Rifiuto.Testo,
+            .Simbolo = Icona::Critica,
+            .Scelte = Tasti::Ok,
+            .Dettagli = {}});
+    return false;
+  }
+  NRighe_Prog = static_cast<std::int16_t>(scrittura.Righe.size());
+  etNR[2] = std::to_string(NRighe_Prog);
+  return true;
+}
+
+bool Progetto::SalvaFile() {
+  return Scrivi_Testo(
+      Byte_Di(std::span(Righe_Prog.begin(), static_cast<std::size_t>(NRighe_Prog) + 1)));
+}
+
+bool Progetto::Scrivi_Testo(const std::string& testo) {
+  const std::string errore = Scrivi_File(File_Salva, testo);
+  if (errore.empty()) return true;
+  Avvisa({.Titolo = "Errore!",
+          .Testo = "Impossibile scrivere il file \"" + File_Salva + "\": " + errore +
+                   "!\nIl file precedente non è stato toccato.",
+          .Simbolo = Icona::Critica,
+          .Scelte = Tasti::Ok,
+          .Dettagli = {}});
+  return false;
+}
+
+}  // namespace tavorno

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Undo beyond the texts: commands that replace or rearrange the project.
+#include <utility>
+
+#include "awl/ui/main_window.h"
+
+namespace tavorno {
+
+FrmMain::Vista FrmMain::Come_Sta() const {
+  return {p_, txtList->document(), documenti_, segni_};
+}
+
+/// A command took `prima` away; the texts on screen are new ones.
+void FrmMain::Sostituito(Vista prima) {
+  txtList->Mostra_Documento(QsciDocument());
+  documenti_.Svuota();
+  documenti_.Adegua(p_.Num_SBR);
+  residuo_ = QsciDocument();
+  testi_nuovi_ = true;
+  segni_.Dimentica();
+  if (prima.Stato.Vuoto())
+    storia_.Ricomincia(p_.Testi());
+  else
+    storia_.Passo(std::move(prima), p_.Testi());
+}
+
+void FrmMain::Rimetti(Vista vista) {
+  static_cast<Stato_Progetto&>(p_) = std::move(vista.Stato);
+  p_.Modificato = -1;  // the rows that were read last are another state's
+  p_.Compilato = 0;
+  p_.Gestione_Voci(p_.Comandi_Attivi || !p_.Vuoto() ? 1 : 0);
+  txtList->Mostra_Documento(vista.Main);
+  documenti_ = std::move(vista.Procedure);
+  residuo_ = QsciDocument();
+  segni_ = std::move(vista.Segni);
+  storia_.Arrivato(p_.Testi());
+  Specchia();
+}
+
+void FrmMain::Collega_Storia() {
+  for (AwlEditor* testo : {txtList, txtP}) {
+    testo->Oltre_Annulla = {.Possibile = [this] { return storia_.Annullabile(p_.Testi()); },
+                            .Fai = [this] { Rimetti(storia_.Annulla(Come_Sta())); }};
+    testo->Oltre_Ripeti = {.Possibile = [this] { return storia_.Ripetibile(p_.Testi()); },
+                           .Fai = [this] { Rimetti(storia_.Ripeti(Come_Sta())); }};
+  }
+}
+
+}  // namespace tavorno
