@@ -1,137 +1,259 @@
 -- US-01, inversione di marcia. Da avviare con --impianto 1.
 -- KM1 (Q0.0) è la marcia indietro, KM2 (Q0.1) la marcia avanti: SB2 avanti, SB3 indietro.
--- Lampade: blu (Q0.2) = motore fermo, verdi (Q0.3 e Q0.4) = in marcia, gialla (Q0.5) = termico.
--- Fra un senso e l'altro il programma può fermarsi e volere di nuovo il pulsante, oppure invertire
--- dopo una pausa di 2 secondi (tra 1,5 e 3): lo script accetta l'uno e l'altro.
+-- Lampade: blu Q0.2 fermo, verdi Q0.3 indietro e Q0.4 avanti, gialla Q0.5 termico, rossa Q0.6 attesa e
+-- guasto. In marcia il pulsante dell'altro senso può non contare, fermare o invertire dopo la pausa.
 
 usa("comandi.lua")
 
-local avanti, indietro = "Q0.1", "Q0.0"
+local blu, gialla, rossa = "Q0.2", "Q0.5", "Q0.6"
+local avanti = { nome = "avanti", pulsante = "imgStart", uscita = "Q0.1", lampada = "Q0.4", contattore = "imgKM2" }
+local indietro = { nome = "indietro", pulsante = "imgInd", uscita = "Q0.0", lampada = "Q0.3", contattore = "imgKm1" }
+local function altro(senso) return senso == avanti and indietro or avanti end
 
-local function fermo() return not acceso(avanti) and not acceso(indietro) end
+local function chiuso(senso) return elemento(senso.contattore).Picture == "imgKMON" end
 local function insieme()
-  return elemento("imgKm1").Picture == "imgKMON" and elemento("imgKM2").Picture == "imgKMON"
+  return chiuso(avanti) and chiuso(indietro) or acceso(avanti.uscita) and acceso(indietro.uscita)
+end
+local function fermo() return not acceso(avanti.uscita) and not acceso(indietro.uscita) end
+local function gira_in(senso)
+  return acceso(senso.uscita) and chiuso(senso) and not acceso(altro(senso).uscita)
 end
 
--- Lascia passare il tempo e controlla a ogni scansione che i contattori non siano chiusi insieme.
-local function sorveglia(ms)
-  return not attendi_fino(insieme, ms)
+-- Da fermo, passata la pausa: il pulsante del senso, e il motore deve tenersi.
+local function marcia(senso)
+  attendi(2500)
+  serve(fermo(), "prima del pulsante di marcia il motore è fermo")
+  premi_per(senso.pulsante, 300)
+  serve(sempre(1100, function() return gira_in(senso) end), "il pulsante " .. senso.nome ..
+        " avvia il motore nel suo senso, e il motore resta in marcia")
 end
 
-prova("a riposo", function()
+local function avvia(senso)
   run()
-  attendi(1000)
-  punti(1, fermo(), "senza premere nulla il motore deve restare fermo")
-  punti(1, acceso("Q0.2"), "con il motore fermo la lampada blu deve essere accesa")
-  punti(1, not acceso("Q0.3") and not acceso("Q0.4"),
-        "con il motore fermo le lampade verdi devono essere spente")
-end)
+  marcia(senso)
+end
 
-for _, senso in ipairs {
-  { nome = "avanti", pulsante = "imgStart", uscita = avanti, altra = indietro },
-  { nome = "indietro", pulsante = "imgInd", uscita = indietro, altra = avanti },
-} do
-  local nome, pulsante, uscita, altra = senso.nome, senso.pulsante, senso.uscita, senso.altra
-
-  local function avvia()
-    run()
-    attendi(200)
-    premi_per(pulsante, 300)
-    attendi(3000)
-    return verifica(acceso(uscita), "il pulsante " .. nome .. " deve avviare il motore")
-  end
-
-  prova("marcia " .. nome .. ": parte e resta in marcia", function()
-    avvia()
-    punti(3, acceso(uscita), "rilasciato il pulsante " .. nome .. " il motore deve restare in marcia")
-    punti(1, not acceso(altra), "con la marcia " .. nome .. " l'altro contattore deve essere aperto")
-    punti(1, acceso("Q0.3") ~= acceso("Q0.4"), "con la marcia " .. nome .. " deve essere accesa una sola lampada verde")
-    punti(1, not acceso("Q0.2"), "con il motore in marcia la lampada blu deve essere spenta")
-  end)
-
-  prova("marcia " .. nome .. ": Stop", function()
-    avvia()
-    premi("imgStop")
-    attendi(100)
-    punti(2, fermo(), "premendo Stop il motore deve fermarsi")
-    rilascia("imgStop")
-    attendi(5000)
-    punti(1, fermo(), "rilasciato Stop il motore non deve ripartire da solo")
-  end)
-
-  prova("marcia " .. nome .. ": termico", function()
-    avvia()
-    clic("ImgTer")
-    attendi(200)
-    punti(2, fermo(), "quando scatta il termico il motore deve fermarsi")
-    punti(1, attendi_fino(function() return acceso("Q0.5") end, 2000),
-          "con il termico scattato la lampada gialla deve accendersi")
-    premi_per(pulsante, 300)
-    attendi(5000)
-    punti(1, fermo(), "con il termico scattato il motore non deve partire")
-    clic("ImgTer")
-    attendi(5000)
-    punti(1, fermo(), "riarmato il termico il motore non deve ripartire da solo")
-  end)
-
-  prova("marcia " .. nome .. ": emergenza", function()
-    avvia()
-    premi("ImgEm")
-    attendi(100)
-    punti(2, fermo(), "con l'emergenza il motore deve fermarsi")
-    rilascia("ImgEm")
-    attendi(5000)
-    punti(1, fermo(), "finita l'emergenza il motore non deve ripartire da solo")
-  end)
-
-  prova("dalla marcia " .. nome .. " all'altra", function()
-    avvia()
-    local altro = nome == "avanti" and "imgInd" or "imgStart"
-    local mai, aperto, pausa = true, nil, nil
-    local function guarda(ms)
-      for _ = 1, ms do
-        attendi(1)
-        if insieme() then mai = false end
-        if aperto then aperto = aperto + 1 end
-        if not aperto and not acceso(uscita) then aperto = 0 end
-        if aperto and not pausa and acceso(altra) then pausa = aperto end
+-- Guarda a ogni millesimo: se i contattori sono mai chiusi insieme, quanto aspetta l'inversione e per
+-- quanto intanto è accesa la rossa. "aperto" conta da quando il contattore del senso si è aperto.
+local function osserva(senso)
+  local v = { mai = true, rossa = 0 }
+  function v.guarda(ms)
+    for _ = 1, ms do
+      attendi(1)
+      if insieme() then v.mai = false end
+      if not v.aperto and not acceso(senso.uscita) then v.aperto = 0 end
+      if v.aperto and not v.pausa then
+        v.aperto = v.aperto + 1
+        if acceso(rossa) then v.rossa = v.rossa + 1 end
+        if acceso(altro(senso).uscita) then v.pausa = v.aperto end
       end
     end
-    premi(altro)
-    guarda(300)
-    rilascia(altro)
-    guarda(8000)
-    punti(4, mai, "i due contattori non devono mai essere chiusi insieme")
-    punti(2, not pausa or (pausa >= 1500 and pausa <= 3000),
-          "prima di invertire il motore deve restare fermo circa 2 secondi, non " .. tostring(pausa) .. " ms")
-    premi_per("imgStop", 300)
-    attendi(3000)
-    premi_per(altro, 300)
-    attendi(3000)
-    punti(2, acceso(altra), "dopo uno Stop il motore deve poter partire nell'altro senso")
+  end
+  return v
+end
+
+local function giusta(pausa) return pausa >= 1500 and pausa <= 3000 end
+
+local rischi, prove_sicure = {}, {}
+local function rischio(nome, valore, funzione)
+  rischi[#rischi + 1] = funzione
+  prove_sicure[#prove_sicure + 1] = { nome, valore, funzione }
+end
+
+for _, senso in ipairs { avanti, indietro } do
+  rischio("Stop in marcia " .. senso.nome, 2, function(chiedi)
+    marcia(senso)
+    premi("imgStop")
+    attendi(100)
+    chiedi(1, fermo(), "premuto Stop il motore si ferma entro un decimo di secondo")
+    rilascia("imgStop")
+    chiedi(1, sempre(4000, fermo), "rilasciato Stop il motore non riparte da solo")
+  end)
+
+  rischio("termico in marcia " .. senso.nome, 3, function(chiedi)
+    marcia(senso)
+    clic("ImgTer")
+    attendi(100)
+    chiedi(1, fermo(), "scattato il termico il motore si ferma entro un decimo di secondo")
+    premi_per(senso.pulsante, 300)
+    chiedi(1, sempre(3000, fermo), "con il termico scattato il motore non parte")
+    clic("ImgTer")
+    chiedi(1, sempre(4000, fermo), "riarmato il termico il motore non riparte da solo")
+  end)
+
+  rischio("emergenza in marcia " .. senso.nome, 3, function(chiedi)
+    marcia(senso)
+    premi("ImgEm")
+    attendi(100)
+    chiedi(1, fermo(), "premuto SB4 (emergenza) il motore si ferma entro un decimo di secondo")
+    premi_per(senso.pulsante, 300)
+    chiedi(1, sempre(3000, fermo), "con l'emergenza premuta il motore non parte")
+    rilascia("ImgEm")
+    chiedi(1, sempre(4000, fermo), "rilasciata l'emergenza il motore non riparte da solo")
+  end)
+
+  rischio("interblocco dalla marcia " .. senso.nome, 3, function(chiedi)
+    marcia(senso)
+    local v = osserva(senso)
+    premi(altro(senso).pulsante)
+    v.guarda(300)
+    rilascia(altro(senso).pulsante)
+    v.guarda(5000)
+    chiedi(2, v.mai, "premendo l'altro pulsante in marcia i due contattori non sono mai chiusi insieme")
+    premi_per("imgStop", 200)
+    chiedi(1, sempre(4000, fermo), "uno Stop dopo l'altro pulsante ferma il motore, che non riparte da solo")
   end)
 end
 
-prova("i due pulsanti insieme", function()
-  run()
-  attendi(200)
+rischio("i due pulsanti insieme", 3, function(chiedi)
+  marcia(avanti)
+  premi_per("imgStop", 200)
+  attendi(2500)
+  local v = osserva(avanti)
   premi("imgStart")
   premi("imgInd")
-  local mai = sorveglia(3000)
+  v.guarda(3000)
   rilascia("imgStart")
   rilascia("imgInd")
-  punti(3, sorveglia(8000) and mai,
-        "con i due pulsanti premuti insieme non devono chiudersi i due contattori")
+  v.guarda(4000)
+  chiedi(3, v.mai, "con i due pulsanti premuti insieme i due contattori non sono mai chiusi insieme")
+  premi_per("imgStop", 200)
 end)
 
-prova("contattore incollato", function()
-  run()
-  attendi(200)
-  doppio_clic("imgKm1")
-  attendi(100)
-  premi("imgStart")
-  local mai = not attendi_fino(function() return acceso(avanti) end, 300)
-  rilascia("imgStart")
-  mai = not attendi_fino(function() return acceso(avanti) end, 5000) and mai
-  punti(3, mai, "con KM1 incollato (KM1a chiuso) KM2 non deve essere comandato")
+rischio("arresti durante l'attesa", 2, function(chiedi)
+  for _, arresto in ipairs { "imgStop", "ImgEm" } do
+    marcia(avanti)
+    premi_per("imgStop", 200)
+    premi_per("imgInd", 300)
+    premi_per(arresto, 200)
+    chiedi(1, sempre(5000, fermo), arresto == "imgStop" and
+           "uno Stop durante l'attesa la annulla: il motore non parte da solo" or
+           "l'emergenza durante l'attesa la annulla: il motore non parte da solo")
+  end
 end)
+
+rischio("fermata del PLC", 2, function(chiedi)
+  marcia(avanti)
+  stop()
+  attendi(500)
+  run()
+  chiedi(2, sempre(4000, fermo), "dopo STOP e RUN del PLC il motore non riparte da solo")
+end)
+
+prova("marcia avanti", 3, function()
+  avvia(avanti)
+  punti(3, sempre(3000, function() return gira_in(avanti) end), "SB2 (avanti) chiude soltanto KM2 e il motore resta in marcia")
+end)
+
+prova("marcia indietro", 3, function()
+  avvia(indietro)
+  punti(3, sempre(3000, function() return gira_in(indietro) end), "SB3 (indietro) chiude soltanto KM1 e il motore resta in marcia")
+end)
+
+for _, r in ipairs(prove_sicure) do
+  prova(r[1], r[2], function()
+    run()
+    r[3](punti)
+  end)
+end
+
+for _, senso in ipairs { avanti, indietro } do
+  prova("pausa dopo la marcia " .. senso.nome, 4, function()
+    avvia(senso)
+    local v = osserva(senso)
+    premi(altro(senso).pulsante)
+    v.guarda(300)
+    rilascia(altro(senso).pulsante)
+    v.guarda(5000)
+    local da_solo = not v.pausa or giusta(v.pausa) and v.rossa >= 1000
+    premi_per("imgStop", 200)
+    attendi(3000)
+    marcia(senso)
+    v = osserva(senso)
+    premi("imgStop")
+    v.guarda(200)
+    rilascia("imgStop")
+    premi(altro(senso).pulsante)
+    v.guarda(1000)
+    rilascia(altro(senso).pulsante)
+    v.guarda(3000)
+    local attesa, accesa_la_rossa = v.pausa, v.rossa
+    if not attesa then premi_per(altro(senso).pulsante, 300) end
+    attendi(500)
+    serve(gira_in(altro(senso)), "passata la pausa il motore parte nell'altro senso")
+    punti(2, da_solo and (not attesa or giusta(attesa)),
+          "fra un senso e l'altro passano 2 secondi (tra 1,5 e 3), anche con uno Stop in mezzo")
+    punti(2, accesa_la_rossa >= 500, "mentre il motore aspetta di invertire la rossa è accesa")
+  end)
+end
+
+prova("lampade", 5, function()
+  run()
+  attendi(300)
+  local ferme = fissa(blu) and spenta(avanti.lampada) and spenta(indietro.lampada)
+  local altre = spenta(gialla) and spenta(rossa)
+  for _, senso in ipairs { avanti, indietro } do
+    marcia(senso)
+    punti(1, fissa(senso.lampada) and spenta(altro(senso).lampada) and spenta(blu),
+          "in marcia " .. senso.nome .. " è accesa soltanto la sua verde, e la blu è spenta")
+    altre = altre and spenta(gialla) and spenta(rossa)
+    premi_per("imgStop", 200)
+  end
+  punti(1, ferme, "con il motore fermo la blu è accesa e le verdi sono spente")
+  marcia(avanti)
+  clic("ImgTer")
+  attendi(100)
+  punti(1, fissa(gialla), "con il termico scattato la gialla è accesa fissa")
+  clic("ImgTer")
+  attendi(100)
+  punti(1, altre and spenta(gialla), "con il termico a posto la gialla è spenta; senza attesa e senza guasto lo è la rossa")
+end)
+
+-- Il guasto c'è già: resta ricordato, si vede, e Stop lo cancella.
+local function guasto_ricordato()
+  punti(1, lampeggia(rossa), "il guasto di un contattore fa lampeggiare la rossa")
+  premi_per("imgStart", 300)
+  local bloccato = sempre(3000, fermo)
+  premi_per("imgInd", 300)
+  punti(1, sempre(3000, fermo) and bloccato, "con il guasto presente il motore non parte")
+  premi_per("imgStop", 200)
+  local spenta_la_rossa = spenta(rossa)
+  attendi(2000)
+  premi_per("imgStart", 300)
+  attendi(200)
+  punti(1, spenta_la_rossa and gira_in(avanti), "Stop cancella il guasto: la rossa si spegne e il motore può ripartire")
+end
+
+prova("il contattore si apre da solo", 5, function()
+  for _, senso in ipairs { indietro, avanti } do
+    run()
+    marcia(senso)
+    doppio_clic(senso.contattore)
+    attendi(200)
+    serve(punti(1, sempre(1000, fermo), "se si apre il contattore della marcia " .. senso.nome .. " il programma toglie il comando"),
+          "aperto il contattore il comando è tolto")
+    if senso == indietro then premi_per("imgStop", 200) end
+  end
+  guasto_ricordato()
+end)
+
+prova("contattore incollato", 6, function()
+  avvia(avanti)
+  premi_per("imgStop", 200)
+  attendi(3000)
+  doppio_clic(avanti.contattore)
+  attendi(200)
+  punti(2, lampeggia(rossa), "anche KM2 incollato è un guasto: la rossa lampeggia")
+  premi_per("imgStop", 200)
+  attendi(3000)
+  doppio_clic(indietro.contattore)
+  attendi(50)
+  premi("imgStart")
+  attendi(100)
+  punti(1, not acceso(avanti.uscita), "con KM1 incollato (KM1a a 1) KM2 non è comandato")
+  rilascia("imgStart")
+  attendi(100)
+  guasto_ricordato()
+end)
+
+collauda(41, function() end, rischi)
