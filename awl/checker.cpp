@@ -4,6 +4,7 @@
 
 #include "awl/operand.h"
 #include "awl/text.h"
+#include "plc/instructions.h"
 #include "plc/number_text.h"
 
 namespace tavorno {

@@ -6,6 +6,7 @@
 
 #include "awl/text.h"
 #include "plc/codepage.h"
+#include "plc/instructions.h"
 
 namespace tavorno {
 
@@ -81,12 +82,11 @@ std::string Righe_Lette::Cerca_Com(const std::string& riga, Posto_Riga posto) {
   if (Tabella.size() <= libera) Tabella.resize(libera + 1);
   Riga_Src& sorgente = Tabella[libera];
   sorgente.Posto = posto;
-  if (riga.starts_with("NETWORK")) {
-    Dividi_Network(riga, commenti_[1], sorgente);
-    return sorgente.Testo_Lista;
-  }
-  if (riga.starts_with("SBR") || riga.starts_with("INT")) {
-    Dividi_Blocco(riga, sorgente);
+  if (const Istruzione* intera = Cerca_Testa(riga)) {
+    if (intera->Nel_Programma == Compito::Segmento)
+      Dividi_Network(riga, commenti_[1], sorgente);
+    else
+      Dividi_Blocco(riga, sorgente);
     return sorgente.Testo_Lista;
   }
 

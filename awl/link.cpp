@@ -7,16 +7,12 @@ namespace tavorno {
 
 namespace {
 
-bool Temporizza(const Riga_PLC& riga) {
-  return riga.Istr == "TON" || riga.Istr == "TOF" || riga.Istr == "TONR";
-}
-
 /// The timers on rows `da`..`fino_a`, behind the unused entry 0.
 std::vector<std::int16_t> Timer_Tra(std::span<const Riga_PLC> righe, std::size_t da,
                                     std::size_t fino_a) {
   std::vector<std::int16_t> lista = {0};
   for (std::size_t i = da; i <= fino_a; ++i) {
-    if (Temporizza(righe[i])) lista.push_back(righe[i].Num1);
+    if (righe[i].Nel_Programma == Compito::Temporizzatore) lista.push_back(righe[i].Num1);
   }
   return lista;
 }
@@ -24,7 +20,7 @@ std::vector<std::int16_t> Timer_Tra(std::span<const Riga_PLC> righe, std::size_t
 /// The row that closes the procedure which begins at `inizio`; the last row if none does.
 std::size_t Fine_Procedura(std::span<const Riga_PLC> righe, std::size_t inizio) {
   std::size_t riga = inizio;
-  while (riga + 1 < righe.size() && righe[riga].Istr != "RET") ++riga;
+  while (riga + 1 < righe.size() && righe[riga].Nel_Programma != Compito::Fine_Procedura) ++riga;
   return riga;
 }
 
@@ -58,10 +54,10 @@ Passo Assegna_JMP(std::span<Riga_PLC> righe) {
   std::size_t meta = 0;  // not reset between jumps
   for (std::size_t i = 0; i < righe.size(); ++i) {
     Riga_PLC& salto = righe[i];
-    if (salto.Istr != "JMP") continue;
+    if (salto.Nel_Programma != Compito::Salto) continue;
     int etichette = 0;
     for (std::size_t j = 0; j < righe.size(); ++j) {
-      if (righe[j].Istr != "LBL" || righe[j].Num1 != salto.Num1) continue;
+      if (righe[j].Nel_Programma != Compito::Etichetta || righe[j].Num1 != salto.Num1) continue;
       meta = j;
       salto.Salto = static_cast<std::int16_t>(j);
       ++etichette;
@@ -76,12 +72,13 @@ Passo Assegna_SBR(std::span<Riga_PLC> righe) {
   Conto conto;
   for (std::size_t i = 0; i < righe.size(); ++i) {
     Riga_PLC& chiamata = righe[i];
-    if (chiamata.Istr != "CALL") continue;
+    if (chiamata.Nel_Programma != Compito::Chiamata) continue;
     int procedure = 0;
     const std::string nome = Maiuscole(chiamata.Area1);
     for (std::size_t j = 0; j < righe.size(); ++j) {
       const Riga_PLC& procedura = righe[j];
-      if (!procedura.Istr.starts_with("SBR") || Maiuscole(procedura.Area1) != nome) continue;
+      if (procedura.Nel_Programma != Compito::Procedura || Maiuscole(procedura.Area1) != nome)
+        continue;
       chiamata.Salto = static_cast<std::int16_t>(j);
       ++procedure;
       chiamata.Lista_T = Timer_Tra(righe, j, Fine_Procedura(righe, j));
@@ -101,11 +98,12 @@ Passo Assegna_SCR(std::span<Riga_PLC> righe) {
     Riga_PLC& sezione = righe[i];
     sezione.Abil_SCR = 1;
     passo.Righe_Viste = static_cast<int>(i) + 1;
-    if (sezione.Istr != "LSCR") continue;
+    if (sezione.Nel_Programma != Compito::Passo) continue;
     sezione.SCR_Prima = static_cast<std::int16_t>(i + 1);
     std::size_t j = i + 1;
-    for (; j < righe.size() && righe[j].Istr != "SCRE"; ++j) {
-      if (righe[j].Istr != "LBL" && righe[j].Istr != "JMP") continue;
+    for (; j < righe.size() && righe[j].Nel_Programma != Compito::Fine_Passo; ++j) {
+      const Compito compito = righe[j].Nel_Programma;
+      if (compito != Compito::Etichetta && compito != Compito::Salto) continue;
       guasto(j, "LBL e JMP non possono stare tra LSCR e SCRE");
       return passo;
     }

@@ -2,6 +2,7 @@
 #include "awl/source_line.h"
 
 #include "awl/operand.h"
+#include "plc/instructions.h"
 #include "plc/number_text.h"
 
 namespace tavorno {
@@ -27,7 +28,8 @@ std::int16_t Riempi(const std::string& testo, std::string& area, std::int16_t& n
 }  // namespace
 
 bool Nomina_Procedura(const std::string& istr) {
-  return istr.starts_with("SBR") || istr.starts_with("INT") || istr == "CALL";
+  const Istruzione* istruzione = Cerca_Istruzione(istr);
+  return istruzione && Nomina_Procedura(istruzione->Nel_Programma);
 }
 
 void Riempi_Riga(Riga_PLC& riga, const Riga_Src& sorgente) {

@@ -45,10 +45,11 @@ void Ciclo_Continuo(benchmark::State& stato) {
   Plc plc(orologio);
   Carica(plc, Misto(299));
   constexpr int scansioni = 100;
-  plc.Hook.Righe_Per_Cessione = righe_per_volta;
-  plc.Hook.Cedi = [&] {
-    if (plc.N_Cicli >= scansioni) plc.Ferma = -1;
-  };
+  const Iscrizione ascolto = plc.Hook.Ascolta_Cedi(
+      [&] {
+        if (plc.N_Cicli >= scansioni) plc.Ferma = -1;
+      },
+      righe_per_volta);
   std::int64_t righe = 0;
   for (auto _ : stato) {
     plc.Ferma = 0;

@@ -53,10 +53,11 @@ double Righe_Al_Secondo(Plc& plc, double secondi, const std::function<void()>& c
 double Senza_Finestre(double secondi) {
   Cpu cpu;
   const auto fine = Orario::now() + std::chrono::duration<double>(secondi);
-  cpu.plc.Hook.Righe_Per_Cessione = Guida_Corsa::Righe_Per_Sguardo;
-  cpu.plc.Hook.Cedi = [&] {
-    if (Orario::now() > fine) cpu.plc.mnuPlcStop();
-  };
+  const Iscrizione ascolto = cpu.plc.Hook.Ascolta_Cedi(
+      [&] {
+        if (Orario::now() > fine) cpu.plc.mnuPlcStop();
+      },
+      Guida_Corsa::Righe_Per_Sguardo);
   return Righe_Al_Secondo(cpu.plc, secondi, [&] { cpu.plc.mnuPlcRun(); });
 }
 

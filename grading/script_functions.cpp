@@ -133,7 +133,7 @@ void Scrivi(lua_State* stato, Esame& esame, const char* funzione, const Indirizz
 
 int Fa_Ingresso(lua_State* stato, Esame& esame) {
   const Indirizzo indirizzo = Arg_Indirizzo(stato, "ingresso");
-  if (indirizzo.Dove != Campo::I) throw Errore_Script("ingresso: serve un punto tra I0.0 e I1.7");
+  if (indirizzo.Dove != Area::I) throw Errore_Script("ingresso: serve un punto tra I0.0 e I1.7");
   Scrivi(stato, esame, "ingresso", indirizzo);
   return 0;
 }
@@ -148,7 +148,7 @@ int Fa_Analogico(lua_State* stato, Esame& esame) {
 int Fa_Leggi(lua_State* stato, Esame& esame) {
   const Indirizzo indirizzo = Arg_Indirizzo(stato, "leggi");
   const double valore = Leggi_Cella(esame.Banco().Cpu(), indirizzo);
-  if (indirizzo.Dove == Campo::AC)
+  if (indirizzo.Dove == Area::AC)
     lua_pushnumber(stato, valore);
   else
     lua_pushinteger(stato, static_cast<lua_Integer>(valore));

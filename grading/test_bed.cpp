@@ -35,7 +35,8 @@ std::string Elenco(const std::vector<std::string>& nomi) {
 Collaudo::Collaudo(const Memoria* programma, const std::string& motivo, const Esercizio* esercizio,
                    Scorte& scorte)
     : scorte_(scorte) {
-  plc_.Hook.Mostra = [this](const Avviso& avviso) { avvisi_.push_back(avviso); };
+  ascolto_ =
+      plc_.Hook.Mostra.Ascolta([this](const Avviso& avviso) { avvisi_.push_back(avviso); });
   if (programma)
     static_cast<Memoria&>(plc_) = *programma;
   else

@@ -101,6 +101,7 @@ class Collaudo {
   Stato_Impianto stato_;
   std::unique_ptr<Collegamento> filo_;
   std::vector<Avviso> avvisi_;
+  Iscrizione ascolto_;
   std::string guasto_, listato_;
   std::int64_t perso_ = 0;  // time that passed over a broken CPU
 };

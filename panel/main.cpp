@@ -30,7 +30,8 @@ int main(int argc, char** argv) {
   Orologio orologio;
   Plc plc(orologio);
   Progetto progetto(plc, {});  // the editor brings its dialogs along
-  plc.Hook.Mostra = [](const Avviso& avviso) { Mostra_Avviso(nullptr, avviso); };
+  const Iscrizione messaggi =
+      plc.Hook.Mostra.Ascolta([](const Avviso& avviso) { Mostra_Avviso(nullptr, avviso); });
   const QString cartella = Applicazione::applicationDirPath();
   Guida guida{cartella + "/HTML/", cartella + "/HTML/Panel/", {}};
 

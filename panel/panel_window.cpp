@@ -141,7 +141,6 @@ void FrmPLC::Abilita_Programma(bool caricato) {
 void FrmPLC::Apri_Scalaro() {
   const QString programma = QStandardPaths::findExecutable(QStringLiteral("Scalaro.exe"));
   if (!programma.isEmpty() && QProcess::startDetached(programma, {})) return;
-  if (!plc_.Hook.Mostra) return;
   plc_.Hook.Mostra({"Attenzione!",
                     programma.isEmpty()
                         ? "Il programma \"Scalaro.exe\" non è installato in questo computer."

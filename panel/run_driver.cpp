@@ -8,8 +8,7 @@ namespace tavorno {
 
 Guida_Corsa::Guida_Corsa(Plc& plc, std::function<void()> aggiorna) : plc_(plc) {
   cronometro_.start();
-  plc_.Hook.Cedi = [this] { Cedi(); };
-  plc_.Hook.Righe_Per_Cessione = Righe_Per_Sguardo;
+  cessione_ = plc_.Hook.Ascolta_Cedi([this] { Cedi(); }, Righe_Per_Sguardo);
 
   // A stopped CPU has a living plant, a cover that slides and blinking lamps: they need the clock.
   riposo_.setTimerType(Qt::PreciseTimer);
@@ -21,11 +20,6 @@ Guida_Corsa::Guida_Corsa(Plc& plc, std::function<void()> aggiorna) : plc_(plc) {
   schermo_.setInterval(Schermo);
   schermo_.callOnTimeout(std::move(aggiorna));
   schermo_.start();
-}
-
-Guida_Corsa::~Guida_Corsa() {
-  plc_.Hook.Cedi = nullptr;
-  plc_.Hook.Righe_Per_Cessione = 1;
 }
 
 void Guida_Corsa::Ferma() {

@@ -17,7 +17,6 @@ class Guida_Corsa {
  public:
   /// Becomes the CPU's yield. `aggiorna` refreshes the screen and runs at most 50 times a second.
   Guida_Corsa(Plc& plc, std::function<void()> aggiorna);
-  ~Guida_Corsa();
   Guida_Corsa(const Guida_Corsa&) = delete;
   Guida_Corsa& operator=(const Guida_Corsa&) = delete;
 
@@ -41,6 +40,7 @@ class Guida_Corsa {
   void Porta_Al_Presente(Istante adesso);
 
   Plc& plc_;
+  Iscrizione cessione_;
   QElapsedTimer cronometro_;
   QTimer riposo_, schermo_;
   Istante scansione_{0}, eventi_{0};

@@ -19,11 +19,7 @@ Collegamento::Collegamento(Plc& plc, Stato_Impianto& stato, const Esercizio& ese
 
   macchina_ = esercizio_.Crea(plc_);
   for (std::size_t n = 0; n < 2; ++n) {
-    prima_[n] = plc_.SQ[n].Change;
-    plc_.SQ[n].Change = [this, n] {
-      if (prima_[n]) prima_[n]();
-      Uscite_Cambiate();
-    };
+    ascolto_uscite_[n] = plc_.SQ[n].Change.Ascolta([this] { Uscite_Cambiate(); });
   }
 }
 
@@ -32,7 +28,7 @@ Collegamento::~Collegamento() {
 }
 
 void Collegamento::Carica() {
-  macchina_->Change = [this] { Ingressi_Cambiati(); };
+  ascolto_macchina_ = macchina_->Change.Ascolta([this] { Ingressi_Cambiati(); });
   if (esercizio_.Attivare) macchina_->Regola(esercizio_.Attivare, 1);
   if (std::ranges::any_of(esercizio_.Cursori, &Cursore::Al_Caricamento)) Scrivi_Cursori();
   Ingressi_Cambiati();
@@ -44,8 +40,8 @@ void Collegamento::Chiudi() {
   LED_Reset();
   if (sportello_) sportello_(Modo_Sportello::Interruttori);
   stato_ = {};
-  macchina_->Change = nullptr;
-  for (std::size_t n = 0; n < 2; ++n) plc_.SQ[n].Change = prima_[n];
+  ascolto_macchina_.Termina();
+  for (Iscrizione& ascolto : ascolto_uscite_) ascolto.Termina();
 }
 
 void Collegamento::chkSim(bool spuntato) {

@@ -67,7 +67,8 @@ class Collegamento {
   const Esercizio& esercizio_;
   std::function<void(Modo_Sportello)> sportello_;
   std::unique_ptr<Impianto> macchina_;
-  std::array<std::function<void()>, 2> prima_;  // what listened to SQ before
+  Iscrizione ascolto_macchina_;
+  std::array<Iscrizione, 2> ascolto_uscite_;
   bool aperto_ = true;
   bool chkSim_ = false;
   std::vector<int> valori_;  // of the sliders

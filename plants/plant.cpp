@@ -104,7 +104,7 @@ void Impianto::Invia() {
 void Impianto::txtC(std::string testo) {
   if (testo == txtC_) return;
   txtC_ = std::move(testo);
-  if (Change) Change();
+  Change();
 }
 
 }  // namespace tavorno

@@ -12,6 +12,7 @@
 
 #include "plants/parts.h"
 #include "plants/scene.h"
+#include "plc/subscription.h"
 
 namespace tavorno {
 
@@ -52,7 +53,7 @@ class Impianto {
   const std::string& Stato_Q() const { return stato_q_; }
   void Stato_Q(std::string_view testo);
 
-  std::function<void()> Change;  ///< the inputs may have changed
+  Annuncio<> Change;  ///< the inputs may have changed
 
   /// The user's hand on a figure, by name. A click comes behind its press and release; where no
   /// double click is listened to, the second press of two is an ordinary one. False when nothing
@@ -93,14 +94,14 @@ class Impianto {
   /// Any other text that makes `Change` heard.
   void txtC(std::string testo);
 
-  // parts.cpp: lets the figures of these rows answer to the mouse
+  // plant_parts.cpp: lets the figures of these rows answer to the mouse
   void Monta(std::span<const Riga_Pulsante> righe);
   void Monta(std::span<const Riga_Commutatore> righe);
-  // parts.cpp: the latching button `ImgEm` with its contact `imgCEM`, normally closed
+  // plant_parts.cpp: the latching button `ImgEm` with its contact `imgCEM`, normally closed
   void Monta_Emergenza(int ingresso);
-  // parts.cpp: shows a lamp, lit when `stato` is "1"
+  // plant_parts.cpp: shows a lamp, lit when `stato` is "1"
   void Mostra(const Riga_Lampada& lampada, std::string_view stato);
-  // parts.cpp: shows a contactor with contact and wire, and sets its contact's input
+  // plant_parts.cpp: shows a contactor with contact and wire, and sets its contact's input
   void Mostra(const Riga_Contattore& contattore, bool eccitato);
 
   std::map<std::string, Regolatore, std::less<>> Regolatori;

@@ -2,26 +2,23 @@
 #include "plc/area.h"
 
 #include <algorithm>
-#include <array>
 
 namespace tavorno {
 
 namespace {
-// In the order of the enumeration.
-constexpr std::array<std::string_view, 28> testi = {
-    "",   "",   "I",  "Q",  "M",   "SM",  "S",  "T",  "C", "IB", "QB", "MB",  "SMB", "VB",
-    "IW", "QW", "MW", "VW", "AIW", "AQW", "VD", "AC", "K", "V",  "L",  "SMW", "SW",  "LW"};
-static_assert(testi.size() == static_cast<std::size_t>(Area::LW) + 1);
+constexpr bool In_Ordine() {
+  for (std::size_t posto = 0; posto < tabella_aree.size(); ++posto) {
+    if (static_cast<std::size_t>(tabella_aree[posto].Codice) != posto) return false;
+  }
+  return true;
+}
+static_assert(In_Ordine() && tabella_aree.back().Codice == Area::LW);
 }  // namespace
 
 Area Cerca_Area(std::string_view testo) {
   if (testo.empty()) return Area::Nessuna;
-  const auto* trovata = std::find(testi.begin(), testi.end(), testo);
-  return trovata == testi.end() ? Area::Ignota : static_cast<Area>(trovata - testi.begin());
-}
-
-std::string_view Testo_Area(Area area) {
-  return testi[static_cast<std::size_t>(area)];
+  const auto* trovata = std::ranges::find(tabella_aree, testo, &Riga_Area::Nome);
+  return trovata == tabella_aree.end() ? Area::Ignota : trovata->Codice;
 }
 
 }  // namespace tavorno

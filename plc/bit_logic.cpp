@@ -2,6 +2,8 @@
 // The logic stack, contacts and outputs.
 #include "plc/byte_text.h"
 #include "plc/checked.h"
+#include "plc/instructions.h"
+#include "plc/operands.h"
 #include "plc/plc.h"
 
 namespace tavorno {
@@ -39,15 +41,17 @@ std::int16_t Negato(std::int16_t bit) {
 }
 }  // namespace
 
-std::int16_t Plc::AC1_Bit(Area area, int num, int bit, std::int16_t& err) const {
+std::int16_t Memoria::AC1_Bit(Area area, int num, int bit, std::int16_t& err) const {
   return Leggi_Bit(*this, area, num, bit, err);
 }
 
+namespace {
+
 /// A contact on an image bit: `unisci` makes the stack operation out of the bit that was read.
 template <class Unisci>
-Esito Plc::Contatto(const Riga_PLC& riga, Unisci unisci) {
+Esito Contatto(Plc& plc, const Riga_PLC& riga, Unisci unisci) {
   std::int16_t err = 0;
-  const std::int16_t bit = Leggi_Bit(*this, riga.Codice1, riga.Num1, riga.Bit1, err);
+  const std::int16_t bit = Leggi_Bit(plc, riga.Codice1, riga.Num1, riga.Bit1, err);
   if (err) return Esito::Errore;
   unisci(bit);
   return Esito::Avanti;
@@ -55,95 +59,106 @@ Esito Plc::Contatto(const Riga_PLC& riga, Unisci unisci) {
 
 /// The immediate forms take the physical point of an input, whatever the area text.
 template <class Unisci>
-Esito Plc::Contatto_Immediato(const Riga_PLC& riga, Unisci unisci) {
-  unisci(std::int16_t{IP_I[riga.Num1].Bit_Dir[riga.Bit1]});
+Esito Contatto_Immediato(Plc& plc, const Riga_PLC& riga, Unisci unisci) {
+  unisci(std::int16_t{plc.IP_I[riga.Num1].Bit_Dir[riga.Bit1]});
   return Esito::Avanti;
 }
 
-Esito Plc::Istr_LD(Riga_PLC& riga) {
-  return Contatto(riga, [this](std::int16_t x) { GestStak(1, x); });
+Esito Istr_LD(Plc& plc, Riga_PLC& riga) {
+  return Contatto(plc, riga, [&plc](std::int16_t x) { plc.GestStak(Op_Pila::Spingi, x); });
 }
-Esito Plc::Istr_LDN(Riga_PLC& riga) {
-  return Contatto(riga, [this](std::int16_t x) { GestStak(1, Negato(x)); });
+Esito Istr_LDN(Plc& plc, Riga_PLC& riga) {
+  return Contatto(plc, riga, [&plc](std::int16_t x) { plc.GestStak(Op_Pila::Spingi, Negato(x)); });
 }
-Esito Plc::Istr_A(Riga_PLC& riga) {
-  return Contatto(riga, [this](std::int16_t x) { Cima_E(x); });
+Esito Istr_A(Plc& plc, Riga_PLC& riga) {
+  return Contatto(plc, riga, [&plc](std::int16_t x) { Cima_E(plc, x); });
 }
-Esito Plc::Istr_AN(Riga_PLC& riga) {
-  return Contatto(riga, [this](std::int16_t x) { Cima_E(Negato(x)); });
+Esito Istr_AN(Plc& plc, Riga_PLC& riga) {
+  return Contatto(plc, riga, [&plc](std::int16_t x) { Cima_E(plc, Negato(x)); });
 }
-Esito Plc::Istr_O(Riga_PLC& riga) {
-  return Contatto(riga, [this](std::int16_t x) { Cima_O(x); });
+Esito Istr_O(Plc& plc, Riga_PLC& riga) {
+  return Contatto(plc, riga, [&plc](std::int16_t x) { Cima_O(plc, x); });
 }
-Esito Plc::Istr_ON(Riga_PLC& riga) {
-  return Contatto(riga, [this](std::int16_t x) { Cima_O(Negato(x)); });
+Esito Istr_ON(Plc& plc, Riga_PLC& riga) {
+  return Contatto(plc, riga, [&plc](std::int16_t x) { Cima_O(plc, Negato(x)); });
 }
-Esito Plc::Istr_LDI(Riga_PLC& riga) {
-  return Contatto_Immediato(riga, [this](std::int16_t x) { GestStak(1, x); });
+Esito Istr_LDI(Plc& plc, Riga_PLC& riga) {
+  return Contatto_Immediato(plc, riga,
+                            [&plc](std::int16_t x) { plc.GestStak(Op_Pila::Spingi, x); });
 }
-Esito Plc::Istr_LDNI(Riga_PLC& riga) {
-  return Contatto_Immediato(riga, [this](std::int16_t x) { GestStak(1, Negato(x)); });
+Esito Istr_LDNI(Plc& plc, Riga_PLC& riga) {
+  return Contatto_Immediato(plc, riga,
+                            [&plc](std::int16_t x) { plc.GestStak(Op_Pila::Spingi, Negato(x)); });
 }
-Esito Plc::Istr_AI(Riga_PLC& riga) {
-  return Contatto_Immediato(riga, [this](std::int16_t x) { Cima_E(x); });
+Esito Istr_AI(Plc& plc, Riga_PLC& riga) {
+  return Contatto_Immediato(plc, riga, [&plc](std::int16_t x) { Cima_E(plc, x); });
 }
-Esito Plc::Istr_ANI(Riga_PLC& riga) {
-  return Contatto_Immediato(riga, [this](std::int16_t x) { Cima_E(Negato(x)); });
+Esito Istr_ANI(Plc& plc, Riga_PLC& riga) {
+  return Contatto_Immediato(plc, riga, [&plc](std::int16_t x) { Cima_E(plc, Negato(x)); });
 }
-Esito Plc::Istr_OI(Riga_PLC& riga) {
-  return Contatto_Immediato(riga, [this](std::int16_t x) { Cima_O(x); });
+Esito Istr_OI(Plc& plc, Riga_PLC& riga) {
+  return Contatto_Immediato(plc, riga, [&plc](std::int16_t x) { Cima_O(plc, x); });
 }
-Esito Plc::Istr_ONI(Riga_PLC& riga) {
-  return Contatto_Immediato(riga, [this](std::int16_t x) { Cima_O(Negato(x)); });
+Esito Istr_ONI(Plc& plc, Riga_PLC& riga) {
+  return Contatto_Immediato(plc, riga, [&plc](std::int16_t x) { Cima_O(plc, Negato(x)); });
 }
 
-Esito Plc::Istr_NOT(Riga_PLC& /*riga*/) {
-  GestStak(4, Negato(Stak[0]));
+Esito Istr_NOT(Plc& plc, Riga_PLC& /*riga*/) {
+  plc.GestStak(Op_Pila::Cima, Negato(plc.Stak[0]));
   return Esito::Avanti;
 }
 
-Esito Plc::Istr_EU(Riga_PLC& riga) {
+Esito Istr_EU(Plc& plc, Riga_PLC& riga) {
   // A level that is on in the first scan counts as already on: no edge is seen there.
-  const bool nuovo = Primo_Ciclo == 0 && Stak[0] == 1 && riga.Fronte == 0;
-  riga.Fronte = Primo_Ciclo != 0 ? Stak[0] : Stak[0] == 1 ? std::int16_t{1} : std::int16_t{0};
-  GestStak(4, nuovo ? 1 : 0);
+  const bool nuovo = plc.Primo_Ciclo == 0 && plc.Stak[0] == 1 && riga.Fronte == 0;
+  riga.Fronte = plc.Primo_Ciclo != 0 ? plc.Stak[0]
+                : plc.Stak[0] == 1   ? std::int16_t{1}
+                                     : std::int16_t{0};
+  plc.GestStak(Op_Pila::Cima, nuovo ? 1 : 0);
   return Esito::Avanti;
 }
 
-Esito Plc::Istr_ED(Riga_PLC& riga) {
-  const bool caduto = Stak[0] == 0 && riga.Fronte == 1;
-  riga.Fronte = Stak[0] == 1 ? 1 : 0;
-  GestStak(4, caduto ? 1 : 0);
+Esito Istr_ED(Plc& plc, Riga_PLC& riga) {
+  const bool caduto = plc.Stak[0] == 0 && riga.Fronte == 1;
+  riga.Fronte = plc.Stak[0] == 1 ? 1 : 0;
+  plc.GestStak(Op_Pila::Cima, caduto ? 1 : 0);
   return Esito::Avanti;
 }
 
 // ---- stack --------------------------------------------------------------------------------------
 
-Esito Plc::Istr_ALD(Riga_PLC& /*riga*/) {
-  GestStak(2);
+Esito Istr_ALD(Plc& plc, Riga_PLC& /*riga*/) {
+  plc.GestStak(Op_Pila::E_Togli);
   return Esito::Avanti;
 }
-Esito Plc::Istr_OLD(Riga_PLC& /*riga*/) {
-  GestStak(3);
+Esito Istr_OLD(Plc& plc, Riga_PLC& /*riga*/) {
+  plc.GestStak(Op_Pila::O_Togli);
   return Esito::Avanti;
 }
-Esito Plc::Istr_LPS(Riga_PLC& /*riga*/) {
-  GestStak(5);
+Esito Istr_LPS(Plc& plc, Riga_PLC& /*riga*/) {
+  plc.GestStak(Op_Pila::Duplica);
   return Esito::Avanti;
 }
-Esito Plc::Istr_LRD(Riga_PLC& /*riga*/) {
-  GestStak(6);
+Esito Istr_LRD(Plc& plc, Riga_PLC& /*riga*/) {
+  plc.GestStak(Op_Pila::Seconda);
   return Esito::Avanti;
 }
-Esito Plc::Istr_LPP(Riga_PLC& /*riga*/) {
-  GestStak(7);
+Esito Istr_LPP(Plc& plc, Riga_PLC& /*riga*/) {
+  plc.GestStak(Op_Pila::Togli);
   return Esito::Avanti;
 }
 
 // ---- outputs ------------------------------------------------------------------------------------
 
-void Plc::Scrivi_Marker(int riga, int bit, std::uint8_t valore) {
-  Riga_M& marker = Mem_M[riga];
+/// Every instruction that writes M begins with this: its first one finds no text in any row.
+void Inizia_Marker(Memoria& memoria) {
+  if (memoria.Mem_M[0].Txt_B.empty()) memoria.Setta_Marker();
+}
+
+/// One cell of M and, when it changed, the value and the text of its byte. They follow from the
+/// bit: gathering the eight cells again would wait for the one that was just written.
+void Scrivi_Marker(Memoria& memoria, int riga, int bit, std::uint8_t valore) {
+  Riga_M& marker = memoria.Mem_M[riga];
   std::uint8_t& cella = marker.Bit[bit];
   if (cella == valore) return;
   cella = valore;
@@ -155,83 +170,85 @@ void Plc::Scrivi_Marker(int riga, int bit, std::uint8_t valore) {
   Scrivi_Lettura(marker.Txt_B, byte);
 }
 
-Esito Plc::Istr_Assegna(Riga_PLC& riga) {
-  const auto valore = static_cast<std::int16_t>(Stak[0] & riga.Abil_SCR);
+Esito Istr_Assegna(Plc& plc, Riga_PLC& riga) {
+  const auto valore = static_cast<std::int16_t>(plc.Stak[0] & riga.Abil_SCR);
   switch (riga.Codice1) {
     case Area::Q:
-      IP_Q[riga.Num1].Bit_Img[riga.Bit1] = static_cast<std::uint8_t>(valore);
-      Aggiorna_IPQ(riga.Num1);
+      plc.IP_Q[riga.Num1].Bit_Img[riga.Bit1] = static_cast<std::uint8_t>(valore);
+      plc.Aggiorna_IPQ(riga.Num1);
       return Esito::Avanti;
     case Area::M:
-      Inizia_Marker();
-      Scrivi_Marker(riga.Num1, riga.Bit1, static_cast<std::uint8_t>(valore));
+      Inizia_Marker(plc);
+      Scrivi_Marker(plc, riga.Num1, riga.Bit1, static_cast<std::uint8_t>(valore));
       return Esito::Avanti;
     case Area::S:
-      Mem_S[riga.Num1].Bit[riga.Bit1] = valore;
+      plc.Mem_S[riga.Num1].Bit[riga.Bit1] = valore;
       return Esito::Avanti;
     default:
       return Esito::Errore;
   }
 }
 
-Esito Plc::Istr_Assegna_I(Riga_PLC& riga) {
-  Riga_IP& uscite = IP_Q[riga.Num1];
-  const auto valore = static_cast<std::uint8_t>(Stak[0] & riga.Abil_SCR);
+Esito Istr_Assegna_I(Plc& plc, Riga_PLC& riga) {
+  Riga_IP& uscite = plc.IP_Q[riga.Num1];
+  const auto valore = static_cast<std::uint8_t>(plc.Stak[0] & riga.Abil_SCR);
   uscite.Bit_Img[riga.Bit1] = valore;
   uscite.Bit_Dir[riga.Bit1] = valore;
-  Aggiorna_IPQ(riga.Num1);
+  plc.Aggiorna_IPQ(riga.Num1);
   return Esito::Avanti;
 }
 
-Esito Plc::Istr_S(Riga_PLC& riga) {
+Esito Istr_S(Plc& plc, Riga_PLC& riga) {
   const int ultimo = A_16(A_16(riga.Bit1 + riga.Num2, "S") - 1, "S");
-  const bool flusso = Flusso(riga);
+  const bool flusso = Flusso(plc, riga);
   switch (riga.Codice1) {
     case Area::Q:
-      for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit) IP_Q[riga.Num1].Bit_Img[bit] = 1;
-      Aggiorna_IPQ(riga.Num1);
+      for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit)
+        plc.IP_Q[riga.Num1].Bit_Img[bit] = 1;
+      plc.Aggiorna_IPQ(riga.Num1);
       return Esito::Avanti;
     case Area::M:
-      Inizia_Marker();
-      for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit) Scrivi_Marker(riga.Num1, bit, 1);
+      Inizia_Marker(plc);
+      for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit)
+        Scrivi_Marker(plc, riga.Num1, bit, 1);
       return Esito::Avanti;
     case Area::S:
-      for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit) Mem_S[riga.Num1].Bit[bit] = 1;
+      for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit) plc.Mem_S[riga.Num1].Bit[bit] = 1;
       return Esito::Avanti;
     default:
       return Esito::Errore;
   }
 }
 
-Esito Plc::Istr_R(Riga_PLC& riga) {
-  const bool flusso = Flusso(riga);
+Esito Istr_R(Plc& plc, Riga_PLC& riga) {
+  const bool flusso = Flusso(plc, riga);
   // On T and C the count runs over element numbers, and every round means the element named.
   const bool elemento = riga.Codice1 == Area::T || riga.Codice1 == Area::C;
   const int primo = elemento ? riga.Num1 : riga.Bit1;
   const int ultimo = A_16(A_16(primo + riga.Num2, "R") - 1, "R");
   switch (riga.Codice1) {
     case Area::Q:
-      for (int bit = primo; flusso && bit <= ultimo; ++bit) IP_Q[riga.Num1].Bit_Img[bit] = 0;
-      Aggiorna_IPQ(riga.Num1);
+      for (int bit = primo; flusso && bit <= ultimo; ++bit) plc.IP_Q[riga.Num1].Bit_Img[bit] = 0;
+      plc.Aggiorna_IPQ(riga.Num1);
       return Esito::Avanti;
     case Area::S:
-      for (int bit = primo; flusso && bit <= ultimo; ++bit) Mem_S[riga.Num1].Bit[bit] = 0;
+      for (int bit = primo; flusso && bit <= ultimo; ++bit) plc.Mem_S[riga.Num1].Bit[bit] = 0;
       return Esito::Avanti;
     case Area::M:
-      Inizia_Marker();
+      Inizia_Marker(plc);
       // Only here a reset runs over into the next byte, and there up to its cell 8.
       for (int bit = primo; flusso && bit <= ultimo && bit <= 16; ++bit) {
         if (bit <= 7)
-          Scrivi_Marker(riga.Num1, bit, 0);
-        else if (riga.Num1 < Mem_M.ultimo)
-          Scrivi_Marker(riga.Num1 + 1, bit - 8, 0);
+          Scrivi_Marker(plc, riga.Num1, bit, 0);
+        else if (riga.Num1 < plc.Mem_M.ultimo)
+          Scrivi_Marker(plc, riga.Num1 + 1, bit - 8, 0);
         else
           return Esito::Errore;
       }
       return Esito::Avanti;
     case Area::T:
       if (flusso && primo <= ultimo) {
-        Riga_Timer& timer = Mem_T[riga.Num1];
+        Riga_Timer& timer = plc.Mem_T[riga.Num1];
         timer.Uscita = 0;
         timer.Val = 0;
         timer.Conta = 0;
@@ -239,7 +256,7 @@ Esito Plc::Istr_R(Riga_PLC& riga) {
       return Esito::Avanti;
     case Area::C:
       if (flusso && primo <= ultimo) {
-        Riga_Contatore& contatore = Mem_C[riga.Num1];
+        Riga_Contatore& contatore = plc.Mem_C[riga.Num1];
         contatore.Uscita = 0;
         contatore.Val = 0;
       }
@@ -252,24 +269,73 @@ Esito Plc::Istr_R(Riga_PLC& riga) {
 // The counts of SI and RI include both ends, and RI leaves the physical point to the end of the
 // scan.
 
-Esito Plc::Istr_SI(Riga_PLC& riga) {
+Esito Istr_SI(Plc& plc, Riga_PLC& riga) {
   const int ultimo = A_16(riga.Bit1 + riga.Num2, "SI");
-  const bool flusso = Flusso(riga);
+  const bool flusso = Flusso(plc, riga);
   for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit) {
-    Riga_IP& uscite = IP_Q[riga.Num1];
-    uscite.Bit_Dir[bit] = static_cast<std::uint8_t>(Stak[0]);
-    uscite.Bit_Img[bit] = static_cast<std::uint8_t>(Stak[0]);
+    Riga_IP& uscite = plc.IP_Q[riga.Num1];
+    uscite.Bit_Dir[bit] = static_cast<std::uint8_t>(plc.Stak[0]);
+    uscite.Bit_Img[bit] = static_cast<std::uint8_t>(plc.Stak[0]);
   }
-  Aggiorna_IPQ(riga.Num1);
+  plc.Aggiorna_IPQ(riga.Num1);
   return Esito::Avanti;
 }
 
-Esito Plc::Istr_RI(Riga_PLC& riga) {
+Esito Istr_RI(Plc& plc, Riga_PLC& riga) {
   const int ultimo = A_16(riga.Bit1 + riga.Num2, "RI");
-  const bool flusso = Flusso(riga);
-  for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit) IP_Q[riga.Num1].Bit_Img[bit] = 0;
-  Aggiorna_IPQ(riga.Num1);
+  const bool flusso = Flusso(plc, riga);
+  for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit) plc.IP_Q[riga.Num1].Bit_Img[bit] = 0;
+  plc.Aggiorna_IPQ(riga.Num1);
   return Esito::Avanti;
 }
+
+}  // namespace
+
+// ---- rows of the table -------------------------------------------------------------------------
+
+// clang-format off
+righe::Righe righe::Contatti() {
+  return Insieme_Di({Di(Famiglia::Contatti, Gruppo::Con_Regola, {
+      {.Nome = "LD", .Operandi = &regole::Contatto, .Esegui = Istr_LD, .Aiuto = "Carica il bit in cima alla pila: contatto normalmente aperto"},
+      {.Nome = "LDN", .Operandi = &regole::Contatto, .Esegui = Istr_LDN, .Aiuto = "Carica il bit negato: contatto normalmente chiuso"},
+      {.Nome = "LDI", .Operandi = &regole::Contatto_Immediato, .Esegui = Istr_LDI, .Aiuto = "Carica subito lo stato dell'ingresso fisico"},
+      {.Nome = "LDNI", .Operandi = &regole::Contatto_Immediato, .Esegui = Istr_LDNI, .Aiuto = "Carica subito lo stato negato dell'ingresso fisico"},
+      {.Nome = "A", .Operandi = &regole::Contatto, .Esegui = Istr_A, .Aiuto = "AND del bit con la cima della pila: contatto in serie"},
+      {.Nome = "AN", .Operandi = &regole::Contatto, .Esegui = Istr_AN, .Aiuto = "AND del bit negato: contatto chiuso in serie"},
+      {.Nome = "AI", .Operandi = &regole::Contatto_Immediato, .Esegui = Istr_AI, .Aiuto = "AND con l'ingresso fisico, letto subito"},
+      {.Nome = "ANI", .Operandi = &regole::Contatto_Immediato, .Esegui = Istr_ANI, .Aiuto = "AND con l'ingresso fisico negato, letto subito"},
+      {.Nome = "O", .Operandi = &regole::Contatto, .Esegui = Istr_O, .Aiuto = "OR del bit con la cima della pila: contatto in parallelo"},
+      {.Nome = "ON", .Operandi = &regole::Contatto, .Esegui = Istr_ON, .Aiuto = "OR del bit negato: contatto chiuso in parallelo"},
+      {.Nome = "OI", .Operandi = &regole::Contatto_Immediato, .Esegui = Istr_OI, .Aiuto = "OR con l'ingresso fisico, letto subito"},
+      {.Nome = "ONI", .Operandi = &regole::Contatto_Immediato, .Esegui = Istr_ONI, .Aiuto = "OR con l'ingresso fisico negato, letto subito"},
+  }), Di(Famiglia::Contatti, Gruppo::Senza_Operandi, {
+      {.Nome = "NOT", .Esegui = Istr_NOT, .Aiuto = "Inverte la cima della pila"},
+      {.Nome = "EU", .Esegui = Istr_EU, .Aiuto = "Fronte di salita: vero per una scansione quando la cima passa da 0 a 1"},
+      {.Nome = "ED", .Esegui = Istr_ED, .Aiuto = "Fronte di discesa: vero per una scansione quando la cima passa da 1 a 0"},
+  })});
+}
+
+righe::Righe righe::Pila() {
+  return Di(Famiglia::Pila, Gruppo::Senza_Operandi, {
+      {.Nome = "ALD", .Esegui = Istr_ALD, .Aiuto = "AND dei due valori in cima alla pila: blocchi in serie"},
+      {.Nome = "OLD", .Esegui = Istr_OLD, .Aiuto = "OR dei due valori in cima alla pila: blocchi in parallelo"},
+      {.Nome = "LPS", .Esegui = Istr_LPS, .Aiuto = "Duplica la cima della pila"},
+      {.Nome = "LRD", .Esegui = Istr_LRD, .Aiuto = "Copia il secondo valore della pila in cima"},
+      {.Nome = "LPP", .Esegui = Istr_LPP, .Aiuto = "Toglie la cima della pila"},
+      {.Nome = "NOP", .Esegui = Ramo_Nullo, .Aiuto = "Nessuna operazione"},
+  });
+}
+
+righe::Righe righe::Uscite() {
+  return Di(Famiglia::Uscite, Gruppo::Con_Regola, {
+      {.Nome = "=", .Operandi = &regole::Uscita, .Esegui = Istr_Assegna, .Aiuto = "Assegna la cima della pila al bit: bobina"},
+      {.Nome = "=I", .Operandi = &regole::Uscita_Immediata, .Esegui = Istr_Assegna_I, .Aiuto = "Assegna la cima della pila all'uscita fisica, subito"},
+      {.Nome = "S", .Operandi = &regole::Set, .Esegui = Istr_S, .Aiuto = "Mette a 1 N bit a partire da quello indicato"},
+      {.Nome = "R", .Operandi = &regole::Reset, .Esegui = Istr_R, .Aiuto = "Mette a 0 N bit a partire da quello indicato, oppure azzera un temporizzatore o un contatore"},
+      {.Nome = "SI", .Operandi = &regole::Set_Immediato, .Esegui = Istr_SI, .Aiuto = "Mette a 1 subito N+1 uscite fisiche"},
+      {.Nome = "RI", .Operandi = &regole::Set_Immediato, .Esegui = Istr_RI, .Aiuto = "Mette a 0 N+1 uscite nell'immagine"},
+  });
+}
+// clang-format on
 
 }  // namespace tavorno

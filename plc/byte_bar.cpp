@@ -31,7 +31,7 @@ void Barra::Assegna(std::string_view testo) {
   }
   if (INT_ON && passato_ != stato_) {
     passato_ = stato_;
-    if (Change) Change();
+    Change();
   }
 }
 
@@ -45,13 +45,13 @@ void Barra::Mostra(std::uint8_t accesi) {
   if (accesi == accesi_) return;
   accesi_ = accesi;
   derivati_ = derivati_ && accesi == byte_;
-  if (Aspetto) Aspetto();
+  Aspetto();
 }
 
 void Barra::LED_Tipo(std::uint8_t tipo, std::uint8_t forma) {
   tipo_ = tipo;
   forma_ = forma;
-  if (Aspetto) Aspetto();
+  Aspetto();
 }
 
 void Barra::Scorri(bool acceso) {

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 
 #include "plc/clock.h"
+#include "plc/subscription.h"
 
 namespace tavorno {
 
@@ -18,8 +18,8 @@ class Barra {
   Barra(const Barra&) = delete;
   Barra& operator=(const Barra&) = delete;
 
-  std::function<void()> Change;   ///< a different text passed
-  std::function<void()> Aspetto;  ///< the LEDs must be drawn again
+  Annuncio<> Change;   ///< a different text passed
+  Annuncio<> Aspetto;  ///< the LEDs must be drawn again
 
   bool INT_ON = true;  ///< false: texts are stored and shown, but `Change` stays silent
 
@@ -39,6 +39,9 @@ class Barra {
   void Scorri(bool acceso);
   /// As a stored setting is read: the field alone, and nothing chases.
   void Memorizza_Scorri(bool acceso) { scorri_ = acceso; }
+  /// True when the text that stands could be assigned once more and nothing would follow.
+  bool In_Pari() const { return derivati_ && (!INT_ON || passato_ == stato_); }
+
   int Interval() const { return passo_.Interval(); }
   void Interval(int millisecondi) { passo_.Interval(millisecondi); }
 

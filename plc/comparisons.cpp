@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The 54 comparison contacts: three widths here, connection and relation on the compiled line.
+#include <array>
+#include <utility>
+
+#include "plc/instructions.h"
+#include "plc/operands.h"
 #include "plc/plc.h"
 
 namespace tavorno {
@@ -9,38 +14,92 @@ bool Vale(Relazione relazione, std::int32_t primo, std::int32_t secondo) {
   const int confronto = (primo > secondo) - (primo < secondo);  // -1, 0, 1
   return (static_cast<unsigned>(relazione) >> (confronto + 1) & 1U) != 0;
 }
-}  // namespace
 
 /// The second operand is read first; a failure of either leaves the stack alone.
 template <auto Lettura>
-Esito Plc::Confronto(const Riga_PLC& riga) {
+Esito Confronto(Plc& plc, const Riga_PLC& riga) {
   std::int16_t err = 0;
-  const std::int32_t secondo = (this->*Lettura)(riga.Codice2, riga.Num2, err);
-  const std::int32_t primo = (this->*Lettura)(riga.Codice1, riga.Num1, err);
+  const std::int32_t secondo = (plc.*Lettura)(riga.Codice2, riga.Num2, err);
+  const std::int32_t primo = (plc.*Lettura)(riga.Codice1, riga.Num1, err);
   if (err) return Esito::Errore;
   const std::int16_t r = Vale(riga.Confronto, primo, secondo) ? 1 : 0;
   switch (riga.Unione) {
     case Connessione::LD:
-      GestStak(1, r);
+      plc.GestStak(Op_Pila::Spingi, r);
       break;
     case Connessione::A:
-      Cima_E(r);
+      Cima_E(plc, r);
       break;
     case Connessione::O:
-      Cima_O(r);
+      Cima_O(plc, r);
       break;
   }
   return Esito::Avanti;
 }
 
-Esito Plc::Istr_Confronto_B(Riga_PLC& riga) {
-  return Confronto<&Plc::Leggi_B>(riga);
+Esito Istr_Confronto_B(Plc& plc, Riga_PLC& riga) {
+  return Confronto<&Memoria::Leggi_B>(plc, riga);
 }
-Esito Plc::Istr_Confronto_W(Riga_PLC& riga) {
-  return Confronto<&Plc::Leggi_W>(riga);
+Esito Istr_Confronto_W(Plc& plc, Riga_PLC& riga) {
+  return Confronto<&Memoria::Leggi_W>(plc, riga);
 }
-Esito Plc::Istr_Confronto_D(Riga_PLC& riga) {
-  return Confronto<&Plc::Leggi_D>(riga);
+Esito Istr_Confronto_D(Plc& plc, Riga_PLC& riga) {
+  return Confronto<&Memoria::Leggi_D>(plc, riga);
+}
+
+}  // namespace
+
+// ---- rows of the table --------------------------------------------------------------------------
+
+// The 54 comparison contacts by connection, width and relation, and 18 on real numbers, which are
+// refused.
+righe::Righe righe::Confronti() {
+  struct Larghezza {
+    const char* lettera;
+    const char* nome;
+    const Regola* regola;
+    Ramo ramo;
+  };
+  static const std::array<Larghezza, 3> larghezze = {{
+      {"B", "byte", &regole::Confronto_B, Istr_Confronto_B},
+      {"W", "parole", &regole::Confronto_W, Istr_Confronto_W},
+      {"D", "doppie parole", &regole::Confronto_D, Istr_Confronto_D},
+  }};
+  static constexpr std::array<std::pair<const char*, Relazione>, 6> relazioni = {{
+      {"=", Relazione::Uguale},
+      {"<>", Relazione::Diverso},
+      {">=", Relazione::Maggiore_Uguale},
+      {"<=", Relazione::Minore_Uguale},
+      {">", Relazione::Maggiore},
+      {"<", Relazione::Minore},
+  }};
+  static constexpr std::array<std::pair<const char*, Connessione>, 3> connessioni = {
+      {{"LD", Connessione::LD}, {"A", Connessione::A}, {"O", Connessione::O}}};
+  static constexpr std::array<const char*, 3> verbi = {"Carica", "AND con", "OR con"};
+
+  Righe tutte;
+  for (std::size_t c = 0; c < connessioni.size(); ++c) {
+    const auto& [sigla, connessione] = connessioni[c];
+    const std::string verbo = verbi[c];
+    Righe accettate;
+    Righe reali;
+    for (const Larghezza& larghezza : larghezze) {
+      for (const auto& [segno, relazione] : relazioni)
+        accettate.push_back(
+            {.Nome = std::string(sigla) + larghezza.lettera + segno,
+             .Operandi = larghezza.regola,
+             .Esegui = larghezza.ramo,
+             .Aiuto = verbo + " il confronto tra " + larghezza.nome + ": OP1 " + segno + " OP2",
+             .Unione = connessione,
+             .Confronto = relazione});
+    }
+    for (const auto& [segno, relazione] : relazioni)
+      reali.push_back({.Nome = std::string(sigla) + "R" + segno,
+                       .Aiuto = verbo + " il confronto tra numeri reali: OP1 " + segno + " OP2"});
+    tutte = Insieme_Di({tutte, Di(Famiglia::Confronti, Gruppo::Con_Regola, accettate),
+                        Di(Famiglia::Confronti, Gruppo::Non_Supportata, reali)});
+  }
+  return tutte;
 }
 
 }  // namespace tavorno

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
 #include <functional>
+#include <limits>
 #include <string>
+#include <utility>
+
+#include "plc/subscription.h"
 
 namespace tavorno {
 
@@ -19,25 +24,29 @@ struct Avviso {
   std::string Dettagli;  ///< what a box offers on request; may be empty
 };
 
-/// The only way from the CPU to a window. Every member may stay empty.
+/// The only way from the CPU to a window. Nobody has to listen.
 struct Ganci {
-  /// The yield of a run: called before its first line, at the top of each scan, otherwise every
-  /// `Righe_Per_Cessione` lines, and at each line while Ciclo looks for the one to stop at.
-  std::function<void()> Cedi;
-  int Righe_Per_Cessione = 1;
-  std::function<void(const Avviso&)> Mostra;  ///< a message box; returns when it is closed
-};
+  /// The yield of a run: `fai` is called before its first line, at the top of each scan, otherwise
+  /// every `righe` lines (at least 1; of several listeners the smallest number counts), and at each
+  /// line while Ciclo looks for the one to stop at.
+  Iscrizione Ascolta_Cedi(std::function<void()> fai, int righe = 1) {
+    return cedi_.Ascolta([fai = std::move(fai), righe](int& fino_a) {
+      fino_a = std::min(fino_a, righe);
+      fai();
+    });
+  }
+  /// Gives way, and returns how many lines may follow: 1 when nobody listens.
+  int Cedi() {
+    int righe = std::numeric_limits<int>::max();
+    cedi_(righe);
+    return righe == std::numeric_limits<int>::max() ? 1 : righe;
+  }
+  bool Cedi_Ascoltato() const { return cedi_.Ascoltato(); }
 
-/// What changed since a window last looked. The CPU sets marks line by line, and a window takes
-/// them when it next refreshes its picture. The logic stack has no mark, since nearly every line
-/// changes it: a window that shows it reads it at each refresh.
-enum Segno : unsigned {
-  Segno_Immagini = 1U << 0,   ///< `etIPI`, `etIPQ`
-  Segno_PC = 1U << 1,         ///< `etPc`
-  Segno_Tempo = 1U << 2,      ///< `etTime`
-  Segno_Lista = 1U << 3,      ///< `Lista_Scelta`
-  Segno_Comandi = 1U << 4,    ///< `Attivi`, `PLC_Acceso`, `Modo_Run`
-  Segno_Analogici = 1U << 5,  ///< analog words and voltages
+  Annuncio<const Avviso&> Mostra;  ///< a message box; a round ends when it is closed
+
+ private:
+  Annuncio<int&> cedi_;
 };
 
 }  // namespace tavorno

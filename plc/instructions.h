@@ -2,44 +2,18 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "plc/branch.h"
 #include "plc/operand_rules.h"
 
 namespace tavorno {
 
-struct Plc;
 struct Riga_PLC;
-
-/// What the interpreter does after a line's branch.
-enum class Esito : std::uint8_t {
-  Avanti,  ///< end of line, on to the next
-  Errore,  ///< run-time error: message and Stop
-  Salto,   ///< PC was changed: go on with that line at once
-  Fine,    ///< MEND: end of the scan
-  Ignota,  ///< the interpreter has no branch for this mnemonic
-};
-
-/// A branch of the interpreter: executes one line, which is the row of `PC`.
-using Ramo = Esito (*)(Plc&, Riga_PLC&);
-/// What stands for a branch where there is none; its outcome is `Esito::Ignota`.
-Ramo Ramo_Assente();
-
-/// How a comparison contact joins the logic stack.
-enum class Connessione : std::uint8_t { LD, A, O };
-
-/// A relation as the set of outcomes for which it holds: one bit each for less, equal, greater.
-enum class Relazione : std::uint8_t {
-  Nessuna = 0,
-  Minore = 1,
-  Uguale = 2,
-  Maggiore = 4,
-  Minore_Uguale = Minore | Uguale,
-  Maggiore_Uguale = Maggiore | Uguale,
-  Diverso = Minore | Maggiore,
-};
 
 /// How the line checker treats a mnemonic.
 enum class Gruppo : std::uint8_t {
@@ -67,25 +41,61 @@ enum class Famiglia : std::uint8_t {
 };
 std::string_view Nome_Famiglia(Famiglia famiglia);  ///< in Italian, UTF-8
 
-/// One mnemonic: the single source for the checker, the interpreter, the editor's colouring and
-/// completion, and the manual page of the instruction set.
+/// One mnemonic: the single source for the checker, the interpreter, the link of jumps and
+/// procedures, the editor's colouring and completion, and the manual page of the instruction set.
 struct Istruzione {
-  std::string Nome;
-  Famiglia Gruppo_Manuale;
-  Gruppo Trattamento;
-  const Regola* Operandi;                    ///< set exactly when `Trattamento` is `Con_Regola`
-  Ramo Esegui;                               ///< `Ramo_Assente()` where the interpreter has none
-  std::string Aiuto;                         ///< one line of Italian, UTF-8
+  std::string Nome = {};
+  Famiglia Gruppo_Manuale{};
+  Gruppo Trattamento{};
+  const Regola* Operandi = nullptr;          ///< set exactly when `Trattamento` is `Con_Regola`
+  Ramo Esegui = Senza_Ramo;                  ///< `Ramo_Assente()` where the interpreter has none
+  std::string Aiuto = {};                    ///< one line of Italian, UTF-8
   Connessione Unione = Connessione::LD;      ///< comparisons only
   Relazione Confronto = Relazione::Nessuna;  ///< comparisons only
+  Compito Nel_Programma = Compito::Nessuno;
+  /// What the editor offers for operands that no rule checks, UTF-8; empty: there are none.
+  std::string_view Operandi_Liberi = {};
+  /// How a line of text begins that is this instruction as a whole, comments and blanks included;
+  /// empty where a line is divided into its words.
+  std::string_view Testa = {};
+  bool Testa_Maiuscola = false;  ///< `Testa` counts in small letters too once it stands in `Istr`
+
+  /// As a student writes it.
+  std::string_view Nome_Scritto() const { return Testa.empty() ? std::string_view(Nome) : Testa; }
 };
 
 /// All mnemonics that the checker knows, each once.
 std::span<const Istruzione> Tabella_Istruzioni();
 
-/// The row of a mnemonic as it stands in `Istr`, nullptr when it is unknown. A text longer than
-/// "NETWORK" that begins so is the row "NETW"; texts longer than "SBR" or "INT" that begin so are
-/// those rows.
+/// The row of a mnemonic as it stands in `Istr`, nullptr when it is unknown. A text longer than a
+/// row's `Testa` that begins so is that row.
 const Istruzione* Cerca_Istruzione(std::string_view istr);
+
+/// The row whose `Testa` a line of text begins with, nullptr when there is none.
+const Istruzione* Cerca_Testa(std::string_view riga);
+
+/// Fills the decoded fields from `Istr`, `Area1` and `Area2`. To be called whenever those change.
+void Decodifica(Riga_PLC& riga);
+
+// The rows of the table by family, each defined in the file of its branches.
+namespace righe {
+using Righe = std::vector<Istruzione>;
+Righe Contatti();
+Righe Pila();
+Righe Uscite();
+Righe Temporizzatori();
+Righe Contatori();
+Righe Trasferimenti();
+Righe Aritmetica();
+Righe Programma();
+Righe Confronti();
+Righe Non_Eseguite();  ///< accepted by the checker, though the interpreter has no branch for them
+Righe Non_Supportate();
+
+/// Rows of one family and treatment, which their initialisers leave out; the help of what is
+/// refused says so.
+Righe Di(Famiglia famiglia, Gruppo trattamento, Righe righe);
+Righe Insieme_Di(std::initializer_list<Righe> gruppi);
+}  // namespace righe
 
 }  // namespace tavorno

@@ -1,15 +1,47 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plc/memory.h"
 
+#include "plc/byte_text.h"
+
 namespace tavorno {
 
-void Decodifica(Riga_PLC& riga) {
-  const Istruzione* istruzione = Cerca_Istruzione(riga.Istr);
-  riga.Esegui = istruzione ? istruzione->Esegui : Ramo_Assente();
-  riga.Unione = istruzione ? istruzione->Unione : Connessione::LD;
-  riga.Confronto = istruzione ? istruzione->Confronto : Relazione::Nessuna;
-  riga.Codice1 = Cerca_Area(riga.Area1);
-  riga.Codice2 = Cerca_Area(riga.Area2);
+void Memoria::Rit_Stak(Op_Ritorni codice, std::int16_t valore) {
+  const auto vecchi = Stak_Rit;
+  const auto vecchio = [&](int cella) { return cella == 8 ? std::int16_t{0} : vecchi[cella]; };
+  switch (codice) {
+    case Op_Ritorni::Azzera:
+      for (std::int16_t& cella : Stak_Rit) cella = 0;
+      break;
+    case Op_Ritorni::Spingi:
+      Stak_Rit[0] = valore;
+      for (int i = 1; i <= 7; ++i) Stak_Rit[i] = vecchio(i - 1);
+      break;
+    case Op_Ritorni::Togli_Due:
+      for (int i = 1; i <= 7; ++i) Stak_Rit[i - 1] = vecchio(i + 1);
+      break;
+    default:
+      break;
+  }
+}
+
+void Memoria::Setta_Marker() {
+  for (Riga_M& marker : Mem_M) {
+    const std::uint8_t byte = Byte_Di_Celle(marker.Bit.Dati());
+    marker.Val_B = byte;
+    Scrivi_Lettura(marker.Txt_B, byte);
+  }
+}
+
+void Memoria::Init_PLC() {
+  for (Riga_Timer& timer : Mem_T) timer.Conta = 0;
+  for (Riga_Contatore& contatore : Mem_C) contatore = {};
+}
+
+void Memoria::SM_Set() {
+  static constexpr std::uint8_t riga_0[8] = {1, 1, 0, 0, 0, 0, 1, 0};
+  for (int bit = 0; bit <= 7; ++bit) Mem_SM[0].Bit[bit] = riga_0[bit];
+  // A diagonal and not the row SM1: SM1.1, SM1.2 and SM1.3 keep their values over a Run.
+  for (int bit = 0; bit <= 7; ++bit) Mem_SM[bit + 1].Bit[bit] = 0;
 }
 
 namespace {

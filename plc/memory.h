@@ -5,7 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "plc/instructions.h"
+#include "plc/area.h"
+#include "plc/branch.h"
 #include "plc/logic_stack.h"
 #include "plc/table.h"
 
@@ -85,6 +86,7 @@ struct alignas(64) Riga_PLC {
   std::int16_t SCR_Prima = 0, SCR_Ultima = 0;  ///< LSCR: first and last line of its section
   std::int16_t Ha_Bit = 0;                     ///< -1 when the first operand has a dot
   std::uint8_t NOper = 0;                      ///< operands on the source line
+  Compito Nel_Programma = Compito::Nessuno;
   /// JMP, CALL: timers that the jump leaves out. Entry 0 is unused; empty means none as well.
   std::vector<std::int16_t> Lista_T;
 
@@ -94,36 +96,124 @@ struct alignas(64) Riga_PLC {
   bool operator==(const Riga_PLC&) const = default;
 };
 
-/// Fills the decoded fields from `Istr`, `Area1` and `Area2`. To be called whenever those change.
-void Decodifica(Riga_PLC& riga);
-
 /// The line put together again from its fields, in the code page of the source.
 std::string Testo_Riga(const Riga_PLC& riga);
 
-struct Memoria {
-  Tabella<Riga_IP, 1> IP_I{"IP_I"};
-  Tabella<Riga_IP, 1> IP_Q{"IP_Q"};
-  Tabella<Riga_M, 4> Mem_M{"Mem_M"};
-  Tabella<Riga_S, 4> Mem_S{"Mem_S"};
-  Tabella<Riga_SM, 30> Mem_SM{"Mem_SM"};
-  Tabella<std::int16_t, 100> Mem_VB{"Mem_VB"};  ///< cells of 16 bits
-  Tabella<std::int16_t, 100> Mem_VW{"Mem_VW"};
-  Tabella<std::int32_t, 100> Mem_VD{"Mem_VD"};
-  Tabella<float, 4> Mem_AC{"Mem_AC"};
-  Tabella<Riga_Timer, 40> Mem_T{"Mem_T"};
-  Tabella<Riga_Contatore, 20> Mem_C{"Mem_C"};
-  Tabella<std::int32_t, 4> Mem_AIW{"Mem_AIW"};  ///< 32000 at full scale; used at 0, 2, 4
-  Tabella<std::int32_t, 2> Mem_AQW{"Mem_AQW"};  ///< 32000 at full scale; used at 0, 2
-  Tabella<float, 2> Volt_AI{"Volt_AI"};         ///< volts or milliamperes
-  Tabella<float, 1> Volt_AQ{"Volt_AQ"};         ///< volts or milliamperes
+/// The operations of `GestStak`, with their codes.
+enum class Op_Pila : std::uint8_t {
+  Azzera = 0,   ///< all cells 0
+  Spingi = 1,   ///< a value on top
+  E_Togli = 2,  ///< the two on top become one, by AND
+  O_Togli = 3,  ///< the same by OR
+  Cima = 4,     ///< a value in place of the top
+  Duplica = 5,  ///< the top once more on top
+  Seconda = 6,  ///< the second in place of the top
+  Togli = 7,    ///< the top away
+};
+
+/// The operations of `Rit_Stak`, with their codes.
+enum class Op_Ritorni : std::uint8_t {
+  Azzera = 0,
+  Spingi = 1,
+  /// Removes two levels at once, so that the return from a nested call empties the table: a trait
+  /// of the machine.
+  Togli_Due = 2,
+};
+
+/// The cells that a program reads and writes, and the two stacks.
+struct Celle {
+  Tabella<Riga_IP, Riga_Di(Area::I).Ultima> IP_I{"IP_I"};
+  Tabella<Riga_IP, Riga_Di(Area::Q).Ultima> IP_Q{"IP_Q"};
+  Tabella<Riga_M, Riga_Di(Area::M).Ultima> Mem_M{"Mem_M"};
+  Tabella<Riga_S, Riga_Di(Area::S).Ultima> Mem_S{"Mem_S"};
+  Tabella<Riga_SM, Riga_Di(Area::SM).Ultima> Mem_SM{"Mem_SM"};
+  Tabella<std::int16_t, Riga_Di(Area::VB).Ultima> Mem_VB{"Mem_VB"};  ///< cells of 16 bits
+  Tabella<std::int16_t, Riga_Di(Area::VW).Ultima> Mem_VW{"Mem_VW"};
+  Tabella<std::int32_t, Riga_Di(Area::VD).Ultima> Mem_VD{"Mem_VD"};
+  Tabella<float, Riga_Di(Area::AC).Ultima> Mem_AC{"Mem_AC"};
+  Tabella<Riga_Timer, Riga_Di(Area::T).Ultima> Mem_T{"Mem_T"};
+  Tabella<Riga_Contatore, Riga_Di(Area::C).Ultima> Mem_C{"Mem_C"};
+  Tabella<std::int32_t, Riga_Di(Area::AIW).Ultima> Mem_AIW{
+      "Mem_AIW"};  ///< 32000 at full scale; used at 0, 2, 4
+  Tabella<std::int32_t, Riga_Di(Area::AQW).Ultima> Mem_AQW{
+      "Mem_AQW"};  ///< 32000 at full scale; used at 0, 2
+  Tabella<float, Riga_Di(Area::AIW).Ultima / 2> Volt_AI{
+      "Volt_AI"};  ///< by channel; volts or milliamperes
+  Tabella<float, Riga_Di(Area::AQW).Ultima / 2> Volt_AQ{
+      "Volt_AQ"};  ///< by channel; volts or milliamperes
   Pila_Logica Stak;
   Tabella<std::int16_t, 7> Stak_Rit{"Stak_Rit"};  ///< return lines, top at 0
 
+  bool operator==(const Celle&) const = default;
+};
+
+/// The cells and the program, and what touches nothing else.
+struct Memoria : Celle {
   Tabella_Variabile<Riga_PLC> Prog{"Prog"};  ///< rows 0..NRighe
   std::int16_t NRighe = 0;                   ///< last line of `Prog`
   std::int16_t PC = 0;                       ///< line to execute next
 
   bool operator==(const Memoria&) const = default;
+
+  /// An operation on the logic stack; codes without one change nothing. `valore` is what Spingi
+  /// and Cima write.
+  void GestStak(Op_Pila codice, std::int16_t valore = 0);
+  /// The same on the table of return lines.
+  void Rit_Stak(Op_Ritorni codice, std::int16_t valore = 0);
+
+  /// Brings values and texts of all marker bytes up to date with their cells.
+  void Setta_Marker();
+  /// After a compile: timers stand still, counters are blank.
+  void Init_PLC();
+  /// The special bits as Run leaves them.
+  void SM_Set();
+
+  /// The bit that a contact reads: 0 or 1 (T, C: the output). `err` is -1 for an area that has no
+  /// bit to read, with the value 0, else 0.
+  std::int16_t AC1_Bit(Area area, int num, int bit, std::int16_t& err) const;
+  /// Operands of comparisons; 0 and `err` -1 on a failure. `err` is never cleared. Bytes reach 255,
+  /// words 32767; a word below -32768 throws `Fatale`.
+  std::int16_t Leggi_B(Area area, int num, std::int16_t& err) const;
+  std::int16_t Leggi_W(Area area, int num, std::int16_t& err) const;
+  std::int32_t Leggi_D(Area area, int num, std::int16_t& err) const;
 };
+
+// Here and not in a source file: with its code known, an operation is a few machine instructions.
+[[gnu::always_inline]] inline void Memoria::GestStak(Op_Pila codice, std::int16_t valore) {
+  switch (codice) {
+    case Op_Pila::Azzera:
+      Stak.Azzera();
+      break;
+    case Op_Pila::Spingi:
+      Stak.Spingi(valore);
+      break;
+    case Op_Pila::E_Togli: {
+      const auto due = static_cast<std::int16_t>(Stak[0] & Stak[1]);
+      Stak.Togli();
+      Stak[0] = due;
+      break;
+    }
+    case Op_Pila::O_Togli: {
+      const auto due = static_cast<std::int16_t>(Stak[0] | Stak[1]);
+      Stak.Togli();
+      Stak[0] = due;
+      break;
+    }
+    case Op_Pila::Cima:
+      Stak[0] = valore;
+      break;
+    case Op_Pila::Duplica:
+      Stak.Spingi(Stak[0]);
+      break;
+    case Op_Pila::Seconda:
+      Stak[0] = Stak[1];
+      break;
+    case Op_Pila::Togli:
+      Stak.Togli();
+      break;
+    default:
+      break;
+  }
+}
 
 }  // namespace tavorno

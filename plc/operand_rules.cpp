@@ -11,39 +11,13 @@ bool Numeri::Ammette(int numero) const {
 }
 
 Numeri Numeri_Area(Area area) {
-  switch (area) {
-    case Area::I:
-    case Area::Q:
-    case Area::IB:
-    case Area::QB:
-      return {1, {}};
-    case Area::M:
-    case Area::MB:
-      return {4, {}};
-    case Area::SM:
-    case Area::S:
-      return {2, {}};
-    case Area::T:
-      return {40, {}};
-    case Area::C:
-      return {20, {}};
-    case Area::VB:
-    case Area::VW:
-    case Area::VD:
-      return {100, {}};
-    case Area::IW:
-    case Area::QW:
-      return {0, {}};
-    case Area::MW:
-    case Area::AC:
-      return {3, {}};
-    case Area::AIW:
-      return {{}, {0, 2, 4}};
-    case Area::AQW:
-      return {{}, {0, 2}};
-    default:
-      return {};
-  }
+  const Riga_Area& riga = Riga_Di(area);
+  if (riga.Massimo_Ammesso < 0) return {};
+  if (!riga.Solo_Passo) return {riga.Massimo_Ammesso, {}};
+  Numeri numeri;
+  for (int numero = 0; numero <= riga.Massimo_Ammesso; numero += riga.Passo)
+    numeri.Solo.push_back(numero);
+  return numeri;
 }
 
 Verdetto Regola_Operando::Controlla(Area area, int numero) const {
@@ -58,7 +32,6 @@ namespace {
 using enum Area;
 
 constexpr Verdetto errarto{5, "-> Numero di operandi errarto"};
-constexpr Verdetto numero{5, "-> Numero Operandi non supportati"};
 constexpr Verdetto codice{6, "-> Codice elemento non supportato"};
 constexpr Verdetto codice_ignoto{6, "-> Codice elemento non riconosciuto"};
 constexpr Verdetto codice_in_1{6, "-> Codice elemento in OP1 non supportato"};
@@ -106,12 +79,15 @@ Lista operator+(Lista a, const Lista& b) {
 }
 
 Regola_Operando Solo(Lista ammesse, Verdetto altrimenti) {
-  return {std::move(ammesse), {}, {}, altrimenti};
+  return {.Ammesse = std::move(ammesse), .Altrimenti = altrimenti};
 }
 
 /// One output or input bit, everything else refused by name or as unknown.
 Regola_Operando Elemento(std::initializer_list<Area> ammesse, std::vector<Area> rifiutate) {
-  return {Aree(ammesse, indirizzo_byte), std::move(rifiutate), codice, codice_ignoto};
+  return {.Ammesse = Aree(ammesse, indirizzo_byte),
+          .Rifiutate = std::move(rifiutate),
+          .Se_Rifiutata = codice,
+          .Altrimenti = codice_ignoto};
 }
 
 Regola_Operando Byte_Confronto(Verdetto area, Verdetto fuori, Verdetto grande) {
@@ -134,140 +110,177 @@ namespace regole {
 
 // ---- bits -------------------------------------------------------------------------------------
 
-const Regola Contatto{1,
-                      errarto,
-                      {Aree({I, Q, M, SM, S, T, C}, indirizzo),
-                       {V, L},
-                       {6, "-> Operando non supportato"},
-                       {9, "-> Codice operando non riconosciuto"}},
-                      {},
-                      true,
-                      "bit di I, Q, M, SM, S oppure T, C"};
+const Regola Contatto{
+    .Operandi = 1,
+    .Se_Diverso = errarto,
+    .Op1 = {.Ammesse = Aree({I, Q, M, SM, S, T, C}, indirizzo),
+            .Rifiutate = {V, L},
+            .Se_Rifiutata = {6, "-> Operando non supportato"},
+            .Altrimenti = {9, "-> Codice operando non riconosciuto"}},
+    .Prova_Bit = true,
+    .Aiuto = "bit di I, Q, M, SM, S oppure T, C",
+};
 
-const Regola Contatto_Immediato{1,  numero, Elemento({I}, {Q, T, C, V, L, K, M, SM, S}),
-                                {}, true,   "bit di I"};
+const Regola Contatto_Immediato{
+    .Operandi = 1,
+    .Op1 = Elemento({I}, {Q, T, C, V, L, K, M, SM, S}),
+    .Prova_Bit = true,
+    .Aiuto = "bit di I",
+};
 
-const Regola Uscita{1,  numero, Elemento({Q, M, S}, {I, T, C, V, L, K, SM}),
-                    {}, true,   "bit di Q, M, S"};
+const Regola Uscita{
+    .Operandi = 1,
+    .Op1 = Elemento({Q, M, S}, {I, T, C, V, L, K, SM}),
+    .Prova_Bit = true,
+    .Aiuto = "bit di Q, M, S",
+};
 
-const Regola Uscita_Immediata{1,  numero, Elemento({Q}, {I, T, C, V, L, K, M, SM, S}),
-                              {}, true,   "bit di Q"};
+const Regola Uscita_Immediata{
+    .Operandi = 1,
+    .Op1 = Elemento({Q}, {I, T, C, V, L, K, M, SM, S}),
+    .Prova_Bit = true,
+    .Aiuto = "bit di Q",
+};
 
-const Regola Set{2,  numero, Elemento({Q, M, S}, {I, T, C, V, L, K, SM}),
-                 {}, true,   "bit di Q, M, S; numero di bit"};
+const Regola Set{
+    .Operandi = 2,
+    .Op1 = Elemento({Q, M, S}, {I, T, C, V, L, K, SM}),
+    .Prova_Bit = true,
+    .Aiuto = "bit di Q, M, S; numero di bit",
+};
 
-const Regola Set_Immediato{2,  numero, Elemento({Q}, {I, T, C, V, L, K, M, SM, S}),
-                           {}, true,   "bit di Q; numero di bit meno uno"};
+const Regola Set_Immediato{
+    .Operandi = 2,
+    .Op1 = Elemento({Q}, {I, T, C, V, L, K, M, SM, S}),
+    .Prova_Bit = true,
+    .Aiuto = "bit di Q; numero di bit meno uno",
+};
 
-const Regola Reset{2,  numero, Elemento({Q, M, S, T, C}, {I, V, L, K, SM}),
-                   {}, true,   "bit di Q, M, S oppure T, C; numero di bit"};
+const Regola Reset{
+    .Operandi = 2,
+    .Op1 = Elemento({Q, M, S, T, C}, {I, V, L, K, SM}),
+    .Prova_Bit = true,
+    .Aiuto = "bit di Q, M, S oppure T, C; numero di bit",
+};
 
 // ---- timers and counters ----------------------------------------------------------------------
 
-const Regola Timer{2,
-                   numero,
-                   Solo(Con_Limite({I, Q, M, SM, S, T, C}, 63, indirizzo_timer), codice),
-                   Regola_Operando{{}, {QW, IW, MW, SMW, SW, LW, T}, codice, {}},
-                   false,
-                   "T; tempo in K, VW, AC"};
+const Regola Timer{
+    .Operandi = 2,
+    .Op1 = Solo(Con_Limite({I, Q, M, SM, S, T, C}, 63, indirizzo_timer), codice),
+    .Op2 = Regola_Operando{.Rifiutate = {QW, IW, MW, SMW, SW, LW, T}, .Se_Rifiutata = codice},
+    .Aiuto = "T; tempo in K, VW, AC",
+};
 
-const Regola Contatore{2,
-                       numero,
-                       Solo(Aree({C}, indirizzo_byte), codice),
-                       Solo(Libere({K, VW}), codice),
-                       false,
-                       "C; conteggio in K, VW"};
+const Regola Contatore{
+    .Operandi = 2,
+    .Op1 = Solo(Aree({C}, indirizzo_byte), codice),
+    .Op2 = Solo(Libere({K, VW}), codice),
+    .Aiuto = "C; conteggio in K, VW",
+};
 
 // ---- moves and conversions --------------------------------------------------------------------
 
-const Regola MOVB{2,
-                  numero,
-                  Solo(Aree({IB, QB, MB, VB, AC}, indirizzo_1) +
-                           SMB_Solo({28, 29, 34, 35}, indirizzo_1) + Con_Limite({K}, 255, grande_1),
-                       codice),
-                  Solo(Aree({VB, AC}, indirizzo_2), codice),
-                  false,
-                  "IB, QB, MB, VB, AC, SMB, K; destinazione VB, AC"};
+const Regola MOVB{
+    .Operandi = 2,
+    .Op1 = Solo(Aree({IB, QB, MB, VB, AC}, indirizzo_1) + SMB_Solo({28, 29, 34, 35}, indirizzo_1) +
+                    Con_Limite({K}, 255, grande_1),
+                codice),
+    .Op2 = Solo(Aree({VB, AC}, indirizzo_2), codice),
+    .Aiuto = "IB, QB, MB, VB, AC, SMB, K; destinazione VB, AC",
+};
 
-const Regola MOVW{2,
-                  numero,
-                  Solo(Aree({IW, QW, MW, VW, T, C, AC, AIW, K}, indirizzo_1), codice),
-                  Solo(Aree({VW, T, C, AC, AQW}, indirizzo_2), codice),
-                  false,
-                  "IW, QW, MW, VW, T, C, AC, AIW, K; destinazione VW, AC, AQW"};
+const Regola MOVW{
+    .Operandi = 2,
+    .Op1 = Solo(Aree({IW, QW, MW, VW, T, C, AC, AIW, K}, indirizzo_1), codice),
+    .Op2 = Solo(Aree({VW, T, C, AC, AQW}, indirizzo_2), codice),
+    .Aiuto = "IW, QW, MW, VW, T, C, AC, AIW, K; destinazione VW, AC, AQW",
+};
 
-const Regola MOVD{2,
-                  numero,
-                  Solo(Aree({VD, AC}, indirizzo_1) + Con_Limite({K}, 255, grande_1), codice),
-                  Solo(Aree({VD, AC}, indirizzo_2), codice),
-                  false,
-                  "VD, AC, K; destinazione VD, AC"};
+const Regola MOVD{
+    .Operandi = 2,
+    .Op1 = Solo(Aree({VD, AC}, indirizzo_1) + Con_Limite({K}, 255, grande_1), codice),
+    .Op2 = Solo(Aree({VD, AC}, indirizzo_2), codice),
+    .Aiuto = "VD, AC, K; destinazione VD, AC",
+};
 
-const Regola BIR{2,
-                 numero,
-                 Solo(Aree({IB}, indirizzo_1), codice),
-                 Solo(Aree({VB, AC}, indirizzo_2), codice_in_2),
-                 false,
-                 "IB; destinazione VB, AC"};
+const Regola BIR{
+    .Operandi = 2,
+    .Op1 = Solo(Aree({IB}, indirizzo_1), codice),
+    .Op2 = Solo(Aree({VB, AC}, indirizzo_2), codice_in_2),
+    .Aiuto = "IB; destinazione VB, AC",
+};
 
-const Regola BIW{2,
-                 numero,
-                 Solo(Aree({VB}, indirizzo_1) + Con_Limite({K}, 255, grande_biw), codice),
-                 Solo(Aree({QB, AC}, indirizzo_2), codice_in_2),
-                 false,
-                 "VB, K; destinazione QB"};
+const Regola BIW{
+    .Operandi = 2,
+    .Op1 = Solo(Aree({VB}, indirizzo_1) + Con_Limite({K}, 255, grande_biw), codice),
+    .Op2 = Solo(Aree({QB, AC}, indirizzo_2), codice_in_2),
+    .Aiuto = "VB, K; destinazione QB",
+};
 
-const Regola BTI{2,
-                 numero,
-                 Solo(Aree({IB, QB, MB, VB}, indirizzo_1) +
-                          SMB_Solo({28, 29, 34, 35}, indirizzo_1) + Con_Limite({K}, 255, grande_1),
-                      codice_in_1),
-                 Solo(Aree({VW, T, C, AC}, indirizzo_2), codice),
-                 false,
-                 "IB, QB, MB, VB, SMB, K; destinazione VW, AC, preset di T, C"};
+const Regola BTI{
+    .Operandi = 2,
+    .Op1 = Solo(Aree({IB, QB, MB, VB}, indirizzo_1) + SMB_Solo({28, 29, 34, 35}, indirizzo_1) +
+                    Con_Limite({K}, 255, grande_1),
+                codice_in_1),
+    .Op2 = Solo(Aree({VW, T, C, AC}, indirizzo_2), codice),
+    .Aiuto = "IB, QB, MB, VB, SMB, K; destinazione VW, AC, preset di T, C",
+};
 
 // ---- arithmetic -------------------------------------------------------------------------------
 
-const Regola Aritmetica_I{2,
-                          numero,
-                          Solo(Aree({VW, T, C, AC, AIW, K}, indirizzo_1), codice),
-                          Solo(Aree({VW, T, C, AC}, indirizzo_2), codice),
-                          false,
-                          "VW, T, C, AC, AIW, K; risultato VW, T, C, AC"};
+const Regola Aritmetica_I{
+    .Operandi = 2,
+    .Op1 = Solo(Aree({VW, T, C, AC, AIW, K}, indirizzo_1), codice),
+    .Op2 = Solo(Aree({VW, T, C, AC}, indirizzo_2), codice),
+    .Aiuto = "VW, T, C, AC, AIW, K; risultato VW, T, C, AC",
+};
 
-const Regola Aritmetica_D{2,
-                          numero,
-                          Doppia(codice, indirizzo_1),
-                          Solo(Aree({VD, AC}, indirizzo_2), codice),
-                          false,
-                          "VD, AC, K; risultato VD, AC"};
+const Regola Aritmetica_D{
+    .Operandi = 2,
+    .Op1 = Doppia(codice, indirizzo_1),
+    .Op2 = Solo(Aree({VD, AC}, indirizzo_2), codice),
+    .Aiuto = "VD, AC, K; risultato VD, AC",
+};
 
-const Regola Inc_B{1, numero, Solo(Aree({VB, AC}, indirizzo_1), codice), {}, false, "VB, AC"};
-const Regola Inc_W{1, numero, Solo(Aree({VW, AC}, indirizzo_1), codice), {}, false, "VW, AC"};
-const Regola Inc_D{1, numero, Solo(Aree({VD, AC}, indirizzo_1), codice), {}, false, "VD, AC"};
+const Regola Inc_B{
+    .Operandi = 1,
+    .Op1 = Solo(Aree({VB, AC}, indirizzo_1), codice),
+    .Aiuto = "VB, AC",
+};
+const Regola Inc_W{
+    .Operandi = 1,
+    .Op1 = Solo(Aree({VW, AC}, indirizzo_1), codice),
+    .Aiuto = "VW, AC",
+};
+const Regola Inc_D{
+    .Operandi = 1,
+    .Op1 = Solo(Aree({VD, AC}, indirizzo_1), codice),
+    .Aiuto = "VD, AC",
+};
 
 // ---- comparisons ------------------------------------------------------------------------------
 
-const Regola Confronto_B{2,
-                         numero,
-                         Byte_Confronto(codice_1, indirizzo_1, grande_1),
-                         Byte_Confronto(codice_2, indirizzo_2, grande_2),
-                         false,
-                         "due valori in IB, QB, MB, VB, AC, K"};
+const Regola Confronto_B{
+    .Operandi = 2,
+    .Op1 = Byte_Confronto(codice_1, indirizzo_1, grande_1),
+    .Op2 = Byte_Confronto(codice_2, indirizzo_2, grande_2),
+    .Aiuto = "due valori in IB, QB, MB, VB, AC, K",
+};
 
-const Regola Confronto_W{2,
-                         numero,
-                         Word_Confronto(codice_1, indirizzo_1),
-                         Word_Confronto(codice_2, indirizzo_2),
-                         false,
-                         "due valori in IW, QW, VW, T, C, AC, AIW, K"};
+const Regola Confronto_W{
+    .Operandi = 2,
+    .Op1 = Word_Confronto(codice_1, indirizzo_1),
+    .Op2 = Word_Confronto(codice_2, indirizzo_2),
+    .Aiuto = "due valori in IW, QW, VW, T, C, AC, AIW, K",
+};
 
-const Regola Confronto_D{2,
-                         numero,
-                         Doppia(codice_1, indirizzo_1),
-                         Doppia(codice_2, indirizzo_2),
-                         false,
-                         "due valori in VD, AC, K"};
+const Regola Confronto_D{
+    .Operandi = 2,
+    .Op1 = Doppia(codice_1, indirizzo_1),
+    .Op2 = Doppia(codice_2, indirizzo_2),
+    .Aiuto = "due valori in VD, AC, K",
+};
 
 }  // namespace regole
 

@@ -37,21 +37,22 @@ struct Ammessa {
 };
 
 struct Regola_Operando {
-  std::vector<Ammessa> Ammesse;
-  std::vector<Area> Rifiutate;  ///< areas refused with `Se_Rifiutata`
-  Verdetto Se_Rifiutata;
-  Verdetto Altrimenti;  ///< any other area
+  std::vector<Ammessa> Ammesse = {};
+  std::vector<Area> Rifiutate = {};  ///< areas refused with `Se_Rifiutata`
+  Verdetto Se_Rifiutata = {};
+  Verdetto Altrimenti = {};  ///< any other area; accepted where this is blank
 
   Verdetto Controlla(Area area, int numero) const;
 };
 
 struct Regola {
-  int Operandi;         ///< how many
-  Verdetto Se_Diverso;  ///< another number of them
-  Regola_Operando Op1;
-  std::optional<Regola_Operando> Op2;  ///< none: the second operand is not looked at
-  bool Prova_Bit;     ///< a bit number of 8 or more in the first operand is refused
-  std::string Aiuto;  ///< the operands as the manual writes them
+  int Operandi = 0;  ///< how many, 1 or 2
+  /// Another number of them.
+  Verdetto Se_Diverso = {5, "-> Numero Operandi non supportati"};
+  Regola_Operando Op1 = {};
+  std::optional<Regola_Operando> Op2 = {};  ///< none: the second operand is not looked at
+  bool Prova_Bit = false;  ///< a bit number of 8 or more in the first operand is refused
+  std::string Aiuto = {};  ///< the operands as the manual writes them
 };
 
 namespace regole {

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "plc/checked.h"
-#include "plc/plc.h"
+#include "plc/memory.h"
 
 namespace tavorno {
 
@@ -41,6 +41,8 @@ inline constexpr Insieme intero_IN{VW, AC, K, AIW, T, C};
 inline constexpr Insieme intero_OUT{VW, AC, T, C};
 inline constexpr Insieme doppia_OUT{VD, AC};
 
+inline constexpr Insieme cella{VB, VW, VD, AIW, AQW};  // whole numbers, by whoever looks on
+
 // written only
 inline constexpr Insieme byte_OUT{VB, AC};
 inline constexpr Insieme parola_OUT{VW, AC};
@@ -54,79 +56,101 @@ std::int32_t Parola(const std::string& testo, const char* tabella, int riga);
 // Inlined, so that of the areas only those of the set at hand are left; and no `optional`, which
 // would be put together in memory.
 
-[[gnu::always_inline]] inline bool Plc::Leggi(Insieme ammesse, Area area, int num,
-                                              std::int32_t& valore) const {
+/// The value of an operand before any limit; false, and `valore` untouched, for an area that is not
+/// in the set. Throws `Fatale` for a number outside the area's table.
+[[gnu::always_inline]] inline bool Leggi(const Memoria& m, Insieme ammesse, Area area, int num,
+                                         std::int32_t& valore) {
   const auto e = [ammesse, area](Area una) { return ammesse.Contiene(una) && area == una; };
   if (e(Area::VW))
-    valore = Mem_VW[num];
+    valore = m.Mem_VW[num];
   else if (e(Area::K))
     valore = num;
   else if (e(Area::VD))
-    valore = Mem_VD[num];
+    valore = m.Mem_VD[num];
   else if (e(Area::VB))
-    valore = Mem_VB[num];
+    valore = m.Mem_VB[num];
   else if (e(Area::AC))
-    valore = Arrotonda(Mem_AC[num]);
+    valore = Arrotonda(m.Mem_AC[num]);
   else if (e(Area::T))
-    valore = Mem_T[num].Val;
+    valore = m.Mem_T[num].Val;
   else if (e(Area::C))
-    valore = Mem_C[num].Val;
+    valore = m.Mem_C[num].Val;
   else if (e(Area::AIW))
-    valore = Mem_AIW[num];
+    valore = m.Mem_AIW[num];
+  else if (e(Area::AQW))
+    valore = m.Mem_AQW[num];
   else if (e(Area::IB))
-    valore = IP_I[num].Val_B;
+    valore = m.IP_I[num].Val_B;
   else if (e(Area::QB))
-    valore = IP_Q[num].Val_B;
+    valore = m.IP_Q[num].Val_B;
   else if (e(Area::MB))
-    valore = Mem_M[num].Val_B;
+    valore = m.Mem_M[num].Val_B;
   else if (e(Area::SMB))
-    valore = Mem_SM[num].Val_B;
+    valore = m.Mem_SM[num].Val_B;
   else if (e(Area::IW))
-    valore = Parola(IP_I[num].Txt_B, "IP_I.Txt_B", num);
+    valore = Parola(m.IP_I[num].Txt_B, "IP_I.Txt_B", num);
   else if (e(Area::QW))
-    valore = Parola(IP_Q[num].Txt_B, "IP_Q.Txt_B", num);
+    valore = Parola(m.IP_Q[num].Txt_B, "IP_Q.Txt_B", num);
   else if (e(Area::MW))
-    valore = Parola(Mem_M[num].Txt_B, "Mem_M.Txt_B", num);
+    valore = Parola(m.Mem_M[num].Txt_B, "Mem_M.Txt_B", num);
   else
     return false;
   return true;
 }
 
-[[gnu::always_inline]] inline bool Plc::Scrivi(Insieme ammesse, Area area, int num,
-                                               std::int32_t valore) {
+/// False, and nothing written, for an area that is not in the set. Throws `Fatale` for a number
+/// outside the area's table and for a value that does not fit its cell.
+[[gnu::always_inline]] inline bool Scrivi(Memoria& m, Insieme ammesse, Area area, int num,
+                                          std::int32_t valore) {
   const auto e = [ammesse, area](Area una) { return ammesse.Contiene(una) && area == una; };
   if (e(Area::VW))
-    Mem_VW[num] = A_16(valore, "Mem_VW");
+    m.Mem_VW[num] = A_16(valore, "Mem_VW");
   else if (e(Area::VD))
-    Mem_VD[num] = valore;
+    m.Mem_VD[num] = valore;
   else if (e(Area::VB))
-    Mem_VB[num] = A_16(valore, "Mem_VB");
+    m.Mem_VB[num] = A_16(valore, "Mem_VB");
   else if (e(Area::AC))
-    Mem_AC[num] = static_cast<float>(valore);
+    m.Mem_AC[num] = static_cast<float>(valore);
   else if (e(Area::T))
-    Mem_T[num].Val = A_16(valore, "Mem_T.Val");
+    m.Mem_T[num].Val = A_16(valore, "Mem_T.Val");
   else if (e(Area::C))
-    Mem_C[num].Val = A_16(valore, "Mem_C.Val");
+    m.Mem_C[num].Val = A_16(valore, "Mem_C.Val");
+  else if (e(Area::AIW))
+    m.Mem_AIW[num] = valore;
   else if (e(Area::AQW))
-    Mem_AQW[num] = valore;
+    m.Mem_AQW[num] = valore;
   else
     return false;
   return true;
 }
 
-[[gnu::always_inline]] inline bool Plc::Primo(const Riga_PLC& riga, Insieme ammesse,
-                                              std::int32_t& valore) const {
-  return Leggi(ammesse, riga.Codice1, riga.Num1, valore);
+/// The first or second operand of a line, as `Leggi`.
+[[gnu::always_inline]] inline bool Primo(const Memoria& m, const Riga_PLC& riga, Insieme ammesse,
+                                         std::int32_t& valore) {
+  return Leggi(m, ammesse, riga.Codice1, riga.Num1, valore);
 }
 
-[[gnu::always_inline]] inline bool Plc::Secondo(const Riga_PLC& riga, Insieme ammesse,
-                                                std::int32_t& valore) const {
-  return Leggi(ammesse, riga.Codice2, riga.Num2, valore);
+[[gnu::always_inline]] inline bool Secondo(const Memoria& m, const Riga_PLC& riga, Insieme ammesse,
+                                           std::int32_t& valore) {
+  return Leggi(m, ammesse, riga.Codice2, riga.Num2, valore);
 }
 
-[[gnu::always_inline]] inline bool Plc::Scrivi_Secondo(const Riga_PLC& riga, Insieme ammesse,
-                                                       std::int32_t valore) {
-  return Scrivi(ammesse, riga.Codice2, riga.Num2, valore);
+[[gnu::always_inline]] inline bool Scrivi_Secondo(Memoria& m, const Riga_PLC& riga, Insieme ammesse,
+                                                  std::int32_t valore) {
+  return Scrivi(m, ammesse, riga.Codice2, riga.Num2, valore);
+}
+
+// ---- power flow and the top of the stack --------------------------------------------------------
+
+/// Power flow: the top of the stack is on and the line enabled.
+inline bool Flusso(const Memoria& m, const Riga_PLC& riga) {
+  return (m.Stak[0] & riga.Abil_SCR) == 1;
+}
+[[gnu::always_inline]] inline void Cima_E(Memoria& m, std::int16_t bit) {
+  m.GestStak(Op_Pila::Cima, static_cast<std::int16_t>(m.Stak[0] & bit));
+}
+[[gnu::always_inline]] inline void Cima_O(Memoria& m, std::int16_t bit) {
+  m.GestStak(Op_Pila::Cima, static_cast<std::int16_t>(m.Stak[0] | bit));
 }
 
 }  // namespace tavorno

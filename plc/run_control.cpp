@@ -28,13 +28,13 @@ Plc::Plc(Orologio& orologio)
       timIO(orologio, 20, [this] { Tick_timIO(); }) {
   SI[0].Memorizza_Scorri(true);
   for (std::size_t riga = 0; riga <= 1; ++riga) {
-    SI[riga].Change = [this, riga] {
+    ascolto_ingressi_[riga] = SI[riga].Change.Ascolta([this, riga] {
       Riga_IP& ingressi = IP_I[static_cast<int>(riga)];
       for (unsigned bit = 0; bit < 8; ++bit)
         ingressi.Bit_Dir[static_cast<int>(bit)] = Cifra(SI[riga].Stato_I(), bit);
       ingressi.Val_B = SI[riga].Stato_IB();
       ingressi.Txt_B = SI[riga].Stato_BitI();
-    };
+    });
   }
 }
 
@@ -54,7 +54,7 @@ void Plc::mnuPlcRun() {
   etPc = PC;
   Lista_Scelta = PC;
   Segna(Segno_Tempo | Segno_PC | Segno_Lista | Segno_Comandi);
-  GestStak(0);
+  GestStak(Op_Pila::Azzera);
   Aggiorna_IP_Ing();
   Reset_IP_Out();
   SQ[0].LED_Reset();
@@ -168,8 +168,7 @@ void Plc::Cicla() {
   if (in_ciclo_) return;
   const In_Corso in_corso(in_ciclo_);
   do {
-    if (Hook.Cedi) Hook.Cedi();
-    Esegui_Righe(Hook.Righe_Per_Cessione);
+    Esegui_Righe(Hook.Cedi());
   } while (!Ferma);
 }
 
@@ -178,10 +177,10 @@ void Plc::Cicla_Ciclo() {
   const In_Corso in_corso(in_ciclo_);
   const auto cicli_fatti = [this] { return Scelte.chkSol && Scelte.txtNC == N_Cicli; };
   for (;;) {
-    if (Hook.Cedi) Hook.Cedi();
+    const int righe = Hook.Cedi();
     // `N_Cicli` moves at the end of a scan only, which is where many lines end as well.
     const bool a_ogni_riga = Scelte.chkStop || cicli_fatti();
-    Esegui_Righe(a_ogni_riga ? 1 : Hook.Righe_Per_Cessione);
+    Esegui_Righe(a_ogni_riga ? 1 : righe);
     if (Ferma) return;
     const bool alla_riga = Scelte.chkStop && Scelte.txtStop == PC;
     if (!alla_riga && !cicli_fatti()) continue;
@@ -191,20 +190,6 @@ void Plc::Cicla_Ciclo() {
     Segna(Segno_Lista | Segno_Comandi);
     return;
   }
-}
-
-// ---- memory at the ends of a run ----------------------------------------------------------------
-
-void Plc::Init_PLC() {
-  for (Riga_Timer& timer : Mem_T) timer.Conta = 0;
-  for (Riga_Contatore& contatore : Mem_C) contatore = {};
-}
-
-void Plc::SM_Set() {
-  static constexpr std::uint8_t riga_0[8] = {1, 1, 0, 0, 0, 0, 1, 0};
-  for (int bit = 0; bit <= 7; ++bit) Mem_SM[0].Bit[bit] = riga_0[bit];
-  // A diagonal and not the row SM1: SM1.1, SM1.2 and SM1.3 keep their values over a Run.
-  for (int bit = 0; bit <= 7; ++bit) Mem_SM[bit + 1].Bit[bit] = 0;
 }
 
 // ---- system clocks ------------------------------------------------------------------------------

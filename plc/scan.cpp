@@ -58,20 +58,20 @@ Esito Plc::Fine_Diversa(Esito esito) {
   }
   switch (esito) {
     case Esito::Errore:
-      Avvisa({"Run Time Error",
-              "Run Time Error! Il programma sarà terminato!",
-              Icona::Critica,
-              Tasti::Ok,
-              {}});
+      Hook.Mostra(Avviso{"Run Time Error",
+                         "Run Time Error! Il programma sarà terminato!",
+                         Icona::Critica,
+                         Tasti::Ok,
+                         {}});
       mnuPlcStop();
       return esito;
     case Esito::Ignota:
-      Avvisa({"Errore in Esecuzione!",
-              "Riga " + std::to_string(PC) + " : <" + A_Utf8(Prog[PC].Istr) +
-                  ">--> Istruzione non riconosciuta!\nIl Programma verrà terminato.",
-              Icona::Critica,
-              Tasti::Ok,
-              {}});
+      Hook.Mostra({"Errore in Esecuzione!",
+                   "Riga " + std::to_string(PC) + " : <" + A_Utf8(Prog[PC].Istr) +
+                       ">--> Istruzione non riconosciuta!\nIl Programma verrà terminato.",
+                   Icona::Critica,
+                   Tasti::Ok,
+                   {}});
       mnuPlcStop();
       Ferma = -1;
       PC = A_16(PC + 1, "PC");
@@ -93,18 +93,6 @@ void Plc::Mostra_Tempo() {
   tempo_mostrato_ = Tempo_Ciclo;
   etTime = Formato(Tempo_Ciclo, "0000#");
   Segna(Segno_Tempo);
-}
-
-void Plc::Avvisa(const Avviso& avviso) const {
-  if (Hook.Mostra) Hook.Mostra(avviso);
-}
-
-Esito Plc::Senza_Ramo(Riga_PLC& /*riga*/) {
-  return Esito::Ignota;
-}
-
-Esito Plc::Istr_Nulla(Riga_PLC& /*riga*/) {
-  return Esito::Avanti;
 }
 
 void Plc::StartTimer() {
@@ -165,14 +153,6 @@ void Plc::Aggiorna_IPQ(int riga) {
   Segna(Segno_Immagini);
 }
 
-void Plc::Setta_Marker() {
-  for (Riga_M& marker : Mem_M) {
-    const std::uint8_t byte = Byte_Di_Celle(marker.Bit.Dati());
-    marker.Val_B = byte;
-    Scrivi_Lettura(marker.Txt_B, byte);
-  }
-}
-
 void Plc::Byte_Bit(int valore, int riga) {
   Riga_IP& uscite = IP_Q[riga];
   for (int bit = 0; bit <= 7; ++bit) {
@@ -181,12 +161,6 @@ void Plc::Byte_Bit(int valore, int riga) {
     uscite.Bit_Dir[bit] = cella;
   }
   Aggiorna_IPQ(riga);
-}
-
-unsigned Plc::Prendi_Segni() {
-  const unsigned segni = segni_;
-  segni_ = 0;
-  return segni;
 }
 
 std::string Rapporto_Fatale(const Fatale& fatale, const Plc& plc) {

@@ -4,9 +4,10 @@
 namespace tavorno {
 
 void Avvia_Guidata(Plc& plc, void (Plc::*comando)()) {
-  plc.Hook.Cedi = [&plc] { plc.Ferma = -1; };
-  (plc.*comando)();
-  plc.Hook.Cedi = nullptr;
+  {
+    const Iscrizione dopo_una_riga = plc.Hook.Ascolta_Cedi([&plc] { plc.Ferma = -1; });
+    (plc.*comando)();
+  }
   plc.Ferma = 0;
 }
 

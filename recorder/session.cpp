@@ -6,7 +6,7 @@
 namespace tavorno {
 
 Seduta::Seduta() : plc(orologio), progetto(plc, {}) {
-  plc.Hook.Mostra = [this](const Avviso& avviso) { Avvisi.push_back(avviso); };
+  ascolto_ = plc.Hook.Mostra.Ascolta([this](const Avviso& avviso) { Avvisi.push_back(avviso); });
   progetto.Chiedi.Mostra = [this](const Avviso& avviso) {
     Avvisi.push_back(avviso);
     return avviso.Scelte == Tasti::Si_No ? Risposta::Si : Risposta::Ok;

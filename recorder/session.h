@@ -27,6 +27,9 @@ class Seduta {
   Plc plc;
   Progetto progetto;
   std::vector<Avviso> Avvisi;  ///< boxes shown so far, by the compiler and by the CPU
+
+ private:
+  Iscrizione ascolto_;
 };
 
 }  // namespace tavorno

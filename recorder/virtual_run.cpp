@@ -96,22 +96,18 @@ void Corsa::Confronta(char area, std::array<std::uint8_t, 2>& visti, int byte,
 }
 
 Fine_Corsa Corsa::Esegui() {
-  // The bars raise one event each; the handlers that they have stay in front of ours.
-  std::array<std::function<void()>, 2> di_i, di_q;
+  // An output is told before a plant reacts to it, and an input after the CPU has heard it.
+  std::vector<Iscrizione> ascolti;
   for (std::size_t n = 0; n < 2; ++n) {
-    di_i[n] = plc_.SI[n].Change;
-    di_q[n] = plc_.SQ[n].Change;
-    plc_.SI[n].Change = [this, n, prima = di_i[n]] {
-      if (prima) prima();
+    ascolti.push_back(plc_.SI[n].Change.Ascolta([this, n] {
       Confronta('I', ingressi_visti_, static_cast<int>(n), plc_.SI[n].Stato_IB());
-    };
-    plc_.SQ[n].Change = [this, n, prima = di_q[n]] {
+    }));
+    ascolti.push_back(plc_.SQ[n].Change.Ascolta_Per_Primo([this, n] {
       Confronta('Q', uscite_viste_, static_cast<int>(n), plc_.SQ[n].Stato_QB());
-      if (prima) prima();
-    };
+    }));
   }
-  plc_.Hook.Cedi = [this] { Prima_Della_Scansione(); };
-  plc_.Hook.Righe_Per_Cessione = limiti_.Righe_Scansione;
+  ascolti.push_back(
+      plc_.Hook.Ascolta_Cedi([this] { Prima_Della_Scansione(); }, limiti_.Righe_Scansione));
   inizio_ = plc_.Tempo.Adesso();
   if (Registra) Registra->Inizia_Caso("esecuzione");
 
@@ -131,12 +127,6 @@ Fine_Corsa Corsa::Esegui() {
     fine = Fine_Corsa::Fatale;
   }
   if (Registra) Registra->Fine_Caso(Tempo());
-  plc_.Hook.Cedi = nullptr;
-  plc_.Hook.Righe_Per_Cessione = 1;
-  for (std::size_t n = 0; n < 2; ++n) {
-    plc_.SI[n].Change = di_i[n];
-    plc_.SQ[n].Change = di_q[n];
-  }
   return fine;
 }
 

@@ -9,15 +9,13 @@
 
 namespace tavorno {
 
-/// What a script can read and write of a CPU.
-enum class Campo { I, Q, M, SM, S, T, C, IB, QB, MB, SMB, VB, VW, VD, AC, AIW, AQW };
-
 /// A part of a timer or counter.
 enum class Parte { Bit, Val, Preset };
 
-/// A cell of the CPU's memory that exists.
+/// A cell of the CPU's memory that exists: every area of the table but constants and the words of
+/// bits (IW, QW, MW).
 struct Indirizzo {
-  Campo Dove{};
+  Area Dove = Area::I;
   int Num = 0;
   int Bit = 0;               ///< of I, Q, M, SM, S
   Parte Quale = Parte::Bit;  ///< of T and C

@@ -18,8 +18,8 @@ Segnale Fai_Segnale(const std::string& nome, const std::string& indirizzo) {
 }
 
 double Valore(const Segnale& segnale, const Plc& plc) {
-  if (segnale.Dove == Campo::AIW) return plc.Volt_AI[segnale.Num / 2];
-  if (segnale.Dove == Campo::AQW) return plc.Volt_AQ[segnale.Num / 2];
+  if (segnale.Dove == Area::AIW) return plc.Volt_AI[segnale.Num / 2];
+  if (segnale.Dove == Area::AQW) return plc.Volt_AQ[segnale.Num / 2];
   return Leggi_Cella(plc, {segnale.Dove, segnale.Num, segnale.Bit});
 }
 

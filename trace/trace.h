@@ -14,11 +14,11 @@ namespace tavorno {
 struct Segnale {
   std::string Nome;       ///< symbol, or the address where there is none; UTF-8
   std::string Indirizzo;  ///< "I0.0", "AIW2"
-  Campo Dove = Campo::I;
+  Area Dove = Area::I;
   int Num = 0, Bit = 0;
 
-  bool Analogico() const { return Dove == Campo::AIW || Dove == Campo::AQW; }
-  bool Uscita() const { return Dove == Campo::Q || Dove == Campo::AQW; }
+  bool Analogico() const { return Dove == Area::AIW || Dove == Area::AQW; }
+  bool Uscita() const { return Dove == Area::Q || Dove == Area::AQW; }
 };
 
 struct Cambio_Segnale {

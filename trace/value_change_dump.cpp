@@ -43,12 +43,12 @@ std::string Binario(std::size_t numero) {
 
 struct Livello {
   const char* Nome;
-  Campo Dove;
+  Area Dove;
 };
-constexpr Livello livelli[] = {{"ingressi", Campo::I},
-                               {"uscite", Campo::Q},
-                               {"ingressi_analogici", Campo::AIW},
-                               {"uscite_analogiche", Campo::AQW}};
+constexpr Livello livelli[] = {{"ingressi", Area::I},
+                               {"uscite", Area::Q},
+                               {"ingressi_analogici", Area::AIW},
+                               {"uscite_analogiche", Area::AQW}};
 
 }  // namespace
 

@@ -2,8 +2,6 @@
 #include "awl/ui/completion.h"
 
 #include <algorithm>
-#include <array>
-#include <utility>
 
 #include "plc/codepage.h"
 
@@ -12,17 +10,6 @@ namespace tavorno {
 namespace {
 
 constexpr std::string_view senza_operandi = "senza operandi";
-
-/// Operands of the mnemonics whose operands nobody checks.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 7> operandi_liberi = {{
-    {"NETW", "numero //titolo del segmento"},
-    {"JMP", "numero dell'etichetta"},
-    {"LBL", "numero dell'etichetta"},
-    {"CALL", "nome della procedura"},
-    {"SBR", "nome della procedura"},
-    {"INT", "nome della routine"},
-    {"LSCR", "bit di S"},
-}};
 
 std::string_view Operandi_Di(const Istruzione& istruzione) {
   switch (istruzione.Trattamento) {
@@ -35,14 +22,7 @@ std::string_view Operandi_Di(const Istruzione& istruzione) {
     case Gruppo::Accettata:
       break;
   }
-  const auto* trovati = std::ranges::find(operandi_liberi, std::string_view(istruzione.Nome),
-                                          &std::pair<std::string_view, std::string_view>::first);
-  return trovati == operandi_liberi.end() ? senza_operandi : trovati->second;
-}
-
-/// As a student writes it.
-std::string Nome_Scritto(const Istruzione& istruzione) {
-  return istruzione.Nome == "NETW" ? "NETWORK" : istruzione.Nome;
+  return istruzione.Operandi_Liberi.empty() ? senza_operandi : istruzione.Operandi_Liberi;
 }
 
 }  // namespace
@@ -55,7 +35,8 @@ Prima_Parola Trova_Prima_Parola(std::string_view linea) {
 }
 
 const Istruzione* Istruzione_Di(std::string_view linea) {
-  if (linea.starts_with("NETWORK")) return Cerca_Istruzione("NETWORK ");
+  const Istruzione* intera = Cerca_Testa(linea);
+  if (intera && intera->Nel_Programma == Compito::Segmento) return intera;
   const Prima_Parola parola = Trova_Prima_Parola(linea);
   return Cerca_Istruzione(Maiuscole(linea.substr(parola.Inizio, parola.Fine - parola.Inizio)));
 }
@@ -66,7 +47,7 @@ std::vector<std::string> Completamenti(std::string_view inizio) {
   if (cercato.empty()) return nomi;
   for (const Istruzione& istruzione : Tabella_Istruzioni()) {
     if (istruzione.Trattamento == Gruppo::Non_Supportata) continue;
-    const std::string nome = Nome_Scritto(istruzione);
+    const std::string nome(istruzione.Nome_Scritto());
     if (nome == cercato && Operandi_Di(istruzione) == senza_operandi) return {};
     if (nome.starts_with(cercato)) nomi.push_back(nome);
   }
@@ -75,8 +56,8 @@ std::vector<std::string> Completamenti(std::string_view inizio) {
 }
 
 std::string Suggerimento(const Istruzione& istruzione) {
-  return Nome_Scritto(istruzione) + "   " + std::string(Operandi_Di(istruzione)) + "\n" +
-         istruzione.Aiuto;
+  return std::string(istruzione.Nome_Scritto()) + "   " + std::string(Operandi_Di(istruzione)) +
+         "\n" + istruzione.Aiuto;
 }
 
 }  // namespace tavorno

@@ -50,16 +50,12 @@ Barra_LED::Barra_LED(Barra& barra, const QString& caption, QWidget* sopra)
   Caption(caption);
   ForeColor(Da_BGR(65535));
   Aggiorna();
-  barra_.Aspetto = [this] {
+  ascolto_ = barra_.Aspetto.Ascolta([this] {
     if (in_attesa_) return;
     in_attesa_ = true;
     QMetaObject::invokeMethod(
         this, [this] { Aggiorna(); }, Qt::QueuedConnection);
-  };
-}
-
-Barra_LED::~Barra_LED() {
-  barra_.Aspetto = nullptr;
+  });
 }
 
 QString Barra_LED::Caption() const {

@@ -17,15 +17,14 @@ namespace tavorno {
 class Parte;
 
 /// The face of a byte bar: the caption `etC` and the LEDs `imgLI0(0)`..`imgLI0(7)`, of which the
-/// lit ones are visible. It takes the bar's `Aspetto`, and the bar must outlive it. A bar may
-/// change thousands of times a second: the face follows at the next turn of the event loop.
+/// lit ones are visible. The bar must outlive it. A bar may change thousands of times a
+/// second: the face follows at the next turn of the event loop.
 class Barra_LED : public QWidget {
  public:
   static constexpr QSize Misura{260, 26};  ///< pixels at 100 %
 
   /// `caption` also names the bits in the tool tips: "Q0" gives "Q0.0".
   Barra_LED(Barra& barra, const QString& caption, QWidget* sopra = nullptr);
-  ~Barra_LED() override;
 
   QString Caption() const;
   void Caption(const QString& testo);
@@ -55,6 +54,7 @@ class Barra_LED : public QWidget {
   QColor colore_;
   std::uint8_t tipo_ = 0, forma_ = 0;  // of the pictures that are shown
   bool in_attesa_ = false;
+  Iscrizione ascolto_;
 };
 
 }  // namespace tavorno

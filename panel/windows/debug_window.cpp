@@ -256,7 +256,8 @@ void FrmDebug::Senza_Record() {
 
 void FrmDebug::Mostra_Timer(const Riga_PLC& riga) {
   cmbTim_->clear();
-  const bool salta = riga.Istr == "CALL" || riga.Istr == "JMP";
+  const bool salta =
+      riga.Nel_Programma == Compito::Chiamata || riga.Nel_Programma == Compito::Salto;
   if (salta) {
     for (std::size_t k = 1; k < riga.Lista_T.size(); ++k)
       cmbTim_->addItem(Come_Testo(riga.Lista_T[k]));

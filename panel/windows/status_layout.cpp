@@ -14,17 +14,19 @@ namespace tavorno {
 
 namespace {
 
-constexpr int bit_di_un_byte = 8;
+constexpr int bit_di_un_byte = Riga_Di(Area::I).Bit;
 
-struct Riga_IO {
-  const char* Nome;
-  const char* Bit;
-  const char* Valore;
-  int Indice;
+/// The rows of an area as bits and as a number; the objects are named after its words and bytes.
+struct Byte_IO {
+  Area Bit;
+  Area Valore;
 };
 
-constexpr Riga_IO righe_ingressi[] = {{"IB0:", "etIW", "etIB", 0}, {"IB1:", "etIW", "etIB", 1}};
-constexpr Riga_IO righe_uscite[] = {{"QB0:", "etQW", "etQB", 0}, {"QB1:", "etQW", "etQB", 1}};
+constexpr Byte_IO byte_ingressi = {Area::IW, Area::IB};
+constexpr Byte_IO byte_uscite = {Area::QW, Area::QB};
+
+constexpr int righe_marker = 4;
+constexpr int righe_accumulatori = 4;
 
 constexpr int scelte_timer[] = {32, 33, 37, 38};
 constexpr int scelte_contatori[] = {0, 1, 2};
@@ -66,12 +68,12 @@ struct FrmStatiL::Tabella_Colonne {
   const char* Preset;
   const char* Bit;
   const char* Suggerimento;
-  int Ultimo;
+  Area Elementi;
   std::span<const int> Scelte;
 };
 
 struct FrmStatiL::Tabella_V {
-  const char* Nome;
+  Area Celle;
   const char* Scelta;
   const char* Numero;
   const char* Valore;
@@ -94,15 +96,18 @@ QGroupBox* FrmStatiL::Riquadro_IO() {
   QGridLayout* griglia = Griglia(*riquadro);
   griglia->addWidget(Testata_Bit(), 0, 1);
   int riga = 1;
-  const auto metti = [&](std::span<const Riga_IO> righe, std::vector<Byte>& byte) {
-    for (const Riga_IO& io : righe) {
-      griglia->addWidget(Etichetta(Q(io.Nome)), riga, 0);
-      byte.push_back(Riga_Byte(*griglia, riga++, Con_Indice(io.Bit, io.Indice),
-                               Con_Indice(io.Valore, io.Indice), Q(io.Nome)));
+  const auto metti = [&](Byte_IO io, std::vector<Byte>& byte) {
+    const std::string area(Testo_Area(io.Valore));
+    const std::string bit = "et" + std::string(Testo_Area(io.Bit));
+    for (int n = 0; n <= Riga_Di(io.Valore).Ultima; ++n) {
+      const QString nome = Q(area + std::to_string(n) + ":");
+      griglia->addWidget(Etichetta(nome), riga, 0);
+      byte.push_back(Riga_Byte(*griglia, riga++, Con_Indice(bit.c_str(), n),
+                               Con_Indice(("et" + area).c_str(), n), nome));
     }
   };
-  metti(righe_ingressi, ingressi_);
-  metti(righe_uscite, uscite_);
+  metti(byte_ingressi, ingressi_);
+  metti(byte_uscite, uscite_);
   // Its bits stand above those of the markers, whose names share their column with a list.
   griglia->setColumnMinimumWidth(0, cmbM1_->sizeHint().width());
   return riquadro;
@@ -112,11 +117,12 @@ QGroupBox* FrmStatiL::Riquadro_M() {
   auto* riquadro = new QGroupBox(Q("Stato M"));
   QGridLayout* griglia = Griglia(*riquadro);
   cmbM1_ = Lista("cmbM1", "Primo byte M mostrato");
-  cmbM1_->addItems({Q("M00"), Q("M01")});
+  for (int primo = 0; primo + righe_marker - 1 <= Riga_Di(Area::M).Ultima; ++primo)
+    cmbM1_->addItem(QStringLiteral("M%1").arg(primo, 2, 10, QLatin1Char('0')));
   griglia->addWidget(cmbM1_, 0, 0);
   griglia->addWidget(Testata_Bit(), 0, 1);
   std::vector<QLabel*> nomi;
-  for (int k = 0; k < 4; ++k) {
+  for (int k = 0; k < righe_marker; ++k) {
     nomi.push_back(Etichetta({}));
     nomi.back()->setObjectName(Con_Indice("etM1", k));
     griglia->addWidget(nomi.back(), k + 1, 0);
@@ -137,7 +143,7 @@ std::vector<FrmStatiL::Colonna> FrmStatiL::Metti_Colonne(QGridLayout& griglia, i
   int i = 0;
   for (const int scelto : tabella.Scelte) {
     QComboBox* lista = Lista(Con_Indice(tabella.Scelta, i), tabella.Suggerimento);
-    for (int n = 0; n <= tabella.Ultimo; ++n) lista->addItem(QString::number(n));
+    for (int n = 0; n <= Riga_Di(tabella.Elementi).Ultima; ++n) lista->addItem(QString::number(n));
     lista->setCurrentIndex(scelto);
     QLabel* valore = Campo_Valore(Con_Indice(tabella.Valore, i), 6);
     QLabel* preset = Campo_Valore(Con_Indice(tabella.Preset, i), 6);
@@ -155,11 +161,22 @@ std::vector<FrmStatiL::Colonna> FrmStatiL::Metti_Colonne(QGridLayout& griglia, i
 QGroupBox* FrmStatiL::Riquadro_Colonne() {
   auto* riquadro = new QGroupBox(Q("Timer/Counter"));
   QGridLayout* griglia = Griglia(*riquadro);
-  const Tabella_Colonne timer{"Txx :",  "cmbIndT",   "etTmrV",
-                              "etTmrS", "etTmrB",    "Temporizzatore mostrato: valori in scatti",
-                              40,       scelte_timer};
-  const Tabella_Colonne contatori{
-      "Cxx :", "cmbIndC", "etCV", "etCS", "etCB", "Contatore mostrato", 20, scelte_contatori};
+  const Tabella_Colonne timer{.Nome = "Txx :",
+                              .Scelta = "cmbIndT",
+                              .Valore = "etTmrV",
+                              .Preset = "etTmrS",
+                              .Bit = "etTmrB",
+                              .Suggerimento = "Temporizzatore mostrato: valori in scatti",
+                              .Elementi = Area::T,
+                              .Scelte = scelte_timer};
+  const Tabella_Colonne contatori{.Nome = "Cxx :",
+                                  .Scelta = "cmbIndC",
+                                  .Valore = "etCV",
+                                  .Preset = "etCS",
+                                  .Bit = "etCB",
+                                  .Suggerimento = "Contatore mostrato",
+                                  .Elementi = Area::C,
+                                  .Scelte = scelte_contatori};
   timer_ = Metti_Colonne(*griglia, 0, timer);
   griglia->setRowMinimumHeight(4, 10);
   contatori_ = Metti_Colonne(*griglia, 5, contatori);
@@ -170,9 +187,10 @@ QGroupBox* FrmStatiL::Riquadro_Colonne() {
 FrmStatiL::Memoria_V FrmStatiL::Metti_V(QGridLayout& griglia, int riga, const Tabella_V& tabella) {
   Memoria_V memoria;
   memoria.Scelta = Lista(tabella.Scelta, "Prima cella mostrata");
-  for (int n = 0; n <= 100; ++n)
+  for (int n = 0; n <= Riga_Di(tabella.Celle).Ultima; ++n)
     memoria.Scelta->addItem(QStringLiteral("%1").arg(n, 3, 10, QLatin1Char('0')));
-  griglia.addWidget(Etichetta(Q(tabella.Nome), memoria.Scelta), riga, 0);
+  const QString nome_area = Q(std::string(Testo_Area(tabella.Celle)) + ":");
+  griglia.addWidget(Etichetta(nome_area, memoria.Scelta), riga, 0);
   griglia.addWidget(memoria.Scelta, riga, 1);
   std::vector<QLabel*> numeri;
   for (int k = 0; k < (tabella.Due ? 2 : 1); ++k) {
@@ -199,11 +217,17 @@ QGroupBox* FrmStatiL::Riquadro_Memorie() {
   auto* riquadro = new QGroupBox(Q("Memorie/Accumulatori"));
   QGridLayout* griglia = Griglia(*riquadro);
   griglia->setColumnStretch(3, 1);
-  vb_ = Metti_V(*griglia, 0, {"VB:", "cmbVb", "etnB", "etDVB", true});
-  vw_ = Metti_V(*griglia, 2, {"VW:", "cmbVW", "etnw", "etDVw", true});
-  vd_ = Metti_V(*griglia, 4, {"VD:", "cmbVD", "etnd", "etDVd", false});
+  vb_ = Metti_V(
+      *griglia, 0,
+      {.Celle = Area::VB, .Scelta = "cmbVb", .Numero = "etnB", .Valore = "etDVB", .Due = true});
+  vw_ = Metti_V(
+      *griglia, 2,
+      {.Celle = Area::VW, .Scelta = "cmbVW", .Numero = "etnw", .Valore = "etDVw", .Due = true});
+  vd_ = Metti_V(
+      *griglia, 4,
+      {.Celle = Area::VD, .Scelta = "cmbVD", .Numero = "etnd", .Valore = "etDVd", .Due = false});
   griglia->setRowMinimumHeight(5, 10);
-  for (int k = 0; k < 4; ++k) {
+  for (int k = 0; k < righe_accumulatori; ++k) {
     const QString nome = QStringLiteral("AC%1:").arg(k);
     QLabel* valore = Campo_Valore(Con_Indice("etAC", k), 13);
     griglia->addWidget(Etichetta(nome, valore), 6 + k, 0);

@@ -3,6 +3,7 @@
 
 #include "awl/checker.h"
 #include "invariants.h"
+#include "plc/instructions.h"
 
 namespace tavorno::prova {
 

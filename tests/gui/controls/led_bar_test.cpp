@@ -110,7 +110,7 @@ TEST_F(LedBar, LeavesItsBarWhenItGoes) {
   faccia.reset();
   QCoreApplication::processEvents();
   barra.Stato_Q("00000000");
-  EXPECT_FALSE(barra.Aspetto);
+  EXPECT_FALSE(barra.Aspetto.Ascoltato());
 }
 
 TEST_F(LedBar, ANewFaceShowsWhatTheBarHolds) {

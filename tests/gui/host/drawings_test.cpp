@@ -70,7 +70,6 @@ TEST_P(Disegni_Di, EveryFigureHasItsGroupAndEveryGroupIsDriven) {
   ASSERT_FALSE(gruppi.empty());
   ASSERT_TRUE(Disegni(File_Di(esercizio)).Valido());
   std::set<QString> visti{QStringLiteral("fondo")};
-  impianto->Change = [] {};
   for (const Figura& figura : impianto->Disegno) Guarda(figura, visti);
   // A user who tries everything on a machine whose program has gone wild.
   std::mt19937 caso(20);  // always the same

@@ -46,11 +46,7 @@ TEST_F(Picture, ADoubleClickForcesTheContactor) {
 
 TEST_F(Picture, TwoQuickPressesOfAButtonAreTwoPresses) {
   int volte = 0;
-  const auto prima = banco.Macchina().Change;
-  banco.Macchina().Change = [&] {
-    prima();
-    volte += Ingresso(2) == '1';
-  };
+  const Iscrizione ascolto = banco.Macchina().Change.Ascolta([&] { volte += Ingresso(2) == '1'; });
   QTest::mousePress(&quadro, Qt::LeftButton, {}, banco.Centro("imgStart"));
   QTest::mouseRelease(&quadro, Qt::LeftButton, {}, banco.Centro("imgStart"));
   QTest::mouseDClick(&quadro, Qt::LeftButton, {}, banco.Centro("imgStart"));

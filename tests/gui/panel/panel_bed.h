@@ -31,15 +31,16 @@ struct Banco_Pannello : ::testing::Test {
   std::map<int, std::function<void()>> Al_Ciclo;  ///< what happens before scan n of a run, from 0
   int cicli = 0;
   int righe = 0;  // yields of the run
+  Iscrizione cessione;
 
   Banco_Pannello() {
-    plc.Hook.Cedi = [this] {
+    cessione = plc.Hook.Ascolta_Cedi([this] {
       ASSERT_LT(++righe, 100000);
       if (plc.PC != 0) return;
       seduta.orologio.Avanza(1);
       const auto azione = Al_Ciclo.find(cicli++);
       if (azione != Al_Ciclo.end()) azione->second();
-    };
+    });
     pannello.show();
   }
 

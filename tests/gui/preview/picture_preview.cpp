@@ -59,7 +59,6 @@ int main(int argc, char** argv) {
   Orologio orologio;
   Plc plc(orologio);
   const auto impianto = esercizio.Crea(plc);
-  impianto->Change = [] {};
   Quadro quadro(*impianto,
                 QStringLiteral(":/plants/US-%1.svg").arg(esercizio.Indice, 2, 10, QChar('0')));
   double scala = 1;

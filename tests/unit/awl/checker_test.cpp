@@ -9,6 +9,7 @@
 #include "awl/program.h"
 #include "checked_line.h"
 #include "expected_rules.h"
+#include "plc/instructions.h"
 
 namespace tavorno::prova {
 namespace {

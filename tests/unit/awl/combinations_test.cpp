@@ -13,6 +13,7 @@
 #include "checked_line.h"
 #include "combinations_oracle.h"
 #include "expected_rules.h"
+#include "plc/instructions.h"
 
 namespace tavorno::prova {
 namespace {
@@ -137,7 +138,8 @@ struct Execution {
     plc.Stak[1] = 1;
     plc.Stak[2] = pattern ? 1 : 0;
     std::vector<std::string> boxes;
-    plc.Hook.Mostra = [&](const Avviso& box) { boxes.push_back(box.Titolo); };
+    const Iscrizione ascolto =
+        plc.Hook.Mostra.Ascolta([&](const Avviso& box) { boxes.push_back(box.Titolo); });
 
     expected = Oracle(plc, power.enabled).Of(mnemonic, op1, op2);
     try {

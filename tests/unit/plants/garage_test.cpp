@@ -264,7 +264,6 @@ TEST_F(Garage, ButtonsActWhileHeld) {
     EXPECT_EQ(F(nome).Picture(), "imgNOFF");
     EXPECT_THAT(ascolto.Sentiti,
                 ElementsAre(premuto, premuto, "0001000100010001", "0001000100010001"));
-    garage.Change = nullptr;
   }
 }
 

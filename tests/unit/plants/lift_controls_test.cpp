@@ -226,7 +226,8 @@ class LiftButton : public Lift, public ::testing::WithParamInterface<Prova_Pulsa
 TEST_P(LiftButton, ActsInServiceAndInMaintenance) {
   for (int giro = 0; giro < 2; ++giro) {
     std::vector<std::string> sentiti;
-    ascensore.Change = [&] { sentiti.push_back(ascensore.Stato_I()); };
+    const Iscrizione ascolto =
+        ascensore.Change.Ascolta([&] { sentiti.push_back(ascensore.Stato_I()); });
     const Prova_Pulsante& p = GetParam();
     std::string premuto = "1110100001000001";
     premuto[static_cast<std::size_t>(p.Posizione - 1)] = p.Giu;
@@ -254,7 +255,8 @@ INSTANTIATE_TEST_SUITE_P(All, LiftButton,
 
 TEST_F(Lift, SelectorTogglesMaintenanceAndThePlcDoesNotSeeIt) {
   std::vector<std::string> sentiti;
-  ascensore.Change = [&] { sentiti.push_back(ascensore.Stato_I()); };
+  const Iscrizione ascolto =
+      ascensore.Change.Ascolta([&] { sentiti.push_back(ascensore.Stato_I()); });
   ascensore.Clic("imgCom");
   EXPECT_EQ(ascensore.Manutenzione, -1);
   EXPECT_EQ(F("etIn(1)").ForeColor(), 0U);
@@ -320,7 +322,7 @@ TEST_F(Lift, AKeyEndsWhatAnOutputBegan) {
 
 TEST_F(Lift, LoadCellGivesWholeVoltsAndIsHeardByItself) {
   int eventi = 0;
-  ascensore.Change = [&] { ++eventi; };
+  const Iscrizione ascolto = ascensore.Change.Ascolta([&] { ++eventi; });
   for (int volt = 1; volt <= 10; ++volt) {
     ascensore.Regola("UpD1", volt);
     EXPECT_EQ(ascensore.ME_AIW0, static_cast<float>(volt));

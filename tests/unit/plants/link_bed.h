@@ -18,12 +18,6 @@ namespace tavorno::prova {
 /// A CPU with a virtual clock, to which a plant can be wired and a program given.
 class Banco_Impianto : public ::testing::Test {
  public:
-  /// What a test listened with is gone by now, and closing the plant must not call it.
-  ~Banco_Impianto() override {
-    for (LedI& barra : plc.SI) barra.Change = nullptr;
-    for (LedQ& barra : plc.SQ) barra.Change = nullptr;
-  }
-
   /// Opens an exercise as its window does.
   void Apri(int numero) { Apri(Tabella_Esercizi()[static_cast<std::size_t>(numero)]); }
   void Apri(const Esercizio& esercizio) {

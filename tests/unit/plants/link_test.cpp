@@ -79,9 +79,12 @@ TEST_F(Link, OpeningResetsTheBarsBeforeThePlantSpeaks) {
   plc.SQ[0].Stato_Q("11110000");
   plc.SQ[1].INT_ON = false;
   std::vector<std::string> visti;
-  plc.SI[0].Change = [&] { visti.push_back("SI0 " + plc.SI[0].Stato_I()); };
-  plc.SI[1].Change = [&] { visti.push_back("SI1 " + plc.SI[1].Stato_I()); };
-  plc.SQ[0].Change = [&] { visti.push_back("SQ0 " + plc.SQ[0].Stato_Q()); };
+  const Iscrizione ascolto_1 =
+      plc.SI[0].Change.Ascolta([&] { visti.push_back("SI0 " + plc.SI[0].Stato_I()); });
+  const Iscrizione ascolto_2 =
+      plc.SI[1].Change.Ascolta([&] { visti.push_back("SI1 " + plc.SI[1].Stato_I()); });
+  const Iscrizione ascolto_3 =
+      plc.SQ[0].Change.Ascolta([&] { visti.push_back("SQ0 " + plc.SQ[0].Stato_Q()); });
   const auto aperto =
       std::make_unique<Collegamento>(plc, stato, Tabella_Esercizi()[1], [&](Modo_Sportello modo) {
         visti.push_back("door " + std::to_string(static_cast<int>(modo)) +
@@ -210,7 +213,7 @@ TEST_F(Link, AMovingPlantIsAliveWithoutAProgram) {
 TEST_F(Link, ARepeatedTextIsHeardOnlyOnceFurtherDown) {
   Apri(prova);
   int uditi = 0;
-  plc.SI[0].Change = [&] { ++uditi; };
+  const Iscrizione ascolto_4 = plc.SI[0].Change.Ascolta([&] { ++uditi; });
   plc.SQ[0].Stato_Q("10000000");
   orologio.Avanza(40);
   EXPECT_EQ(uditi, 1);
@@ -221,8 +224,10 @@ TEST_F(Link, ClosingResetsTheBarsWithThePlantStillWired) {
   plc.SQ[0].Stato_Q("10000000");
   ASSERT_EQ(plc.SI[0].Stato_I(), "10100100");
   std::vector<std::string> visti;
-  plc.SI[0].Change = [&] { visti.push_back("SI0 " + plc.SI[0].Stato_I()); };
-  plc.SI[1].Change = [&] { visti.push_back("SI1 " + plc.SI[1].Stato_I()); };
+  const Iscrizione ascolto_5 =
+      plc.SI[0].Change.Ascolta([&] { visti.push_back("SI0 " + plc.SI[0].Stato_I()); });
+  const Iscrizione ascolto_6 =
+      plc.SI[1].Change.Ascolta([&] { visti.push_back("SI1 " + plc.SI[1].Stato_I()); });
   filo->Chiudi();
   // the contactor that falls with Q0 makes the plant write its inputs once more
   EXPECT_THAT(visti, ElementsAre("SI0 00000000", "SI1 00000000", "SI0 10000100", "SI1 11000000"));
@@ -259,7 +264,7 @@ TEST_F(Link, ClosingTwiceDoesNotCloseTheNextPlant) {
 
 TEST_F(Link, GoingAwayCloses) {
   int altri = 0;
-  plc.SQ[0].Change = [&] { ++altri; };
+  const Iscrizione ascolto_7 = plc.SQ[0].Change.Ascolta([&] { ++altri; });
   Apri(0);
   plc.SQ[0].Stato_Q("10000000");
   EXPECT_EQ(altri, 1);

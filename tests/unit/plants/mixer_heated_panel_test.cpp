@@ -129,7 +129,6 @@ TEST_F(HeatedMixerPanel, Buttons) {
     EXPECT_EQ(m.Stato_I(), riposo) << nome;
     EXPECT_EQ(Picture(m, nome), "imgSBOF");
     EXPECT_THAT(ascolto.Sentiti, ::testing::ElementsAre(premuto, premuto, riposo, riposo));
-    m.Change = nullptr;
   }
 }
 

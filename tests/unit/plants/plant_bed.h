@@ -14,10 +14,14 @@ namespace tavorno::prova {
 class Ascolto {
  public:
   explicit Ascolto(Impianto& impianto) {
-    impianto.Change = [this, &impianto] { Sentiti.push_back(impianto.Stato_I()); };
+    iscrizione_ =
+        impianto.Change.Ascolta([this, &impianto] { Sentiti.push_back(impianto.Stato_I()); });
   }
 
   std::vector<std::string> Sentiti;
+
+ private:
+  Iscrizione iscrizione_;
 };
 
 inline char Ingresso(const Impianto& impianto, int posizione) {
@@ -70,7 +74,6 @@ inline void Verifica_Pulsante(Impianto& impianto, const Prova_Pulsante& atteso) 
   EXPECT_EQ(impianto.Stato_I(), riposo) << atteso.Nome;
   EXPECT_EQ(Picture(impianto, atteso.Nome), atteso.Picture_Su);
   EXPECT_EQ(ascolto.Sentiti, (std::vector{premuto, riposo})) << atteso.Nome;
-  impianto.Change = nullptr;
 }
 
 /// Two clicks on a thermal relay: tripped, then reset.
@@ -91,7 +94,6 @@ inline void Verifica_Termico(Impianto& impianto, const char* nome, int posizione
   EXPECT_EQ(impianto.Stato_I(), riposo) << nome;
   EXPECT_EQ(Picture(impianto, nome), "ImgRTOF");
   EXPECT_EQ(ascolto.Sentiti, (std::vector{scattato, riposo})) << nome;
-  impianto.Change = nullptr;
 }
 
 /// Output `posizione` alone lights lamp `nome` with `picture`, and changes nothing else.

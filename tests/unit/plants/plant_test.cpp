@@ -32,7 +32,7 @@ class Impianto_Di_Prova : public Impianto {
     Monta(commutatori);
     Regolatori["UpD1"] = {[this](double valore) { regolati.push_back(valore); }, 1, 1, 9, 1};
     Regolatori["ME_Speed"] = {[this](double valore) { regolati.push_back(valore); }, 1};
-    Change = [this] { inviati.push_back(Stato_I()); };
+    ascolto = Change.Ascolta([this] { inviati.push_back(Stato_I()); });
     Disegno["imgFC"].Premi = [this] { gesti += "P"; };
     Disegno["imgFC"].Rilascia = [this] { gesti += "R"; };
     Disegno["imgFC"].Clic = [this] { gesti += "C"; };
@@ -46,6 +46,7 @@ class Impianto_Di_Prova : public Impianto {
   using Impianto::Uscita;
 
   std::vector<std::string> inviati;  ///< the input text at each Change
+  Iscrizione ascolto;
   std::vector<double> regolati;
   std::vector<int> cambiate;  ///< changed outputs at the last let, of 1, 9 and 16
   std::string gesti;
@@ -110,7 +111,7 @@ TEST_F(PlantTwice, AnyOtherTextMakesItselfHeard) {
 }
 
 TEST_F(PlantSilent, CanDoWithoutAListener) {
-  impianto.Change = nullptr;
+  impianto.ascolto.Termina();
   impianto.Invia();
   EXPECT_EQ(impianto.Stato_I(), "1000000000000001");
 }

@@ -143,7 +143,6 @@ TEST_P(PneumaticBench, PushButtonsActWhileHeld) {
     EXPECT_EQ(banco.Vede(pulsante.Nome), pulsante.Picture_Su);
     EXPECT_THAT(ascolto.Sentiti, ElementsAreArray({premuto, premuto, riposo, riposo}))
         << pulsante.Nome;
-    macchina.Change = nullptr;
   }
 }
 

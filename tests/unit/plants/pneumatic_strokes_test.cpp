@@ -37,7 +37,6 @@ struct PneumaticStroke : Ogni_Cilindro {
     Tick(3);
     EXPECT_EQ(Posizione(), a);
     EXPECT_TRUE(ascolto.Sentiti.empty()) << "the timer has stopped";
-    banco.Macchina.Change = nullptr;
   }
 
   void Velocita(double velocita, double regolatori) {

@@ -337,10 +337,10 @@ TEST_F(BitLogic, EuOnALevelAlreadyOnGivesAPulseInStepMode) {
 
 TEST_F(BitLogic, EuSeesTheLevelThatRisesAfterTheFirstScan) {
   Carica(conta_fronti);
-  plc.Hook.Cedi = [this] {
+  const Iscrizione ascolto = plc.Hook.Ascolta_Cedi([this] {
     if (plc.N_Cicli == 1) Ingresso(0, 0, true);
     if (plc.N_Cicli == 2) plc.Ferma = -1;
-  };
+  });
   plc.mnuPlcRun();
   EXPECT_EQ(plc.Mem_M[0].Bit[0], 1);
 }

@@ -41,14 +41,15 @@ template <class Nomi>
 class ByteBar : public ::testing::Test {
  protected:
   ByteBar() {
-    barra.Change = [this] { passati.push_back(Nomi::Testo(barra)); };
-    barra.Aspetto = [this] { ++ridisegni; };
+    ascolto_change = barra.Change.Ascolta([this] { passati.push_back(Nomi::Testo(barra)); });
+    ascolto_aspetto = barra.Aspetto.Ascolta([this] { ++ridisegni; });
   }
 
   Orologio orologio;
   typename Nomi::Tipo barra{orologio};
   std::vector<std::string> passati;
   int ridisegni = 0;
+  Iscrizione ascolto_change, ascolto_aspetto;
 };
 
 using Barre = ::testing::Types<Nomi_I, Nomi_Q>;
@@ -98,10 +99,10 @@ TYPED_TEST(ByteBar, RaisesChangeOnceForATextGivenTwice) {
 TYPED_TEST(ByteBar, ChangeSeesAllThreeFormsOfTheNewByte) {
   int byte = -1;
   std::string lettura;
-  this->barra.Change = [&] {
+  const Iscrizione ascolto = this->barra.Change.Ascolta([&] {
     byte = TypeParam::Byte(this->barra);
     lettura = TypeParam::Lettura(this->barra);
-  };
+  });
   TypeParam::Scrivi(this->barra, "01000001");
   EXPECT_EQ(byte, 130);
   EXPECT_EQ(lettura, "10000010");
@@ -109,20 +110,22 @@ TYPED_TEST(ByteBar, ChangeSeesAllThreeFormsOfTheNewByte) {
 
 TYPED_TEST(ByteBar, MayBeWrittenFromInsideItsChange) {
   int cambi = 0;
-  this->barra.Change = [&] {
+  const Iscrizione ascolto = this->barra.Change.Ascolta([&] {
     if (++cambi < 10) TypeParam::Scrivi(this->barra, "11000000");
-  };
+  });
   TypeParam::Scrivi(this->barra, "10000000");
   EXPECT_EQ(cambi, 2);
   EXPECT_EQ(TypeParam::Byte(this->barra), 3);
 }
 
 TYPED_TEST(ByteBar, WithoutListenersIsSilent) {
-  this->barra.Change = nullptr;
-  this->barra.Aspetto = nullptr;
+  this->ascolto_change.Termina();
+  this->ascolto_aspetto.Termina();
   TypeParam::Scrivi(this->barra, "10000000");
   this->barra.LED_Tipo(1, 1);
   EXPECT_EQ(TypeParam::Byte(this->barra), 1);
+  EXPECT_TRUE(this->passati.empty());
+  EXPECT_EQ(this->ridisegni, 0);
 }
 
 TYPED_TEST(ByteBar, ShortTextLeavesTheMissingLedsDark) {

@@ -46,10 +46,6 @@ inline Riga_PLC Riga(std::string_view testo) {
 /// A CPU on a virtual clock, with a program given line by line. Message boxes are collected.
 class Cpu : public ::testing::Test {
  public:
-  Cpu() {
-    plc.Hook.Mostra = [this](const Avviso& avviso) { avvisi.push_back(avviso); };
-  }
-
   /// Loads and links a program; a line MEND is added when there is none.
   void Carica(std::vector<std::string> righe) {
     bool finito = false;
@@ -80,17 +76,16 @@ class Cpu : public ::testing::Test {
 
   /// Run in mode Cont for `n` whole scans, `ms` of virtual time before each but the first.
   void Run_Cont(int n, int ms = 0) {
-    plc.Hook.Cedi = [this, n, ms, visti = 0]() mutable {
+    const Iscrizione ascolto = plc.Hook.Ascolta_Cedi([this, n, ms, visti = 0]() mutable {
       if (plc.N_Cicli == visti) return;
       visti = plc.N_Cicli;
       if (visti >= n)
         plc.Ferma = -1;  // the loop leaves after one more line
       else
         orologio.Avanza(ms);
-    };
+    });
     plc.mnuPlcCont();
     plc.mnuPlcRun();
-    plc.Hook.Cedi = nullptr;
   }
 
   /// One whole scan by steps: lines up to and with MEND.
@@ -116,6 +111,10 @@ class Cpu : public ::testing::Test {
   Orologio orologio;
   Plc plc{orologio};
   std::vector<Avviso> avvisi;
+
+ private:
+  Iscrizione ascolto_avvisi_ =
+      plc.Hook.Mostra.Ascolta([this](const Avviso& avviso) { avvisi.push_back(avviso); });
 };
 
 inline constexpr const char* Errore_Run_Time = "Run Time Error! Il programma sarà terminato!";

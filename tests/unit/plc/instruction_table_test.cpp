@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "plc/instructions.h"
 #include "plc/memory.h"
 
 namespace tavorno::prova {

@@ -103,7 +103,7 @@ TEST_P(StackCode, TurnsTheWholeStackIntoWhatItsRowSaysAndTouchesNothingElse) {
   Riempi(plc, passo.Prima);
   Memoria attesa = plc;
   for (int i = 0; i <= 7; ++i) attesa.Stak[i] = passo.Dopo[static_cast<std::size_t>(i)];
-  plc.GestStak(static_cast<std::uint8_t>(passo.Codice), passo.Valore);
+  plc.GestStak(static_cast<Op_Pila>(passo.Codice), passo.Valore);
   EXPECT_EQ(Celle(plc), passo.Dopo);
   EXPECT_TRUE(attesa == plc);
 }
@@ -114,7 +114,7 @@ TEST_F(LogicStack, CodesWithoutAMeaningChangeNothing) {
   const Otto prima = {1, 0, 2, 3, 4, 5, 6, 7};
   for (int codice = 8; codice <= 255; ++codice) {
     Riempi(plc, prima);
-    plc.GestStak(static_cast<std::uint8_t>(codice), 1);
+    plc.GestStak(static_cast<Op_Pila>(codice), 1);
     EXPECT_EQ(Celle(plc), prima) << "code " << codice;
   }
 }
@@ -130,21 +130,22 @@ TEST_F(LogicStack, LongSequencesEqualShiftingTheWholeTable) {
     // The clear is left out of the draw but for rare rounds, since it would hide what went before.
     const int codice = giro % 97 == 0 ? 0 : static_cast<int>(1 + caso(8));
     const auto valore = static_cast<std::int16_t>(caso(2));
-    plc.GestStak(static_cast<std::uint8_t>(codice), valore);
+    plc.GestStak(static_cast<Op_Pila>(codice), valore);
     Sposta(modello, codice, valore);
     ASSERT_EQ(Celle(plc), modello) << "round " << giro << ", code " << codice;
   }
 }
 
 TEST_F(LogicStack, NinePushesLoseTheFirstAndAnAndPopBringsInZero) {
-  for (int i = 0; i < 9; ++i) plc.GestStak(1, static_cast<std::int16_t>(i % 2 == 0 ? 1 : 0));
+  for (int i = 0; i < 9; ++i)
+    plc.GestStak(Op_Pila::Spingi, static_cast<std::int16_t>(i % 2 == 0 ? 1 : 0));
   EXPECT_EQ(Pila(), (std::vector<int>{1, 0, 1, 0, 1, 0, 1, 0}));
-  plc.GestStak(2);
+  plc.GestStak(Op_Pila::E_Togli);
   EXPECT_EQ(Pila(), (std::vector<int>{0, 1, 0, 1, 0, 1, 0, 0}));
 }
 
 TEST_F(LogicStack, NinePushesLoseTheFirstAndKeepTheLastEight) {
-  for (std::int16_t i = 1; i <= 9; ++i) plc.GestStak(1, i);
+  for (std::int16_t i = 1; i <= 9; ++i) plc.GestStak(Op_Pila::Spingi, i);
   EXPECT_EQ(Pila(), (std::vector<int>{9, 8, 7, 6, 5, 4, 3, 2}));
 }
 
@@ -167,9 +168,9 @@ TEST_F(LogicStack, LpsOnAnEmptyStackLeavesItEmpty) {
 
 TEST_F(LogicStack, EightPopsEmptyTheStack) {
   Riempi(plc, {1, 1, 1, 1, 1, 1, 1, 1});
-  for (int i = 0; i < 7; ++i) plc.GestStak(7);
+  for (int i = 0; i < 7; ++i) plc.GestStak(Op_Pila::Togli);
   EXPECT_EQ(Pila(), (std::vector<int>{1, 0, 0, 0, 0, 0, 0, 0}));
-  plc.GestStak(7);
+  plc.GestStak(Op_Pila::Togli);
   EXPECT_EQ(Pila(), (std::vector<int>(8, 0)));
 }
 

@@ -24,19 +24,19 @@ class ProgramFlow : public Una_Riga {
 
 TEST_F(ProgramFlow, ReturnStackCodesDoAsTheirRowsSay) {
   using Celle = std::vector<int>;
-  plc.Rit_Stak(1, 77);
+  plc.Rit_Stak(Op_Ritorni::Spingi, 77);
   EXPECT_EQ(Ritorni(), (Celle{77, 3, 4, 5, 6, 7, 8, 9}));
-  plc.Rit_Stak(2, 99);  // two levels at once, and the bottom stays
+  plc.Rit_Stak(Op_Ritorni::Togli_Due, 99);  // two levels at once, and the bottom stays
   EXPECT_EQ(Ritorni(), (Celle{4, 5, 6, 7, 8, 9, 0, 9}));
-  plc.Rit_Stak(3, 99);
+  plc.Rit_Stak(static_cast<Op_Ritorni>(3), 99);
   EXPECT_EQ(Ritorni(), (Celle{4, 5, 6, 7, 8, 9, 0, 9}));
-  plc.Rit_Stak(0, 99);
+  plc.Rit_Stak(Op_Ritorni::Azzera, 99);
   EXPECT_EQ(Ritorni(), (Celle{0, 0, 0, 0, 0, 0, 0, 0}));
 }
 
 TEST_F(ProgramFlow, PushBeyondEightLevelsLosesTheOldest) {
-  plc.Rit_Stak(0);
-  for (std::int16_t linea = 11; linea <= 19; ++linea) plc.Rit_Stak(1, linea);
+  plc.Rit_Stak(Op_Ritorni::Azzera);
+  for (std::int16_t linea = 11; linea <= 19; ++linea) plc.Rit_Stak(Op_Ritorni::Spingi, linea);
   EXPECT_EQ(Ritorni(), (std::vector<int>{19, 18, 17, 16, 15, 14, 13, 12}));
 }
 
@@ -244,7 +244,7 @@ TEST_F(ProgramFlow, CalledProcedureFindsTheTopOnAndTheCallerWhatItLeft) {
 }
 
 TEST_F(ProgramFlow, OneLevelOfCallsReturnsBehindEachCall) {
-  plc.Rit_Stak(0);
+  plc.Rit_Stak(Op_Ritorni::Azzera);
   Carica({"LD SM0.0", "CALL UNO", "INCW VW0", "CALL DUE", "INCW VW1", "MEND", "SBR0 UNO",
           "INCW VW2", "CRET", "INCW VW9", "RET", "SBR1 DUE", "INCW VW3", "RET"});
   Run_Step();
@@ -256,7 +256,7 @@ TEST_F(ProgramFlow, OneLevelOfCallsReturnsBehindEachCall) {
 }
 
 TEST_F(ProgramFlow, SecondReturnOfTwoNestedCallsRestartsTheProgramWithoutAnEndOfScan) {
-  plc.Rit_Stak(0);
+  plc.Rit_Stak(Op_Ritorni::Azzera);
   Carica({"INCW VW0", "LDN M0.0", "CALL UNO", "LD SM0.0", "INCW VW1", "MEND", "SBR0 UNO",
           "CALL DUE", "INCW VW2", "S M0.0, 1", "RET", "SBR1 DUE", "= Q0.0", "INCW VW3", "RET"});
   Run_Step();
@@ -291,7 +291,7 @@ void Ingressi_Letti(Memoria& m) {
 }
 
 TEST_F(ProgramFlow, ReturnWithAnEmptyStackGoesToLineZero) {
-  plc.Rit_Stak(0);
+  plc.Rit_Stak(Op_Ritorni::Azzera);
   Prepara({"NOP", "NOP", "RET"}, 2, {0, 1});
   Memoria atteso = plc;
   Ingressi_Letti(atteso);

@@ -26,15 +26,18 @@ class RunLoop : public Cpu {
 
   /// Calls `fai` in the n-th yield, from 1 on.
   template <class Fai>
-  void Alla_Cessione(int n, Fai fai) {
-    plc.Hook.Cedi = [this, n, fai] {
-      passi.push_back(plc.PC);
-      if (static_cast<int>(passi.size()) == n) fai();
-      if (passi.size() > 1000) plc.Ferma = -1;  // no test hangs
-    };
+  void Alla_Cessione(int n, Fai fai, int righe = 1) {
+    cessione = plc.Hook.Ascolta_Cedi(
+        [this, n, fai] {
+          passi.push_back(plc.PC);
+          if (static_cast<int>(passi.size()) == n) fai();
+          if (passi.size() > 1000) plc.Ferma = -1;  // no test hangs
+        },
+        righe);
   }
 
   std::vector<int> passi;
+  Iscrizione cessione;
 };
 
 // ---- commands that can be given -----------------------------------------------------------------
@@ -313,8 +316,8 @@ TEST_F(RunLoop, ContDuringAStepRunGoesOnFromThePresentLine) {
 }
 
 TEST_F(RunLoop, YieldsAtTheTopOfEachScanAndEverySoManyLines) {
-  plc.Hook.Righe_Per_Cessione = 3;
-  Alla_Cessione(5, [this] { plc.Ferma = -1; });
+  Alla_Cessione(
+      5, [this] { plc.Ferma = -1; }, 3);
   plc.mnuPlcRun();
   EXPECT_EQ(passi, (std::vector<int>{0, 3, 0, 3, 0}));
   EXPECT_EQ(plc.PC, 1);
@@ -325,12 +328,12 @@ TEST_F(RunLoop, ManyLinesAtATimeStopWhereOneWould) {
     bool a_una_riga;  // else after so many scans
     int numero, pc, cicli, scelta;
   } casi[] = {{true, 2, 2, 0, 2}, {false, 2, 0, 2, 3}, {false, 0, 1, 0, 3}};
-  plc.Hook.Righe_Per_Cessione = 100;
   plc.mnuPlcCiclo();
   for (const auto& [a_una_riga, numero, pc, cicli, scelta] : casi) {
     SCOPED_TRACE(numero);
     passi.clear();
-    Alla_Cessione(-1, [] {});
+    Alla_Cessione(
+        -1, [] {}, 100);
     plc.Scelte.chkStop = a_una_riga;
     plc.Scelte.chkSol = !a_una_riga;
     plc.Scelte.txtStop = plc.Scelte.txtNC = numero;
@@ -359,7 +362,7 @@ TEST_P(SecondLoop, IsNotStartedFromInsideTheYield) {
     passi.clear();
     ciclo ? plc.mnuPlcCiclo() : plc.mnuPlcCont();
     bool tornato = false;
-    plc.Hook.Cedi = [&] {
+    const Iscrizione ascolto = plc.Hook.Ascolta_Cedi([&] {
       passi.push_back(plc.PC);
       const bool ultimo = passi.size() == 4;
       if (passi.size() == 2) {
@@ -368,11 +371,10 @@ TEST_P(SecondLoop, IsNotStartedFromInsideTheYield) {
         EXPECT_EQ(passi.size(), 2U);
       }
       if (ultimo || passi.size() > 100) plc.Ferma = -1;
-    };
+    });
     plc.mnuPlcRun();
     EXPECT_TRUE(tornato);
     EXPECT_EQ(passi, (std::vector<int>{0, 1, 2, 3}));
-    plc.Hook.Cedi = nullptr;
     plc.mnuPlcStop();
   }
 }

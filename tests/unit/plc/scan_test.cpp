@@ -101,8 +101,8 @@ TEST_F(Scan, ManyLinesEndWithTheOneThatStopsTheRun) {
 TEST_F(Scan, ManyLinesEndWhenAnOutputBringsTheRunToLeave) {
   Carica({"LD SM0.0", "=I Q0.0", "NOP", "NOP"});
   plc.Ferma = 0;
-  plc.Hook.Mostra = [](const Avviso&) { FAIL(); };
-  plc.SQ[0].Change = [this] { plc.Ferma = -1; };
+  const Iscrizione nessuno = plc.Hook.Mostra.Ascolta([](const Avviso&) { FAIL(); });
+  const Iscrizione ascolto = plc.SQ[0].Change.Ascolta([this] { plc.Ferma = -1; });
   EXPECT_EQ(plc.Esegui_Righe(100), 5);  // the bars follow at the end of the scan
   plc.Ferma = -1;
   EXPECT_EQ(plc.Esegui_Righe(100), 1);
@@ -149,9 +149,9 @@ TEST_F(JumpChain, ThatIsLongerGivesWayAndGoesOnWithTheNextCall) {
 TEST_F(JumpChain, InACircleReturnsSoThatTheRunCanBeStopped) {
   Carica({"RET"});  // outside a procedure it returns to line 0, which is itself
   int cessioni = 0;
-  plc.Hook.Cedi = [&] {
+  const Iscrizione ascolto = plc.Hook.Ascolta_Cedi([&] {
     if (++cessioni == 3) plc.mnuPlcStop();
-  };
+  });
   plc.mnuPlcRun();
   EXPECT_EQ(cessioni, 3);
   EXPECT_EQ(plc.PC, 0);
@@ -183,7 +183,8 @@ TEST_F(Scan, RunTimeErrorBoxComesBeforeTheStop) {
   Carica({"LD K1"});
   Run_Step();
   std::int16_t acceso = 0;
-  plc.Hook.Mostra = [&](const Avviso&) { acceso = plc.PLC_Acceso; };
+  const Iscrizione ascolto =
+      plc.Hook.Mostra.Ascolta([&](const Avviso&) { acceso = plc.PLC_Acceso; });
   plc.CmdStep();
   EXPECT_EQ(acceso, -1);
   EXPECT_EQ(plc.PLC_Acceso, 0);
@@ -266,7 +267,7 @@ TEST_F(Scan, MendWritesTheOutputsBeforeItCountsTheScan) {
   orologio.Avanza(12);
   plc.IP_Q[0].Bit_Img[0] = 1;
   int cambi = 0;
-  plc.SQ[0].Change = [&] {
+  const Iscrizione ascolto = plc.SQ[0].Change.Ascolta([&] {
     ++cambi;
     EXPECT_EQ(plc.N_Cicli, 0);
     EXPECT_EQ(plc.Primo_Ciclo, -1);
@@ -274,7 +275,7 @@ TEST_F(Scan, MendWritesTheOutputsBeforeItCountsTheScan) {
     EXPECT_EQ(plc.Mem_SM[0].Bit[1], 1);
     EXPECT_EQ(plc.Tempo_Ciclo, 0);
     EXPECT_EQ(plc.PC, 1);
-  };
+  });
   plc.CmdStep();
   EXPECT_EQ(cambi, 1);
   EXPECT_EQ(plc.N_Cicli, 1);

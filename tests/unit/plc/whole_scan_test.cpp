@@ -34,10 +34,10 @@ TEST_F(WholeScan, FirstStepReadsTheInputsAndTheFollowingOnesDoNot) {
 TEST_F(WholeScan, Sm01IsOnForTheWholeFirstScanInContMode) {
   Carica({"NOP", "NOP"});
   std::vector<int> visti;
-  plc.Hook.Cedi = [&] {
+  const Iscrizione ascolto = plc.Hook.Ascolta_Cedi([&] {
     visti.push_back(plc.Mem_SM[0].Bit[1]);
     if (visti.size() == 6) plc.Ferma = -1;
-  };
+  });
   plc.mnuPlcRun();
   EXPECT_EQ(visti, (std::vector<int>{1, 1, 1, 0, 0, 0}));
 }
@@ -57,10 +57,10 @@ TEST_F(WholeScan, TimeStaysAsItWasUntilTheEndOfTheRunWhenTheListIsOff) {
   plc.mnuPlcCiclo();
   plc.Scelte.chkSol = true;
   plc.Scelte.txtNC = 2;
-  plc.Hook.Cedi = [&] {
+  const Iscrizione ascolto = plc.Hook.Ascolta_Cedi([&] {
     EXPECT_EQ(plc.etTime, "0");
     orologio.Avanza(3);
-  };
+  });
   plc.mnuPlcRun();
   EXPECT_EQ(plc.Tempo_Ciclo, 3);
   EXPECT_EQ(plc.etTime, "00003");
@@ -117,14 +117,14 @@ class LinesAtATime : public Cpu, public ::testing::WithParamInterface<int> {
                 "= S0.0",        "LDW>= C1, +4", "CALL DUE",  "LDN M4.0",   "CALL UNO",
                 "MOVW MW0, VW3", "MEND",         "SBR0 UNO",  "CALL DUE",   "S M4.0, 1",
                 "RET",           "SBR1 DUE",     "S Q1.0, 2", "INCW VW1",   "RET"});
-    cpu.plc.Hook.Righe_Per_Cessione = righe;
-    cpu.plc.Hook.Cedi = [&cpu, visti = 0]() mutable {
+    const auto cedi = [&cpu, visti = 0]() mutable {
       if (cpu.plc.N_Cicli == visti) return;
       visti = cpu.plc.N_Cicli;
       for (int bit = 0; bit <= 3; ++bit) cpu.Ingresso(0, bit, (visti >> bit & 1) != 0);
       cpu.orologio.Avanza(40);
       if (visti == 60) cpu.plc.Ferma = -1;
     };
+    const Iscrizione ascolto = cpu.plc.Hook.Ascolta_Cedi(cedi, righe);
     cpu.plc.Scelte.chkIP = true;
     cpu.plc.mnuPlcRun();
   }
