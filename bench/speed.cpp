@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/speed.h"
 
+#include <ctime>
+
 #include "recorder/driven_run.h"
 
 namespace tavorno {
@@ -10,6 +12,7 @@ Velocita Misura(Plc& plc, std::chrono::milliseconds durata) {
   constexpr int righe_per_sguardo = 96;  // as the run in the window
   Velocita velocita;
   const auto inizio = Orario::now();
+  const std::clock_t processore = std::clock();
   plc.mnuPlcCont();
   Avvia_Guidata(plc, &Plc::mnuPlcRun);
   velocita.Righe = 1;
@@ -20,6 +23,7 @@ Velocita Misura(Plc& plc, std::chrono::milliseconds durata) {
     plc.Tempo.Porta_A(std::chrono::duration_cast<std::chrono::milliseconds>(passato).count());
   }
   velocita.Scansioni = plc.N_Cicli;
+  velocita.Secondi_Processore = static_cast<double>(std::clock() - processore) / CLOCKS_PER_SEC;
   velocita.Secondi = std::chrono::duration<double>(passato).count();
   return velocita;
 }

@@ -12,7 +12,8 @@ namespace tavorno {
 struct Velocita {
   std::int64_t Righe = 0;
   std::int64_t Scansioni = 0;
-  double Secondi = 0;
+  double Secondi = 0;             ///< by the clock
+  double Secondi_Processore = 0;  ///< of the process, whatever else the machine did meanwhile
 };
 
 /// Runs the loaded program from Run on, without waiting between its scans and with the CPU's clock

@@ -15,7 +15,9 @@ TEST_F(SpeedCommand, PrintsLinesAndScansASecond) {
   EXPECT_EQ(Comando({"misura", Progetto_Con({"LD SM0.0", "= Q0.0"}), "--ms", "1"}), 0) << out;
   EXPECT_THAT(out, MatchesRegex("3 righe: [0-9]+,[0-9] milioni di righe al secondo, "
                                 "[0-9]+,[0-9] ns per riga, [0-9]+,[0-9] mila scansioni al "
-                                "secondo\\.\n"));
+                                "secondo\\.\n"
+                                "Tempo di processore: [0-9]+,[0-9] ns per riga, [0-9]+,[0-9] % "
+                                "del tempo\\.\n"));
 }
 
 TEST_F(SpeedCommand, CountsEveryLineOfEveryScan) {
@@ -26,6 +28,8 @@ TEST_F(SpeedCommand, CountsEveryLineOfEveryScan) {
   EXPECT_EQ(velocita.Righe, velocita.Scansioni * 3 + seduta.plc.PC);
   EXPECT_GT(velocita.Scansioni, 0);
   EXPECT_GE(velocita.Secondi, 0.002);
+  EXPECT_GE(velocita.Secondi_Processore, 0);
+  EXPECT_LT(velocita.Secondi_Processore, velocita.Secondi + 0.1);
 }
 
 TEST_F(SpeedCommand, SaysWhyAProgramStopped) {
