@@ -28,8 +28,7 @@ constexpr const char* aiuto =
 Uso:
   tavorno-banco compila FILE.AWL [--json]
       Stampa il listato di compilazione e gli avvisi.
-      --json             un oggetto JSON con listing, errors, boxes, diagnostics
-                         (ogni rilievo con blocco, riga e colonna) e prog
+      --json             un oggetto JSON con listing, errors, boxes e prog
 
   tavorno-banco esegui FILE.AWL [opzioni]
       Compila, esegue e stampa ogni cambiamento di ingressi e uscite.
@@ -47,10 +46,12 @@ Uso:
                          Un nome sbagliato fa elencare quelli che ci sono.
       --vcd FILE         ingressi e uscite nel tempo, per GTKWave
       --svg FILE         diagramma dei tempi
+      --ogni-scansione   esegue anche le scansioni che non cambiano nulla: dà gli
+                         stessi risultati, più lentamente
 
   tavorno-banco misura FILE.AWL [--ms T]
       Compila ed esegue alla massima velocità, in tempo reale, e stampa quante
-      righe e quante scansioni al secondo.
+      righe e quante scansioni al secondo, per l'orologio e per il processore.
       --ms T             durata in millisecondi veri (1..60000, normalmente 1000)
 
   tavorno-banco prova PROGETTO.AWL... SCRIPT.lua... [opzioni]
@@ -131,6 +132,7 @@ int Comando_Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& 
   Limiti limiti;
   limiti.Durata = argomenti.Numero("--ms", limiti.Durata, 1, 86'400'000);
   limiti.Scansione = static_cast<int>(argomenti.Numero("--scansione", limiti.Scansione, 1, 10000));
+  limiti.Ogni_Scansione = argomenti.Ha("--ogni-scansione");
   const Esercizio* esercizio = Impianto_Di(argomenti);
   std::vector<Evento_Ingresso> ingressi = Ingressi_Di(argomenti, esercizio);
   std::vector<Gesto> mani = Mani_Di(argomenti, esercizio);
@@ -209,7 +211,10 @@ int Comando_Misura(const Argomenti& argomenti, std::ostream& out, std::ostream& 
         << " milioni di righe al secondo, " << Un_Decimale(velocita.Secondi / righe * 1e9)
         << " ns per riga, "
         << Un_Decimale(static_cast<double>(velocita.Scansioni) / velocita.Secondi / 1e3)
-        << " mila scansioni al secondo.\n";
+        << " mila scansioni al secondo.\n"
+        << "Tempo di processore: " << Un_Decimale(velocita.Secondi_Processore / righe * 1e9)
+        << " ns per riga, " << Un_Decimale(velocita.Secondi_Processore / velocita.Secondi * 100)
+        << " % del tempo.\n";
     return Uscita_Buona;
   } catch (const Fatale& fatale) {
     out << "Errore fatale: " << Rapporto_Fatale(fatale, seduta->plc) << '\n';
@@ -235,7 +240,7 @@ int Banco(const std::vector<std::string>& argomenti, std::ostream& out, std::ost
       return Comando_Esegui(
           Argomenti(resto,
                     {"--ms", "--scansione", "--ingressi", "--impianto", "--mani", "--vcd", "--svg"},
-                    {}),
+                    {"--ogni-scansione"}),
           out, err);
     if (comando == "misura") return Comando_Misura(Argomenti(resto, {"--ms"}, {}), out, err);
     throw Uso_Errato("comando sconosciuto: " + comando);

@@ -39,6 +39,8 @@ Uso:
       --vcd FILE         ingressi e uscite nel tempo, per GTKWave (un solo progetto)
       --svg FILE         diagramma dei tempi (un solo progetto)
       --processi N       quanti progetti alla volta (normalmente i processori)
+      --ogni-scansione   esegue anche le scansioni che non cambiano nulla: dà gli
+                         stessi risultati, più lentamente
 
 Funzioni degli script (Lua 5.4, senza file, processi e rete):
 )";
@@ -120,6 +122,7 @@ Incarico Leggi_Incarico(const Argomenti& argomenti) {
     }
   }
   incarico.Con.Solo_Caso = argomenti.Testo("--caso", "");
+  incarico.Con.Inizio.Ogni_Scansione = argomenti.Ha("--ogni-scansione");
   incarico.Con.Impianto = Impianto_Di(argomenti);
   return incarico;
 }
@@ -211,7 +214,7 @@ int Comando_Prova(const std::vector<std::string>& parole, std::ostream& out, std
     return Esegui(
         Argomenti(parole,
                   {"--impianto", "--caso", "--junit", "--csv", "--vcd", "--svg", "--processi"},
-                  {"--json"}),
+                  {"--json", "--ogni-scansione"}),
         out, err);
   } catch (const Uso_Errato& errore) {
     err << "tavorno-banco: " << errore.what() << " (tavorno-banco prova --help per l'aiuto)\n";

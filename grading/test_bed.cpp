@@ -35,8 +35,7 @@ std::string Elenco(const std::vector<std::string>& nomi) {
 Collaudo::Collaudo(const Memoria* programma, const std::string& motivo, const Esercizio* esercizio,
                    Scorte& scorte)
     : scorte_(scorte) {
-  ascolto_ =
-      plc_.Hook.Mostra.Ascolta([this](const Avviso& avviso) { avvisi_.push_back(avviso); });
+  ascolto_ = plc_.Hook.Mostra.Ascolta([this](const Avviso& avviso) { avvisi_.push_back(avviso); });
   if (programma)
     static_cast<Memoria&>(plc_) = *programma;
   else
@@ -56,6 +55,7 @@ void Collaudo::Rompi(std::string guasto) {
 template <class Azione>
 void Collaudo::Proteggi(Azione azione) {
   if (!guasto_.empty()) return;
+  riposa_ = false;
   try {
     azione();
   } catch (const Fatale& fatale) {
@@ -76,12 +76,16 @@ void Collaudo::Scansione() {
           " righe senza finire la scansione).");
     return;
   }
-  scorte_.Righe -= scorte_.Righe_Scansione - resto;
+  const std::int64_t righe = scorte_.Righe_Scansione - resto;
+  scorte_.Righe -= righe;
   if (scorte_.Righe < 0) {
     Rompi(troppe_righe);
     return;
   }
-  if (plc_.PLC_Acceso) return;
+  if (plc_.PLC_Acceso) {
+    riposa_ = !scorte_.Ogni_Scansione && plc_.PC == 0 && riposo_.Scansione_Fatta(righe);
+    return;
+  }
   std::string testo = "La CPU si è fermata alla riga " + std::to_string(plc_.PC) + ".";
   if (!avvisi_.empty()) testo += " " + avvisi_.back().Titolo + ": " + avvisi_.back().Testo;
   std::ranges::replace(testo, '\n', ' ');
@@ -91,6 +95,7 @@ void Collaudo::Scansione() {
 void Collaudo::Run() {
   if (plc_.PLC_Acceso) return;
   Proteggi([this] {
+    riposo_.Da_Capo();
     Avvia_Guidata(plc_, &Plc::mnuPlcRun);
     if (plc_.Modo_Run != Modo::Step && plc_.N_Cicli == 0) Scansione();
   });
@@ -128,6 +133,7 @@ void Collaudo::Passo() {
     throw Errore_Script("passo: serve la CPU in RUN nel modo Step");
   Proteggi([this] {
     plc_.CmdStep();
+    riposo_.Da_Capo();
     --scorte_.Righe;
   });
 }
@@ -155,8 +161,33 @@ void Collaudo::Un_Millisecondo(bool scansione) {
   }
   Proteggi([&] {
     orologio_.Avanza(1);
-    if (scansione) Scansione();
+    if (!scansione) return;
+    const bool riposa = !scorte_.Ogni_Scansione && riposo_.Riposa();
+    if (riposa && riposo_.Righe() <= scorte_.Righe && riposo_.Al_Massimo() > 0)
+      Lascia_Fuori(1);
+    else
+      Scansione();
   });
+}
+
+void Collaudo::Lascia_Fuori(std::int64_t scansioni) {
+  riposo_.Salta(scansioni);
+  scorte_.Righe -= scansioni * riposo_.Righe();
+  riposa_ = true;
+}
+
+/// Lets time pass at once, at most `ms`, to where a timer ticks or a supply runs out. Returns how
+/// much, 0 where the next scan has to be looked at.
+std::int64_t Collaudo::Salta(std::int64_t ms) {
+  if (!riposa_) return 0;
+  ms = std::min({ms, orologio_.Prossimo() - orologio_.Adesso() - 1, scorte_.Ms,
+                 scorte_.Righe / std::max<std::int64_t>(riposo_.Righe(), 1), riposo_.Al_Massimo()});
+  if (ms <= 0) return 0;
+  Consuma(ms);
+  orologio_.Avanza(ms);
+  Lascia_Fuori(ms);
+  Campiona();
+  return ms;
 }
 
 void Collaudo::Passa(std::int64_t ms) {
@@ -166,7 +197,12 @@ void Collaudo::Passa(std::int64_t ms) {
       perso_ += ms - n;
       return;
     }
-    Un_Millisecondo(plc_.PLC_Acceso && plc_.Modo_Run == Modo::Cont);
+    const bool scansione = plc_.PLC_Acceso && plc_.Modo_Run == Modo::Cont;
+    const std::int64_t saltati = scansione ? Salta(ms - n) : 0;
+    if (saltati > 0)
+      n += saltati - 1;
+    else
+      Un_Millisecondo(scansione);
   }
 }
 

@@ -11,6 +11,7 @@
 
 #include "plants/link.h"
 #include "plc/plc.h"
+#include "plc/rest.h"
 #include "trace/address.h"
 
 namespace tavorno {
@@ -32,6 +33,7 @@ struct Scorte {
   std::int64_t Ms = 6 * 3'600'000LL;       ///< virtual time
   std::int64_t Righe = 2'000'000'000;      ///< lines of the program
   std::int64_t Righe_Scansione = 100'000;  ///< lines of one scan; not consumed
+  bool Ogni_Scansione = false;  ///< run scans that change nothing as well; the results are the same
 };
 
 /// A fresh CPU with a program, and a fresh plant if there is one, in virtual time at one scan per
@@ -88,6 +90,8 @@ class Collaudo {
   void Proteggi(Azione azione);
   void Scansione();
   void Un_Millisecondo(bool scansione);
+  std::int64_t Salta(std::int64_t ms);
+  void Lascia_Fuori(std::int64_t scansioni);
   void Consuma(std::int64_t ms);
   void Rompi(std::string guasto);
   void Campiona() const {
@@ -98,6 +102,8 @@ class Collaudo {
   Scorte& scorte_;
   Orologio orologio_;
   Plc plc_{orologio_};
+  Riposo riposo_{plc_};
+  bool riposa_ = false;  // the next scan would change nothing, and nothing happened since
   Stato_Impianto stato_;
   std::unique_ptr<Collegamento> filo_;
   std::vector<Avviso> avvisi_;

@@ -6,7 +6,7 @@
 #include <chrono>
 #include <functional>
 
-#include "plc/plc.h"
+#include "plc/rest.h"
 
 namespace tavorno {
 
@@ -21,7 +21,8 @@ class Guida_Corsa {
   Guida_Corsa& operator=(const Guida_Corsa&) = delete;
 
   /// A scan shorter than a millisecond waits for the rest of it, so that a running CPU does not
-  /// burn a processor. Off for measuring how fast a program can run.
+  /// burn a processor, and scans that would change nothing are only counted. Off for measuring how
+  /// fast a program can run.
   bool Attesa = true;
 
   /// No more ticks and refreshes: the process is about to end with a report.
@@ -36,13 +37,17 @@ class Guida_Corsa {
   using Istante = std::chrono::nanoseconds;
 
   void Cedi();
+  Istante Inizia_Scansione(Istante adesso);
+  Istante Riposa(Istante adesso);
   Istante Adesso() const { return Istante{cronometro_.nsecsElapsed()}; }
   void Porta_Al_Presente(Istante adesso);
 
   Plc& plc_;
+  Riposo riposo_{plc_};
+  std::int32_t cicli_visti_ = 0;
   Iscrizione cessione_;
   QElapsedTimer cronometro_;
-  QTimer riposo_, schermo_;
+  QTimer clock_a_riposo_, schermo_;
   Istante scansione_{0}, eventi_{0};
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "recorder/virtual_run.h"
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 
@@ -43,7 +44,7 @@ std::vector<Evento_Ingresso> Leggi_Ingressi(const std::string& testo, std::strin
   return eventi;
 }
 
-Corsa::Corsa(Plc& plc, Limiti limiti) : plc_(plc), limiti_(limiti) {}
+Corsa::Corsa(Plc& plc, Limiti limiti) : plc_(plc), limiti_(limiti), riposo_(plc) {}
 
 void Corsa::Applica_Eventi() {
   while (prossimo_ingresso_ < Ingressi.size() && Ingressi[prossimo_ingresso_].Ms <= Tempo()) {
@@ -68,7 +69,30 @@ void Corsa::Campiona() {
   if (Registra) Registra->Campiona(Tempo(), plc_);
 }
 
+/// Time passes for so many scans, with what is due at the last one. False when it is over.
+bool Corsa::Fa_Passare(std::int64_t scansioni) {
+  Campiona();
+  plc_.Tempo.Avanza(scansioni * limiti_.Scansione);
+  Applica_Eventi();
+  Campiona();
+  if (Tempo() < limiti_.Durata) return true;
+  plc_.Ferma = -1;
+  return false;
+}
+
+/// How many scans lie ahead before a timer ticks, a hand moves or the time is over.
+std::int64_t Corsa::Scansioni_Senza_Eventi() const {
+  std::int64_t fino_a = std::min(plc_.Tempo.Prossimo(), inizio_ + limiti_.Durata);
+  if (prossimo_ingresso_ < Ingressi.size())
+    fino_a = std::min(fino_a, inizio_ + Ingressi[prossimo_ingresso_].Ms);
+  if (Impianto_Collegato && prossimo_gesto_ < Mani.size())
+    fino_a = std::min(fino_a, inizio_ + Mani[prossimo_gesto_].Ms);
+  return std::min((fino_a - plc_.Tempo.Adesso() - 1) / limiti_.Scansione, riposo_.Al_Massimo());
+}
+
 /// The yield of the run. It comes again within a scan only when the lines of the limit are used up.
+/// Scans that would change nothing pass in here: at once up to the next event, and one by one where
+/// there is an event that leaves the CPU as it is.
 void Corsa::Prima_Della_Scansione() {
   const bool prima = scansioni_viste_ < 0;
   if (plc_.N_Cicli == scansioni_viste_) {
@@ -78,11 +102,20 @@ void Corsa::Prima_Della_Scansione() {
   }
   scansioni_viste_ = plc_.N_Cicli;
   if (prima) return;
-  Campiona();
-  plc_.Tempo.Avanza(limiti_.Scansione);
-  Applica_Eventi();
-  Campiona();
-  if (Tempo() >= limiti_.Durata) plc_.Ferma = -1;
+  constexpr std::int64_t righe = 0;  // nobody counts them here
+  bool riposa = !limiti_.Ogni_Scansione && riposo_.Scansione_Fatta(righe);
+  for (;;) {
+    const std::int64_t senza_eventi = riposa ? Scansioni_Senza_Eventi() : 0;
+    if (!Fa_Passare(std::max<std::int64_t>(senza_eventi, 1))) return;
+    if (senza_eventi > 0) {
+      riposo_.Salta(senza_eventi);
+    } else {
+      riposa = !limiti_.Ogni_Scansione && riposo_.Riposa() && riposo_.Al_Massimo() > 0;
+      if (!riposa) return;
+      riposo_.Salta(1);
+    }
+    scansioni_viste_ = plc_.N_Cicli;
+  }
 }
 
 void Corsa::Confronta(char area, std::array<std::uint8_t, 2>& visti, int byte,
@@ -102,9 +135,8 @@ Fine_Corsa Corsa::Esegui() {
     ascolti.push_back(plc_.SI[n].Change.Ascolta([this, n] {
       Confronta('I', ingressi_visti_, static_cast<int>(n), plc_.SI[n].Stato_IB());
     }));
-    ascolti.push_back(plc_.SQ[n].Change.Ascolta_Per_Primo([this, n] {
-      Confronta('Q', uscite_viste_, static_cast<int>(n), plc_.SQ[n].Stato_QB());
-    }));
+    ascolti.push_back(plc_.SQ[n].Change.Ascolta_Per_Primo(
+        [this, n] { Confronta('Q', uscite_viste_, static_cast<int>(n), plc_.SQ[n].Stato_QB()); }));
   }
   ascolti.push_back(
       plc_.Hook.Ascolta_Cedi([this] { Prima_Della_Scansione(); }, limiti_.Righe_Scansione));

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "plc/plc.h"
+#include "plc/rest.h"
 #include "recorder/hands.h"
 #include "trace/trace.h"
 
@@ -33,6 +34,7 @@ struct Limiti {
   std::int64_t Durata = 10000;   ///< virtual time, ms
   int Scansione = 1;             ///< virtual time of one scan, ms
   int Righe_Scansione = 100000;  ///< lines without reaching MEND
+  bool Ogni_Scansione = false;  ///< run scans that change nothing as well; the results are the same
 };
 
 enum class Fine_Corsa {
@@ -60,10 +62,13 @@ class Corsa {
 
   Fine_Corsa Esegui();
   std::int64_t Tempo() const { return plc_.Tempo.Adesso() - inizio_; }
+  std::int64_t Scansioni_Saltate() const { return riposo_.Saltate(); }
   const std::string& Rapporto() const { return rapporto_; }  ///< of a fatal end
 
  private:
   void Prima_Della_Scansione();
+  bool Fa_Passare(std::int64_t scansioni);
+  std::int64_t Scansioni_Senza_Eventi() const;
   void Applica_Eventi();
   void Campiona();
   void Confronta(char area, std::array<std::uint8_t, 2>& visti, int byte, std::uint8_t adesso);
@@ -71,6 +76,7 @@ class Corsa {
   Plc& plc_;
   Limiti limiti_;
   std::int64_t inizio_ = 0;
+  Riposo riposo_;
   std::size_t prossimo_ingresso_ = 0, prossimo_gesto_ = 0;
   std::int32_t scansioni_viste_ = -1;
   bool senza_mend_ = false;

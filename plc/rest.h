@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "plc/plc.h"
+
+namespace tavorno {
+
+/// Tells when scanning a program has become pointless: a scan that leaves the CPU and what hears
+/// its outputs as it found them is followed by another such scan, until a timer of the clock ticks
+/// or a hand moves. Whoever runs the program in whole scans reports each of them here and may then
+/// leave out those that would change nothing.
+///
+/// Only the CPU has to be looked at: a plant hears of a scan by the output bars alone, and a bar
+/// that is given the text that it has says nothing. SM0.6 toggles at each scan, so two scans in a
+/// row, with nothing in between, are watched before anything is left out: the second proves that
+/// the toggling changes nothing else. A program that does change with it is run on.
+///
+/// In turn: `Riposa`; then a scan and `Scansione_Fatta`, or `Salta`.
+class Riposo {
+ public:
+  explicit Riposo(Plc& plc) : plc_(plc) {}
+  Riposo(const Riposo&) = delete;
+  Riposo& operator=(const Riposo&) = delete;
+
+  /// Nothing is known any more: at Run, after lines that were not reported, and when a timer ticked
+  /// or a hand moved in the middle of a scan.
+  void Da_Capo() {
+    fase_ = Fase::Ignoto;
+    attesa_ = pausa_ = 0;
+  }
+
+  /// Right before a scan: true when it would change nothing but what `Salta` brings up to date. It
+  /// compares the whole state, so between two scans it need be asked only where a timer ticked or a
+  /// hand moved since.
+  bool Riposa() {
+    if (fase_ == Fase::Ignoto) return false;
+    parte_uguale_ = Come_Allora();
+    return fase_ == Fase::Riposo && parte_uguale_;
+  }
+
+  /// A whole scan has been run, of so many lines; `PC` stands at line 0 again. Returns whether the
+  /// next one would change nothing.
+  bool Scansione_Fatta(std::int64_t righe);
+
+  /// Lines of each scan that is left out.
+  std::int64_t Righe() const { return righe_; }
+
+  /// Scans that may be left out before `N_Cicli` is full.
+  std::int64_t Al_Massimo() const { return INT32_MAX - 1 - std::int64_t{plc_.N_Cicli}; }
+
+  /// Leaves out so many scans, at least 1 and at most `Al_Massimo()`, the last of them now: they
+  /// are counted, SM0.6 toggles for each, and the last one began at the present instant.
+  void Salta(std::int64_t scansioni);
+  /// How many were left out in all.
+  std::int64_t Saltate() const { return saltate_; }
+
+ private:
+  /// What is known of the scans behind: nothing; the state that the last one left (`foto_`); that
+  /// it had found the same; that the one before had, too.
+  enum class Fase : std::uint8_t { Ignoto, Guardato, Fermo, Riposo };
+
+  /// The state of the CPU between two scans, without what merely grows.
+  struct Foto {
+    Celle Memoria;
+    std::vector<std::pair<std::int16_t, std::int16_t>>
+        Righe;  // edge memory and enable of the lines
+    std::array<std::string, 2> Ingressi, Lettura_Ingressi, Uscite;
+    std::array<std::uint8_t, 2> Byte_Ingressi{};
+    Opzioni Scelte;
+    Modo Modo_Run = Modo::Cont;
+    std::int32_t Tempo_Ciclo = 0;
+    std::int16_t Primo_Ciclo = 0;
+  };
+
+  void Fotografa();
+  bool Come_Allora() const;
+  bool Righe_Come_Allora() const;
+
+  Plc& plc_;
+  Fase fase_ = Fase::Ignoto;
+  Foto foto_;
+  bool parte_uguale_ = false;  // the scan began with the state of `foto_`
+  std::int64_t righe_ = 0;
+  std::int64_t saltate_ = 0;
+  int attesa_ = 0;  // scans until the next look
+  int pausa_ = 0;   // how many the next failure costs
+};
+
+}  // namespace tavorno

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "plc/rest.h"
+
+#include "cpu.h"
+
+namespace tavorno::prova {
+
+/// A program run in whole scans of a millisecond, each reported.
+class Rest : public Cpu {
+ protected:
+  void Avvia(const std::vector<std::string>& righe) {
+    Carica(righe);
+    Run_Step();
+  }
+
+  /// One scan and a millisecond; whether the next scan would change nothing.
+  bool Una_Scansione() {
+    riposo.Riposa();
+    const auto finite = plc.N_Cicli;
+    std::int64_t righe = 0;
+    while (plc.N_Cicli == finite) righe += plc.Esegui_Righe(1000);
+    const bool riposa = riposo.Scansione_Fatta(righe);
+    orologio.Avanza(1);
+    return riposa;
+  }
+
+  /// Scans until rest, -1 when there is none in a thousand.
+  int Scansioni_Fino_Al_Riposo() {
+    for (int n = 1; n <= 1000; ++n) {
+      if (Una_Scansione()) return n;
+    }
+    return -1;
+  }
+
+  Riposo riposo{plc};
+};
+
+TEST_F(Rest, ComesOnceTwoScansHaveChangedNothing) {
+  Avvia({"LD I0.0", "= Q0.0"});
+  EXPECT_EQ(Scansioni_Fino_Al_Riposo(), 3);
+  EXPECT_TRUE(riposo.Riposa());
+  EXPECT_EQ(riposo.Righe(), 3);
+}
+
+TEST_F(Rest, NeverComesToWhatGrowsOrTogglesByItself) {
+  for (const std::vector<std::string>& righe : {std::vector<std::string>{"LD SM0.0", "INCW VW0"},
+                                                {"LD SM0.6", "= Q0.0"},
+                                                {"LD SM0.6", "EU", "= M0.0"},
+                                                {"LDN M0.0", "= M0.0"}}) {
+    SCOPED_TRACE(righe[1]);
+    riposo.Da_Capo();
+    Avvia(righe);
+    EXPECT_EQ(Scansioni_Fino_Al_Riposo(), -1);
+    plc.mnuPlcStop();
+  }
+}
+
+TEST_F(Rest, EndsWithATickAHandAndAnOption) {
+  Avvia({"LD I0.0", "TON T37, +30", "LD SM0.5", "= Q0.1"});
+  ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
+  Ingresso(0, 0, true);
+  EXPECT_FALSE(riposo.Riposa());
+  ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
+  orologio.Avanza(100);  // the timer counts
+  EXPECT_FALSE(riposo.Riposa());
+  Ingresso(0, 0, false);
+  ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
+  orologio.Avanza(500 - orologio.Adesso() % 500);  // SM0.5
+  EXPECT_FALSE(riposo.Riposa());
+  ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
+  plc.Scelte.chkIP = true;
+  EXPECT_FALSE(riposo.Riposa());
+}
+
+// A cell that a scan clears looks the same behind it: what came in between must be seen.
+TEST_F(Rest, IsNotProvedByAScanThatClearsWhatCameInBetween) {
+  Avvia({"LD SM0.0", "MOVW +0, VW0"});
+  for (int n = 0; n < 50; ++n) {
+    plc.Mem_VW[0] = 7;
+    EXPECT_FALSE(Una_Scansione()) << n;
+  }
+}
+
+TEST_F(Rest, WhatIsLeftOutIsCountedAndTogglesSm06) {
+  Avvia({"LD I0.0", "= Q0.0"});
+  ASSERT_EQ(Scansioni_Fino_Al_Riposo(), 3);
+  Memoria atteso = plc;
+  atteso.Mem_SM[0].Bit[6] ^= 1U;
+  orologio.Avanza(4);
+  riposo.Salta(5);
+  EXPECT_TRUE(static_cast<const Memoria&>(plc) == atteso);
+  EXPECT_EQ(plc.N_Cicli, 8);
+  EXPECT_EQ(plc.T_Inizio, orologio.Adesso());
+  EXPECT_EQ(riposo.Saltate(), 5);
+  EXPECT_TRUE(riposo.Riposa());
+  riposo.Salta(2);
+  EXPECT_TRUE(static_cast<const Memoria&>(plc) == atteso);
+  EXPECT_TRUE(riposo.Riposa());
+  EXPECT_TRUE(Una_Scansione());  // one that is run after all leaves the rest as it is
+}
+
+TEST_F(Rest, NeverFillsTheCounterOfScans) {
+  Avvia({"LD I0.0", "= Q0.0"});
+  ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
+  plc.N_Cicli = INT32_MAX - 3;
+  EXPECT_EQ(riposo.Al_Massimo(), 2);
+}
+
+}  // namespace tavorno::prova
