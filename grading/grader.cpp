@@ -27,6 +27,7 @@ void Prepara(Seduta& seduta, const std::string& percorso, Ambiente_Script& ambie
   seduta.progetto.Compila();
   if (seduta.progetto.Compilato) {
     ambiente.Programma = &seduta.plc;
+    esito.Compilato = true;
     return;
   }
   ambiente.Motivo = "Il progetto non si compila: errori " + std::to_string(seduta.progetto.Errori);

@@ -55,6 +55,7 @@ struct Caso {
 struct Esito_Progetto {
   std::string Progetto;  ///< path as given
   bool Illeggibile = false;
+  bool Compilato = false;
   std::vector<Caso> Casi;
 
   int Superati() const;

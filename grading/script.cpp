@@ -80,7 +80,9 @@ void Esame::Esegui_Prova(const Prova& prova) {
     lua_State* stato = recinto_.Stato();
     In_Prova = true;
     lua_rawgeti(stato, LUA_REGISTRYINDEX, prova.Funzione);
-    if (lua_pcall(stato, 0, 0, 0) != LUA_OK) Registra_Errore(stato);
+    const bool errore = lua_pcall(stato, 0, 0, 0) != LUA_OK;
+    if (errore && !Conclusa()) Registra_Errore(stato);
+    lua_settop(stato, 0);
     In_Prova = false;
   }
   Fine();

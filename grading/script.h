@@ -49,6 +49,8 @@ class Esame {
   void Rileva(const std::string& testo);
   void Verifica(bool vera, const std::string& testo);
   void Serve(bool vera, const std::string& testo);
+  /// Nothing that the present case still does can change what it is worth.
+  bool Conclusa() const { return conto_.Senza_Premessa && conto_.Dichiarati.has_value(); }
   void Segna_Punti(double punti, bool meritati, const std::string& testo);
   void Annota(const std::string& testo);
   /// Puts a file that stands beside the script on the stack, as a function; false: it was there

@@ -234,17 +234,20 @@ int Fa_Usa(lua_State* stato, Esame& esame) {
 
 // ---- verdicts -----------------------------------------------------------------------------------
 
-using Verdetto = void (Esame::*)(bool, const std::string&);
-
-template <Verdetto verdetto, const char* const& nome>
-int Giudica(lua_State* stato, Esame& esame) {
+int Fa_Verifica(lua_State* stato, Esame& esame) {
   const bool vero = Vero(stato, 1);
-  (esame.*verdetto)(vero, Messaggio_O_Riga(stato, 2, nome));
+  esame.Verifica(vero, Messaggio_O_Riga(stato, 2, "verifica"));
   lua_pushboolean(stato, vero);
   return 1;
 }
-constexpr const char* verifica = "verifica";
-constexpr const char* serve = "serve";
+
+int Fa_Serve(lua_State* stato, Esame& esame) {
+  const bool vero = Vero(stato, 1);
+  esame.Serve(vero, Messaggio_O_Riga(stato, 2, "serve"));
+  if (esame.Conclusa()) throw Errore_Script("prova conclusa");
+  lua_pushboolean(stato, vero);
+  return 1;
+}
 
 int Fa_Punti(lua_State* stato, Esame& esame) {
   const double punti = Arg_Numero(stato, 1, "punti", 0, punti_massimi);
@@ -285,8 +288,8 @@ int Fa_Print(lua_State* stato, Esame& esame) {
 constexpr Riga_Funzione funzioni[] = {
     {"prova", "prova(nome, [punti,] funzione)", "un caso con un nome, che vale quei punti, su una CPU e un impianto nuovi", Fa_Prova},
     {"punti", "punti(n, condizione, messaggio)", "n punti se la condizione è vera, altrimenti il caso non è superato; restituisce la condizione", Fa_Punti},
-    {"serve", "serve(condizione, messaggio)", "una premessa: se è falsa il caso non è superato e i punti che seguono non si guadagnano; restituisce la condizione", Giudica<&Esame::Serve, serve>},
-    {"verifica", "verifica(condizione, messaggio)", "se la condizione è falsa il caso non è superato e non dà punti; restituisce la condizione", Giudica<&Esame::Verifica, verifica>},
+    {"serve", "serve(condizione, messaggio)", "una premessa: se è falsa il caso non è superato e i punti che seguono non si guadagnano", Fa_Serve},
+    {"verifica", "verifica(condizione, messaggio)", "se la condizione è falsa il caso non è superato e non dà punti; restituisce la condizione", Fa_Verifica},
     {"run", "run()", "avvia la CPU; nei modi Cont e Ciclo esegue subito la prima scansione", Fa_Run},
     {"stop", "stop()", "ferma la CPU", Fa_Stop},
     {"modo", "modo(\"Cont\"|\"Ciclo\"|\"Step\")", "sceglie il modo: Cont scandisce mentre il tempo passa, Ciclo con cicli(n), Step con passo()", Fa_Modo},

@@ -44,11 +44,28 @@ TEST_F(Premise, ThatHoldsCostsNothing) {
   EXPECT_EQ(caso.Massimo, 2);
 }
 
-TEST_F(Premise, TellsTheScriptWhetherItHeldSoThatItMayEndTheCase) {
-  const Caso caso = Di("if not serve(0, 'parte') then return end punti(2, true, 'dopo')", "2,");
+TEST_F(Premise, TellsTheScriptWhetherItHeld) {
+  EXPECT_EQ(Di("print(serve(1, 'uno'), serve(0, 'due'))").Note,
+            std::vector<std::string>{"true false"});
+}
+
+// Nothing behind it could earn any more, and the maximum is known.
+TEST_F(Premise, EndsACaseThatDeclaresItsMarks) {
+  const Caso caso =
+      Di("attendi(5) serve(0, 'parte') attendi(9) print('mai') punti(2, true, 'dopo')", "2,");
   EXPECT_EQ(caso.Punti, 0);
   EXPECT_EQ(caso.Massimo, 2);
   EXPECT_FALSE(caso.Script_Errato);
+  EXPECT_EQ(caso.Ms, 5);
+  EXPECT_EQ(caso.Note.size(), 0);
+  EXPECT_EQ(caso.Rilievi, (std::vector<Rilievo>{{5, "premessa mancata: parte"}}));
+}
+
+TEST_F(Premise, EndsACaseFromWithinAWait) {
+  const Caso caso = Di("attendi_fino(function() serve(false, 'parte') end, 50) print('mai')", "2,");
+  EXPECT_FALSE(caso.Script_Errato);
+  EXPECT_EQ(caso.Note.size(), 0);
+  EXPECT_EQ(caso.Rilievi.size(), 1);
 }
 
 TEST_F(Premise, IsOfItsCaseOnly) {
