@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Hand-ins as students write them: right ones in any style are full, those that lack something the
+// page asks for are not, and whoever would hurt somebody does not pass.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/grading/exercise_bed.h"
+
+namespace tavorno::prova {
+
+namespace {
+
+// Exercises that still lack hand-ins of their own, or whose scripts do not judge them well yet.
+// This list may only shrink.
+constexpr int ancora_da_fare[] = {
+    0,  //
+    1,  //
+    2,  //
+    3,  //
+    4,  //
+    5,  //
+    6,  //
+    7,  //
+    8,  //
+
+    9,   //
+    10,  //
+    11,  //
+    12,  //
+    13,  //
+    14,  //
+    15,  //
+    16,  //
+    17,  //
+};
+
+std::string In_Breve(const Esito_Progetto& esito) {
+  return std::filesystem::path(esito.Progetto).filename().string() + ": " +
+         Testo_Punti(esito.Punti()) + " su " + Testo_Punti(esito.Massimo()) + ", " +
+         esito.Primo_Rilievo() + "\n";
+}
+
+}  // namespace
+
+class StudentsOf : public ::testing::TestWithParam<Esempio> {};
+
+TEST_P(StudentsOf, GetTheMarksThatTheyDeserve) {
+  const Verifiche verifiche = Con_Lo_Script(GetParam());
+  std::vector<std::string> giuste = GetParam().Consegne("solutions");
+  const std::vector<std::string> sbagliate = GetParam().Consegne("wrong");
+  std::string sbagli;
+  if (giuste.size() < 2) sbagli += "fewer than two solutions of other styles\n";
+  if (sbagliate.size() < 5) sbagli += "fewer than five wrong students\n";
+  giuste.push_back(GetParam().Soluzione().string());
+  for (const Esito_Progetto& esito : Esamina_Insieme(giuste, verifiche)) {
+    ASSERT_TRUE(esito.Compilato) << In_Breve(esito);
+    if (!esito.Superato() || Quota(esito) < 1) sbagli += "right, but " + In_Breve(esito);
+  }
+  for (const Esito_Progetto& esito : Esamina_Insieme(sbagliate, verifiche)) {
+    ASSERT_TRUE(esito.Compilato) << In_Breve(esito);
+    if (esito.Superato()) sbagli += "wrong, but " + In_Breve(esito);
+    const bool pericoloso = esito.Progetto.find("_pericoloso") != std::string::npos;
+    if (pericoloso && Quota(esito) >= sufficienza) sbagli += "dangerous, but " + In_Breve(esito);
+  }
+  if (std::ranges::find(ancora_da_fare, GetParam().Numero) == std::end(ancora_da_fare))
+    EXPECT_EQ(sbagli, "");
+  else
+    EXPECT_NE(sbagli, "") << "this exercise holds: take it out of the list";
+}
+
+INSTANTIATE_TEST_SUITE_P(Exercises, StudentsOf, ::testing::ValuesIn(Esempi()),
+                         [](const auto& caso) { return caso.param.Nome(); });
+
+}  // namespace tavorno::prova
