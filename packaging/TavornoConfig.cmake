@@ -1,0 +1,5 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+include(CMakeFindDependencyMacro)
+find_dependency(Threads)
+find_dependency(nlohmann_json)
+include(${CMAKE_CURRENT_LIST_DIR}/TavornoTargets.cmake)
