@@ -2,10 +2,10 @@
 -- SB1 ciclo automatico, SB2 ciclo singolo, SB3 fine del ciclo automatico, SB4 ripristino, SB5
 -- emergenza, SA aria.
 
-usa("ciclo_pneumatico.lua")
+usa("banco_pneumatico.lua")
 
 -- La sequenza chiesta si cambia qui: una riga per passo, i movimenti di un passo vanno insieme.
-prove_del_ciclo {
+prove_del_banco {
   sequenza = {
     { "A+" },
     { "B+" },
@@ -17,5 +17,11 @@ prove_del_ciclo {
     ["B-"] = "I0.6", ["B+"] = "I0.7",
   },
   aria = "Q0.0",
-  uscenti = { "Q0.1", "Q0.3" },
+  emergenze = { 2, 3 },
+  pistoni = { "imgPA", "imgP2" },
+  selettore = "I0.0",
+  hl1 = "Q0.5",
+  hl2 = "Q0.6",
+  tempo = 10000,
+  velocita = { { "UpDP(0)", 9 }, { "UpDP(1)", 9 }, { "UpDP(2)", 9 }, { "UpDP(3)", 9 }, { "ME_Speed", 10 } },
 }

@@ -2,10 +2,10 @@
 -- SB1 ciclo automatico, SB2 ciclo singolo, SB3 fine del ciclo automatico, SB4 ripristino, SB5
 -- emergenza, SA aria.
 
-usa("ciclo_pneumatico.lua")
+usa("banco_pneumatico.lua")
 
 -- La sequenza chiesta si cambia qui: una riga per passo, i movimenti di un passo vanno insieme.
-prove_del_ciclo {
+prove_del_banco {
   sequenza = {
     { "A+" },
     { "B+" },
@@ -20,5 +20,15 @@ prove_del_ciclo {
     ["C-"] = "I0.4", ["C+"] = "I0.5",
   },
   aria = "Q0.0",
-  uscenti = { "Q0.1", "Q0.3", "Q0.5" },
+  emergenze = { 2, 4 },
+  pistoni = { "imgV1", "imgV2", "imgV3" },
+  selettore = "I0.6",
+  hl1 = "Q0.7",
+  hl2 = "Q1.0",
+  lampade = { in_corso = "Q1.1", a_riposo = "Q1.2", ritorno = "Q1.3", emergenza = "Q1.4" },
+  nome_a_riposo = "HL4",
+  tempo = 15000,
+  partenza = true,
+  fuori_a_mano = "cmdV2a",
+  velocita = { { "ME_Speed", 10 } },
 }
