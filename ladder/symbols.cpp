@@ -19,7 +19,7 @@ struct Riga_Simbolo {
 };
 
 // All that is neither a contact with an operand nor a plain box.
-constexpr std::array righe = {
+constexpr std::array elenco = {
     Riga_Simbolo{"NOT", Ruolo::Trasforma, "NOT"},
     Riga_Simbolo{"EU", Ruolo::Trasforma, "P"},
     Riga_Simbolo{"ED", Ruolo::Trasforma, "N"},
@@ -65,8 +65,8 @@ std::string Segno_Contatto(std::string_view coda) {
 }  // namespace
 
 Simbolo Simbolo_Di(std::string_view istr) {
-  const auto riga = std::ranges::find(righe, istr, &Riga_Simbolo::Istr);
-  if (riga != righe.end())
+  const auto riga = std::ranges::find(elenco, istr, &Riga_Simbolo::Istr);
+  if (riga != elenco.end())
     return {riga->Cosa,     Attacco::Inizio,   {}, std::string(riga->Segno),
             riga->Ingressi, riga->Lascia_Altro};
   const Istruzione* istruzione = Cerca_Istruzione(istr);
