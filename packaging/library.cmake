@@ -3,7 +3,7 @@
 # target_link_libraries(... Tavorno::awl). Component "library".
 include(CMakePackageConfigHelpers)
 set(package ${CMAKE_INSTALL_LIBDIR}/cmake/Tavorno)
-set(libraries plc awl plants trace recorder grading)
+set(libraries plc awl plants trace recorder ladder grading)
 
 foreach(library IN LISTS libraries)
   set_target_properties(tavorno_${library} PROPERTIES EXPORT_NAME ${library})

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Somebody else's program with a CPU of its own: compiles a project, switches an input on and off in
-// virtual time, and prints what the outputs do. Usage: consumer PROJECT
+// Somebody else's program with a CPU of its own: compiles a text, switches inputs on and off in
+// virtual time, and prints what the outputs do.
 #include <cstdio>
 #include <string>
 
 #include "recorder/session.h"
 #include "recorder/virtual_run.h"
 
-int main(int argc, char** argv) {
-  if (argc != 2) return 64;
+int main() {
   tavorno::Seduta seduta;  // a clock, a CPU on it, and a project
-  if (!seduta.Apri(argv[1])) return 2;
+  if (!seduta.Leggi("ORGANIZATION_BLOCK MAIN:OB1\r\nTITLE=\r\nBEGIN\r\nNETWORK 1\r\n"
+                    "LD I0.1\r\nO Q0.0\r\nA I0.0\r\n= Q0.0\r\nEND_ORGANIZATION_BLOCK\r\n"))
+    return 2;
   seduta.progetto.Compila();
   if (!seduta.progetto.Compilato) return 1;
 
