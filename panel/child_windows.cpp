@@ -2,6 +2,7 @@
 #include "panel/child_windows.h"
 
 #include <QApplication>
+#include <QShortcut>
 #include <QWindow>
 #include <initializer_list>
 
@@ -28,26 +29,38 @@ void Porta_Avanti(QWidget& finestra) {
   finestra.activateWindow();
 }
 
+constexpr char tasti_ovunque[] = "F5 RUN, Maiusc+F5 STOP, F10 avanza di un passo, F1 guida";
+
+}  // namespace
+
 /// Makes a window when it is not there.
 template <class Finestra, class Crea>
-Finestra& Trova(QPointer<Finestra>& finestra, Crea crea) {
+Finestra& Finestre::Trova(QPointer<Finestra>& finestra, Crea crea) {
   if (!finestra) {
     finestra = crea();
     finestra->setAttribute(Qt::WA_DeleteOnClose);
+    ordine_.Sorveglia(*finestra);
+    finestra->addActions(pannello_.Comandi_Ovunque());
   }
   return *finestra;
 }
 
-template <class Finestra, class Crea>
-void Mostra(QPointer<Finestra>& finestra, Crea crea) {
-  Porta_Avanti(Trova(finestra, crea));
+/// A window without menus: its keys are told by its tool tip, and F1 opens `pagina`, a part of the
+/// panel's help.
+void Finestre::Prepara(QWidget& finestra, const char* pagina) {
+  finestra.setToolTip(QString::fromUtf8(tasti_ovunque));
+  auto* guida = new QShortcut(QKeySequence(Qt::Key_F1), &finestra);
+  QObject::connect(guida, &QShortcut::activated, &ascolto_,
+                   [this, pagina] { Mostra_Aiuto(guida_.Dir_Help + QString::fromUtf8(pagina)); });
 }
 
-}  // namespace
-
 Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
-    : pannello_(pannello), plc_(plc), progetto_(progetto), guida_(guida) {
+    : pannello_(pannello), plc_(plc), progetto_(progetto), guida_(guida), ordine_(pannello) {
   Legami_Pannello legami;
+  legami.Disponi_Finestre = [this] { ordine_.Disponi(true); };
+  legami.Corsa_Cambiata = [this](bool acceso) {
+    if (impianto_) impianto_->Mostra_Corsa(acceso);
+  };
   legami.Mostra_Editor = [this](Avvio avvio_file) { Mostra_Editor(avvio_file); };
   legami.Mostra_Impostazioni = [this] { Mostra_Impostazioni(); };
   legami.Mostra_Analogici = [this] { Mostra_Analogici(); };
@@ -91,7 +104,7 @@ void Finestre::Fuoco_A(const QWindow* finestra) {
 
 void Finestre::Mostra_Editor(Avvio avvio_file) {
   const bool nuova = editor_.isNull();
-  Mostra(editor_, [this] {
+  Porta_Avanti(Trova(editor_, [this] {
     Legami_Editor legami;
     legami.Mostra_Pannello = [this] {
       Porta_Avanti(pannello_);
@@ -102,29 +115,45 @@ void Finestre::Mostra_Editor(Avvio avvio_file) {
     legami.Mostra_Info = [this] { Mostra_Info(); };
     legami.Mostra_Aiuto = [this](const QString& pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
     return new FrmMain(progetto_, plc_, std::move(legami));
-  });
+  }));
   if (nuova) editor_->Avvia(avvio_file);
 }
 
 void Finestre::Mostra_Impostazioni() {
-  Mostra(impostazioni_, [this] {
-    return new FrmSetPLC(plc_, Sim_Contraves, [this](bool contraves) {
+  Porta_Avanti(Trova(impostazioni_, [this] {
+    auto* finestra = new FrmSetPLC(plc_, Sim_Contraves, [this](bool contraves) {
       pannello_.Controlli().Fronte->Sim_I(1).setVisible(!contraves);
       pannello_.Controlli().Fronte->Sim_C().setVisible(contraves);
     });
-  });
+    Prepara(*finestra, "Index.htm#pannello");
+    return finestra;
+  }));
 }
 
 void Finestre::Mostra_Analogici() {
-  Mostra(analogici_, [this] { return new FrmSimAI(plc_); });
+  Porta_Avanti(Trova(analogici_, [this] {
+    auto* finestra = new FrmSimAI(plc_);
+    Prepara(*finestra, "Index.htm#pannello");
+    return finestra;
+  }));
 }
 
 void Finestre::Mostra_Stati() {
+  const bool nuova = stati_.isNull();
+  if (nuova) ordine_.Sta_Per_Aprire();
   Porta_Avanti(Stati());
+  if (nuova) ordine_.Aperte(impianto_, *stati_);
 }
 
 FrmStatiL& Finestre::Stati() {
-  return Trova(stati_, [this] { return new FrmStatiL(plc_, &pannello_); });
+  return Trova(stati_, [this] {
+    auto* finestra = new FrmStatiL(plc_, &pannello_);
+    Prepara(*finestra, "Index.htm#stati");
+    QObject::connect(finestra, &QObject::destroyed, &ascolto_, [this] {
+      if (!impianto_) ordine_.Chiuse();
+    });
+    return finestra;
+  });
 }
 
 void Finestre::Apri_Impianto(int indice) {
@@ -134,23 +163,35 @@ void Finestre::Apri_Impianto(int indice) {
       [this](Modo_Sportello modo) { pannello_.PLC_Sportello(modo); });
   Collegamento& fili = *collegamento;
   pannello_.Segna_Impianto(indice);
-  Mostra(impianto_, [&] { return new Finestra_Impianto(std::move(collegamento)); });
-  Finestra_Impianto& finestra = *impianto_;
+  ordine_.Sta_Per_Aprire();
+  Finestra_Impianto& finestra =
+      Trova(impianto_, [&] { return new Finestra_Impianto(std::move(collegamento)); });
+  finestra.Mostra_Corsa(plc_.PLC_Acceso != 0);
+  finestra.setToolTip(QString::fromUtf8(tasti_ovunque));
   finestra.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Panel + pagina); };
   finestra.Chiusa = [this] {
     pannello_.Segna_Impianto(-1);
     if (stati_) stati_->close();
+    ordine_.Chiuse();
   };
-  // A window that is placed before it is shown has its title bar on the screen.
-  Stati().Poni(Twip(finestra.frameGeometry().width()) + 30, 0);
-  Mostra_Stati();
+  // A window that is placed before it is shown has its title bar on the screen. The desktop gives
+  // the keyboard to the window that appears last.
+  const auto accanto = [&] { Stati().Poni(Twip(finestra.frameGeometry().width()) + 30, 0); };
+  accanto();
+  Porta_Avanti(Stati());
+  Porta_Avanti(finestra);
+  accanto();
   fili.Carica();
-  finestra.activateWindow();
+  ordine_.Aperte(&finestra, *stati_);
   pannello_.unsetCursor();
 }
 
 void Finestre::Mostra_Debug() {
-  Mostra(debug_, [this] { return new FrmDebug(progetto_); });
+  Porta_Avanti(Trova(debug_, [this] {
+    auto* finestra = new FrmDebug(progetto_);
+    Prepara(*finestra, "Index.htm#editor");
+    return finestra;
+  }));
 }
 
 void Finestre::Mostra_Stampe() {
@@ -171,7 +212,7 @@ void Finestre::Mostra_Modale(QDialog& dialogo) {
 void Finestre::Mostra_Aiuto(const QString& indirizzo) {
   guida_.Url_Help = indirizzo;
   const bool nuova = aiuto_.isNull();
-  Mostra(aiuto_, [this] { return new FrmBrowser(guida_); });
+  Porta_Avanti(Trova(aiuto_, [this] { return new FrmBrowser(guida_); }));
   if (!nuova) aiuto_->Vai(indirizzo);
 }
 

@@ -9,6 +9,7 @@
 #include "awl/ui/start_mode.h"
 #include "panel/documents/browser_window.h"
 #include "panel/panel_window.h"
+#include "panel/window_order.h"
 #include "plants/link.h"
 #include "plc/plc.h"
 
@@ -45,9 +46,14 @@ class Finestre {
   /// `indirizzo`: the page with its directory.
   void Mostra_Aiuto(const QString& indirizzo);
 
+  const Ordine_Finestre& Ordine() const { return ordine_; }
+
   std::int16_t Sim_Contraves = 0;  ///< -1 while the thumbwheel stands in for the second switch row
 
  private:
+  template <class Finestra, class Crea>
+  Finestra& Trova(QPointer<Finestra>& finestra, Crea crea);
+  void Prepara(QWidget& finestra, const char* pagina);
   FrmStatiL& Stati();
   void Mostra_Modale(QDialog& dialogo);
   std::vector<QWidget*> Tutte() const;
@@ -58,6 +64,7 @@ class Finestre {
   Progetto& progetto_;
   Guida& guida_;
   Stato_Impianto impianto_aperto_;
+  Ordine_Finestre ordine_;
   QPointer<Finestra_Impianto> impianto_;
   QPointer<FrmMain> editor_;
   QPointer<FrmSetPLC> impostazioni_;

@@ -21,6 +21,7 @@
 #include "panel/panel_tables.h"
 #include "panel/program_list.h"
 #include "widgets/naming.h"
+#include "widgets/scroll_area.h"
 
 namespace tavorno {
 
@@ -259,6 +260,67 @@ QWidget* Potenziometri(Controlli_Pannello& c) {
   return gruppo;
 }
 
+/// Everything below the tool bar. A narrow panel has one column, with the program list below the
+/// CPU; what has no room in the height scrolls.
+class Area_Pannello : public Area_Scorrevole {
+ public:
+  struct Pezzi {
+    QWidget *Fronte, *Corsa, *Schede, *Destra;
+  };
+
+  Area_Pannello(QWidget* centro, const Pezzi& pezzi)
+      : Area_Scorrevole(centro, minima), pezzi_(pezzi), griglia_(new QGridLayout(centro)) {
+    griglia_->setContentsMargins(8, 8, 8, 4);
+    Disponi();
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* evento) override {
+    Area_Scorrevole::resizeEvent(evento);
+    const bool stretta = viewport()->width() < larga;
+    if (stretta != stretta_) {
+      stretta_ = stretta;
+      Disponi();
+    }
+    // In one column the CPU takes the width, and no more height than it needs for that.
+    const int alta =
+        Fronte_CPU::Misura.height() * (viewport()->width() - 16) / Fronte_CPU::Misura.width();
+    const int minima_larga = Fronte_CPU::Misura.height() * 4 / 5;
+    pezzi_.Fronte->setMinimumHeight(stretta_ ? alta : minima_larga);
+    pezzi_.Fronte->setMaximumHeight(stretta_ ? alta : QWIDGETSIZE_MAX);
+  }
+
+ private:
+  static constexpr QSize minima{452, 240};
+  static constexpr int larga = 800;  // pixels from which the list stands beside the CPU
+
+  void Disponi() {
+    while (QLayoutItem* posto = griglia_->takeAt(0)) delete posto;
+    for (int i = 0; i < 4; ++i) {
+      griglia_->setColumnStretch(i, 0);
+      griglia_->setRowStretch(i, 0);
+    }
+    if (stretta_) {
+      QWidget* pezzi[] = {pezzi_.Fronte, pezzi_.Destra, pezzi_.Corsa, pezzi_.Schede};
+      for (int i = 0; i < 4; ++i) griglia_->addWidget(pezzi[i], i, 0);
+      return;
+    }
+    griglia_->addWidget(pezzi_.Fronte, 0, 0, 1, 2);
+    griglia_->addWidget(pezzi_.Corsa, 1, 0);
+    griglia_->addWidget(pezzi_.Schede, 1, 1);
+    griglia_->addWidget(pezzi_.Destra, 0, 2, 2, 1);
+    griglia_->setColumnStretch(0, 4);
+    griglia_->setColumnStretch(1, 6);
+    griglia_->setColumnStretch(2, 5);
+    griglia_->setRowStretch(0, 3);
+    griglia_->setRowStretch(1, 1);
+  }
+
+  Pezzi pezzi_;
+  QGridLayout* griglia_;
+  bool stretta_ = false;
+};
+
 void Crea_Stato(QMainWindow& finestra, Controlli_Pannello& c) {
   auto* barra = Chiama(QStringLiteral("stB"), new QStatusBar(&finestra));
   constexpr std::array larghezze{3, 1, 2, 5};
@@ -270,6 +332,9 @@ void Crea_Stato(QMainWindow& finestra, Controlli_Pannello& c) {
     c.stB[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     barra->addWidget(c.stB[i], larghezze[i]);
   }
+  // The mode is short and has no tool tip: it is never cut.
+  c.stB[2]->setMinimumWidth(
+      c.stB[2]->fontMetrics().horizontalAdvance(QStringLiteral("STOP  -  Singolo Ciclo")) + 4);
   finestra.setStatusBar(barra);
 }
 
@@ -280,31 +345,22 @@ Controlli_Pannello Crea_Controlli(QMainWindow& finestra, Plc& plc, Azioni_Pannel
   c.tB1 = Crea_Barra(finestra, "tB1", Barra_Pannello(tasti));
 
   auto* centro = Chiama(QStringLiteral("picF"), new QWidget);
-  auto* griglia = new QGridLayout(centro);
-  griglia->setContentsMargins(8, 8, 8, 4);
   c.Fronte = Chiama(QStringLiteral("picC"), new Fronte_CPU(plc));
-  griglia->addWidget(c.Fronte, 0, 0, 1, 2);
-  griglia->addWidget(Opzioni_Corsa(c), 1, 0);
-
+  QWidget* corsa = Opzioni_Corsa(c);
   c.SSTb4 = Chiama(QStringLiteral("SSTb4"), new QTabWidget);
   c.SSTb4->addTab(Pagina_Immagini(c), QStringLiteral("Immagini"));
   c.SSTb4->addTab(Pagina_Analogici(c), QStringLiteral("Analogici"));
-  griglia->addWidget(c.SSTb4, 1, 1);
 
-  auto* destra = new QVBoxLayout;
+  auto* destra = new QWidget;
+  auto* in_colonna = new QVBoxLayout(destra);
+  in_colonna->setContentsMargins(0, 0, 0, 0);
   c.listSrc = Chiama(QStringLiteral("listSrc"), new Lista_Programma);
-  c.listSrc->setMinimumWidth(260);
-  destra->addWidget(Intestazione(QStringLiteral("Programma nella CPU")));
-  destra->addWidget(c.listSrc, 1);
-  destra->addWidget(Potenziometri(c));
-  griglia->addLayout(destra, 0, 2, 2, 1);
+  c.listSrc->setMinimumSize(260, 130);
+  in_colonna->addWidget(Intestazione(QStringLiteral("Programma nella CPU")));
+  in_colonna->addWidget(c.listSrc, 1);
+  in_colonna->addWidget(Potenziometri(c));
 
-  griglia->setColumnStretch(0, 4);
-  griglia->setColumnStretch(1, 6);
-  griglia->setColumnStretch(2, 5);
-  griglia->setRowStretch(0, 3);
-  griglia->setRowStretch(1, 1);
-  finestra.setCentralWidget(centro);
+  finestra.setCentralWidget(new Area_Pannello(centro, {c.Fronte, corsa, c.SSTb4, destra}));
   finestra.resize(1060, 700);
   Crea_Stato(finestra, c);
   return c;

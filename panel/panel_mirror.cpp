@@ -78,6 +78,7 @@ void FrmPLC::PLC_Stato() {
   const bool acceso = plc_.PLC_Acceso != 0;
   acceso_mostrato_ = plc_.PLC_Acceso;
   c_.Fronte->Stato(acceso);
+  if (legami_.Corsa_Cambiata) legami_.Corsa_Cambiata(acceso);
   for (QAction* azione :
        {a_.mnuFileNew, a_.mnuFileOpen, a_.mnuFileEdit, a_.tB1.New, a_.tB1.Open, a_.tB1.Save})
     azione->setEnabled(!acceso);

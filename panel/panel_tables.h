@@ -12,7 +12,8 @@ namespace tavorno {
 struct Azioni_Pannello {
   QAction *mnuFile, *mnuFileNew, *mnuFileOpen, *mnuFileEdit, *mnuFileEnd;
   QAction *mnuPlc, *mnuPlcRun, *mnuPlcStop, *mnuPlcStep, *mnuPlcCont, *mnuPLCCiclo, *mnuPLCPiu;
-  QAction *mnuView, *mnuViewTB, *mnuViewSTB, *mnuViewSet, *mnuViewKOP, *mnuViewIO, *mnuViewStati;
+  QAction *mnuView, *mnuViewTB, *mnuViewSTB, *mnuViewSet, *mnuViewKOP, *mnuViewIO, *mnuViewStati,
+      *mnuViewDisponi;
   QAction *mnuProgetti, *MnuHLP, *mnuHlpGen, *mnuHlpSet, *mnuInfAb;
   std::vector<QAction*> mnuPrj;  ///< the exercises, by index
 

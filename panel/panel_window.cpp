@@ -70,6 +70,7 @@ void FrmPLC::Collega_Finestre(Legami_Pannello legami) {
       {a_.mnuViewSet, legami_.Mostra_Impostazioni, bool(legami_.Mostra_Impostazioni)},
       {a_.mnuViewIO, legami_.Mostra_Analogici, bool(legami_.Mostra_Analogici)},
       {a_.mnuViewStati, legami_.Mostra_Stati, bool(legami_.Mostra_Stati)},
+      {a_.mnuViewDisponi, legami_.Disponi_Finestre, bool(legami_.Disponi_Finestre)},
       {a_.mnuInfAb, legami_.Mostra_Info, bool(legami_.Mostra_Info)},
       {a_.mnuHlpGen, [this] { legami_.Mostra_Aiuto("Index.htm"); }, bool(legami_.Mostra_Aiuto)},
       {a_.mnuHlpSet, [this] { legami_.Mostra_Aiuto("SET_IST.htm"); }, bool(legami_.Mostra_Aiuto)},
@@ -102,6 +103,10 @@ void FrmPLC::Collega_Comandi() {
   Al_Comando(a_.mnuViewTB, [this] { c_.tB1->setVisible(!c_.tB1->isVisibleTo(this)); });
   Al_Comando(a_.mnuViewSTB, [this] { statusBar()->setVisible(!statusBar()->isVisibleTo(this)); });
   Al_Comando(a_.mnuViewKOP, [this] { Apri_Scalaro(); });
+}
+
+QList<QAction*> FrmPLC::Comandi_Ovunque() const {
+  return {a_.mnuPlcRun, a_.mnuPlcStop, a_.mnuPLCPiu};
 }
 
 /// A command that may start a run begins in an event of its own: the menu or button it was given

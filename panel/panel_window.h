@@ -22,6 +22,8 @@ struct Legami_Pannello {
   std::function<void()> Mostra_Info;
   std::function<void(int indice)> Mostra_Impianto;  ///< an exercise of the table
   std::function<void(const char* pagina)> Mostra_Aiuto;
+  std::function<void()> Disponi_Finestre;
+  std::function<void(bool acceso)> Corsa_Cambiata;  ///< the CPU runs or stands still
 };
 
 /// The main window: the CPU with its switches and LEDs, the program list and the run commands. It
@@ -49,6 +51,9 @@ class FrmPLC : public QMainWindow {
   void PLC_Sportello(Modo_Sportello modo);
 
   Controlli_Pannello& Controlli() { return c_; }
+
+  /// The run commands that work by their keys from other windows of the program too.
+  QList<QAction*> Comandi_Ovunque() const;
 
   /// The process is about to end: offers to save what is not. False when it was to be saved and is
   /// not, so that the process should go on.

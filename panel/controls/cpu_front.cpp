@@ -134,7 +134,7 @@ void Fronte_CPU::Aggiorna_Vano() {
 double Fronte_CPU::Fattore() const {
   const double piena = std::min(width() / static_cast<double>(Misura.width()),
                                 height() / static_cast<double>(Misura.height()));
-  return std::clamp(piena, 0.8, 2.0);
+  return std::clamp(piena, Minimo, 2.0);
 }
 
 QPointF Fronte_CPU::Origine() const {

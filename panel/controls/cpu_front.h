@@ -22,10 +22,11 @@ struct Plc;
 
 /// The CPU as the student sees it: terminals, LED bars, state lamps, the compartment with its
 /// sliding cover, and below the input terminals the switch rows or the thumbwheel, or the plug of a
-/// plant. It grows with its widget between 80 % and 200 %.
+/// plant. It grows with its widget between 55 % and 200 %.
 class Fronte_CPU : public QWidget {
  public:
   static constexpr QSize Misura{640, 310};  ///< pixels at 100 %
+  static constexpr double Minimo = 0.55;    ///< smallest scale
 
   /// The CPU must outlive its front.
   explicit Fronte_CPU(Plc& plc, QWidget* sopra = nullptr);
@@ -47,7 +48,7 @@ class Fronte_CPU : public QWidget {
   void Aggiorna_Vano();
 
   QSize sizeHint() const override { return Misura; }
-  QSize minimumSizeHint() const override { return Misura * 4 / 5; }
+  QSize minimumSizeHint() const override { return Misura * Minimo; }
 
  protected:
   void paintEvent(QPaintEvent* evento) override;

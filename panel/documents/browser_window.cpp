@@ -46,7 +46,7 @@ QToolBar* FrmBrowser::Crea_Tasti() {
                   .Icona = "Forward",
                   .Dove = &tasti_.Forward},
       Tasto_Barra{.Chiave = "Refresh",
-                  .Suggerimento = "Aggiorna la pagina (F5)",
+                  .Suggerimento = "Aggiorna la pagina (Ctrl+R)",
                   .Icona = "Refresh",
                   .Dove = &tasti_.Refresh},
       Tasto_Barra{.Chiave = "Home",
@@ -129,7 +129,7 @@ void FrmBrowser::Collega_Tasti() {
   } righe[] = {
       {tasti_.Back, "Alt+Left; Back", [this] { brwWebBrowser_->backward(); }},
       {tasti_.Forward, "Alt+Right; Forward", [this] { brwWebBrowser_->forward(); }},
-      {tasti_.Refresh, "F5; Ctrl+R", [this] { brwWebBrowser_->reload(); }},
+      {tasti_.Refresh, "Ctrl+R", [this] { brwWebBrowser_->reload(); }},
       {tasti_.Home, "Alt+Home", [this] { Vai(guida_.Dir_Help + Q("Index.htm")); }},
       {tasti_.Search, "Ctrl+F; F3; Search", [this] { Vai(Q(Schema_Cerca) + ':'); }},
       {tasti_.Stop, "Esc", [this] { Ferma(); }},

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "plc/plc.h"
+#include "widgets/scroll_area.h"
 #include "widgets/text.h"
 #include "widgets/twips.h"
 
@@ -20,7 +21,8 @@ namespace {
 
 // What the eye can follow; a faster one would only take time from the running program.
 constexpr int periodo_timV = 20;  // milliseconds
-constexpr int stacco_twip = 10;   // between this window and the panel below it
+constexpr QSize minima(300, 130);
+constexpr int stacco_twip = 10;  // between this window and the panel below it
 
 }  // namespace
 
@@ -42,11 +44,15 @@ FrmStatiL::FrmStatiL(Plc& plc, QWidget* panel) : plc_(plc), panel_(panel), timV_
   auto* celle = new QVBoxLayout;
   celle->addWidget(Riquadro_Memorie(), 1);
   celle->addLayout(piede);
-  auto* riga = new QHBoxLayout(this);
+  auto* foglio = new QWidget;
+  auto* riga = new QHBoxLayout(foglio);
   riga->setContentsMargins(8, 6, 8, 8);
   riga->addLayout(bit, 3);
   riga->addWidget(Riquadro_Colonne(), 3);
   riga->addLayout(celle, 2);
+  auto* tutto = new QVBoxLayout(this);
+  tutto->setContentsMargins(0, 0, 0, 0);
+  tutto->addWidget(new Area_Scorrevole(foglio, minima));
 
   if (panel_) {
     // Above the panel's own place, so that the panel need not go far.

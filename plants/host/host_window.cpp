@@ -7,10 +7,12 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSlider>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 
 #include "plants/host/picture_widget.h"
@@ -26,6 +28,44 @@ namespace {
 // Our shades of the two numbered colours of the table, light enough to read on.
 const QColor verde_ingressi(0xcb, 0xee, 0xd2);
 const QColor celeste_uscite(0xcc, 0xec, 0xf2);
+
+const QColor fondo_run(0x1b, 0x7a, 0x33);
+const QColor fondo_stop(0x59, 0x60, 0x68);
+
+/// Two groups of controls side by side, or one above the other where the window is narrow.
+class Riga_Comandi : public QWidget {
+ public:
+  Riga_Comandi() : posti_(new QBoxLayout(QBoxLayout::LeftToRight, this)) {
+    posti_->setContentsMargins(10, 6, 10, 6);
+    for (QHBoxLayout* gruppo : {Sinistra, Destra}) posti_->addLayout(gruppo);
+  }
+
+  QHBoxLayout* Sinistra = new QHBoxLayout;
+  QHBoxLayout* Destra = new QHBoxLayout;
+
+  QSize minimumSizeHint() const override {
+    const QSize sinistra = Sinistra->minimumSize();
+    const QSize destra = Destra->minimumSize();
+    const QMargins bordi = posti_->contentsMargins();
+    const bool due_righe = posti_->direction() == QBoxLayout::TopToBottom;
+    const int alta = due_righe ? sinistra.height() + destra.height() + posti_->spacing()
+                               : std::max(sinistra.height(), destra.height());
+    return QSize(std::max(sinistra.width(), destra.width()), alta).grownBy(bordi);
+  }
+  QSize sizeHint() const override { return minimumSizeHint(); }
+
+ protected:
+  void resizeEvent(QResizeEvent*) override {
+    const QMargins bordi = posti_->contentsMargins();
+    const int in_fila = Sinistra->minimumSize().width() + Destra->minimumSize().width() +
+                        posti_->spacing() + bordi.left() + bordi.right();
+    posti_->setDirection(width() < in_fila ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    updateGeometry();
+  }
+
+ private:
+  QBoxLayout* posti_;
+};
 
 bool Uscita(const Riga_IO& riga) {
   return riga.Indirizzo[0] == 'Q' || (riga.Indirizzo[0] == 'A' && riga.Indirizzo[1] == 'Q');
@@ -50,8 +90,10 @@ Finestra_Impianto::Finestra_Impianto(std::unique_ptr<Collegamento> collegamento)
   righe->addWidget(schede_ = qobject_cast<QTabWidget*>(Crea_Schede()));
   schede_->setVisible(false);
 
+  Mostra_Corsa(false);
+
   move(0, 0);
-  resize(quadro_->sizeHint().width(), Px(altezza_));
+  resize(Voluta());
   quadro_->setFocus();
 }
 
@@ -67,9 +109,7 @@ void Finestra_Impianto::closeEvent(QCloseEvent* evento) {
 }
 
 QWidget* Finestra_Impianto::Crea_Comandi() {
-  auto* riga = new QWidget;
-  auto* posti = new QHBoxLayout(riga);
-  posti->setContentsMargins(10, 6, 10, 6);
+  auto* riga = new Riga_Comandi;
 
   auto* chkSim = Chiama(QStringLiteral("chkSim"),
                         new QCheckBox(QStringLiteral("Usa Simulatore PLC per gli Ingressi")));
@@ -83,19 +123,30 @@ QWidget* Finestra_Impianto::Crea_Comandi() {
   connect(chkIO, &QCheckBox::toggled, this, &Finestra_Impianto::Apri_Tabella);
   auto* cmdSch = Chiama(QStringLiteral("cmdSch"), new QPushButton(QStringLiteral("Info")));
   cmdSch->setToolTip(QStringLiteral("Schema Elettrico"));
-  connect(cmdSch, &QPushButton::clicked, this, [this] {
+  const auto guida = [this] {
     if (Mostra_Aiuto) Mostra_Aiuto(collegamento_->Tabella().Pagina);
-  });
+  };
+  connect(cmdSch, &QPushButton::clicked, this, guida);
+  connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, guida);
   auto* cmdEnd = Chiama(QStringLiteral("cmdEnd"), new QPushButton(QStringLiteral("Chiudi")));
   cmdEnd->setToolTip(QStringLiteral("Termina"));
   connect(cmdEnd, &QPushButton::clicked, this, &QWidget::close);
 
-  posti->addWidget(chkSim);
-  posti->addSpacing(16);
-  posti->addWidget(chkIO);
-  posti->addStretch();
-  posti->addWidget(cmdSch);
-  posti->addWidget(cmdEnd);
+  etRun_ = Chiama(QStringLiteral("etRun"), new QLabel);
+  etRun_->setFont(Grassetto(etRun_->font()));
+  etRun_->setAlignment(Qt::AlignCenter);
+  etRun_->setAutoFillBackground(true);
+  etRun_->setMinimumWidth(etRun_->fontMetrics().horizontalAdvance(QStringLiteral("CPU in STOP")) +
+                          12);
+
+  riga->Sinistra->addWidget(chkSim);
+  riga->Sinistra->addSpacing(16);
+  riga->Sinistra->addWidget(chkIO);
+  riga->Sinistra->addStretch();
+  riga->Destra->addStretch();
+  riga->Destra->addWidget(etRun_);
+  riga->Destra->addWidget(cmdSch);
+  riga->Destra->addWidget(cmdEnd);
   return riga;
 }
 
@@ -172,6 +223,18 @@ QWidget* Finestra_Impianto::Impostazioni() {
   return pagina;
 }
 
+QSize Finestra_Impianto::Voluta() const {
+  return {quadro_->sizeHint().width(), Px(altezza_)};
+}
+
+void Finestra_Impianto::Mostra_Corsa(bool acceso) {
+  etRun_->setText(acceso ? QStringLiteral("CPU in RUN") : QStringLiteral("CPU in STOP"));
+  QPalette colori = etRun_->palette();
+  colori.setColor(QPalette::Window, acceso ? fondo_run : fondo_stop);
+  colori.setColor(QPalette::WindowText, Qt::white);
+  etRun_->setPalette(colori);
+}
+
 /// The height shows or hides the table. What the user has made the window larger by stays.
 void Finestra_Impianto::Apri_Tabella(bool aperta) {
   const Esercizio& esercizio = collegamento_->Tabella();
@@ -180,7 +243,9 @@ void Finestra_Impianto::Apri_Tabella(bool aperta) {
   const int voluta = height() + Px(altezza_) - Px(prima);
   schede_->setVisible(aperta);
   layout()->activate();  // else the window may not shrink yet
-  if (!isMaximized() && !isFullScreen()) resize(width(), voluta);
+  if (isMaximized() || isFullScreen()) return;
+  resize(width(), voluta);
+  if (Tabella_Mossa) Tabella_Mossa();
 }
 
 }  // namespace tavorno

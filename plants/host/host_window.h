@@ -7,7 +7,7 @@
 
 #include "plants/link.h"
 
-class QCheckBox;
+class QLabel;
 class QTabWidget;
 
 namespace tavorno {
@@ -24,11 +24,17 @@ class Finestra_Impianto : public QWidget {
 
   std::function<void(const char* pagina)> Mostra_Aiuto;  ///< "Info": a page of the exercises
   std::function<void()> Chiusa;                          ///< the plant was closed
+  std::function<void()> Tabella_Mossa;                   ///< the table appeared or went
 
   Quadro& Disegno() { return *quadro_; }
   Collegamento& Fili() { return *collegamento_; }
   /// Nominal height in twips, as the table of exercises has it: with or without the I/O table.
   int Altezza() const { return altezza_; }
+  /// The size without its frame that the window is told to have now, in pixels.
+  QSize Voluta() const;
+
+  /// Shows whether the CPU runs.
+  void Mostra_Corsa(bool acceso);
 
  protected:
   void closeEvent(QCloseEvent* evento) override;
@@ -43,6 +49,7 @@ class Finestra_Impianto : public QWidget {
   std::unique_ptr<Collegamento> collegamento_;
   Quadro* quadro_;
   QTabWidget* schede_ = nullptr;
+  QLabel* etRun_ = nullptr;
   int altezza_;
 };
 

@@ -20,7 +20,7 @@ class Quadro : public QWidget {
   ~Quadro() override;
 
   QSize sizeHint() const override;
-  QSize minimumSizeHint() const override { return sizeHint() * 0.8; }
+  QSize minimumSizeHint() const override { return sizeHint() * 0.4; }
 
   /// The topmost visible figure that can be operated there; nullptr for none. Pixels of the widget.
   Figura* Figura_A(const QPointF& punto) const;

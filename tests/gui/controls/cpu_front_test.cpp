@@ -172,10 +172,10 @@ TEST_F(CpuFront, TheOpenCompartmentShowsTheStateOfTheCpu) {
 
 class CpuFrontSize : public CpuFront, public ::testing::WithParamInterface<QSize> {};
 
-TEST_P(CpuFrontSize, KeepsItsProportionsBetweenEightyAndTwoHundredPercent) {
+TEST_P(CpuFrontSize, KeepsItsProportionsBetweenItsBounds) {
   fronte.resize(GetParam());
   const double scala =
-      std::clamp(std::min(GetParam().width() / 640.0, GetParam().height() / 310.0), 0.8, 2.0);
+      std::clamp(std::min(GetParam().width() / 640.0, GetParam().height() / 310.0), 0.55, 2.0);
   EXPECT_NEAR(fronte.SQ(1).width(), 260 * scala, 1);
   EXPECT_NEAR(fronte.Sim_I(0).height(), 50 * scala, 1);
   EXPECT_NEAR(Figlio_Di<>(fronte, "pic1").width(), 393 * scala, 1);
@@ -193,8 +193,9 @@ TEST_P(CpuFrontSize, KeepsItsProportionsBetweenEightyAndTwoHundredPercent) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, CpuFrontSize,
-                         ::testing::Values(QSize(512, 248), QSize(640, 310), QSize(900, 310),
-                                           QSize(640, 500), QSize(1280, 620), QSize(1900, 900)));
+                         ::testing::Values(QSize(300, 150), QSize(352, 171), QSize(512, 248),
+                                           QSize(640, 310), QSize(900, 310), QSize(640, 500),
+                                           QSize(1280, 620), QSize(1900, 900)));
 
 TEST_F(CpuFront, TheTabKeyGoesFromTheFirstRowToTheSecond) {
   fronte.activateWindow();

@@ -3,6 +3,7 @@
 #include "plants/exercises.h"
 
 #include <QComboBox>
+#include <QLabel>
 
 #include "panel/application.h"
 #include "panel/child_windows.h"
@@ -164,6 +165,70 @@ TEST_F(Esercizi_Dal_Menu, AFatalReadOfTheStatusWindowBlamesNoLine) {
   } catch (const Fatale& fatale) {
     EXPECT_EQ(Rapporto_Fine(fatale, plc), Rapporto_Fatale(fatale, plc));
   }
+}
+
+TEST_F(Esercizi_Dal_Menu, RunStopAndStepWorkByTheirKeysFromEveryWindow) {
+  Carica("LD SM0.0\r\n= Q0.0\r\n");
+  guida.Dir_Help = "/guida/";
+  Azione(pannello, Voce(0)).trigger();
+  EXPECT_TRUE(QTest::qWaitFor([] { return Finestra("frmMA")->isActiveWindow(); }, 20000));
+  finestre.Mostra_Impostazioni();
+  finestre.Mostra_Analogici();
+  finestre.Mostra_Debug();
+  finestre.Mostra_Aiuto("/guida/Index.htm");
+  const auto& etRun = *Finestra("frmMA")->findChild<QLabel*>("etRun");
+  for (const char* nome :
+       {"frmMA", "frmStatiL", "frmSetPLC", "frmSimAI", "frmDebug", "frmBrowser", "frmPLC"}) {
+    SCOPED_TRACE(nome);
+    QWidget& finestra = *Finestra(nome);
+    finestra.activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return finestra.isActiveWindow(); }, 20000));
+    cicli = righe = 0;
+    QString in_corsa;
+    Al_Ciclo[2] = [&] {
+      pannello.Aggiorna();
+      in_corsa = etRun.text();
+      QTest::keyClick(&finestra, Qt::Key_F5, Qt::ShiftModifier);
+      QCoreApplication::processEvents();
+    };
+    QTest::keyClick(&finestra, Qt::Key_F5);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(cicli, 3);
+    EXPECT_EQ(plc.PLC_Acceso, 0);
+    EXPECT_EQ(in_corsa, "CPU in RUN");
+    EXPECT_EQ(etRun.text(), "CPU in STOP");
+    plc.mnuPlcStep();
+    plc.mnuPlcRun();
+    pannello.Aggiorna();
+    QTest::keyClick(&finestra, Qt::Key_F10);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(plc.PC, 1);
+    plc.mnuPlcStop();
+    plc.mnuPlcCont();
+    pannello.Aggiorna();
+    if (&finestra == &pannello || nome == std::string("frmBrowser")) continue;  // they have menus
+    EXPECT_TRUE(finestra.toolTip().contains("F5 RUN"));
+  }
+  Finestra("frmMA")->close();
+}
+
+TEST_F(Esercizi_Dal_Menu, F1OpensThePageOfTheWindow) {
+  guida.Dir_Help = "/guida/";
+  guida.Dir_Panel = "/guida/Panel/";
+  Azione(pannello, Voce(9)).trigger();
+  finestre.Mostra_Analogici();
+  const std::pair<const char*, const char*> pagine[] = {{"frmCancello", "/guida/Panel/US-09.htm"},
+                                                        {"frmStatiL", "/guida/Index.htm#stati"},
+                                                        {"frmSimAI", "/guida/Index.htm#pannello"}};
+  for (const auto& [nome, pagina] : pagine) {
+    QWidget& finestra = *Finestra(nome);
+    finestra.activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return finestra.isActiveWindow(); }, 20000));
+    QTest::keyClick(&finestra, Qt::Key_F1);
+    ASSERT_NE(Finestra("frmBrowser"), nullptr) << nome;
+    EXPECT_EQ(Finestra("frmBrowser")->findChild<QComboBox*>("cboAddress")->currentText(), pagina);
+  }
+  Finestra("frmCancello")->close();
 }
 
 TEST_F(Esercizi_Dal_Menu, AWindowThatIsAskedForComesBackFromTheTaskBar) {

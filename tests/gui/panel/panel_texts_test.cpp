@@ -47,6 +47,8 @@ const std::vector<Voce> voci = {
     {"mnuView", "", "", -1},
     {"mnuView", "mnuViewIO", "Simulatore Ingressi A&nalogici", -1},
     {"mnuView", "mnuViewStati", "Finestra Stati &Elementi", -1},
+    {"mnuView", "", "", -1},
+    {"mnuView", "mnuViewDisponi", "&Disponi finestre", -1},
     {"MnuHLP", "mnuHlpGen", "&Indice", -1},
     {"MnuHLP", "mnuHlpSet", "&Set Istruzioni", -1},
     {"MnuHLP", "", "", -1},

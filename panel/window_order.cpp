@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/window_order.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QMainWindow>
+#include <QScreen>
+#include <algorithm>
+#include <cstdlib>
+
+#include "panel/windows/status_window.h"
+#include "plants/host/host_window.h"
+
+namespace tavorno {
+
+namespace {
+
+constexpr int periodo = 25;       // ms between two looks at the frames
+constexpr int giri_massimi = 40;  // looks at most
+constexpr int giri_fermi = 5;     // looks without a change, after which all is settled
+constexpr int tolleranza = 4;     // pixels by which a desktop may place a window otherwise
+
+bool Vicini(const QRect& uno, const QRect& altro) {
+  return std::abs(uno.x() - altro.x()) <= tolleranza &&
+         std::abs(uno.y() - altro.y()) <= tolleranza &&
+         std::abs(uno.width() - altro.width()) <= tolleranza &&
+         std::abs(uno.height() - altro.height()) <= tolleranza;
+}
+
+bool Libera(const QWidget& finestra) {
+  return finestra.isVisible() && !finestra.isMaximized() && !finestra.isFullScreen() &&
+         !finestra.isMinimized();
+}
+
+}  // namespace
+
+Ordine_Finestre::Ordine_Finestre(QMainWindow& pannello) : pannello_(pannello) {
+  Sorveglia(pannello);
+  assesta_.setInterval(periodo);
+  assesta_.callOnTimeout(this, &Ordine_Finestre::Assesta);
+}
+
+void Ordine_Finestre::Sorveglia(QWidget& finestra) {
+  sorvegliate_.insert(&finestra);
+  if (finestra.isVisible()) Appena_Mostrata(finestra);
+  finestra.installEventFilter(this);
+  connect(&finestra, &QObject::destroyed, this, [this, quale = &finestra] {
+    dati_.erase(quale);
+    nuove_.erase(quale);
+    sorvegliate_.erase(quale);
+    a_mano_.erase(quale);
+  });
+}
+
+bool Ordine_Finestre::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (evento->type() == QEvent::Show && !evento->spontaneous()) {
+    Appena_Mostrata(static_cast<QWidget&>(*oggetto));
+  }
+  return false;
+}
+
+void Ordine_Finestre::Appena_Mostrata(QWidget& finestra) {
+  nuove_.insert(&finestra);
+  giri_ = quiete_ = 0;
+  assesta_.start();
+}
+
+QRect Ordine_Finestre::Schermo() const {
+  return pannello_.screen()->availableGeometry();
+}
+
+QMargins Ordine_Finestre::Bordi(const QWidget& finestra) const {
+  const auto di = [](const QWidget& quale) {
+    const QRect fuori = quale.frameGeometry();
+    const QRect dentro = quale.geometry();
+    return QMargins(dentro.left() - fuori.left(), dentro.top() - fuori.top(),
+                    fuori.right() - dentro.right(), fuori.bottom() - dentro.bottom());
+  };
+  const QMargins suoi = di(finestra);
+  return suoi.isNull() ? di(pannello_) : suoi;
+}
+
+Misura_Finestra Ordine_Finestre::Misura(const QWidget& finestra, const QSize& voluta) const {
+  const QMargins bordi = Bordi(finestra);
+  return {voluta.grownBy(bordi), finestra.minimumSizeHint().grownBy(bordi)};
+}
+
+bool Ordine_Finestre::A_Mano(QWidget& finestra) const {
+  if (!Libera(finestra) || a_mano_.contains(&finestra)) return true;
+  const auto data = dati_.find(&finestra);
+  if (data == dati_.end() || assesta_.isActive()) return false;
+  QRect data_prima = data->second;
+  const QRect ora = finestra.frameGeometry();
+  if (&finestra == impianto_) data_prima.setHeight(ora.height());  // its table moves its lower edge
+  return !Vicini(data_prima, ora);
+}
+
+void Ordine_Finestre::Metti(QWidget& finestra, const QRect& cornice, bool tutte) {
+  if (tutte && (finestra.isMaximized() || finestra.isFullScreen())) finestra.showNormal();
+  if (!tutte && A_Mano(finestra)) return;
+  Porta(finestra, cornice);
+  dati_[&finestra] = cornice;
+}
+
+void Ordine_Finestre::Porta(QWidget& finestra, const QRect& cornice) const {
+  finestra.resize(cornice.size().shrunkBy(Bordi(finestra)));
+  finestra.move(cornice.topLeft());
+}
+
+void Ordine_Finestre::Sta_Per_Aprire() {
+  if (prima_.isNull()) prima_ = pannello_.frameGeometry();
+}
+
+void Ordine_Finestre::Aperte(Finestra_Impianto* impianto, FrmStatiL& stati) {
+  stati_ = &stati;
+  dati_.clear();
+  a_mano_.clear();
+  if (impianto != nullptr) {
+    impianto_ = impianto;
+    impianto->Tabella_Mossa = [this] { Disponi(false); };
+  }
+  Disponi(false);
+}
+
+void Ordine_Finestre::Chiuse() {
+  const QRect com_era = prima_;
+  const bool ceduto = dati_.contains(&pannello_) && !A_Mano(pannello_);
+  impianto_ = nullptr;
+  stati_ = nullptr;
+  prima_ = {};
+  dati_.clear();
+  a_mano_.clear();
+  if (ceduto && !com_era.isNull()) Metti(pannello_, Dentro(Schermo(), com_era), false);
+  dati_.clear();
+}
+
+/// Nothing outside the screen, nothing under another window, the plant as large as told.
+bool Ordine_Finestre::Tutto_A_Posto(const QRect& schermo) const {
+  const QRect panel = pannello_.frameGeometry();
+  const QRect stati = stati_->frameGeometry();
+  const bool due = schermo.contains(panel) && schermo.contains(stati) && !panel.intersects(stati);
+  if (!due || impianto_.isNull()) return due;
+  const QRect impianto = impianto_->frameGeometry();
+  return schermo.contains(impianto) && !impianto.intersects(panel) && !impianto.intersects(stati) &&
+         impianto_->height() >= impianto_->Voluta().height() &&
+         impianto_->width() >= impianto_->Voluta().width();
+}
+
+/// What the user has moved since the last placing stays his.
+void Ordine_Finestre::Rispetta_Mani() {
+  for (const auto& [finestra, cornice] : dati_) {
+    if (A_Mano(*finestra)) a_mano_.insert(finestra);
+  }
+  for (QWidget* finestra : a_mano_) dati_.erase(finestra);
+}
+
+void Ordine_Finestre::Disponi(bool tutte) {
+  if (tutte)
+    a_mano_.clear();
+  else
+    Rispetta_Mani();
+  giri_ = quiete_ = 0;
+  assesta_.start();
+  bordi_ = Bordi(pannello_);
+  const QRect schermo = Schermo();
+  if (tutte) {
+    dati_.clear();
+    nuove_.clear();
+    for (QWidget* finestra : QApplication::topLevelWidgets()) {
+      if (finestra->isVisible() && sorvegliate_.contains(finestra)) nuove_.insert(finestra);
+    }
+  }
+  if (stati_.isNull()) {
+    if (!impianto_.isNull()) {
+      const QRect voluta(impianto_->pos(), Misura(*impianto_, impianto_->Voluta()).Voluta);
+      Metti(*impianto_, Dentro(schermo, voluta), tutte);
+    }
+    return;
+  }
+  if (!tutte && Tutto_A_Posto(schermo)) {
+    for (auto& [finestra, cornice] : dati_) cornice = finestra->frameGeometry();
+    return;
+  }
+
+  const QRect panel = pannello_.frameGeometry();
+  const QSize panel_voluto = (prima_.isNull() ? panel.size() : prima_.size());
+  const Misura_Finestra del_panel{panel_voluto,
+                                  pannello_.minimumSizeHint().grownBy(Bordi(pannello_))};
+  const Misura_Finestra di_stati = Misura(*stati_, stati_->sizeHint());
+  Posti_Impianto posti;
+  if (impianto_) {
+    posti = Posti_Esercizio(schermo, Misura(*impianto_, impianto_->Voluta()), di_stati, del_panel,
+                            panel);
+    Metti(*impianto_, posti.Impianto, tutte);
+  } else {
+    const int ultimo =
+        schermo.right() + 1 - std::max(di_stati.Voluta.width(), panel_voluto.width());
+    posti = Posti_Colonna(
+        schermo,
+        {std::clamp(stati_->x(), schermo.left(), std::max(schermo.left(), ultimo)), schermo.top()},
+        di_stati, del_panel);
+  }
+  Metti(*stati_, posti.Stati, tutte);
+  Metti(pannello_, posti.Pannello, tutte);
+}
+
+/// A moment after the windows were placed: with the frames as they are, once they are known.
+void Ordine_Finestre::Assesta() {
+  ++giri_;
+  if (bordi_ != Bordi(pannello_)) {
+    const int giri = giri_;
+    Disponi(false);
+    giri_ = giri;
+  }
+  bool ferme = !Bordi(pannello_).isNull();
+  const auto porta = [&](QWidget& finestra, const QRect& cornice) {
+    if (!Libera(finestra) || finestra.frameGeometry() == cornice) return;
+    Porta(finestra, cornice);
+    ferme = false;
+  };
+  for (auto& [finestra, cornice] : dati_) porta(*finestra, cornice);
+  for (QWidget* finestra : nuove_) {
+    if (dati_.contains(finestra)) continue;
+    porta(*finestra, Dentro(finestra->screen()->availableGeometry(), finestra->frameGeometry()));
+  }
+  quiete_ = ferme ? quiete_ + 1 : 0;
+  if (quiete_ < giri_fermi && giri_ < giri_massimi) return;
+  assesta_.stop();
+  nuove_.clear();
+  for (auto& [finestra, cornice] : dati_) cornice = finestra->frameGeometry();
+}
+
+}  // namespace tavorno
