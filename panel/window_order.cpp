@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <algorithm>
 #include <cstdlib>
+#include <initializer_list>
 
 #include "panel/windows/status_window.h"
 #include "plants/host/host_window.h"
@@ -30,6 +31,14 @@ bool Vicini(const QRect& uno, const QRect& altro) {
 bool Libera(const QWidget& finestra) {
   return finestra.isVisible() && !finestra.isMaximized() && !finestra.isFullScreen() &&
          !finestra.isMinimized();
+}
+
+/// How thick the frame is, as far as it is known.
+QMargins Cornice(const QWidget& finestra) {
+  const QRect fuori = finestra.frameGeometry();
+  const QRect dentro = finestra.geometry();
+  return {dentro.left() - fuori.left(), dentro.top() - fuori.top(), fuori.right() - dentro.right(),
+          fuori.bottom() - dentro.bottom()};
 }
 
 }  // namespace
@@ -69,15 +78,10 @@ QRect Ordine_Finestre::Schermo() const {
   return pannello_.screen()->availableGeometry();
 }
 
+/// Until a window has appeared nobody knows its frame; it will be as thick as the panel's.
 QMargins Ordine_Finestre::Bordi(const QWidget& finestra) const {
-  const auto di = [](const QWidget& quale) {
-    const QRect fuori = quale.frameGeometry();
-    const QRect dentro = quale.geometry();
-    return QMargins(dentro.left() - fuori.left(), dentro.top() - fuori.top(),
-                    fuori.right() - dentro.right(), fuori.bottom() - dentro.bottom());
-  };
-  const QMargins suoi = di(finestra);
-  return suoi.isNull() ? di(pannello_) : suoi;
+  const QMargins suoi = Cornice(finestra);
+  return suoi.isNull() ? Cornice(pannello_) : suoi;
 }
 
 Misura_Finestra Ordine_Finestre::Misura(const QWidget& finestra, const QSize& voluta) const {
@@ -200,6 +204,7 @@ void Ordine_Finestre::Disponi(bool tutte) {
         {std::clamp(stati_->x(), schermo.left(), std::max(schermo.left(), ultimo)), schermo.top()},
         di_stati, del_panel);
   }
+  stati_->Lascia_Il_Panel();
   Metti(*stati_, posti.Stati, tutte);
   Metti(pannello_, posti.Pannello, tutte);
 }
@@ -212,7 +217,12 @@ void Ordine_Finestre::Assesta() {
     Disponi(false);
     giri_ = giri;
   }
-  bool ferme = !Bordi(pannello_).isNull();
+  const bool detti = dati_.empty() && a_mano_.empty();
+  if (stati_ && detti && !Tutto_A_Posto(Schermo())) Disponi(false);
+  bool ferme = true;
+  for (const QWidget* finestra :
+       std::initializer_list<const QWidget*>{&pannello_, impianto_, stati_})
+    ferme &= finestra == nullptr || !Libera(*finestra) || !Cornice(*finestra).isNull();
   const auto porta = [&](QWidget& finestra, const QRect& cornice) {
     if (!Libera(finestra) || finestra.frameGeometry() == cornice) return;
     Porta(finestra, cornice);

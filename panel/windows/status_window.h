@@ -46,6 +46,9 @@ class FrmStatiL : public QWidget {
   /// Moves the window; the panel stays where it is. Lengths in twips.
   void Poni(int left_twip, int top_twip);
 
+  /// Somebody else has placed the panel: this window does not touch it any more.
+  void Lascia_Il_Panel() { cornice_nota_ = true; }
+
   std::int16_t Gia_Posta = 0;    ///< -1 once the window has been shown
   std::int16_t Aggiornando = 0;  ///< -1 during a tick
 
