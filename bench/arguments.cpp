@@ -26,7 +26,11 @@ Argomenti::Argomenti(const std::vector<std::string>& parole,
     } else if (con_valore.contains(nome)) {
       if (uguale == std::string::npos && i + 1 == parole.size())
         throw Uso_Errato("manca il valore dell'opzione " + nome);
-      opzioni_[nome] = uguale == std::string::npos ? parole[++i] : parola.substr(uguale + 1);
+      const std::string valore =
+          uguale == std::string::npos ? parole[++i] : parola.substr(uguale + 1);
+      if (valore.starts_with("--"))
+        throw Uso_Errato("manca il valore dell'opzione " + nome + " prima di " + valore);
+      opzioni_[nome] = valore;
     } else {
       throw Uso_Errato("opzione sconosciuta: " + parola);
     }

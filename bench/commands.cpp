@@ -11,8 +11,10 @@
 #include "bench/arguments.h"
 #include "bench/json_report.h"
 #include "bench/plant_options.h"
+#include "bench/report_files.h"
 #include "bench/speed.h"
 #include "bench/trace_options.h"
+#include "grading/reports.h"
 #include "plants/link.h"
 #include "plc/codepage.h"
 #include "recorder/session.h"
@@ -60,6 +62,9 @@ Uso:
 
   tavorno-banco --help
       Questo testo.
+
+  tavorno-banco --version
+      La versione del programma.
 
 Stato di uscita: 0 tutto bene, 1 errori di compilazione o di esecuzione oppure
 un file che non si può scrivere, 2 progetto illeggibile, 64 uso errato.
@@ -139,6 +144,7 @@ int Comando_Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& 
 
   Stato_Uscita illeggibile{};
   const std::string& file = Un_File(argomenti);
+  Controlla_Rapporti(argomenti, {"--vcd", "--svg"}, {file});
   const auto seduta = Apri_Per_Eseguire(file, err, illeggibile);
   if (!seduta) return illeggibile;
 
@@ -234,6 +240,10 @@ int Banco(const std::vector<std::string>& argomenti, std::ostream& out, std::ost
         out << aiuto;
         return Uscita_Buona;
       }
+    }
+    if (comando == "--version") {
+      out << "tavorno-banco " << Versione() << '\n';
+      return Uscita_Buona;
     }
     if (comando == "compila") return Comando_Compila(Argomenti(resto, {}, {"--json"}), out, err);
     if (comando == "esegui")

@@ -10,9 +10,12 @@
 
 #include "bench/arguments.h"
 #include "bench/commands.h"
+#include "bench/interruption.h"
 #include "bench/plant_options.h"
+#include "bench/report_files.h"
 #include "bench/trace_options.h"
 #include "grading/grader.h"
+#include "grading/hand_in_search.h"
 #include "grading/reports.h"
 #include "grading/script_functions.h"
 
@@ -46,22 +49,15 @@ Funzioni degli script (Lua 5.4, senza file, processi e rete):
 )";
 
 constexpr const char* stati = R"(
-Stato di uscita: 0 tutte le prove superate, 1 qualcuna no oppure un rapporto che non
-si può scrivere, 2 progetto o script illeggibile, 64 uso errato.
+Stato di uscita: 0 tutte le prove superate, 1 qualcuna no, una consegna non esaminata
+oppure un rapporto che non si può scrivere, 2 progetto illeggibile o script sbagliato,
+64 uso errato.
 )";
 
 class Illeggibile : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
-
-std::string Estensione(const fs::path& file) {
-  std::string estensione = file.extension().string();
-  for (char& c : estensione) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  return estensione;
-}
 
 Sorgente_Script Leggi_Script(const std::string& file) {
   try {
@@ -79,26 +75,19 @@ bool Cartella(const std::string& percorso) {
   return fs::is_directory(percorso, errore);
 }
 
-/// The projects of a folder, in the order of their paths.
-void Aggiungi_Cartella(const std::string& cartella, std::vector<std::string>& progetti) {
-  std::vector<std::string> trovati;
-  std::error_code errore;
-  const auto opzioni = fs::directory_options::skip_permission_denied;
-  for (fs::recursive_directory_iterator voce(cartella, opzioni, errore), fine;
-       !errore && voce != fine; voce.increment(errore)) {
-    if (voce->is_regular_file(errore) && Estensione(voce->path()) == ".awl")
-      trovati.push_back(voce->path().string());
-  }
-  if (trovati.empty()) throw Illeggibile(cartella + ": la cartella non contiene progetti .AWL.");
-  std::ranges::sort(trovati);
-  progetti.insert(progetti.end(), trovati.begin(), trovati.end());
-}
-
 /// What the command line names.
 struct Incarico {
   std::vector<std::string> Progetti;
+  std::vector<Scartata> Scartate;
   bool Molti = false;
   Verifiche Con;
+
+  Testata In_Testa() const {
+    Testata testata;
+    for (const Sorgente_Script& script : Con.Script)
+      testata.Con.push_back({script.Nome, script.Impronta});
+    return testata;
+  }
 };
 
 Incarico Leggi_Incarico(const Argomenti& argomenti) {
@@ -116,7 +105,13 @@ Incarico Leggi_Incarico(const Argomenti& argomenti) {
   for (const std::string& file : altri) {
     if (Cartella(file)) {
       incarico.Molti = true;
-      Aggiungi_Cartella(file, incarico.Progetti);
+      const Consegne_Trovate trovate = Cerca_Consegne(file);
+      if (trovate.Progetti.empty() && trovate.Scartate.empty())
+        throw Illeggibile(file + ": la cartella non contiene progetti .AWL.");
+      incarico.Progetti.insert(incarico.Progetti.end(), trovate.Progetti.begin(),
+                               trovate.Progetti.end());
+      incarico.Scartate.insert(incarico.Scartate.end(), trovate.Scartate.begin(),
+                               trovate.Scartate.end());
     } else {
       incarico.Progetti.push_back(file);
     }
@@ -124,6 +119,7 @@ Incarico Leggi_Incarico(const Argomenti& argomenti) {
   incarico.Con.Solo_Caso = argomenti.Testo("--caso", "");
   incarico.Con.Inizio.Ogni_Scansione = argomenti.Ha("--ogni-scansione");
   incarico.Con.Impianto = Impianto_Di(argomenti);
+  if (!incarico.Con.Impianto) incarico.Con.Impianto = Impianto_Nominato(incarico.Con.Script);
   return incarico;
 }
 
@@ -133,25 +129,37 @@ std::vector<Esito_Progetto> Esamina_Molti(const Incarico& incarico, unsigned pro
   // Nobody wants the progress in a file.
   const bool terminale = &err == &std::cerr && ::isatty(STDERR_FILENO) == 1;
   const std::size_t tutti = incarico.Progetti.size();
+  const Interruzione interruzione;
   Esamina_Tutti(
       incarico.Progetti, incarico.Con, processi,
       [&](const Esito_Progetto& esito) {
         if (terminale) err << "\r\033[K";
         if (righe) Stampa_Riga(out, esito);
+        out.flush();
         esiti.push_back(esito);
       },
       [&](std::size_t fatti) {
         if (!terminale) return;
-        out.flush();
         err << "esaminati " << fatti << " di " << tutti << std::flush;
         if (fatti == tutti) err << "\r\033[K";
-      });
+      },
+      Interruzione::Chiesta);
+  for (const Scartata& scartata : incarico.Scartate) {
+    esiti.push_back(Non_Esaminata(scartata.Percorso, scartata.Motivo));
+    if (righe) Stampa_Riga(out, esiti.back());
+  }
   return esiti;
 }
 
 void Stampa_Somma(std::ostream& out, const std::vector<Esito_Progetto>& esiti) {
   const auto superati = std::ranges::count_if(esiti, &Esito_Progetto::Superato);
-  out << "Superati " << superati << " progetti su " << esiti.size() << ".\n";
+  const auto saltati = std::ranges::count_if(
+      esiti, [](const Esito_Progetto& esito) { return !esito.Non_Esaminato.empty(); });
+  const auto errati = std::ranges::count_if(esiti, &Esito_Progetto::Script_Errato);
+  out << "Superati " << superati << " progetti su " << esiti.size() << ".";
+  if (saltati > 0) out << " Non esaminati: " << saltati << ".";
+  if (errati > 0) out << " Con un errore dello script: " << errati << ".";
+  out << '\n';
 }
 
 int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
@@ -163,6 +171,8 @@ int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
   const auto processi = static_cast<unsigned>(
       argomenti.Numero("--processi", std::max(1U, std::thread::hardware_concurrency()), 1, 256));
 
+  Controlla_Rapporti(argomenti, {"--junit", "--csv", "--vcd", "--svg"}, incarico.Progetti);
+  const Testata testata = incarico.In_Testa();
   std::vector<Esito_Progetto> esiti;
   // A file that cannot be written must not cost the others: the grading may have taken an hour.
   std::string non_scritto;
@@ -175,7 +185,8 @@ int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
   };
   const auto Scrivi = [&](const char* opzione, auto rapporto) {
     if (argomenti.Ha(opzione))
-      Prova_A_Scrivere([&] { Scrivi_Rapporto(argomenti.Testo(opzione, ""), rapporto(esiti)); });
+      Prova_A_Scrivere(
+          [&] { Scrivi_Rapporto(argomenti.Testo(opzione, ""), rapporto(esiti, testata)); });
   };
   if (incarico.Molti) {
     esiti = Esamina_Molti(incarico, processi, !json, out, err);
@@ -187,11 +198,12 @@ int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
     if (!json) Stampa_Progetto(out, esiti.front());
     Prova_A_Scrivere([&] { Scrivi_Traccia(argomenti, traccia, progetto); });
   }
-  if (json) out << Rapporto_Json(esiti) << '\n';
+  if (json) out << Rapporto_Json(esiti, testata) << '\n';
   Scrivi("--junit", Rapporto_Junit);
   Scrivi("--csv", Rapporto_Csv);
   if (!non_scritto.empty()) throw std::runtime_error(non_scritto);
 
+  if (std::ranges::any_of(esiti, &Esito_Progetto::Script_Errato)) return Uscita_Illeggibile;
   if (!incarico.Molti && esiti.front().Illeggibile) return Uscita_Illeggibile;
   return std::ranges::all_of(esiti, &Esito_Progetto::Superato) ? Uscita_Buona : Uscita_Errori;
 }

@@ -2,10 +2,8 @@
 #include "bench/trace_options.h"
 
 #include <filesystem>
-#include <fstream>
-#include <stdexcept>
 
-#include "awl/file_io.h"
+#include "bench/report_files.h"
 
 namespace tavorno {
 
@@ -19,21 +17,6 @@ void Scrivi_Traccia(const Argomenti& argomenti, const Traccia& traccia,
   if (argomenti.Ha("--vcd")) Scrivi_Rapporto(argomenti.Testo("--vcd", ""), Testo_Vcd(traccia));
   if (argomenti.Ha("--svg"))
     Scrivi_Rapporto(argomenti.Testo("--svg", ""), Diagramma_Svg(traccia, titolo));
-}
-
-void Scrivi_Rapporto(const std::string& file, const std::string& testo) {
-  std::error_code nessuno;
-  const std::filesystem::file_status stato = std::filesystem::status(file, nessuno);
-  std::string errore;
-  if (std::filesystem::exists(stato) && !std::filesystem::is_regular_file(stato) &&
-      !std::filesystem::is_directory(stato)) {
-    // A pipe, a terminal or /dev/null is written to; it must not be replaced by a file.
-    std::ofstream uscita(file, std::ios::binary);
-    if (!(uscita << testo << std::flush)) errore = "la scrittura non è riuscita";
-  } else {
-    errore = Scrivi_File(file, testo);
-  }
-  if (!errore.empty()) throw std::runtime_error("impossibile scrivere \"" + file + "\": " + errore);
 }
 
 }  // namespace tavorno

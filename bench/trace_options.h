@@ -16,8 +16,4 @@ bool Vuole_Traccia(const Argomenti& argomenti);
 void Scrivi_Traccia(const Argomenti& argomenti, const Traccia& traccia,
                     const std::string& progetto);
 
-/// Replaces a file, or writes to what is none, as a pipe; what goes wrong is thrown as
-/// `std::runtime_error`, in Italian.
-void Scrivi_Rapporto(const std::string& file, const std::string& testo);
-
 }  // namespace tavorno

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "grading/grader.h"
 
+#include <sys/stat.h>
+
+#include <ctime>
 #include <exception>
 
 #include "plc/codepage.h"
@@ -13,6 +16,16 @@ namespace {
 std::string Senza_CR(std::string testo) {
   std::erase(testo, '\r');
   return testo;
+}
+
+/// In universal time, so that a report does not depend on where it was written; empty for what is
+/// not there.
+std::string Ultima_Modifica(const std::string& percorso) {
+  struct stat stato {};
+  tm data{};
+  if (::stat(percorso.c_str(), &stato) != 0 || !::gmtime_r(&stato.st_mtime, &data)) return "";
+  char testo[32];
+  return {testo, std::strftime(testo, sizeof testo, "%Y-%m-%dT%H:%M:%SZ", &data)};
 }
 
 /// Reads and compiles into `ambiente`.
@@ -39,6 +52,7 @@ void Prepara(Seduta& seduta, const std::string& percorso, Ambiente_Script& ambie
 Esito_Progetto Esamina(const std::string& percorso, const Verifiche& verifiche, Traccia* traccia) {
   Esito_Progetto esito;
   esito.Progetto = percorso;
+  esito.Data = Ultima_Modifica(percorso);
   const auto Fallisci = [&](const std::string& perche) {
     Caso caso;
     caso.Nome = "esame";

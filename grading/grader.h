@@ -25,9 +25,14 @@ struct Verifiche {
 Esito_Progetto Esamina(const std::string& percorso, const Verifiche& verifiche,
                        Traccia* traccia = nullptr);
 
-/// Examines many on `processi` threads. `Finito` is called in the order of the list, one at a time.
+/// The outcome of a hand-in that was found and not graded.
+Esito_Progetto Non_Esaminata(const std::string& percorso, const std::string& motivo);
+
+/// Examines many on `processi` threads. `finito` is called in the order of the list, one at a time.
+/// Once `basta` says so no other is begun: those that are left are handed out as not graded.
 void Esamina_Tutti(const std::vector<std::string>& percorsi, const Verifiche& verifiche,
                    unsigned processi, const std::function<void(const Esito_Progetto&)>& finito,
-                   const std::function<void(std::size_t)>& avanzamento = {});
+                   const std::function<void(std::size_t)>& avanzamento = {},
+                   const std::function<bool()>& basta = {});
 
 }  // namespace tavorno

@@ -47,15 +47,26 @@ class Banco_Di_Lavoro {
 
 }  // namespace
 
+Esito_Progetto Non_Esaminata(const std::string& percorso, const std::string& motivo) {
+  Esito_Progetto esito;
+  esito.Progetto = percorso;
+  esito.Non_Esaminato = motivo;
+  return esito;
+}
+
 void Esamina_Tutti(const std::vector<std::string>& percorsi, const Verifiche& verifiche,
                    unsigned processi, const std::function<void(const Esito_Progetto&)>& finito,
-                   const std::function<void(std::size_t)>& avanzamento) {
+                   const std::function<void(std::size_t)>& avanzamento,
+                   const std::function<bool()>& basta) {
   Banco_Di_Lavoro lavoro(percorsi.size());
   std::vector<std::jthread> operai;
   for (unsigned n = 0; n < processi && n < percorsi.size(); ++n) {
     operai.emplace_back([&] {
-      while (const auto posto = lavoro.Prossimo())
-        lavoro.Consegna(*posto, Esamina(percorsi[*posto], verifiche));
+      while (const auto posto = lavoro.Prossimo()) {
+        const std::string& percorso = percorsi[*posto];
+        lavoro.Consegna(*posto, basta && basta() ? Non_Esaminata(percorso, "esame interrotto")
+                                                 : Esamina(percorso, verifiche));
+      }
     });
   }
   for (std::size_t posto = 0; posto < percorsi.size(); ++posto) {

@@ -22,7 +22,22 @@ double Esito_Progetto::Massimo() const {
   return somma;
 }
 
+bool Esito_Progetto::Script_Errato() const {
+  return std::ranges::any_of(Casi, &Caso::Script_Errato);
+}
+
+const char* Esito_Progetto::Giudizio_In_Breve() const {
+  if (!Non_Esaminato.empty()) return "non esaminato";
+  if (Script_Errato()) return "script errato";
+  if (Illeggibile) return "illeggibile";
+  return Superato() ? "superato" : "fallito";
+}
+
 std::string Esito_Progetto::Primo_Rilievo() const {
+  if (!Non_Esaminato.empty()) return Non_Esaminato;
+  for (const Caso& caso : Casi) {
+    if (caso.Script_Errato) return caso.Rilievi.back().Testo;
+  }
   for (const Caso& caso : Casi) {
     if (!caso.Superato()) return caso.Rilievi.front().Testo;
   }

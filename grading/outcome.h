@@ -53,7 +53,9 @@ struct Caso {
 
 /// What all scripts say of one project.
 struct Esito_Progetto {
-  std::string Progetto;  ///< path as given
+  std::string Progetto;       ///< path as given
+  std::string Data;           ///< when the file was last changed, "2026-03-07T10:12:00Z"
+  std::string Non_Esaminato;  ///< why it was not graded, in Italian; empty: it was
   bool Illeggibile = false;
   bool Compilato = false;
   std::vector<Caso> Casi;
@@ -61,8 +63,14 @@ struct Esito_Progetto {
   int Superati() const;
   double Punti() const;
   double Massimo() const;
-  bool Superato() const { return Superati() == static_cast<int>(Casi.size()); }
-  /// The first thing that did not hold; empty when all did.
+  bool Superato() const {
+    return Non_Esaminato.empty() && Superati() == static_cast<int>(Casi.size());
+  }
+  /// "superato", "fallito", "script errato", "illeggibile", "non esaminato".
+  const char* Giudizio_In_Breve() const;
+  /// A script went wrong: its author is to mend it, and nobody has failed.
+  bool Script_Errato() const;
+  /// The first thing that did not hold, a mistake of the script before others; empty when all did.
   std::string Primo_Rilievo() const;
 };
 

@@ -44,7 +44,9 @@ void Stampa_Progetto(std::ostream& out, const Esito_Progetto& esito) {
   out << Su_Una_Riga(esito.Progetto) << '\n';
   std::string listato;  // the same for all cases when the project does not compile
   for (const Caso& caso : esito.Casi) {
-    out << (caso.Superato() ? "  ok       " : "  FALLITO  ")
+    out << (caso.Superato()      ? "  ok       "
+            : caso.Script_Errato ? "  ERRORE   "
+                                 : "  FALLITO  ")
         << Allarga(Su_Una_Riga(caso.Nome), larghezza_nome) << std::setw(9) << caso.Ms << " ms";
     if (caso.Massimo > 0) out << "   " << Su_Massimo(caso.Punti, caso.Massimo) << " punti";
     out << '\n';
@@ -63,24 +65,40 @@ void Stampa_Progetto(std::ostream& out, const Esito_Progetto& esito) {
 }
 
 void Stampa_Riga(std::ostream& out, const Esito_Progetto& esito) {
-  out << (esito.Superato() ? "ok       " : "FALLITO  ")
-      << Allarga(Su_Una_Riga(esito.Progetto), larghezza_nome) << " casi " << esito.Superati() << "/"
-      << esito.Casi.size();
+  const bool giudicato = esito.Non_Esaminato.empty() && !esito.Script_Errato();
+  out << (esito.Superato() ? "ok       "
+          : giudicato      ? "FALLITO  "
+                           : "ERRORE   ")
+      << Allarga(Su_Una_Riga(esito.Progetto), larghezza_nome);
+  if (!esito.Non_Esaminato.empty()) {
+    out << " non esaminato: " << Su_Una_Riga(esito.Non_Esaminato) << '\n';
+    return;
+  }
+  out << " casi " << esito.Superati() << "/" << esito.Casi.size();
   if (esito.Massimo() > 0) out << "  punti " << Su_Massimo(esito.Punti(), esito.Massimo());
   if (!esito.Superato()) out << "  " << Su_Una_Riga(esito.Primo_Rilievo());
   out << '\n';
 }
 
-std::string Rapporto_Csv(const std::vector<Esito_Progetto>& esiti) {
-  std::string csv = "progetto;esito;casi superati;casi;punti;massimo;primo rilievo\n";
+const char* Versione() {
+  return TAVORNO_VERSION;
+}
+
+std::string Rapporto_Csv(const std::vector<Esito_Progetto>& esiti, const Testata& testata) {
+  std::string script, impronte;
+  for (const Testata::Script& uno : testata.Con) {
+    script += (script.empty() ? "" : " ") + uno.Nome;
+    impronte += (impronte.empty() ? "" : " ") + uno.Impronta;
+  }
+  const std::string coda = In_Csv(script) + ";" + impronte + ";" + Versione() + "\n";
+  std::string csv =
+      "progetto;esito;casi superati;casi;punti;massimo;primo rilievo;data;script;impronta;"
+      "versione\n";
   for (const Esito_Progetto& esito : esiti) {
-    const char* giudizio = esito.Illeggibile  ? "illeggibile"
-                           : esito.Superato() ? "superato"
-                                              : "fallito";
-    csv += In_Csv(Utf8_Valido(esito.Progetto)) + ";" + giudizio + ";" +
+    csv += In_Csv(Utf8_Valido(esito.Progetto)) + ";" + esito.Giudizio_In_Breve() + ";" +
            std::to_string(esito.Superati()) + ";" + std::to_string(esito.Casi.size()) + ";" +
            Testo_Punti(esito.Punti()) + ";" + Testo_Punti(esito.Massimo()) + ";" +
-           In_Csv(esito.Primo_Rilievo()) + "\n";
+           In_Csv(esito.Primo_Rilievo()) + ";" + esito.Data + ";" + coda;
   }
   return csv;
 }
@@ -114,7 +132,7 @@ Json Richieste_Json(const Caso& caso) {
 
 }  // namespace
 
-std::string Rapporto_Json(const std::vector<Esito_Progetto>& esiti) {
+std::string Rapporto_Json(const std::vector<Esito_Progetto>& esiti, const Testata& testata) {
   Json progetti = Json::array();
   for (const Esito_Progetto& esito : esiti) {
     Json casi = Json::array();
@@ -125,6 +143,7 @@ std::string Rapporto_Json(const std::vector<Esito_Progetto>& esiti) {
       casi.push_back({{"script", caso.Script},
                       {"name", caso.Nome},
                       {"passed", caso.Superato()},
+                      {"script_error", caso.Script_Errato},
                       {"ms", caso.Ms},
                       {"marks", caso.Punti},
                       {"maximum", caso.Massimo},
@@ -134,13 +153,23 @@ std::string Rapporto_Json(const std::vector<Esito_Progetto>& esiti) {
                       {"listing", caso.Listato}});
     }
     progetti.push_back({{"project", esito.Progetto},
+                        {"date", esito.Data},
+                        {"verdict", esito.Giudizio_In_Breve()},
+                        {"not_graded", esito.Non_Esaminato},
                         {"readable", !esito.Illeggibile},
                         {"passed", esito.Superato()},
                         {"marks", esito.Punti()},
                         {"maximum", esito.Massimo()},
                         {"cases", casi}});
   }
-  return progetti.dump(2, ' ', false, Json::error_handler_t::replace);
+  Json script = Json::array();
+  for (const Testata::Script& uno : testata.Con)
+    script.push_back({{"name", uno.Nome}, {"sha256", uno.Impronta}});
+  const Json rapporto = {{"program", "tavorno-banco"},
+                         {"version", Versione()},
+                         {"scripts", script},
+                         {"projects", progetti}};
+  return rapporto.dump(2, ' ', false, Json::error_handler_t::replace);
 }
 
 }  // namespace tavorno

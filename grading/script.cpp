@@ -37,8 +37,21 @@ std::string Errore_Di_Sintassi(const Sorgente_Script& script) {
   return Carica(recinto.Stato(), script) == LUA_OK ? "" : Messaggio(recinto.Stato());
 }
 
+const Esercizio* Impianto_Nominato(const std::vector<Sorgente_Script>& script) {
+  Ambiente_Script ambiente;
+  ambiente.Motivo = "lo script si legge soltanto";
+  for (const Sorgente_Script& uno : script) {
+    if (const Esercizio* impianto = Esame(uno, ambiente).Leggi()) return impianto;
+  }
+  return nullptr;
+}
+
 Esame::Esame(const Sorgente_Script& script, const Ambiente_Script& ambiente)
-    : script_(script), ambiente_(ambiente), scorte_(ambiente.Inizio), recinto_(ambiente.Limiti) {
+    : script_(script),
+      ambiente_(ambiente),
+      impianto_(ambiente.Impianto),
+      scorte_(ambiente.Inizio),
+      recinto_(ambiente.Limiti) {
   *static_cast<Esame**>(lua_getextraspace(recinto_.Stato())) = this;
 }
 
@@ -46,7 +59,7 @@ Esame& Esame::Di(lua_State* stato) {
   return **static_cast<Esame**>(lua_getextraspace(stato));
 }
 
-std::vector<Caso> Esame::Esegui() {
+const Esercizio* Esame::Leggi() {
   lua_State* stato = recinto_.Stato();
   lua_pushcfunction(stato, Registra_Funzioni);
   int esito = lua_pcall(stato, 0, 0, 0);
@@ -54,10 +67,24 @@ std::vector<Caso> Esame::Esegui() {
   if (esito == LUA_OK) esito = lua_pcall(stato, 0, 0, 0);
   if (esito != LUA_OK) Registra_Errore(stato);
   if (banco_) Fine();
+  return impianto_;
+}
+
+std::vector<Caso> Esame::Esegui() {
+  Leggi();
   for (const Prova& prova : prove_) {
     if (Voluta(prova)) Esegui_Prova(prova);
   }
   return std::move(casi_);
+}
+
+void Esame::Scegli_Impianto(int numero) {
+  const Esercizio& nominato = Tabella_Esercizi()[static_cast<std::size_t>(numero)];
+  if (impianto_ && impianto_ != &nominato)
+    throw Errore_Script("questo script è per l'impianto " + std::to_string(numero) +
+                        ", e non per il " + std::to_string(impianto_->Indice));
+  if (banco_) throw Errore_Script("impianto: va chiamata in testa allo script");
+  impianto_ = &nominato;
 }
 
 void Esame::Aggiungi_Prova(const std::string& nome, std::optional<double> massimo, int funzione) {
@@ -104,8 +131,8 @@ void Esame::Inizia(const std::string& nome, std::optional<double> massimo) {
   conto_.Dichiarati = massimo;
   const bool troppe = scorte_.Righe < 0;
   banco_ = std::make_unique<Collaudo>(troppe ? nullptr : ambiente_.Programma,
-                                      troppe ? Collaudo::troppe_righe : ambiente_.Motivo,
-                                      ambiente_.Impianto, scorte_);
+                                      troppe ? Collaudo::troppe_righe : ambiente_.Motivo, impianto_,
+                                      scorte_);
   Caso caso;
   caso.Script = script_.Nome;
   caso.Nome = Accorcia(nome);

@@ -37,6 +37,8 @@ class Esame {
   Esame& operator=(const Esame&) = delete;
 
   std::vector<Caso> Esegui();
+  /// Reads the script without playing its cases; the plant that it names, or nullptr.
+  const Esercizio* Leggi();
 
   // For the functions that the script calls:
 
@@ -46,6 +48,9 @@ class Esame {
   /// leaves the others and their marks in the sum. `funzione` is its place in the registry of the
   /// language.
   void Aggiungi_Prova(const std::string& nome, std::optional<double> massimo, int funzione);
+  /// The script names its plant. Throws `Errore_Script` for another than the one that was asked
+  /// for, and once a machine is there.
+  void Scegli_Impianto(int numero);
   void Rileva(const std::string& testo);
   void Verifica(bool vera, const std::string& testo);
   void Serve(bool vera, const std::string& testo);
@@ -92,6 +97,7 @@ class Esame {
 
   const Sorgente_Script& script_;
   const Ambiente_Script& ambiente_;
+  const Esercizio* impianto_;
   Scorte scorte_;
   std::set<std::string> usati_;  // files beside the script
   std::vector<Prova> prove_;
@@ -103,5 +109,8 @@ class Esame {
 
 /// The mistake in the text of a script, in Italian; empty when it can be run.
 std::string Errore_Di_Sintassi(const Sorgente_Script& script);
+
+/// The plant that the first of these scripts names; nullptr when none does.
+const Esercizio* Impianto_Nominato(const std::vector<Sorgente_Script>& script);
 
 }  // namespace tavorno

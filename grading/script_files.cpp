@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "awl/file_io.h"
+#include "grading/sha256.h"
 
 namespace tavorno {
 
@@ -33,8 +34,10 @@ Sorgente_Script Leggi_Sorgente(const std::string& file) {
   if (!contenuto.Errore.empty())
     throw std::runtime_error("impossibile leggere lo script: " + contenuto.Errore);
   const fs::path percorso(file);
+  const std::string impronta = Sha256(contenuto.Byte);
   Sorgente_Script script{percorso.filename().string(), std::move(contenuto.Byte),
-                         percorso.has_parent_path() ? percorso.parent_path().string() : "."};
+                         percorso.has_parent_path() ? percorso.parent_path().string() : ".",
+                         impronta};
   std::ranges::replace(script.Nome, ':', '_');  // ends the name in the messages of the language
   if (script.Testo.starts_with("\xEF\xBB\xBF")) script.Testo.erase(0, 3);
   return script;

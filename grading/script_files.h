@@ -10,6 +10,7 @@ struct Sorgente_Script {
   std::string Nome;
   std::string Testo;
   std::string Cartella = {};  ///< where the files that it uses stand; empty: nowhere
+  std::string Impronta = {};  ///< SHA-256 of the file
 };
 
 /// Reads a script. What goes wrong is thrown as `std::runtime_error`, in Italian.

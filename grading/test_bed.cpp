@@ -5,6 +5,7 @@
 
 #include "plc/codepage.h"
 #include "recorder/driven_run.h"
+#include "recorder/hands.h"
 
 namespace tavorno {
 
@@ -240,32 +241,39 @@ Figura& Collaudo::Elemento_Operabile(std::string_view nome) {
 
 bool Collaudo::Premi(std::string_view nome) {
   if (!Elemento_Operabile(nome).Visible) return false;
-  Proteggi([&] { Macchina().Premi(nome); });
+  if (premuti_.emplace(nome).second) Proteggi([&] { Macchina().Premi(nome); });
   return true;
 }
 
 bool Collaudo::Rilascia(std::string_view nome) {
   Elemento_Operabile(nome);
-  Proteggi([&] { Macchina().Rilascia(nome); });
+  const auto premuto = premuti_.find(nome);
+  if (premuto == premuti_.end()) return false;
+  premuti_.erase(premuto);
+  Proteggi([&] {
+    Macchina().Rilascia(nome);
+    Macchina().Clic(nome);
+  });
   return true;
 }
 
 bool Collaudo::Clic(std::string_view nome) {
   const Figura& figura = Elemento_Operabile(nome);
-  if (!figura.Visible) return false;
-  if (figura.Premi || figura.Rilascia) {
-    Proteggi([&] { Macchina().Premi(nome); });
-    Passa(durata_clic);
-    Proteggi([&] { Macchina().Rilascia(nome); });
-  }
-  Proteggi([&] { Macchina().Clic(nome); });
+  if (!Premi(nome)) return false;
+  if (figura.Premi || figura.Rilascia) Passa(durata_clic);
+  Rilascia(nome);
   return true;
 }
 
 bool Collaudo::Doppio_Clic(std::string_view nome) {
+  const Figura& figura = Elemento_Operabile(nome);
   if (!Clic(nome)) return false;
+  if (!figura.Doppio_Clic) {  // two presses of an ordinary button
+    Passa(durata_clic);
+    return Clic(nome);
+  }
   Proteggi([&] {
-    if (!Macchina().Doppio_Clic(nome)) Macchina().Premi(nome);
+    Macchina().Doppio_Clic(nome);
     Macchina().Rilascia(nome);
   });
   return true;
@@ -273,21 +281,16 @@ bool Collaudo::Doppio_Clic(std::string_view nome) {
 
 void Collaudo::Regola(std::string_view nome, double valore) {
   Impianto& macchina = Macchina();
-  std::vector<std::string> nomi;
-  for (std::size_t n = 0; const Cursore& cursore : filo_->Tabella().Cursori) {
-    if (nome == cursore.Nome) {
-      Proteggi([&] { filo_->Muovi(n, static_cast<int>(std::clamp(valore, -1e6, 1e6))); });
-      return;
-    }
-    nomi.emplace_back(cursore.Nome);
-    ++n;
+  Gesto gesto{0, Azione::Regola, std::string(nome), valore};
+  // The hand reaches a property through the slider that writes it.
+  for (const Cursore& cursore : filo_->Tabella().Cursori) {
+    if (!cursore.Scrive || nome != cursore.Scrive) continue;
+    gesto.Nome = cursore.Nome;
+    gesto.Valore = (valore - cursore.Zero) / cursore.Pendenza;
   }
-  if (macchina.Trova_Regolatore(nome)) {
-    Proteggi([&] { macchina.Regola(nome, valore); });
-    return;
-  }
-  throw Errore_Script("il regolatore \"" + std::string(nome) + "\" non esiste" +
-                      (nomi.empty() ? "" : "; i cursori sono " + Elenco(nomi)));
+  const std::string errore = Controlla_Mani({&gesto, 1}, filo_->Tabella(), macchina);
+  if (!errore.empty()) throw Errore_Script("regola: " + errore);
+  Proteggi([&] { Esegui_Gesto(gesto, *filo_); });
 }
 
 void Collaudo::Scrivi(const Indirizzo& indirizzo, double valore, const char* funzione) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -56,11 +57,12 @@ class Collaudo {
   void Passa(std::int64_t ms);
 
   // The user's hand. False for a hidden figure; an unknown one, and one that listens to nothing,
-  // throws `Errore_Script`.
+  // throws `Errore_Script`. A press and a release over one figure are a click, as in the window.
   bool Premi(std::string_view nome);
-  bool Rilascia(std::string_view nome);
-  bool Clic(std::string_view nome);  ///< a push button is held for `durata_clic`
+  bool Rilascia(std::string_view nome);  ///< false for what is not pressed: nothing happens
+  bool Clic(std::string_view nome);      ///< a push button is held for `durata_clic`
   bool Doppio_Clic(std::string_view nome);
+  /// A value that no hand could set throws `Errore_Script`.
   void Regola(std::string_view nome, double valore);
 
   /// Throws `Errore_Script` for a value that the cell cannot hold.
@@ -106,6 +108,7 @@ class Collaudo {
   bool riposa_ = false;  // the next scan would change nothing, and nothing happened since
   Stato_Impianto stato_;
   std::unique_ptr<Collegamento> filo_;
+  std::set<std::string, std::less<>> premuti_;  // figures under a finger
   std::vector<Avviso> avvisi_;
   Iscrizione ascolto_;
   std::string guasto_, listato_;

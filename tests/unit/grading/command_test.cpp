@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "grading/reports.h"
+#include "grading/sha256.h"
 #include "grading_bed.h"
 #include "trace/markup.h"
 #include "xml_reader.h"
@@ -16,6 +17,12 @@ using GradingCommand = Banco_Esami;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
+
+/// Sets when a file was last changed, in seconds since 1970.
+void Data_Di(const std::string& file, std::time_t quando) {
+  const timespec istanti[2] = {{quando, 0}, {quando, 0}};
+  ASSERT_EQ(::utimensat(AT_FDCWD, file.c_str(), istanti, 0), 0);
+}
 
 const std::vector<std::string> buono = {"LD I0.1", "= Q0.0"};
 const std::vector<std::string> rovescio = {"LDN I0.1", "= Q0.0"};
@@ -178,8 +185,9 @@ TEST_F(GradingCommand, GradesAFolderOnOneLineEach) {
 
   const std::string tabella = Leggi_Byte(csv);
   EXPECT_THAT(tabella,
-              StartsWith("progetto;esito;casi superati;casi;punti;massimo;primo rilievo\n"));
-  EXPECT_THAT(tabella, HasSubstr("bianchi.AWL;superato;2;2;3,5;3,5;\n"));
+              StartsWith("progetto;esito;casi superati;casi;punti;massimo;primo rilievo;data;"
+                         "script;impronta;versione\n"));
+  EXPECT_THAT(tabella, HasSubstr("bianchi.AWL;superato;2;2;3,5;3,5;;"));
   EXPECT_THAT(tabella, HasSubstr("rotto.AWL;illeggibile;0;2;0;3,5;"));
 }
 
@@ -205,12 +213,24 @@ TEST_F(GradingCommand, OneProjectOfAFolderIsStillAFolder) {
 
 TEST_F(GradingCommand, JunitHasATestcaseForEachCase) {
   const std::string junit = (cartella / "j.xml").string();
-  Prova({Progetto_Con(rovescio, "a&b.AWL"), File("s.lua", due_casi), "--junit", junit});
+  const std::string consegna = Progetto_Con(rovescio, "a&b.AWL");
+  Data_Di(consegna, 1'772'878'320);
+  Prova({consegna, File("s.lua", due_casi), "--junit", junit});
   const std::string progetto = (cartella / "a&amp;b.AWL").string();
-  EXPECT_EQ(Leggi_Byte(junit), R"(<?xml version="1.0" encoding="UTF-8"?>
+  EXPECT_EQ(
+      Leggi_Byte(junit),
+      R"(<?xml version="1.0" encoding="UTF-8"?>
 <testsuites name="tavorno-banco" tests="2" failures="2" errors="0" skipped="0" time="0.050">
-  <testsuite name=")" + progetto +
-                                   R"(" tests="2" failures="2" errors="0" skipped="0" time="0.050">
+  <testsuite name=")" +
+          progetto +
+          R"(" tests="2" failures="2" errors="0" skipped="0" time="0.050" timestamp="2026-03-07T10:12:00">
+    <properties>
+      <property name="versione" value=")" +
+          Versione() + R"("/>
+      <property name="script" value="s.lua"/>
+      <property name="impronta" value=")" +
+          Sha256(due_casi) + R"("/>
+    </properties>
     <testcase classname="s.lua" name="spento a riposo" time="0.020">
       <properties>
         <property name="punti" value="0"/>
@@ -249,12 +269,12 @@ TEST_F(GradingCommand, ReportsOfHostileTextsAreWellFormed) {
   const Elemento_Xml& suite = rapporto.Figli[0];
   EXPECT_EQ(suite.Attributi.at("name"), cartella.string() + "/<?\"&'>]]>.AWL");
   ASSERT_EQ(suite.Quanti("testcase"), 2);
-  EXPECT_EQ(suite.Figli[0].Attributi.at("classname"), "s&.lua");
-  EXPECT_EQ(suite.Figli[0].Attributi.at("name"), "<a b=\"c\">&amp;]]>????");
-  EXPECT_EQ(suite.Figli[0].Quanti("failure"), 1);
-  EXPECT_EQ(suite.Figli[0].Figli.back().Testo, "</system-out>??\n");
-  EXPECT_EQ(suite.Figli[1].Quanti("failure"), 0);
-  EXPECT_EQ(suite.Figli[1].Quanti("property"), 2);
+  EXPECT_EQ(suite.Figli[1].Attributi.at("classname"), "s&.lua");
+  EXPECT_EQ(suite.Figli[1].Attributi.at("name"), "<a b=\"c\">&amp;]]>????");
+  EXPECT_EQ(suite.Figli[1].Quanti("failure"), 1);
+  EXPECT_EQ(suite.Figli[1].Figli.back().Testo, "</system-out>??\n");
+  EXPECT_EQ(suite.Figli[2].Quanti("failure"), 0);
+  EXPECT_EQ(suite.Figli[2].Quanti("property"), 2);
   EXPECT_EQ(Lettore_Xml(Leggi_Byte(svg)).Leggi().Nome, "svg");
 }
 
@@ -264,7 +284,7 @@ TEST_F(GradingCommand, AReportThatCannotBeWrittenDoesNotCostTheOthers) {
                    "--junit", "/manca/x.xml", "--csv", csv}),
             1);
   EXPECT_THAT(err, HasSubstr("impossibile scrivere \"" + cartella.string() + "\""));
-  EXPECT_THAT(Leggi_Byte(csv), HasSubstr(";superato;2;2;3,5;3,5;\n"));
+  EXPECT_THAT(Leggi_Byte(csv), HasSubstr(";superato;2;2;3,5;3,5;;"));
 }
 
 TEST_F(GradingCommand, AReportMayGoToWhatIsNoFile) {
@@ -275,7 +295,7 @@ TEST_F(GradingCommand, AReportMayGoToWhatIsNoFile) {
   EXPECT_EQ(std::filesystem::status(tubo).type(), std::filesystem::file_type::fifo);
   std::string letto(4096, '\0');
   letto.resize(static_cast<std::size_t>(::read(lettura, letto.data(), letto.size())));
-  EXPECT_THAT(letto, HasSubstr(";superato;2;2;3,5;3,5;\n"));
+  EXPECT_THAT(letto, HasSubstr(";superato;2;2;3,5;3,5;;"));
   ::close(lettura);
 }
 
@@ -292,6 +312,114 @@ TEST_F(GradingCommand, NotesOfTheScriptAreShown) {
       Prova({Progetto_Con(buono), File("s.lua", "prova('x', function() print('a', 1, nil) end)")}),
       0);
   EXPECT_THAT(out, HasSubstr("             nota: a 1 nil\n"));
+}
+
+// ---- nothing lost, nothing silent ---------------------------------------------------------------
+
+struct Rapporto_Vietato {
+  const char* Nome;
+  std::vector<std::string> Parole;  // "/" is the folder of the files
+  const char* Messaggio;
+};
+void PrintTo(const Rapporto_Vietato& caso, std::ostream* dove) {
+  *dove << caso.Nome;
+}
+
+class ForbiddenReport : public Banco_Esami,
+                        public ::testing::WithParamInterface<Rapporto_Vietato> {};
+
+TEST_P(ForbiddenReport, IsRefusedBeforeAnythingIsWritten) {
+  const std::string progetto = Progetto_Con(buono), script = File("s.lua", due_casi);
+  std::filesystem::create_hard_link(progetto, cartella / "altro_nome");
+  std::vector<std::string> parole = {progetto, script};
+  for (const std::string& parola : GetParam().Parole)
+    parole.push_back(parola.starts_with("/") ? cartella.string() + parola : parola);
+  EXPECT_EQ(Prova(parole), 64) << err;
+  EXPECT_THAT(err, HasSubstr(GetParam().Messaggio));
+  EXPECT_EQ(Leggi_Byte(progetto), Byte_Di_Progetto(buono));
+  EXPECT_EQ(Leggi_Byte(script), due_casi);
+  EXPECT_FALSE(std::filesystem::exists(cartella / "r"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, ForbiddenReport,
+    ::testing::Values(
+        Rapporto_Vietato{"the project", {"--csv", "/consegna.AWL"}, "non può chiamarsi"},
+        Rapporto_Vietato{"the script", {"--junit", "/s.lua"}, "non può chiamarsi"},
+        Rapporto_Vietato{"another project", {"--svg", "/nuovo.awl"}, "non può chiamarsi"},
+        Rapporto_Vietato{"the project by another name", {"--vcd", "/altro_nome"}, "un altro file"},
+        Rapporto_Vietato{"two reports", {"--csv", "/r", "--junit", "/./r"}, "un altro file"},
+        Rapporto_Vietato{"an option", {"--csv", "--json"}, "manca il valore dell'opzione --csv"},
+        Rapporto_Vietato{"an option behind =", {"--csv=--json"}, "manca il valore"}));
+
+TEST_F(GradingCommand, HandInsThatAreNotGradedAreNamed) {
+  Progetto_Con(buono, "classe/bianchi.AWL");
+  File("classe/rossi.AWL.txt", "x");
+  File("classe/verdi.zip", "x");
+  File("classe/appunti.txt", "");
+  std::filesystem::create_symlink("/etc/passwd", cartella / "classe/gialli.AWL");
+  std::filesystem::create_directory_symlink("/", cartella / "classe/neri");
+  ASSERT_EQ(::mkfifo((cartella / "classe/tubo.AWL").c_str(), 0600), 0);
+  const std::string csv = (cartella / "r.csv").string(), junit = (cartella / "r.xml").string();
+  EXPECT_EQ(Prova({(cartella / "classe").string(), File("s.lua", due_casi), "--csv", csv, "--junit",
+                   junit}),
+            1);
+  EXPECT_THAT(out, HasSubstr("rossi.AWL.txt"));
+  EXPECT_THAT(out, HasSubstr(" non esaminato: il nome non finisce con .AWL\n"));
+  EXPECT_THAT(out, HasSubstr(" non esaminato: è un archivio"));
+  EXPECT_THAT(out, HasSubstr(" non esaminato: non è un file\n"));
+  EXPECT_THAT(out, EndsWith("Superati 1 progetti su 6. Non esaminati: 5.\n"));
+  EXPECT_THAT(out, ::testing::Not(HasSubstr("appunti")));
+  EXPECT_THAT(Leggi_Byte(csv), HasSubstr("gialli.AWL;non esaminato;0;0;0;0;è un collegamento;"));
+  const Elemento_Xml rapporto = Lettore_Xml(Leggi_Byte(junit)).Leggi();
+  EXPECT_EQ(rapporto.Attributi.at("errors"), "5");
+  EXPECT_EQ(rapporto.Attributi.at("failures"), "0");
+}
+
+TEST_F(GradingCommand, AnInterruptedClassIsReportedAsFarAsItCame) {
+  std::vector<std::string> file;
+  for (int n = 0; n < 20; ++n)
+    file.push_back(Progetto_Con(buono, "classe/" + std::to_string(n) + ".AWL"));
+  Verifiche verifiche;
+  verifiche.Script.push_back({"s.lua", due_casi});
+  std::vector<Esito_Progetto> esiti;
+  int finiti = 0;
+  Esamina_Tutti(
+      file, verifiche, 1, [&](const Esito_Progetto& esito) { esiti.push_back(esito); }, {},
+      [&] { return ++finiti > 7; });
+  ASSERT_EQ(esiti.size(), 20);
+  for (std::size_t n = 0; n < esiti.size(); ++n) {
+    EXPECT_EQ(esiti[n].Progetto, file[n]);
+    EXPECT_EQ(esiti[n].Non_Esaminato, n < 7 ? "" : "esame interrotto");
+    EXPECT_EQ(esiti[n].Superato(), n < 7);
+  }
+}
+
+TEST_F(GradingCommand, AWrongScriptIsNobodysFailure) {
+  const std::string csv = (cartella / "r.csv").string(), junit = (cartella / "r.xml").string();
+  EXPECT_EQ(
+      Prova({Progetto_Con(buono), File("s.lua", "prova('x', 2, function() premi('imgStrat') end)"),
+             "--impianto", "0", "--csv", csv, "--junit", junit, "--json"}),
+      2);
+  EXPECT_THAT(out, HasSubstr(R"("verdict": "script errato")"));
+  EXPECT_THAT(out, HasSubstr(R"("script_error": true)"));
+  EXPECT_THAT(Leggi_Byte(csv), HasSubstr(";script errato;0;1;0;2;"));
+  const Elemento_Xml rapporto = Lettore_Xml(Leggi_Byte(junit)).Leggi();
+  EXPECT_EQ(rapporto.Attributi.at("errors"), "1");
+  EXPECT_EQ(rapporto.Attributi.at("failures"), "0");
+  EXPECT_EQ(rapporto.Figli[0].Figli.back().Quanti("error"), 1);
+  Prova({Progetto_Con(buono), File("s.lua", "prova('x', 2, function() premi('imgStrat') end)"),
+         "--impianto", "0"});
+  EXPECT_THAT(out, HasSubstr("  ERRORE   x "));
+}
+
+TEST(Sha256, IsThatOfTheStandard) {
+  EXPECT_EQ(Sha256(""), "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
+  EXPECT_EQ(Sha256("abc"), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
+  EXPECT_EQ(Sha256("abcdbcdecdefdefgefghfghighijhijkijkljklmklmnlmnomnopnopq"),
+            "248d6a61d20638b8e5c026930c3e6039a33ce45964ff2167f6ecedd419db06c1");
+  EXPECT_EQ(Sha256(std::string(1'000'000, 'a')),
+            "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0");
 }
 
 TEST(Markup, TextsOfOthersStayHarmless) {

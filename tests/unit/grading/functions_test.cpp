@@ -200,7 +200,81 @@ TEST_F(ScriptFunctions, EveryPropertyOfAFigureIsRead) {
 TEST_F(ScriptFunctions, SlidersMove) {
   EXPECT_EQ(Rilievo_Di("regola('SlidP', 10)", {"NOP"}, 4), "");
   EXPECT_THAT(Rilievo_Di("regola('Slid', 10)", {"NOP"}, 4),
-              HasSubstr("il regolatore \"Slid\" non esiste; i cursori sono SlidP"));
+              HasSubstr("regola: l'impianto 4 non ha \"Slid\" da regolare, ma ha: SlidP"));
+}
+
+// ---- the hand is that of the window -------------------------------------------------------------
+
+TEST_F(ScriptFunctions, APressAndAReleaseOverAFigureAreAClick) {
+  EXPECT_EQ(Rilievo_Di("run() premi('ImgTer') attendi(10) verifica(leggi('I0.3') == 1, 'giù') "
+                       "rilascia('ImgTer') attendi(10) verifica(leggi('I0.3') == 0, 'su')",
+                       {"NOP"}, 0),
+            "");
+}
+
+TEST_F(ScriptFunctions, WhatWasNeverPressedIsNotReleased) {
+  EXPECT_EQ(
+      Rilievo_Di("run() verifica(rilascia('ImgTer') == false) attendi(10) "
+                 "verifica(leggi('I0.3') == 1, 'termico') "
+                 "verifica(rilascia('imgStop') == false) verifica(leggi('I0.0') == 1, 'stop')",
+                 {"NOP"}, 0),
+      "");
+}
+
+TEST_F(ScriptFunctions, AFingerPressesAButtonOnce) {
+  EXPECT_EQ(Rilievo_Di("run() premi('ImgTer') premi('ImgTer') rilascia('ImgTer') attendi(10) "
+                       "verifica(leggi('I0.3') == 0) verifica(rilascia('ImgTer') == false)",
+                       {"NOP"}, 0),
+            "");
+}
+
+TEST_F(ScriptFunctions, BothPressesOfADoubleClickLastForScansToSeeThem) {
+  EXPECT_EQ(Rilievo_Di("run() doppio_clic('imgStop') verifica(leggi('VW0') == 200, leggi('VW0')) "
+                       "verifica(leggi('VW2') == 2, leggi('VW2'))",
+                       {"LDN I0.0", "INCW VW0", "EU", "INCW VW2"}, 0),
+            "");
+}
+
+struct Impossibile {
+  const char* Regola;
+  int Impianto;
+  const char* Messaggio;
+};
+void PrintTo(const Impossibile& caso, std::ostream* dove) {
+  *dove << caso.Regola;
+}
+
+class NoHandSets : public Banco_Esami, public ::testing::WithParamInterface<Impossibile> {};
+
+TEST_P(NoHandSets, IsAnErrorOfTheScript) {
+  const Esito_Progetto esito =
+      Esito({"NOP"}, std::string("prova('x', function() regola(") + GetParam().Regola + ") end)",
+            GetParam().Impianto);
+  EXPECT_THAT(esito.Primo_Rilievo(), HasSubstr(GetParam().Messaggio));
+  EXPECT_TRUE(esito.Script_Errato());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, NoHandSets,
+    ::testing::Values(Impossibile{"'SlidP', 2.5", 4,
+                                  "SlidP va da 1 a 10 a passi di 1, e non a 2.5"},
+                      Impossibile{"'SlidP', 99", 4, "e non a 99"},
+                      Impossibile{"'SlidP', 0", 4, "e non a 0"},
+                      Impossibile{"'ME_Speed1', 750", 10, "Slid(0) va da 1 a 6 a passi di 1"},
+                      Impossibile{"'imgM', 1", 0, "l'impianto 0 non ha niente da regolare"}));
+
+TEST_F(ScriptFunctions, APropertyIsSetThroughTheSliderThatWritesIt) {
+  EXPECT_EQ(Rilievo_Di("regola('ME_Speed1', 100) regola('Slid(0)', 1)", {"NOP"}, 10), "");
+}
+
+TEST_F(ScriptFunctions, TheScriptNamesItsPlant) {
+  const char* script = "impianto(0) prova('x', function() verifica(leggi('I0.3') == 1) end)";
+  EXPECT_EQ(Esito({"NOP"}, script).Primo_Rilievo(), "");
+  EXPECT_EQ(Esito({"NOP"}, script, 0).Primo_Rilievo(), "");
+  EXPECT_THAT(Esito({"NOP"}, script, 3).Primo_Rilievo(),
+              HasSubstr("questo script è per l'impianto 0, e non per il 3"));
+  EXPECT_THAT(Rilievo_Di("impianto(0)"), HasSubstr("va chiamata in testa allo script"));
+  EXPECT_THAT(Esito({"NOP"}, "impianto(18)").Primo_Rilievo(), HasSubstr("tra 0 e 17"));
 }
 
 TEST_F(ScriptFunctions, WrongNamesAreListed) {
@@ -286,9 +360,9 @@ TEST_F(ScriptFunctions, HelpNamesAllOfThem) {
        {"run",          "stop",      "modo",     "passo",  "cicli",       "attendi",
         "attendi_fino", "premi",     "rilascia", "clic",   "doppio_clic", "regola",
         "ingresso",     "analogico", "leggi",    "scrivi", "elemento",    "messaggi",
-        "verifica",     "serve",     "punti",    "prova",  "usa"})
+        "verifica",     "serve",     "punti",    "prova",  "usa",         "impianto"})
     EXPECT_THAT(out, HasSubstr(std::string("\n  ") + nome + "(")) << nome;
-  EXPECT_EQ(Funzioni_Script().size(), 24);
+  EXPECT_EQ(Funzioni_Script().size(), 25);
 }
 
 TEST_F(ScriptFunctions, TheManualHasAllOfThem) {

@@ -49,16 +49,16 @@ TEST_F(SharedScripts, CasesOfAFileBelongToTheScript) {
 
 TEST_F(SharedScripts, MistakesNameTheFileAndItsLine) {
   File("esami/errata.lua", "\n\nfunction f(");
-  EXPECT_EQ(Con_Script("usa('errata.lua')"), 1);
+  EXPECT_EQ(Con_Script("usa('errata.lua')"), 2);
   EXPECT_THAT(out, HasSubstr("s.lua, riga 1: usa: errata.lua, riga 3: errore di sintassi"));
   File("esami/rotta.lua", "\nmanca()");
-  EXPECT_EQ(Con_Script("prova('a', function() usa('rotta.lua') end)"), 1);
+  EXPECT_EQ(Con_Script("prova('a', function() usa('rotta.lua') end)"), 2);
   EXPECT_THAT(out, HasSubstr("rotta.lua, riga 2: la funzione 'manca' non esiste"));
   File("esami/codice.lua", "\x1bLua");
-  EXPECT_EQ(Con_Script("usa('codice.lua')"), 1);
+  EXPECT_EQ(Con_Script("usa('codice.lua')"), 2);
   EXPECT_THAT(out, HasSubstr("lo script non è un testo"));
   File("esami/grande.lua", std::string(2'000'000, '-'));
-  EXPECT_EQ(Con_Script("usa('grande.lua')"), 1);
+  EXPECT_EQ(Con_Script("usa('grande.lua')"), 2);
   EXPECT_THAT(out, HasSubstr("lo script è troppo grande"));
 }
 
@@ -115,7 +115,7 @@ TEST_P(WrongName, IsRefused) {
   std::filesystem::create_symlink("nessuno", cartella / "esami/vuoto.lua");
   std::string nome = GetParam();
   if (nome.starts_with("TMP")) nome.replace(0, 3, cartella.string());
-  EXPECT_EQ(Con_Script("usa('" + nome + "')"), 1);
+  EXPECT_EQ(Con_Script("usa('" + nome + "')"), 2);
   EXPECT_THAT(out, HasSubstr("errore nello script: s.lua, riga 1: usa: ")) << nome;
   EXPECT_THAT(out, ::testing::Not(HasSubstr("letto")));
 }
