@@ -30,6 +30,7 @@ enum class Genere : std::uint8_t {
   Salti,             ///< the link pass of the jumps
   Procedure,         ///< the link pass of the calls
   Sezioni,           ///< the link pass of the SCR sections
+  Testo,             ///< a look at the text while it is being written
 };
 
 /// What there is to say of one line. Listing, boxes, marks and reports are drawn from these

@@ -111,16 +111,16 @@ std::optional<File_Scelto> Progetto::Scegli_Da_Aprire() {
 void Progetto::mnuFileOpen() {
   const auto scelto = Scegli_Da_Aprire();
   if (!scelto) return;
-  Apri_File(*scelto);
+  Apri_File(*scelto, Contenuto(scelto->Percorso));
   Riferisci_Apertura();
 }
 
-void Progetto::Apri_File(const File_Scelto& scelto) {
+void Progetto::Apri_File(const File_Scelto& scelto, const Contenuto_File& contenuto) {
   File_Progetto = scelto.Percorso;
   File_Titolo = scelto.Titolo;
   stB[0] = "File: " + File_Titolo;
   Annulla = 0;
-  Leggi_File_Progetto();
+  Leggi_Contenuto(contenuto);
   if (Err_Lettura) return;
   Gestione_Voci(1);
   Formattato = -1;
@@ -152,7 +152,7 @@ void Progetto::mnuFileSave() {
 void Progetto::mnuFileTxtImp() {
   const auto scelto = Scegli_File({false, "", filtro_txt_leggi});
   if (!scelto) return;
-  const Contenuto_File file = Leggi_File(scelto->Percorso);
+  const Contenuto_File file = Contenuto(scelto->Percorso);
   if (!file.Errore.empty()) {
     Avvisa({"Errore!",
             "Impossibile leggere il file \"" + scelto->Percorso + "\": " + file.Errore + "!",

@@ -4,12 +4,32 @@
 
 #include <algorithm>
 
+#include "awl/encoding.h"
 #include "awl/file_io.h"
 #include "awl/text.h"
 #include "awl/writer.h"
+#include "plc/codepage.h"
 #include "plc/number_text.h"
 
 namespace tavorno {
+
+namespace {
+
+/// The first word with a character above 127, for a question that shows it.
+std::string Parola_Accentata(const std::string& byte) {
+  constexpr std::size_t abbastanza = 24;
+  const auto accento = static_cast<std::size_t>(
+      std::ranges::find_if(byte,
+                           [](char c) { return (static_cast<unsigned char>(c) & 0x80U) != 0; }) -
+      byte.begin());
+  constexpr const char* vuoti = " \t\r\n/";
+  const std::size_t prima = byte.find_last_of(vuoti, accento);
+  const std::size_t inizio = prima == std::string::npos ? 0 : prima + 1;
+  const std::size_t fine = std::min(byte.find_first_of(vuoti, accento), byte.size());
+  return fine - inizio > abbastanza ? byte.substr(accento, 2) : byte.substr(inizio, fine - inizio);
+}
+
+}  // namespace
 
 std::string Testo_Base(const std::string& testo) {
   return testo.substr(0, testo.find('.'));
@@ -38,18 +58,52 @@ Sorgente Stato_Progetto::Come_Sorgente(const std::string& main) const {
 // ---- reading ------------------------------------------------------------------------------------
 
 void Progetto::LeggiTxt() {
-  Leggi_File_Progetto();
+  Leggi_Contenuto(Contenuto(File_Progetto));
   Mostra_Rilievi_Lettura();
 }
 
-void Progetto::Leggi_File_Progetto() {
-  const Contenuto_File file = Leggi_File(File_Progetto);
-  if (file.Errore.empty()) {
-    Leggi_Byte(file.Byte);
+Contenuto_File Progetto::Contenuto(const std::string& percorso) const {
+  Contenuto_File file = Leggi_File(percorso);
+  if (!file.Errore.empty()) return file;
+  Testo_Letto letto = Riconosci(file.Byte);
+  if (letto.Era == Codifica::Forse_Utf8) {
+    const std::string parola = Parola_Accentata(file.Byte);
+    const std::string come_utf8 = A_Utf8(Da_Utf8_Senza_Segno(parola).Byte);
+    const std::string come_pagina = A_Utf8(parola);
+    if (Nessuno_Risponde)
+      Avvisa({.Titolo = "Attenzione!",
+              .Testo = "Il file sembra scritto in UTF-8 e viene letto com'è: \"" + come_utf8 +
+                       "\" diventa \"" + come_pagina + "\".",
+              .Simbolo = Icona::Nessuna,
+              .Scelte = Tasti::Ok,
+              .Dettagli = {}});
+    else if (Avvisa(
+                 {.Titolo = "Attenzione!",
+                  .Testo = "Il file sembra scritto in UTF-8. Leggerlo così?\n\nCon Sì si legge \"" +
+                           come_utf8 + "\", con No \"" + come_pagina + "\".",
+                  .Simbolo = Icona::Domanda,
+                  .Scelte = Tasti::Si_No,
+                  .Dettagli = {}}) == Risposta::Si)
+      letto = Da_Utf8_Senza_Segno(file.Byte);
+  }
+  if (letto.Persi > 0)
+    Avvisa({.Titolo = "Attenzione!",
+            .Testo = "Caratteri che il programma non ha, e che diventano \"?\": " +
+                     std::to_string(letto.Persi) + ".",
+            .Simbolo = Icona::Nessuna,
+            .Scelte = Tasti::Ok,
+            .Dettagli = {}});
+  file.Byte = std::move(letto.Byte);
+  return file;
+}
+
+void Progetto::Leggi_Contenuto(const Contenuto_File& contenuto) {
+  if (contenuto.Errore.empty()) {
+    Leggi_Byte(contenuto.Byte);
     return;
   }
   Lettura illeggibile;
-  illeggibile.Rifiuto = {0, "", file.Errore, Causa::Disco};
+  illeggibile.Rifiuto = {0, "", contenuto.Errore, Causa::Disco};
   Prendi(std::move(illeggibile));
 }
 

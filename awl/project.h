@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "awl/dialogs.h"
+#include "awl/file_io.h"
 #include "awl/listing.h"
 #include "awl/program.h"
 #include "awl/reader.h"
@@ -62,8 +63,9 @@ struct Progetto : Stato_Progetto {
   Progetto(Memoria& cpu, Dialoghi dialoghi) : CPU(cpu), Chiedi(std::move(dialoghi)) {}
 
   Memoria& CPU;
-  Dialoghi Chiedi;   ///< of the editor, while it is open
-  Dialoghi Riserva;  ///< for the questions that are put while `Chiedi` is empty
+  Dialoghi Chiedi;                ///< of the editor, while it is open
+  bool Nessuno_Risponde = false;  ///< boxes are only collected
+  Dialoghi Riserva;               ///< for the questions that are put while `Chiedi` is empty
 
   // ---- source model ----------------------------------------------------------------------------
 
@@ -94,9 +96,12 @@ struct Progetto : Stato_Progetto {
   /// Reads `File_Progetto` and rebuilds all of the above, with its boxes on single lines. On
   /// failure `Err_Lettura` is set, the project is empty and `Dettaglio` tells why.
   void LeggiTxt();
-  /// The same without any box, and the boxes that are then due.
-  void Leggi_File_Progetto();
+  /// The same from what a file holds, without any box, and the boxes that are then due.
+  void Leggi_Contenuto(const Contenuto_File& contenuto);
   void Mostra_Rilievi_Lettura() const;
+  /// What a file of text holds, in the code page. A file that may be UTF-8 and has no mark is asked
+  /// about, or told about and left as it is when `Nessuno_Risponde`.
+  Contenuto_File Contenuto(const std::string& percorso) const;
   /// The same from the bytes of a file.
   void Leggi_Byte(std::string_view byte);
   /// What every caller of a failed read says.
@@ -134,7 +139,7 @@ struct Progetto : Stato_Progetto {
   /// The file that the user wants to open; a cancelled dialog sets `Annulla`.
   std::optional<File_Scelto> Scegli_Da_Aprire();
   /// Reads a file that was chosen, without any box; `Riferisci_Apertura` shows those that are due.
-  void Apri_File(const File_Scelto& scelto);
+  void Apri_File(const File_Scelto& scelto, const Contenuto_File& contenuto);
   void Riferisci_Apertura() const;
   void mnuFileSave();
   void mnuFileTxtImp();

@@ -2,6 +2,7 @@
 #include "awl/reader.h"
 
 #include <algorithm>
+#include <array>
 
 #include "awl/text.h"
 #include "plc/codepage.h"
@@ -24,6 +25,7 @@ class Righe_File {
     ++lette_;
     return true;
   }
+  bool Finita() const { return posto_ >= byte_.size(); }
   int Lette() const { return lette_; }
 
  private:
@@ -31,6 +33,26 @@ class Righe_File {
   std::size_t posto_ = 0;
   int lette_ = 0;
 };
+
+/// What a file is that is no text, from its first bytes; nullptr for what may be one.
+const char* Tipo_Estraneo(std::string_view byte) {
+  struct Firma {
+    std::string_view Inizio;
+    const char* Motivo;
+  };
+  static constexpr std::array<Firma, 6> firme = {{
+      {"PK\x03\x04", "il file è un archivio ZIP: il progetto va prima estratto"},
+      {"\x89PNG", "il file è un'immagine"},
+      {"\xFF\xD8\xFF", "il file è un'immagine"},
+      {"GIF8", "il file è un'immagine"},
+      {"%PDF", "il file è un documento PDF"},
+      {"\xD0\xCF\x11\xE0", "il file è un documento di un altro programma"},
+  }};
+  for (const Firma& firma : firme) {
+    if (byte.starts_with(firma.Inizio)) return firma.Motivo;
+  }
+  return nullptr;
+}
 
 /// Number of a procedure's id, plus 1.
 std::uint8_t Numero_Procedura(const std::string& sigla) {
@@ -45,15 +67,25 @@ class Lettore {
  public:
   Lettore(Sorgente& letta, Righe_Lette& righe) : letta_(letta), righe_(righe) {}
 
+  /// A block's keyword outside of all blocks. The writer's last line is what an earlier, longer
+  /// save left there; one that looks like this belongs to nobody.
+  bool Avanzo(std::string_view riga) const {
+    if (!chiuso_ || in_main_ || in_sbr_) return false;
+    const bool apre = riga.starts_with("SUBROUTINE_BLOCK") && riga.find(':') != std::string::npos;
+    return apre || riga.starts_with("END_");
+  }
+
   /// One line of the file; throws `Riga_Rifiutata` when the read is to be given up.
   void Leggi(std::string riga) {
     bool salta = false;
+    Pretendi_Blocco(riga);
     if (riga.starts_with("ORGANIZATION_BLOCK")) {
       salta = true;
       in_main_ = true;
     } else if (riga.starts_with("END_ORGANIZATION_BLOCK")) {
       const Posto_Riga fine = in_sbr_ && !in_main_ ? Qui() : Posto_Riga{0, linee_main_};
       in_main_ = false;
+      chiuso_ = true;
       righe_.Debug_Line("MEND", fine);
     } else if (riga.starts_with("SUBROUTINE_BLOCK")) {
       salta = true;
@@ -61,6 +93,7 @@ class Lettore {
     } else if (riga.starts_with("END_SUBROUTINE_BLOCK")) {
       const Posto_Riga fine = Qui();
       in_sbr_ = false;
+      chiuso_ = true;
       righe_.Debug_Line("RET", fine);
     } else if (riga.starts_with("INTERRUPT_BLOCK")) {
       throw Riga_Rifiutata("il simulatore non supporta le routine di interrupt", Causa::Interrupt);
@@ -82,6 +115,21 @@ class Lettore {
   }
 
  private:
+  /// What stands before all blocks is no project, and a block that never began cannot end. Text
+  /// between two blocks is dropped.
+  void Pretendi_Blocco(std::string_view riga) {
+    if (iniziato_) return;
+    iniziato_ = riga.starts_with("ORGANIZATION_BLOCK") || riga.starts_with("SUBROUTINE_BLOCK") ||
+                riga.starts_with("INTERRUPT_BLOCK");
+    if (iniziato_ || Trim(riga).empty()) return;
+    if (riga.starts_with("END_"))
+      throw Riga_Rifiutata("qui finisce un blocco che non è mai cominciato");
+    throw Riga_Rifiutata(
+        "un progetto comincia con la riga \"ORGANIZATION_BLOCK MAIN:OB1\": questo file non è un "
+        "progetto AWL, oppure gli manca l'inizio. Un testo semplice si apre con \"Importa File "
+        "TXT\"");
+  }
+
   /// Where a line that is text of a block would go; behind the last procedure outside of any.
   Posto_Riga Qui() const {
     if (in_main_ || letta_.Procedure.empty()) return {0, linee_main_};
@@ -113,6 +161,8 @@ class Lettore {
   Righe_Lette& righe_;
   bool in_main_ = false;
   bool in_sbr_ = false;
+  bool iniziato_ = false;
+  bool chiuso_ = false;  // a block has ended
   int linee_main_ = 0;
   int linee_procedura_ = 0;  // of the last one
 };
@@ -126,8 +176,11 @@ Lettura Leggi_Sorgente(std::string_view byte, Commenti_Listato commenti,
   Righe_File file(byte);
   std::string riga;
   try {
+    if (const char* tipo = Tipo_Estraneo(byte)) throw Riga_Rifiutata(tipo);
     Lettore lettore(lettura.Letta, righe);
-    while (file.Prossima(riga)) lettore.Leggi(riga);
+    while (file.Prossima(riga)) {
+      if (!file.Finita() || !lettore.Avanzo(riga)) lettore.Leggi(riga);
+    }
     if (righe.NRighe == 0) {
       riga.clear();
       throw Riga_Rifiutata("il file non contiene nessun blocco di programma");

@@ -18,7 +18,8 @@ struct Lettura {
   bool Riuscita() const { return Rifiuto.Perche == Causa::Nessuna; }
 };
 
-/// Reads the bytes of a project file. Lines end in CR LF, LF or CR. `prima` is the `Tabella` of the
+/// Reads the bytes of a project file. Lines end in CR LF, LF or CR. A block's keyword that is the
+/// last line and stands outside of all blocks is not obeyed. `prima` is the `Tabella` of the
 /// read before, empty for none.
 Lettura Leggi_Sorgente(std::string_view byte, Commenti_Listato commenti = {},
                        std::vector<Riga_Src> prima = {});

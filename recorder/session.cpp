@@ -7,6 +7,7 @@ namespace tavorno {
 
 Seduta::Seduta() : plc(orologio), progetto(plc, {}) {
   ascolto_ = plc.Hook.Mostra.Ascolta([this](const Avviso& avviso) { Avvisi.push_back(avviso); });
+  progetto.Nessuno_Risponde = true;
   progetto.Chiedi.Mostra = [this](const Avviso& avviso) {
     Avvisi.push_back(avviso);
     return avviso.Scelte == Tasti::Si_No ? Risposta::Si : Risposta::Ok;

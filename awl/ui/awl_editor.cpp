@@ -5,9 +5,11 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <algorithm>
+#include <ranges>
 
 #include "awl/line_numbers.h"
 #include "awl/ui/completion.h"
+#include "awl/ui/line_changes.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -24,7 +26,8 @@ enum Segno_Riga : int {
 
 // A tab goes to the column of the operands in the canonical line.
 constexpr int larghezza_tabulazione = 7;
-constexpr int attesa_suggerimento = 500;  // ms of a resting pointer
+constexpr int indicatore_suggerimento = 8;  // the first that is free
+constexpr int attesa_suggerimento = 500;    // ms of a resting pointer
 
 struct Comando_Modifica {
   const char* Testo;
@@ -81,7 +84,7 @@ void AwlEditor::Prepara_Documento() {
   setTabWidth(larghezza_tabulazione);
   setIndentationsUseTabs(true);
   setTabIndents(false);  // the key types a tab everywhere
-  setReadOnly(genere_ == Genere_Testo::Listato);
+  setReadOnly(Di_Sola_Lettura());
 }
 
 void AwlEditor::Prepara_Vista() {
@@ -118,6 +121,8 @@ void AwlEditor::Prepara_Vista() {
   setMarkerBackgroundColor(QColor(0xfdecec), Segno_Fondo);
   markerDefine(Invisible, Segno_Invisibile);
   setAnnotationDisplay(AnnotationIndented);
+  indicatorDefine(SquiggleIndicator, indicatore_suggerimento);
+  setIndicatorForegroundColor(QColor(0xc98a00), indicatore_suggerimento);
 }
 
 void AwlEditor::Prepara_Aiuti() {
@@ -148,7 +153,23 @@ void AwlEditor::Scrivi(const std::string& byte) {
   const std::string vecchio(utf8, static_cast<std::size_t>(length()));
   if (nuovo == vecchio) return;
 
-  auto [fin_qui, qui] = std::ranges::mismatch(vecchio, nuovo);
+  const std::vector<std::string_view> vecchie = Linee_Intere(vecchio);
+  const std::vector<std::string_view> nuove = Linee_Intere(nuovo);
+  scrive_ = true;
+  setReadOnly(false);
+  SendScintilla(SCI_BEGINUNDOACTION);
+  // From the end, so that the places further up stay what they are.
+  for (const Tratto_Cambiato& tratto : std::views::reverse(Tratti_Cambiati(vecchie, nuove)))
+    Sostituisci(
+        vecchie.empty() ? 0 : static_cast<std::size_t>(tratto.Vecchio.data() - vecchio.data()),
+        tratto.Vecchio, tratto.Nuovo);
+  SendScintilla(SCI_ENDUNDOACTION);
+  setReadOnly(Di_Sola_Lettura());
+  scrive_ = false;
+}
+
+void AwlEditor::Sostituisci(std::size_t inizio, std::string_view vecchio, std::string_view nuovo) {
+  const auto [fin_qui, qui] = std::ranges::mismatch(vecchio, nuovo);
   auto prima = static_cast<std::size_t>(fin_qui - vecchio.begin());
   while (Taglio_Vietato(vecchio, prima) || Taglio_Vietato(nuovo, prima)) --prima;
   const std::size_t resto = std::min(vecchio.size(), nuovo.size()) - prima;
@@ -158,15 +179,18 @@ void AwlEditor::Scrivi(const std::string& byte) {
   while (dopo > 0 && (Taglio_Vietato(vecchio, vecchio.size() - dopo) ||
                       Taglio_Vietato(nuovo, nuovo.size() - dopo)))
     --dopo;
+  SendScintilla(SCI_SETTARGETRANGE, inizio + prima,
+                static_cast<long>(inizio + vecchio.size() - dopo));
+  const std::string pezzo(nuovo.substr(prima, nuovo.size() - dopo - prima));
+  SendScintilla(SCI_REPLACETARGET, pezzo.size(), pezzo.data());
+}
 
-  scrive_ = true;
-  setReadOnly(false);
-  SendScintilla(SCI_BEGINUNDOACTION);
-  SendScintilla(SCI_SETTARGETRANGE, prima, static_cast<long>(vecchio.size() - dopo));
-  SendScintilla(SCI_REPLACETARGET, nuovo.size() - dopo - prima, nuovo.data() + prima);
-  SendScintilla(SCI_ENDUNDOACTION);
-  setReadOnly(genere_ == Genere_Testo::Listato);
-  scrive_ = false;
+void AwlEditor::Spegni(bool spento) {
+  if (spento == spento_) return;
+  spento_ = spento;
+  setReadOnly(Di_Sola_Lettura());
+  setCaretLineVisible(!spento);
+  lexer_->Spegni(spento);
 }
 
 void AwlEditor::Scrivi_Listato(const std::vector<Riga_Listato>& righe,
@@ -262,6 +286,29 @@ void AwlEditor::Togli_Segni() {
   clearAnnotations();
 }
 
+void AwlEditor::Suggerisci(std::vector<Diagnosi> suggerimenti) {
+  suggerimenti_ = std::move(suggerimenti);
+  SendScintilla(SCI_SETINDICATORCURRENT, indicatore_suggerimento);
+  SendScintilla(SCI_INDICATORCLEARRANGE, 0L, static_cast<long>(length()));
+  for (const Diagnosi& suggerimento : suggerimenti_) {
+    // Columns count characters, positions count bytes.
+    const long inizio = SendScintilla(SCI_POSITIONFROMLINE, suggerimento.Posto.Linea);
+    const long da = SendScintilla(SCI_POSITIONRELATIVE, inizio, suggerimento.Colonna);
+    const long a = SendScintilla(SCI_POSITIONRELATIVE, da, suggerimento.Lunghezza);
+    if (a > da) SendScintilla(SCI_INDICATORFILLRANGE, da, a - da);
+  }
+}
+
+QString AwlEditor::Suggerito(int linea) const {
+  QString testo;
+  for (const Diagnosi& suggerimento : suggerimenti_) {
+    if (suggerimento.Posto.Linea != linea) continue;
+    if (!testo.isEmpty()) testo += '\n';
+    testo += Q(suggerimento.Messaggio);
+  }
+  return testo;
+}
+
 bool AwlEditor::Ha_Avvertimento(int linea) const {
   return (markersAtLine(linea) & (1U << Segno_Avvertimento)) != 0;
 }
@@ -319,9 +366,9 @@ void AwlEditor::Mostra_Suggerimento() {
   const Istruzione* istruzione = Istruzione_Di(testo);
   const auto colonna = static_cast<std::size_t>(posizione - inizio);
   // Behind a comment there is nothing left to help with.
-  if (istruzione == nullptr || parola.Vuota() || colonna > testo.find("//")) return;
-  SendScintilla(SCI_CALLTIPSHOW, static_cast<unsigned long>(inizio) + parola.Inizio,
-                Suggerimento(*istruzione).c_str());
+  const bool muto = istruzione == nullptr || parola.Vuota() || colonna > testo.find("//");
+  Mostra_Aiuto(static_cast<unsigned long>(inizio) + parola.Inizio, linea,
+               muto ? "" : Suggerimento(*istruzione));
 }
 
 void AwlEditor::Mostra_Suggerimento_A(int posizione, int, int) {
@@ -332,9 +379,16 @@ void AwlEditor::Mostra_Suggerimento_A(int posizione, int, int) {
   const Prima_Parola parola = Trova_Prima_Parola(testo);
   const Istruzione* istruzione = Istruzione_Di(testo);
   const auto colonna = static_cast<std::size_t>(posizione - inizio);
-  if (istruzione == nullptr || colonna < parola.Inizio || colonna >= parola.Fine) return;
-  SendScintilla(SCI_CALLTIPSHOW, static_cast<unsigned long>(posizione),
-                Suggerimento(*istruzione).c_str());
+  const bool muto = istruzione == nullptr || colonna < parola.Inizio || colonna >= parola.Fine;
+  Mostra_Aiuto(static_cast<unsigned long>(posizione), linea, muto ? "" : Suggerimento(*istruzione));
+}
+
+/// What there is to say of an instruction, below what there is to say of its line.
+void AwlEditor::Mostra_Aiuto(unsigned long posizione, int linea, const std::string& istruzione) {
+  std::string aiuto = Utf8(Suggerito(linea));
+  if (!aiuto.empty() && !istruzione.empty()) aiuto += "\n\n";
+  aiuto += istruzione;
+  if (!aiuto.empty()) SendScintilla(SCI_CALLTIPSHOW, posizione, aiuto.c_str());
 }
 
 void AwlEditor::keyPressEvent(QKeyEvent* evento) {

@@ -37,11 +37,14 @@ class AwlEditor : public QsciScintilla {
 
   /// The text in the code page of the files, lines joined by CR LF.
   std::string Byte() const;
-  /// Makes the text this one, in one step that can be undone. Only what differs is replaced, so
-  /// that the caret keeps its place. Does not call `Cambiato`.
+  /// Makes the text this one, in one step that can be undone. Only what differs is replaced, line
+  /// by line, so that the caret keeps its place and marks their lines, in undo and redo as well.
+  /// Does not call `Cambiato`.
   void Scrivi(const std::string& byte);
   /// The same for a listing, with what there is to say of its lines besides.
   void Scrivi_Listato(const std::vector<Riga_Listato>& righe, const std::vector<Diagnosi>& rilievi);
+  /// Grey and for reading only, or as usual.
+  void Spegni(bool spento);
   void Dimentica_Annulla() { SendScintilla(SCI_EMPTYUNDOBUFFER); }
 
   /// Shows another text. Its undo history and its marks are its own.
@@ -56,6 +59,10 @@ class AwlEditor : public QsciScintilla {
   int Linea_Seguita(int segno) const;  ///< -1 when the line is gone
   void Segna(int linea, Gravita grado, const QString& messaggio);
   void Togli_Segni();
+  /// Underlines pieces of lines as worth a look, instead of those before; a resting pointer and the
+  /// key for help tell why. Not part of the text's marks.
+  void Suggerisci(std::vector<Diagnosi> suggerimenti);
+  QString Suggerito(int linea) const;  ///< what is suggested for a line; empty for nothing
   bool Ha_Errore(int linea) const;
   bool Ha_Avvertimento(int linea) const;
 
@@ -75,15 +82,20 @@ class AwlEditor : public QsciScintilla {
 
  private:
   void Prepara_Documento();
+  void Sostituisci(std::size_t inizio, std::string_view vecchio, std::string_view nuovo);
+  bool Di_Sola_Lettura() const { return genere_ == Genere_Testo::Listato || spento_; }
   void Prepara_Vista();
   void Prepara_Aiuti();
   std::string Linea_Byte(int linea) const;  // UTF-8, without its end
   void Dopo_Carattere(int carattere);
   void Mostra_Suggerimento_A(int posizione, int x, int y);
+  void Mostra_Aiuto(unsigned long posizione, int linea, const std::string& istruzione);
   static bool Va_Oltre(const Oltre& oltre) { return oltre.Possibile && oltre.Possibile(); }
 
   Genere_Testo genere_;
   AwlLexer* lexer_;
+  std::vector<Diagnosi> suggerimenti_;
+  bool spento_ = false;
   bool scrive_ = false;  // a command, not the user, is changing the text
 };
 

@@ -167,6 +167,13 @@ QFont AwlLexer::defaultFont(int numero) const {
   return tipo;
 }
 
+void AwlLexer::Spegni(bool spento) {
+  constexpr QRgb grigio = 0xe4e4e4;
+  for (const Aspetto& aspetto : aspetti)
+    setPaper(QColor(spento ? grigio : aspetto.Fondo), aspetto.Stile);
+  setPaper(spento ? QColor(grigio) : QColor(Qt::white), QsciScintillaBase::STYLE_DEFAULT);
+}
+
 void AwlLexer::styleText(int inizio, int fine) {
   const auto lunghezza = static_cast<std::size_t>(editor()->length());
   const auto* byte = static_cast<const char*>(

@@ -54,6 +54,9 @@ class AwlLexer : public QsciLexerCustom {
   QFont defaultFont(int numero) const override;
   void styleText(int inizio, int fine) override;
 
+  /// Every look on grey ground, or each on its own.
+  void Spegni(bool spento);
+
   /// What the lines of a listing are made of, one for each from the first; others are plain.
   std::vector<Riga_Listato> Righe_Listato;
 

@@ -106,73 +106,78 @@ void FrmMain::Avvia(Avvio Avvio_File) {
 }
 
 void FrmMain::Collega_Comandi() {
-  const auto comando = [this](const char* nome, auto funzione) {
-    Collega(*this, QString::fromUtf8(nome), funzione);
+  const auto al = [this](QAction* voce, auto comando) {
+    connect(voce, &QAction::triggered, this, comando);
   };
-  comando("mnuFileNew", [this] { Nuovo(); });
-  comando("mnuFileOpen", [this] { Chiedi_E_Apri(); });
-  comando("mnuFileSave", [this] {
+  al(a_.mnuFileNew, [this] { Nuovo(); });
+  al(a_.mnuFileOpen, [this] { Chiedi_E_Apri(); });
+  al(a_.mnuFileSave, [this] {
     p_.mnuFileSave();
     Specchia();
   });
-  comando("mnuFileTxtImp", [this] { Inserimento([this] { p_.mnuFileTxtImp(); }); });
-  comando("mnuFileTxtExp", [this] { p_.mnuFileTxtExp(); });
-  comando("mnufiltxtT", [this] { p_.mnufiltxtT(); });
-  comando("mnuFileStp", [this] { legami_.Mostra_Stampe(); });
-  comando("mnuFileEnd", [this] {
+  al(a_.mnuFileTxtImp, [this] { Inserimento([this] { p_.mnuFileTxtImp(); }); });
+  al(a_.mnuFileTxtExp, [this] { p_.mnuFileTxtExp(); });
+  al(a_.mnufiltxtT, [this] { p_.mnufiltxtT(); });
+  al(a_.mnuFileStp, [this] { legami_.Mostra_Stampe(); });
+  al(a_.mnuFileEnd, [this] {
     plc_.Ferma = -1;
     p_.Carica_CPU = 0;
     close();
   });
-  comando("mnuPlcCompile", [this] { Compila(false); });
-  comando("mnuPlcCarica", [this] {
+  al(a_.mnuPlcCompile, [this] { Compila(false); });
+  al(a_.mnuPlcCarica, [this] {
     Compila(true);
     if (p_.Compilato) close();
   });
-  const auto mostra = [this](QWidget& barra, bool visibile) {
-    barra.setVisible(visibile);
+  const auto mostra = [this](QWidget& barra, const QAction& voce) {
+    barra.setVisible(voce.isChecked());
     layout()->activate();  // else the window may not shrink yet
     Regola_Altezza();
   };
-  comando("mnuViewTB",
-          [this, mostra] { mostra(*tB1, Azione(*this, QStringLiteral("mnuViewTB")).isChecked()); });
-  comando("mnuViewSTB", [this, mostra] {
-    mostra(*statusBar(), Azione(*this, QStringLiteral("mnuViewSTB")).isChecked());
-  });
+  al(a_.mnuViewTB, [this, mostra] { mostra(*tB1, *a_.mnuViewTB); });
+  al(a_.mnuViewSTB, [this, mostra] { mostra(*statusBar(), *a_.mnuViewSTB); });
   for (int i = 0; i < Pagina_Nascosta; ++i)
-    Collega(*this, QStringLiteral("mnuViewC(%1)").arg(i), [this, i] { SSTb2->setCurrentIndex(i); });
-  comando("MnuHLPIndex", [this] { legami_.Mostra_Aiuto(QStringLiteral("Index-AWL.htm")); });
-  comando("MnuHlpList", [this] { legami_.Mostra_Aiuto(QStringLiteral("SET_IST.htm")); });
-  comando("MnuHLPInfo", [this] { legami_.Mostra_Info(); });
-  comando("tB1(Centra)", [this] { Centra(*this); });
+    al(a_.mnuViewC.at(static_cast<std::size_t>(i)), [this, i] { SSTb2->setCurrentIndex(i); });
+  al(a_.MnuHLPIndex, [this] { legami_.Mostra_Aiuto(QStringLiteral("Index-AWL.htm")); });
+  al(a_.MnuHlpList, [this] { legami_.Mostra_Aiuto(QStringLiteral("SET_IST.htm")); });
+  al(a_.MnuHLPInfo, [this] { legami_.Mostra_Info(); });
+  al(a_.tB1.Centra, [this] { Centra(*this); });
 
-  for (const Tasto_Barra& riga : Barra_Editor()) {
-    if (*riga.Voce == '\0') continue;
-    QAction& tasto = Azione(*this, QStringLiteral("tB1(%1)").arg(riga.Chiave));
-    QAction& voce = Azione(*this, QString::fromUtf8(riga.Voce));
-    connect(&tasto, &QAction::triggered, &voce, &QAction::trigger);
-    connect(&voce, &QAction::enabledChanged, &tasto, &QAction::setEnabled);
-  }
-  Azione(*this, QStringLiteral("MnuHLPIndex")).setEnabled(bool(legami_.Mostra_Aiuto));
-  Azione(*this, QStringLiteral("MnuHlpList")).setEnabled(bool(legami_.Mostra_Aiuto));
-  Azione(*this, QStringLiteral("MnuHLPInfo")).setEnabled(bool(legami_.Mostra_Info));
+  const auto come = [this](QAction* tasto, QAction* voce) {
+    connect(tasto, &QAction::triggered, voce, &QAction::trigger);
+    connect(voce, &QAction::enabledChanged, tasto, &QAction::setEnabled);
+  };
+  come(a_.tB1.New, a_.mnuFileNew);
+  come(a_.tB1.Open, a_.mnuFileOpen);
+  come(a_.tB1.Save, a_.mnuFileSave);
+  come(a_.tB1.Compila, a_.mnuPlcCompile);
+  come(a_.tB1.Carica, a_.mnuPlcCarica);
+  come(a_.tB1.Stampa, a_.mnuFileStp);
+  come(a_.tB1.Info, a_.MnuHLPInfo);
+  come(a_.tB1.Termina, a_.mnuFileEnd);
+  a_.MnuHLPIndex->setEnabled(bool(legami_.Mostra_Aiuto));
+  a_.MnuHlpList->setEnabled(bool(legami_.Mostra_Aiuto));
+  a_.MnuHLPInfo->setEnabled(bool(legami_.Mostra_Info));
 }
 
 void FrmMain::Collega_Testi() {
-  const auto pulsante = [this](const char* nome, auto funzione) {
-    auto* tasto = findChild<QPushButton*>(QString::fromUtf8(nome));
-    connect(tasto, &QPushButton::clicked, this, funzione);
-    return tasto;
+  const auto al = [this](QPushButton* tasto, auto comando) {
+    connect(tasto, &QPushButton::clicked, this, comando);
   };
-  pulsante("CmdNet(0)", [this] { Network(0); });
-  pulsante("CmdNet(1)", [this] { Network(1); });
-  pulsante("cmdSub", [this] {
+  al(CmdNet[0], [this] { Network(0); });
+  al(CmdNet[1], [this] { Network(1); });
+  al(cmdSub, [this] {
     Inserimento([this] { p_.New_Sub(); });
     txtP->Vai_In_Fondo();
   });
-  pulsante("cmdDelP", [this] { Rimozione(); });
-  pulsante("cmdTest", [this] { legami_.Mostra_Debug(); })->setEnabled(bool(legami_.Mostra_Debug));
+  al(cmdDelP, [this] { Rimozione(); });
+  al(cmdTest, [this] { legami_.Mostra_Debug(); });
+  cmdTest->setEnabled(bool(legami_.Mostra_Debug));
 
+  constexpr int pausa = 400;  // ms without a key
+  suggerisci_.setSingleShot(true);
+  suggerisci_.setInterval(pausa);
+  connect(&suggerisci_, &QTimer::timeout, this, [this] { Suggerisci(); });
   txtList->Cambiato = [this] { Testo_Cambiato(*txtList); };
   txtP->Cambiato = [this] { Testo_Cambiato(*txtP); };
   txtLst->Linea_Scelta = [this](int linea) {
@@ -201,9 +206,10 @@ void FrmMain::Chiedi_E_Apri() {
 
 void FrmMain::Apri(const File_Scelto& file) {
   Vista prima = Come_Sta();
+  const Contenuto_File contenuto = p_.Contenuto(file.Percorso);
   {
     const Clessidra clessidra;
-    p_.Apri_File(file);
+    p_.Apri_File(file, contenuto);
   }
   p_.Riferisci_Apertura();
   Sostituito(std::move(prima));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 #include <array>
 #include <functional>
 #include <string>
@@ -9,6 +10,7 @@
 #include "awl/project.h"
 #include "awl/ui/awl_editor.h"
 #include "awl/ui/error_marks.h"
+#include "awl/ui/main_window_tables.h"
 #include "awl/ui/procedure_documents.h"
 #include "awl/ui/project_history.h"
 #include "awl/ui/start_mode.h"
@@ -17,13 +19,12 @@
 class QCheckBox;
 class QHBoxLayout;
 class QLabel;
+class QPushButton;
 class QTabBar;
 class QTabWidget;
 class QToolBar;
 
 namespace tavorno {
-
-struct Pulsante;
 
 /// The windows that the editor can ask for. An empty one switches its command off.
 struct Legami_Editor {
@@ -61,7 +62,7 @@ class FrmMain : public QMainWindow {
   QWidget* Crea_Pagina_Listato();
   QWidget* Crea_Spunte();
   void Crea_Stato();
-  void Aggiungi_Pulsante(QHBoxLayout& riga, const Pulsante& pulsante);
+  static QPushButton* Aggiungi_Pulsante(QHBoxLayout& riga, const Pulsante& pulsante);
   void Mostra_Data_Ora();
   int Altezza_Normale() const;
   void Regola_Altezza();
@@ -97,7 +98,9 @@ class FrmMain : public QMainWindow {
   void Specchia_Esiti();
   bool Specchia_Schede();
   void Specchia_Voci();
+  void Specchia_Residuo(bool scelta);
   void Specchia_Numeri();
+  void Suggerisci();
   void Testo_Cambiato(AwlEditor& editor);
 
   Progetto& p_;
@@ -109,6 +112,12 @@ class FrmMain : public QMainWindow {
   bool chiusa_ = false;
   bool specchia_ = false;  // the controls change because the project did, not the other way round
 
+  Azioni_Editor a_{};
+  std::array<QPushButton*, 2> CmdNet{};
+  QPushButton* cmdTest = nullptr;
+  QPushButton* cmdSub = nullptr;
+  QPushButton* cmdDelP = nullptr;
+  QLabel* etSenza_SBR = nullptr;  // says that the text below belongs to no procedure
   AwlEditor* txtList = nullptr;
   AwlEditor* txtP = nullptr;
   AwlEditor* txtLst = nullptr;
@@ -124,6 +133,7 @@ class FrmMain : public QMainWindow {
   Documenti_Procedure documenti_;
   Segni_Errori segni_;
   QsciDocument residuo_;      // what `txtP` shows while no procedure is selected
+  QTimer suggerisci_;         // a moment after the last change
   bool testi_nuovi_ = false;  // the texts on screen have no history yet
   Storia_Comandi<Vista> storia_;
 };

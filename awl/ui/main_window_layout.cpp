@@ -65,8 +65,8 @@ void FrmMain::Crea_Controlli() {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(QStringLiteral(" Editor AWL per Tavorno."));
   setWindowIcon(QIcon(QStringLiteral(":/icons/tavorno.svg")));
-  Crea_Menu(*this, Menu_Editor());
-  tB1 = Crea_Barra(*this, "tB1", Barra_Editor());
+  Crea_Menu(*this, Menu_Editor(a_));
+  tB1 = Crea_Barra(*this, "tB1", Barra_Editor(a_));
   tB1->setWindowTitle(QStringLiteral("Tool Bar"));
 
   auto* centro = new QWidget(this);
@@ -98,7 +98,7 @@ void FrmMain::Crea_Controlli() {
   resize(larghezza_picF, Altezza_Normale());
 }
 
-void FrmMain::Aggiungi_Pulsante(QHBoxLayout& riga, const Pulsante& pulsante) {
+QPushButton* FrmMain::Aggiungi_Pulsante(QHBoxLayout& riga, const Pulsante& pulsante) {
   auto* tasto = new QPushButton(QString::fromUtf8(pulsante.Testo));
   tasto->setObjectName(QString::fromUtf8(pulsante.Nome));
   tasto->setAutoDefault(false);
@@ -111,6 +111,7 @@ void FrmMain::Aggiungi_Pulsante(QHBoxLayout& riga, const Pulsante& pulsante) {
   }
   tasto->setToolTip(suggerimento);
   riga.addWidget(tasto, 0, Qt::AlignBottom);
+  return tasto;
 }
 
 QWidget* FrmMain::Crea_Pagina_Main() {
@@ -125,7 +126,8 @@ QWidget* FrmMain::Crea_Pagina_Main() {
   TabS1->setFocusPolicy(Qt::NoFocus);  // there is nothing to choose
   riga->addWidget(TabS1, 0, Qt::AlignTop);
   riga->addStretch(1);
-  for (const Pulsante& pulsante : Pulsanti_Main) Aggiungi_Pulsante(*riga, pulsante);
+  CmdNet[0] = Aggiungi_Pulsante(*riga, Pulsante_Network_Main);
+  cmdTest = Aggiungi_Pulsante(*riga, Pulsante_Test);
   return pagina;
 }
 
@@ -134,12 +136,19 @@ QWidget* FrmMain::Crea_Pagina_Procedure() {
   auto* colonna = Colonna(pagina);
   txtP = new AwlEditor(Genere_Testo::Programma, "txtP", pagina);
   txtP->setAccessibleName(QStringLiteral("Testo della procedura scelta"));
+  etSenza_SBR = new QLabel;
+  etSenza_SBR->setObjectName(QStringLiteral("etSenza_SBR"));
+  etSenza_SBR->setWordWrap(true);
+  etSenza_SBR->hide();
+  colonna->addWidget(etSenza_SBR);
   colonna->addWidget(txtP, 1);
   QHBoxLayout* riga = Riga_Pulsanti(*colonna);
   TabSP = Linguette("TabSP", "Procedure");
   TabSP->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   riga->addWidget(TabSP, 1, Qt::AlignTop);
-  for (const Pulsante& pulsante : Pulsanti_Procedure) Aggiungi_Pulsante(*riga, pulsante);
+  CmdNet[1] = Aggiungi_Pulsante(*riga, Pulsante_Network_SBR);
+  cmdSub = Aggiungi_Pulsante(*riga, Pulsante_Nuova_SBR);
+  cmdDelP = Aggiungi_Pulsante(*riga, Pulsante_Rimuovi_SBR);
   return pagina;
 }
 

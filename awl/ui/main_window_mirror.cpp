@@ -8,6 +8,7 @@
 #include <QTabWidget>
 #include <utility>
 
+#include "awl/hints.h"
 #include "awl/line_numbers.h"
 #include "awl/ui/main_window.h"
 #include "awl/ui/main_window_tables.h"
@@ -69,23 +70,50 @@ void FrmMain::Specchia_Esiti() {
 }
 
 void FrmMain::Specchia_Voci() {
-  const auto abilita = [this](const char* nome, bool stato) {
-    Azione(*this, QString::fromUtf8(nome)).setEnabled(stato);
-  };
-  abilita("mnuFileSave", salva_attivo_);
-  abilita("mnuPlcCompile", p_.Comandi_Attivi);
-  abilita("mnuPlcCarica", p_.Comandi_Attivi);
-  abilita("mnuFileStp", p_.Comandi_Attivi && legami_.Mostra_Stampe);
-  abilita("mnuFileTxtImp", p_.Pagina < Pagina_Nascosta);
-  abilita("mnuFileTxtExp", p_.Pagina < Pagina_Nascosta);
-  findChild<QPushButton*>(QStringLiteral("cmdDelP"))->setEnabled(p_.cmdDelP);
-  findChild<QPushButton*>(QStringLiteral("CmdNet(1)"))->setEnabled(p_.CmdNet_1);
+  a_.mnuFileSave->setEnabled(salva_attivo_);
+  a_.mnuPlcCompile->setEnabled(p_.Comandi_Attivi);
+  a_.mnuPlcCarica->setEnabled(p_.Comandi_Attivi);
+  a_.mnuFileStp->setEnabled(p_.Comandi_Attivi && legami_.Mostra_Stampe);
+  a_.mnuFileTxtImp->setEnabled(p_.Pagina < Pagina_Nascosta);
+  a_.mnuFileTxtExp->setEnabled(p_.Pagina < Pagina_Nascosta);
+  const bool scelta = p_.Scheda >= 1 && p_.Scheda <= p_.Num_SBR;
+  cmdDelP->setEnabled(p_.cmdDelP && scelta);
+  CmdNet[1]->setEnabled(p_.CmdNet_1 && scelta);
+  Specchia_Residuo(scelta);
+}
+
+/// What a removed procedure or an earlier project has left on screen can be read, not written.
+void FrmMain::Specchia_Residuo(bool scelta) {
+  // The empty tab of a project without procedures is no leftover.
+  const bool residuo = p_.Num_SBR > 0 || !p_.TabSP.front().empty();
+  txtP->Spegni(!scelta && residuo);
+  etSenza_SBR->setVisible(!scelta);
+  etSenza_SBR->setText(
+      p_.Num_SBR > 0
+          ? QStringLiteral("Questo testo non appartiene più al progetto: per scrivere, scegliere "
+                           "una procedura dalle schede.")
+          : QStringLiteral("Il progetto non ha procedure e questo testo non viene salvato: per "
+                           "scrivere una procedura, premere \"Inserisci SBR\"."));
 }
 
 void FrmMain::Specchia_Numeri() {
+  suggerisci_.start();
   const Numerazione numerazione(p_);
   txtList->Numera(numerazione.Numeri(0));
   txtP->Numera(numerazione.Numeri(p_.Scheda == 0 ? p_.Num_SBR + 1 : p_.Scheda));
+}
+
+void FrmMain::Suggerisci() {
+  std::vector<Diagnosi> del_main;
+  std::vector<Diagnosi> della_procedura;
+  for (Diagnosi& suggerimento : Suggerimenti(p_.Come_Sorgente(p_.txtList))) {
+    if (suggerimento.Posto.Testo == 0)
+      del_main.push_back(std::move(suggerimento));
+    else if (suggerimento.Posto.Testo == p_.Scheda)
+      della_procedura.push_back(std::move(suggerimento));
+  }
+  txtList->Suggerisci(std::move(del_main));
+  txtP->Suggerisci(std::move(della_procedura));
 }
 
 /// The user wrote: the text becomes the master copy.

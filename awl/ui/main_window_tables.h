@@ -2,15 +2,29 @@
 #pragma once
 
 #include <array>
-#include <span>
+#include <vector>
 
 #include "widgets/command_tables.h"
 
 // The editor window's captions, in the order of the screen.
 namespace tavorno {
 
-std::span<const Voce_Menu> Menu_Editor();
-std::span<const Tasto_Barra> Barra_Editor();
+/// The commands of the editor, by their fixed names.
+struct Azioni_Editor {
+  QAction *mnuFileNew, *mnuFileOpen, *mnuFileSave, *mnuFileTxtImp, *mnuFileTxtExp, *mnufiltxtT;
+  QAction *mnuFileStp, *mnuFileEnd, *mnuPlcCompile, *mnuPlcCarica, *mnuViewTB, *mnuViewSTB;
+  std::array<QAction*, 3> mnuViewC;
+  QAction *MnuHLPIndex, *MnuHlpList, *MnuHLPInfo;
+
+  /// The buttons of the tool bar `tB1`, by their keys.
+  struct Tasti {
+    QAction *New, *Open, *Save, *Compila, *Carica, *Stampa, *Centra, *Info, *Termina;
+  } tB1;
+};
+
+/// Rows that fill `azioni` when the menus and the bar are made of them.
+std::vector<Voce_Menu> Menu_Editor(Azioni_Editor& azioni);
+std::vector<Tasto_Barra> Barra_Editor(Azioni_Editor& azioni);
 
 /// A push button below a text.
 struct Pulsante {
@@ -26,18 +40,18 @@ inline constexpr std::array<const char*, 4> Pagine_Editor = {" Main", " Procedur
 inline constexpr int Pagina_Listato = 2;
 inline constexpr int Pagina_Nascosta = 3;
 
-inline constexpr std::array<Pulsante, 2> Pulsanti_Main = {{
-    {"CmdNet(0)", "Inserisci Network", 1515, "Ctrl+Return",
-     "Aggiunge un segmento in fondo al programma principale"},
-    {"cmdTest", "Finestra Test", 1155, "F9", "Mostra lo stato delle aree di memoria e delle righe"},
-}};
-
-inline constexpr std::array<Pulsante, 3> Pulsanti_Procedure = {{
-    {"CmdNet(1)", "Inserisci Network", 1515, "Ctrl+Return",
-     "Aggiunge un segmento in fondo alla procedura"},
-    {"cmdSub", "Inserisci SBR", 1155, "Ctrl+Shift+Return", "Aggiunge una procedura al progetto"},
-    {"cmdDelP", "Rimuovi SBR", 1155, "", "Toglie dal progetto la procedura scelta"},
-}};
+inline constexpr Pulsante Pulsante_Network_Main = {
+    "CmdNet(0)", "Inserisci Network", 1515, "Ctrl+Return",
+    "Aggiunge un segmento in fondo al programma principale"};
+inline constexpr Pulsante Pulsante_Test = {"cmdTest", "Finestra Test", 1155, "F9",
+                                           "Mostra lo stato delle aree di memoria e delle righe"};
+inline constexpr Pulsante Pulsante_Network_SBR = {"CmdNet(1)", "Inserisci Network", 1515,
+                                                  "Ctrl+Return",
+                                                  "Aggiunge un segmento in fondo alla procedura"};
+inline constexpr Pulsante Pulsante_Nuova_SBR = {
+    "cmdSub", "Inserisci SBR", 1155, "Ctrl+Shift+Return", "Aggiunge una procedura al progetto"};
+inline constexpr Pulsante Pulsante_Rimuovi_SBR = {"cmdDelP", "Rimuovi SBR", 1155, "",
+                                                  "Toglie dal progetto la procedura scelta"};
 
 /// Labels of the listing's page, each with the name of the label that shows its value.
 struct Etichetta_Valore {

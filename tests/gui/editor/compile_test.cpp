@@ -219,6 +219,50 @@ TEST_F(CompileWindow, MarksMoveWithTheirLines) {
   EXPECT_EQ(Linea_Del_Cursore(txtList()), 6);
 }
 
+// A compile rewrites nearly every line, and puts a title above a text without one.
+TEST_F(CompileWindow, MarksStayOnTheirLinesWhenTheRewritingIsTakenBack) {
+  Avvia(Avvio::Nuovo);
+  txtList().selectAll();
+  txtList().replaceSelectedText("ld i0.0\r\nxyz  1 //a\r\nmovw vw0,vw2\r\njmp 5\r\nhsc\r\nnot");
+  const std::string scritto = txtList().Byte();
+  Scegli("salvato.AWL");
+  Comanda("mnuPlcCompile");
+  const std::string formato = txtList().Byte();
+  ASSERT_NE(formato, scritto);
+  const auto segnati = [&] {
+    Lista testi;
+    for (int i = 0; i < txtList().lines(); ++i)
+      if (!txtList().annotation(i).isEmpty())
+        testi.push_back(Utf8(txtList().text(i).left(3).toUpper() + " " + txtList().annotation(i)));
+    return testi;
+  };
+  const Lista attesi = {"XYZ Istruzione non riconosciuta", "JMP Manca l'etichetta LBL 5",
+                        "HSC Istruzione non supportata"};
+  EXPECT_EQ(segnati(), attesi);
+  txtList().undo();
+  EXPECT_EQ(txtList().Byte(), scritto);
+  EXPECT_EQ(segnati(), attesi);
+  txtList().redo();
+  EXPECT_EQ(txtList().Byte(), formato);
+  EXPECT_EQ(segnati(), attesi);
+}
+
+TEST_F(CompileWindow, FaultsOfTheLinkPassesHaveTheirLineInTextAndListing) {
+  Avvia_Con(Blocco_Main({"NETWORK 1", "JMP 5", "NOT"}) + Blocco_SBR(0, {"CALL niente"}));
+  Comanda("mnuPlcCompile");
+  EXPECT_EQ(progetto.Compilato, -1);
+  EXPECT_TRUE(txtList().Ha_Avvertimento(2));
+  EXPECT_FALSE(txtList().Ha_Errore(2));
+  EXPECT_EQ(txtList().annotation(2), "Manca l'etichetta LBL 5");
+  EXPECT_EQ(txtLst().annotation(1), "Manca l'etichetta LBL 5");
+  EXPECT_FALSE(txtLst().text().contains("Manca"));
+  Doppio_Clic_Sul_Listato(1);
+  EXPECT_EQ(Linea_Del_Cursore(txtList()), 2);
+  Doppio_Clic_Sul_Listato(5);
+  EXPECT_TRUE(txtP().Ha_Avvertimento(1));
+  EXPECT_EQ(Linea_Del_Cursore(txtP()), 1);
+}
+
 TEST_F(CompileWindow, TheNextCompileReplacesTheMarks) {
   Avvia_Con(guasto);
   Comanda("mnuPlcCompile");

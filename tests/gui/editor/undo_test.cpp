@@ -288,4 +288,37 @@ TEST_F(Undo, ARemovedProcedureComesBackWithItsPlace) {
   EXPECT_EQ(progetto.Tab_SBR[1].Testo, prima);
 }
 
+// ---- texts that belong to no procedure ----------------------------------------------------------
+
+class Leftover : public Undo, public testing::WithParamInterface<const char*> {};
+
+TEST_P(Leftover, IsForReadingOnlyUntilATabIsChosen) {
+  Avvia_Con(due_procedure);
+  Comanda("mnuViewC(1)");
+  Clicca_Scheda(1);
+  const std::string testo = txtP().Byte();
+  EXPECT_FALSE(Trova<QLabel>("etSenza_SBR").isVisible());
+  Comanda(GetParam());  // the removal has no entry: its button is pressed
+  if (std::string(GetParam()) == "mnuViewC(1)") Premi("cmdDelP");
+  EXPECT_EQ(txtP().Byte(), testo);
+  EXPECT_TRUE(txtP().isReadOnly());
+  EXPECT_TRUE(Trova<QLabel>("etSenza_SBR").isVisible());
+  EXPECT_FALSE(Premibile("cmdDelP"));
+  EXPECT_FALSE(Premibile("CmdNet(1)"));
+  Batti_In_Fondo(txtP(), "x");
+  EXPECT_EQ(txtP().Byte(), testo);
+  if (progetto.Num_SBR == 0)
+    Premi("cmdSub");
+  else
+    Clicca_Scheda(0);
+  EXPECT_FALSE(txtP().isReadOnly());
+  EXPECT_FALSE(Trova<QLabel>("etSenza_SBR").isVisible());
+  EXPECT_TRUE(Premibile("cmdDelP"));
+  EXPECT_TRUE(Premibile("CmdNet(1)"));
+  Batti_In_Fondo(txtP(), "x");
+  EXPECT_EQ(progetto.Tab_SBR[1].Testo, txtP().Byte());
+}
+
+INSTANTIATE_TEST_SUITE_P(Causes, Leftover, testing::Values("mnuViewC(1)", "mnuFileNew"));
+
 }  // namespace tavorno::prova

@@ -272,4 +272,54 @@ TEST_F(TextFiles, LeavePathAndEditsOfTheProjectButTakeTheNextWrite) {
   EXPECT_TRUE(Leggi("dopo.AWL").starts_with("ORGANIZATION_BLOCK"));
 }
 
+// ---- encodings ----------------------------------------------------------------------------------
+
+struct Caso_Utf8 {
+  std::string nome;
+  std::string segno;
+  std::string perche;  ///< the word as the file has it
+  Risposta risposta;
+  int domande;
+  std::string letta;
+};
+
+class OpenedEncoding : public Banco_Progetto, public testing::WithParamInterface<Caso_Utf8> {};
+
+TEST_P(OpenedEncoding, IsThatOfTheFileOrAsked) {
+  const Caso_Utf8& caso = GetParam();
+  Scrivi("uno.AWL", caso.segno + File_Main({"//" + caso.perche, "NOT"}));
+  Scrivi("uno.TXT", caso.segno + "//" + caso.perche);
+  for (const bool importa : {false, true}) {
+    avvisi.clear();
+    risposte = {caso.risposta};
+    scelte = {importa ? "uno.TXT" : "uno.AWL"};
+    importa ? progetto.mnuFileTxtImp() : progetto.mnuFileOpen();
+    EXPECT_EQ(progetto.Err_Lettura, 0);
+    EXPECT_NE(progetto.txtList.find("//" + caso.letta), std::string::npos) << progetto.txtList;
+    ASSERT_EQ(static_cast<int>(avvisi.size()), caso.domande);
+    if (caso.domande == 0) continue;
+    EXPECT_EQ(avvisi[0].Scelte, Tasti::Si_No);
+    EXPECT_NE(avvisi[0].Testo.find("\"perché\", con No \"perchÃ©\""), std::string::npos)
+        << avvisi[0].Testo;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, OpenedEncoding,
+    testing::Values(Caso_Utf8{"CodePage", "", "perch\xE9", Risposta::Si, 0, "perch\xE9"},
+                    Caso_Utf8{"Utf8Mark", "\xEF\xBB\xBF", "perch\xC3\xA9", Risposta::No, 0,
+                              "perch\xE9"},
+                    Caso_Utf8{"TakenAsUtf8", "", "perch\xC3\xA9", Risposta::Si, 1, "perch\xE9"},
+                    Caso_Utf8{"LeftAsItIs", "", "perch\xC3\xA9", Risposta::No, 1, "perch\xC3\xA9"}),
+    [](const auto& caso) { return caso.param.nome; });
+
+TEST_F(EditorCommands, OpenTellsOfCharactersThatGetLost) {
+  Scrivi("uno.AWL", "\xEF\xBB\xBF" + File_Main({"//\xE2\x86\x92", "NOT"}));
+  scelte = {"uno.AWL"};
+  progetto.mnuFileOpen();
+  EXPECT_EQ(Testi_Avvisi(),
+            Lista{"Attenzione!: Caratteri che il programma non ha, e che diventano \"?\": 1."});
+  EXPECT_EQ(progetto.Err_Lettura, 0);
+}
+
 }  // namespace tavorno::prova

@@ -216,4 +216,43 @@ TEST_F(RoundTrip, OfCanonicalTextChangesNothingButTheLineAtTheEnd) {
   }
 }
 
+// ---- what a longer save left in the last line ---------------------------------------------------
+
+TEST_F(RoundTrip, ARemovedProcedureStaysAway) {
+  progetto.Scrivi_Main("//a\r\nCALL SBR_1");
+  progetto.New_Sub();
+  progetto.New_Sub();
+  Gira();
+  ASSERT_EQ(progetto.Num_SBR, 2);
+  progetto.Scegli_Procedura(2);
+  progetto.Remove_Sub();
+  const std::string byte = Gira();
+  EXPECT_TRUE(byte.ends_with("\r\nSUBROUTINE_BLOCK SBR_1:SBR1\r\n")) << byte;
+  EXPECT_EQ(progetto.Num_SBR, 1);
+  EXPECT_EQ(progetto.TabSP, Lista{"SBR_0"});
+  avvisi.clear();
+  progetto.Compila();
+  EXPECT_EQ(Testi_Avvisi().front(), "Errore!: Controllo Procedure con Errori!");
+}
+
+TEST_F(RoundTrip, AShorterMainHasOneMend) {
+  progetto.Scrivi_Main("//a\r\nNOT\r\nNOT\r\nNOT");
+  Gira();
+  progetto.Scrivi_Main("//a\r\nNOT\r\nNOT");
+  Gira();
+  progetto.Scrivi_Main("//a");
+  const std::string byte = Gira();
+  EXPECT_EQ(progetto.CPU.NRighe, 0) << byte;
+}
+
+TEST_F(RoundTrip, ANewProjectDoesNotInheritAProcedure) {
+  progetto.mnuFileNew(false);
+  progetto.New_Sub();
+  scelte = {"uno.AWL"};
+  progetto.mnuFileSave();
+  progetto.mnuFileNew(false);
+  Gira();
+  EXPECT_EQ(progetto.Num_SBR, 0);
+}
+
 }  // namespace tavorno::prova

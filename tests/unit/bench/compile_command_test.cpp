@@ -78,6 +78,14 @@ TEST_F(CompileCommand, GivesEveryDiagnosticAsJson) {
        "status": 1, "text": "JMP    5", "message": "Manca l'etichetta LBL 5"}])"));
 }
 
+TEST_F(CompileCommand, WarnsOfUtf8WithoutAMarkAndConvertsNothing) {
+  EXPECT_EQ(Comando({"compila", "--json", Progetto_Con({"NETWORK 1 //perch\xC3\xA9"})}), 0);
+  const auto json = nlohmann::json::parse(out);
+  EXPECT_EQ(json["boxes"][0]["text"],
+            "Il file sembra scritto in UTF-8 e viene letto com'è: \"perché\" diventa \"perchÃ©\".");
+  EXPECT_EQ(json["prog"][0]["Istr"], "NETWORK 1       //PERCHÃ©");
+}
+
 TEST_F(CompileCommand, WritesNamesOfTheCodePageAsUtf8) {
   EXPECT_EQ(Comando({"compila", "--json", Progetto_Con({"NETWORK 1 //perch\xE9"})}), 0);
   EXPECT_EQ(nlohmann::json::parse(out)["prog"][0]["Istr"], "NETWORK 1       //PERCHÉ");
