@@ -6,6 +6,26 @@
 
 namespace tavorno {
 
+// Beside the branches that call it: with its code known, it is a few machine instructions.
+void Memoria::Rit_Stak(Op_Ritorni codice, std::int16_t valore) {
+  const auto vecchi = Stak_Rit;
+  const auto vecchio = [&](int cella) { return cella == 8 ? std::int16_t{0} : vecchi[cella]; };
+  switch (codice) {
+    case Op_Ritorni::Azzera:
+      for (std::int16_t& cella : Stak_Rit) cella = 0;
+      break;
+    case Op_Ritorni::Spingi:
+      Stak_Rit[0] = valore;
+      for (int i = 1; i <= 7; ++i) Stak_Rit[i] = vecchio(i - 1);
+      break;
+    case Op_Ritorni::Togli_Due:
+      for (int i = 1; i <= 7; ++i) Stak_Rit[i - 1] = vecchio(i + 1);
+      break;
+    default:
+      break;
+  }
+}
+
 namespace {
 
 Esito Istr_MEND(Plc& plc, Riga_PLC& /*riga*/) {

@@ -120,7 +120,7 @@ TEST(RestProperty, ScansLeftOutChangeNothingThatCanBeSeen) {
   const Caso caso = [&](unsigned massimo) {
     return static_cast<unsigned>(generatore() % (std::uint64_t{massimo} + 1));
   };
-  const int programmi = quanti ? std::atoi(quanti) : 1500;
+  const int programmi = quanti ? std::atoi(quanti) : 10000;
   std::int64_t saltate = 0;
   std::int64_t scansioni = 0;
   int riposati = 0;
