@@ -60,8 +60,9 @@ std::string File_Schema(const Pagina_Esercizio& esercizio) {
 std::string Completa_Pagina(const std::string& pagina, const Pagina_Esercizio& esercizio) {
   const std::string schema =
       "<p><img src=\"" + File_Schema(esercizio) + "\" alt=\"Schema dei collegamenti al PLC\"></p>";
-  return Sostituisci(Sostituisci(pagina, segno_tabella, Tabella_IO(esercizio.Righe)), segno_schema,
-                     schema);
+  const std::string completa = Sostituisci(
+      Sostituisci(pagina, segno_tabella, Tabella_IO(esercizio.Righe)), segno_schema, schema);
+  return Sostituisci(completa, titolo_domande, esercizio.Controlli + titolo_domande);
 }
 
 void Scrivi_Guida(const fs::path& sorgente, const fs::path& destinazione,

@@ -14,13 +14,17 @@ struct Pagina_Esercizio {
   std::string Pagina;  ///< "US-00.htm"
   std::string Titolo;
   std::span<const Riga_IO> Righe;
+  std::string Controlli = {};  ///< the section of what its script asks for; may be empty
 };
 
 /// The lines of a page that are replaced.
 inline constexpr const char* segno_tabella = "<!-- TABELLA_IO -->";
 inline constexpr const char* segno_schema = "<!-- SCHEMA -->";
+/// The heading that the section of the demands comes before.
+inline constexpr const char* titolo_domande = "<h2>Domande</h2>";
 
-/// The page with its table and a reference to its diagram in the place of the two lines.
+/// The page with its table and a reference to its diagram in the place of the two lines, and with
+/// what its script asks for before the questions.
 std::string Completa_Pagina(const std::string& pagina, const Pagina_Esercizio& esercizio);
 
 /// The file of an exercise's diagram below "Panel/": "pictures/US-00-schema.svg".
