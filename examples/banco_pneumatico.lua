@@ -8,8 +8,8 @@ usa("comandi.lua")
 -- l'ingresso di SA; banco.hl1 aria, banco.hl2 automatico; banco.tempo: il tempo massimo in ms;
 -- banco.velocita: i regolatori al massimo; banco.emergenze: il passo in cui scatta l'emergenza nel ciclo
 -- singolo e nell'automatico. Facoltativi: banco.pausa, fra il primo e il secondo passo;
--- banco.partenza, se la pagina chiede le condizioni di partenza; banco.fuori_a_mano: pulsante che fa uscire
--- un cilindro; banco.lampade: { in_corso =, a_riposo =, ritorno =, emergenza = } con le uscite che ci sono.
+-- banco.partenza, se la pagina chiede le condizioni di partenza; banco.fuori_a: pulsante che fa uscire A;
+-- banco.fuori_a_mano: quelli che fanno uscire gli altri; banco.lampade: { in_corso =, a_riposo =, ritorno =, emergenza = } con le uscite che ci sono.
 function prove_del_banco(banco)
   local sequenza, finecorsa, aria = banco.sequenza, banco.finecorsa, banco.aria
   local lampade = banco.lampade or {}
@@ -32,17 +32,20 @@ function prove_del_banco(banco)
     return true
   end
 
-  -- Nessun pistone si sposta in questo tempo.
-  local function immobili(ms)
+  -- Una domanda: i pistoni sono ancora dov'erano quando è stata preparata?
+  local function posizione_tenuta()
     local dove = {}
     for n, pistone in ipairs(banco.pistoni) do dove[n] = elemento(pistone).Left end
-    return sempre(ms, function()
+    return function()
       for n, pistone in ipairs(banco.pistoni) do
         if elemento(pistone).Left ~= dove[n] then return false end
       end
       return true
-    end)
+    end
   end
+
+  -- Nessun pistone si sposta in questo tempo.
+  local function immobili(ms) return sempre(ms, posizione_tenuta()) end
 
   -- I movimenti nell'ordine in cui arrivano al fine corsa; si ferma dopo "massimo" movimenti.
   local function osserva(ms, massimo)
@@ -145,15 +148,15 @@ function prove_del_banco(banco)
       clic("ImgEm")
       attendi(200)
       chiedi(1, leggi(aria) == 0, "premuto SB5 l'aria (0Y1) va via entro 2 decimi di secondo")
+      local ancora_li = posizione_tenuta()
       local fermi = immobili(1000)
-      premi_per("imgSB4", 300)
-      premi_per("imgSB2", 300)
-      fermi = immobili(500) and fermi
-      chiedi(1, fermi and leggi(aria) == 0, "con SB5 premuto niente si muove, nemmeno con SB2 e SB4")
+      for _, comando in ipairs { "imgSB4", "imgSB2", "imgSB1" } do premi_per(comando, 300) end
+      fermi = immobili(500) and fermi and ancora_li()
+      chiedi(1, fermi and leggi(aria) == 0, "con SB5 premuto niente si muove, nemmeno con SB1, SB2 e SB4")
       clic("ImgEm")
       fermi = immobili(3000)
       premi_per("imgSB2", 300)
-      chiedi(1, immobili(1500) and fermi, "liberato SB5 niente si muove finché non si preme SB4")
+      chiedi(1, immobili(1500) and fermi and ancora_li(), "liberato SB5 niente si muove finché non si preme SB4")
       chiedi(1, ripristina(), "dopo l'emergenza SB4 riporta i cilindri a riposo")
       chiedi(1, immobili(4000) and a_riposo(), "tornati i cilindri a riposo il ciclo non ricomincia da solo")
     end
@@ -282,24 +285,47 @@ function prove_del_banco(banco)
     attendi(200)
     rilascia("imgSB2")
     serve(in_corsa(1), "premuto SB2 il ciclo comincia")
-    -- Una mano tiene la valvola di A sul rientro: il ciclo non può andare avanti.
-    local passati = 200
-    while leggi(aria) == 1 and passati < banco.tempo + 5000 do
-      premi("cmdV1b")
-      attendi(50)
-      rilascia("cmdV1b")
-      attendi(50)
-      passati = passati + 100
+    -- Una mano tiene la valvola di A sul rientro: il ciclo non può andare avanti. Dice quanto è passato, in ms.
+    local function trattieni(pulsante, passati)
+      while leggi(aria) == 1 and passati < banco.tempo + 5000 do
+        premi(pulsante)
+        attendi(50)
+        rilascia(pulsante)
+        attendi(50)
+        passati = passati + 100
+      end
+      return passati
     end
+    local function giusto(passati) return passati >= banco.tempo - 1000 and passati <= banco.tempo + 1500 end
+    local passati = trattieni("cmdV1b", 200)
     serve(leggi(aria) == 0, "se il ciclo non finisce nel tempo massimo l'aria va via, come in emergenza")
-    punti(3, passati >= banco.tempo - 1000 and passati <= banco.tempo + 1500,
+    punti(2, giusto(passati),
           ("il tempo massimo del ciclo è di %d secondi (uno in meno o uno e mezzo in più)"):format(banco.tempo // 1000))
     local fermi = immobili(3000)
     premi_per("imgSB2", 300)
     punti(1, immobili(1000) and fermi and leggi(aria) == 0, "passato il tempo massimo niente si muove finché non si preme SB4")
     serve(ripristina(), "SB4 riporta i cilindri a riposo")
     attendi(500)
-    punti(2, ciclo_singolo(), "dopo SB4 il ciclo riparte con SB2")
+    punti(1, ciclo_singolo(), "dopo SB4 il ciclo riparte con SB2")
+    attendi(1000)
+    -- E adesso A non può rientrare: il tempo è quello di tutto il ciclo, non di un passo.
+    local trascorsi = 0
+    premi("imgSB2")
+    for passo = 1, #sequenza - 1 do
+      while trascorsi < 40000 do
+        local tutti = true
+        for _, movimento in ipairs(sequenza[passo]) do tutti = tutti and arrivato(movimento) end
+        if tutti then break end
+        attendi(10)
+        trascorsi = trascorsi + 10
+      end
+    end
+    rilascia("imgSB2")
+    while arrivato("A+") and trascorsi < 40000 do
+      attendi(10)
+      trascorsi = trascorsi + 10
+    end
+    punti(2, giusto(trattieni(banco.fuori_a, trascorsi)), "il tempo massimo vale anche nell'ultimo passo, e conta dall'inizio del ciclo")
   end)
 
   prova("emergenza nel ciclo singolo", 5, function()
@@ -340,13 +366,16 @@ function prove_del_banco(banco)
       con_aria()
       local senza_aria
       partenza_senza_aria(function(_, condizione) senza_aria = condizione end)
-      premi_per(banco.fuori_a_mano, 100)
-      attendi(4000)
-      serve(not a_riposo(), "un cilindro è stato mosso a mano")
-      premi_per("imgSB2", 200)
-      local fermi = immobili(3000)
-      serve(ripristina(), "SB4 riporta i cilindri a riposo")
-      attendi(500)
+      local fermi = true
+      for _, pulsante in ipairs(banco.fuori_a_mano) do
+        premi_per(pulsante, 100)
+        attendi(4000)
+        serve(not a_riposo(), "un cilindro è stato mosso a mano")
+        premi_per("imgSB2", 200)
+        fermi = immobili(3000) and fermi
+        serve(ripristina(), "SB4 riporta i cilindri a riposo")
+        attendi(500)
+      end
       serve(ciclo_singolo(), "con i cilindri a riposo e l'aria SB2 avvia il ciclo")
       punti(1, fermi, "con un cilindro fuori SB2 non avvia il ciclo")
       punti(1, senza_aria, "uno SB2 premuto senza aria non conta: quando l'aria arriva niente si muove")
@@ -376,7 +405,15 @@ function prove_del_banco(banco)
       con_aria()
       local prima, durante, dopo = {}, {}, {}
       for quale, punto in pairs(lampade) do prima[quale] = spenta(punto) end
-      if lampade.a_riposo then prima.a_riposo = fissa(lampade.a_riposo) end
+      if lampade.a_riposo then
+        prima.a_riposo = fissa(lampade.a_riposo)
+        for _, pulsante in ipairs(banco.fuori_a_mano) do
+          premi_per(pulsante, 100)
+          attendi(4000)
+          prima.a_riposo = not acceso(lampade.a_riposo) and prima.a_riposo
+          serve(ripristina(), "SB4 riporta i cilindri mossi a mano")
+        end
+      end
       premi_per("imgSB2", 200)
       serve(in_corsa(1), "premuto SB2 il ciclo comincia")
       attendi(200)

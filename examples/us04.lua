@@ -7,6 +7,7 @@ prove_del_banco {
   sequenza = { { "A+" }, { "A-" } },
   pausa = true,
   finecorsa = { ["A-"] = "I0.1", ["A+"] = "I0.2" },
+  fuori_a = "CmdV1a",
   emergenze = { 1, 2 },
   pistoni = { "imgPA" },
   selettore = "I0.0",

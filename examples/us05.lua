@@ -17,6 +17,7 @@ prove_del_banco {
     ["B-"] = "I0.6", ["B+"] = "I0.7",
   },
   aria = "Q0.0",
+  fuori_a = "CmdV1a",
   emergenze = { 2, 3 },
   pistoni = { "imgPA", "imgP2" },
   selettore = "I0.0",

@@ -20,6 +20,7 @@ prove_del_banco {
     ["C-"] = "I0.4", ["C+"] = "I0.5",
   },
   aria = "Q0.0",
+  fuori_a = "CmdV1a",
   emergenze = { 2, 4 },
   pistoni = { "imgV1", "imgV2", "imgV3" },
   selettore = "I0.6",
@@ -29,6 +30,6 @@ prove_del_banco {
   nome_a_riposo = "HL4",
   tempo = 15000,
   partenza = true,
-  fuori_a_mano = "cmdV2a",
+  fuori_a_mano = { "cmdV2a", "cmdV3a" },
   velocita = { { "ME_Speed", 10 } },
 }

@@ -21,6 +21,8 @@ prove_del_banco {
     ["D-"] = "I0.6", ["D+"] = "I0.7",
   },
   aria = "Q1.0",
+  fuori_a = "CmdV1a",
+  fuori_a_mano = { "cmdV2a", "cmdV3a", "cmdV4a" },
   emergenze = { 3, 5 },
   insieme = {
     { passo = 3, contro = "cmdV3b", avanti = "cmdV3a" },
