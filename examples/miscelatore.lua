@@ -1,12 +1,57 @@
--- Sguardi sui miscelatori di due liquidi (US-10 e US-12); si prendono con usa("miscelatore.lua").
+-- Comandi e sguardi sui miscelatori (US-10, US-12 e US-13); si prendono con usa("miscelatore.lua").
 
+function acceso(punto) return leggi(punto) == 1 end
 function litri() return tonumber(elemento("etcap").Caption) end
+
+function premi_per(pulsante, ms)
+  premi(pulsante)
+  attendi(ms)
+  rilascia(pulsante)
+  attendi(100)
+end
+
+function gira(selettore)
+  clic(selettore)
+  attendi(200)
+end
+
+-- Tutti accesi, tutti spenti: anche pompa e valvola di una linea, che lavorano soltanto insieme.
+function accesi(uscite)
+  for _, uscita in ipairs(uscite) do
+    if not acceso(uscita) then return false end
+  end
+  return true
+end
+function spenti(uscite)
+  for _, uscita in ipairs(uscite) do
+    if acceso(uscita) then return false end
+  end
+  return true
+end
+
+-- Tutte le lampade in un momento: per ognuna "1" accesa, "0" spenta, "." non importa.
+function lampade(uscite, attese)
+  for n, uscita in ipairs(uscite) do
+    local attesa = attese:sub(n, n)
+    if attesa ~= "." and leggi(uscita) ~= tonumber(attesa) then return false end
+  end
+  return true
+end
+
+-- Accesa in qualche momento dei prossimi due secondi, anche se lampeggia.
+function si_accende(punto)
+  return attendi_fino(function() return acceso(punto) end, 2000)
+end
 
 -- Guarda la ricetta fino alla fine dello scarico, e chiama "anche" a ogni scansione. I litri sono quelli
 -- dei contatori del disegno, che ripartono da zero a ogni inizio del flusso.
 function osserva_ricetta(ms, scarica, agita, anche)
   local visto = { litri = { 0, 0 }, agitato = 0 }
-  local prima = { 0, 0 }
+  local prima = {}
+  for n = 1, 2 do
+    local adesso = tonumber(elemento("EtP(" .. n - 1 .. ")").Caption)
+    prima[n] = adesso > 2 and adesso or 0  -- il conto di una ricetta di prima non vale
+  end
   visto.finita = attendi_fino(function()
     for n = 1, 2 do
       local adesso = tonumber(elemento("EtP(" .. n - 1 .. ")").Caption)
@@ -21,14 +66,10 @@ function osserva_ricetta(ms, scarica, agita, anche)
   return visto
 end
 
-function punti_per_i_litri(visto, ...)
+function punti_per_i_litri(n_punti, visto, ...)
   for n, chiesti in ipairs { ... } do
-    punti(4, math.abs(visto.litri[n] - chiesti) <= 1,
-          "si devono caricare " .. chiesti .. " litri di prodotto " .. n .. ", non " .. visto.litri[n])
+    punti(n_punti, math.abs(visto.litri[n] - chiesti) <= 1,
+          "si devono caricare " .. chiesti .. " litri di prodotto " .. n .. " (uno in più o in meno)")
   end
-end
-
-function punti_per_il_troppo_pieno()
-  punti(3, litri() >= 100 and litri() <= 163,
-        "il carico deve arrivare in alto e fermarsi prima di traboccare, non a " .. litri() .. " litri")
+  print("litri caricati: " .. visto.litri[1] .. " e " .. visto.litri[2])
 end

@@ -1,9 +1,11 @@
 -- US-16, semaforo pedonale a chiamata. Da avviare con --impianto 16.
 -- Pedoni: rossa Q0.0, verde Q0.1. Veicoli: rossa Q0.2, gialla Q0.3, verde Q0.4. Chiamate: SB2 I0.0,
 -- SB1 I0.1.
--- Ciclo chiesto: verde ai veicoli (almeno 5 s) finché un pedone non chiama, giallo (da 2 a 6 s),
--- tutto rosso (almeno 1 s), verde ai pedoni (da 4 a 30 s), tutto rosso, verde ai veicoli. Il verde
--- dei pedoni può lampeggiare. Dalla chiamata al verde dei pedoni non deve passare più di un minuto.
+-- I tempi chiesti si cambiano qui, in millisecondi. Il verde dei pedoni può lampeggiare.
+local verde_minimo, giallo, primo_rosso, verde_pedoni, secondo_rosso = 10000, 3000, 2000, 8000, 3000
+local tolleranza = 500
+
+usa("sicurezza.lua")
 
 local un_minuto = 60000
 local ciclo_atteso = "verde veicoli, giallo, tutto rosso, verde pedoni, tutto rosso, verde veicoli"
@@ -17,14 +19,8 @@ local function fase_adesso()
   if accesa("Q0.2") then return "tutto rosso" end
 end
 
--- Le lampade che non vanno insieme, da sole o con le altre.
-local function lampade_errate()
-  local veicoli = leggi("Q0.2") + leggi("Q0.3") + leggi("Q0.4")
-  return veicoli ~= 1 or (accesa("Q0.0") and accesa("Q0.1")) or (not accesa("Q0.2") and not accesa("Q0.0"))
-end
-
 local function nuova_osservazione()
-  return { fasi = {}, ora = 0, da = 0, conflitto = false, errate = 0 }
+  return { fasi = {}, ora = 0, da = 0, veicoli = 0, pedoni = 0 }
 end
 
 -- Aggiunge la fase che comincia adesso. Il verde dei pedoni che lampeggia resta una fase sola.
@@ -40,15 +36,27 @@ local function nuova_fase(o)
 end
 
 local function segna(o)
-  local lampade = leggi("QB0")
+  local lampade = leggi("QB0") & 31
   o.ora = o.ora + 1
   if lampade ~= o.lampade then
-    -- Un cambio di lampade può durare qualche scansione.
-    if o.errata and o.ora - o.da > 50 then o.errate = o.errate + 1 end
-    o.lampade, o.da, o.errata = lampade, o.ora, lampade_errate()
-    if accesa("Q0.1") and (accesa("Q0.4") or accesa("Q0.3") or not accesa("Q0.2")) then o.conflitto = true end
+    o.lampade, o.da = lampade, o.ora
+    local rosso, altre = lampade & 4 ~= 0, lampade & 24 ~= 0
+    if accesa("Q0.1") and (altre or not rosso) then
+      pericolo("con il verde ai pedoni i veicoli devono avere il rosso e nient'altro")
+    end
     nuova_fase(o)
   end
+  -- Un cambio di lampade può durare qualche scansione.
+  if o.ora - o.da == 50 then
+    if (lampade >> 2 & 1) + (lampade >> 3 & 1) + (lampade >> 4 & 1) ~= 1 then o.veicoli = o.veicoli + 1 end
+    local pedoni_al_verde = #o.fasi > 0 and o.fasi[#o.fasi].nome == "verde pedoni"
+    local rossa, verde = lampade & 1 ~= 0, lampade & 2 ~= 0
+    if rossa and verde or not rossa and not verde and not pedoni_al_verde and lampade & 4 == 0 then
+      o.pedoni = o.pedoni + 1
+    end
+  end
+  -- Il verde che lampeggia è spento al massimo per un secondo; il resto del tempo una luce c'è.
+  if lampade & 3 == 0 and o.ora - o.da == 1100 then o.pedoni = o.pedoni + 1 end
   if #o.fasi > 0 then o.fasi[#o.fasi].fine = o.ora end
 end
 
@@ -92,100 +100,135 @@ local function chiama(o, pulsante, ms)
 end
 
 local function verde_ai_pedoni() return accesa("Q0.1") end
+local function giallo_ai_veicoli() return accesa("Q0.3") end
 local function verde_ai_veicoli() return accesa("Q0.4") end
 
-prova("senza chiamate", function()
+-- Verde ai veicoli da più del verde minimo, e nessuna chiamata.
+local function a_riposo()
   run()
   attendi(20000)
+  return serve(leggi("QB0") & 31 == 17, "senza prenotazioni i veicoli devono avere il verde e i pedoni il rosso")
+end
+
+local function giusto(misurata, chiesta)
+  return misurata >= chiesta - tolleranza and misurata <= chiesta + tolleranza
+end
+local function secondi(ms) return string.format("%g", ms / 1000):gsub("%.", ",") .. " secondi" end
+local function circa(ms) return secondi(ms) .. " (mezzo secondo in più o in meno)" end
+
+prova("senza prenotazioni", 2, function()
+  a_riposo()
   local o = nuova_osservazione()
   osserva(o, 40000)
-  punti(1, in_riga(o) == "verde veicoli" and accesa("Q0.0"),
-        "senza chiamate i veicoli devono avere sempre il verde e i pedoni il rosso")
+  punti(2, in_riga(o) == "verde veicoli" and o.veicoli == 0 and accesa("Q0.0"),
+        "senza prenotazioni i veicoli devono avere sempre il verde e i pedoni il rosso")
 end)
 
 for _, pulsante in ipairs { "imgSB(0)", "imgSB(1)" } do
   local nome = pulsante == "imgSB(0)" and "SB2" or "SB1"
-  prova("chiamata con " .. nome, function()
-    run()
-    attendi(20000)
+  prova("prenotazione con " .. nome, 11, function()
+    local fermo = a_riposo()
     local o = nuova_osservazione()
     osserva(o, 100)
     chiama(o, pulsante, 200)
-    punti(2, osserva(o, un_minuto, verde_ai_pedoni), "premuto " .. nome .. " i pedoni devono avere il verde")
+    serve(osserva(o, 2000, giallo_ai_veicoli), "con il verde minimo già passato " .. nome .. " deve dare il giallo entro 2 secondi")
+    punti(1, giallo_ai_veicoli(), "con il verde minimo già passato " .. nome .. " deve dare il giallo entro 2 secondi")
+    serve(osserva(o, un_minuto, verde_ai_pedoni), "premuto " .. nome .. " i pedoni devono avere il verde")
     osserva(o, un_minuto)
-    punti(2, in_riga(o) == ciclo_atteso, "il ciclo deve essere " .. ciclo_atteso .. ", non " .. in_riga(o))
-    punti(1, o.errate == 0 and not o.errata,
-          "deve essere accesa sempre una lampada sola per i veicoli, e la rossa dei pedoni finché i veicoli non hanno il rosso")
-    verifica(not o.conflitto, "con il verde ai pedoni i veicoli devono avere il rosso e nient'altro")
-    local giallo, pedoni = durata(o, "giallo", 1), durata(o, "verde pedoni", 1)
+    local ciclo = in_riga(o) == ciclo_atteso
+    if not ciclo then print("visto: " .. in_riga(o)) end
+    punti(2, ciclo, "il ciclo deve essere " .. ciclo_atteso)
+    punti(1, ciclo and o.veicoli == 0, "per i veicoli deve essere accesa sempre una lampada, e una sola")
+    punti(1, ciclo and o.pedoni == 0, "per i pedoni deve essere accesa sempre una lampada, e una sola (il verde può lampeggiare)")
+    local g, p = durata(o, "giallo", 1), durata(o, "verde pedoni", 1)
     local prima, dopo = durata(o, "tutto rosso", 1), durata(o, "tutto rosso", 2)
-    punti(0.5, giallo >= 2000 and giallo <= 6000, "il giallo deve durare da 2 a 6 secondi, non " .. giallo .. " ms")
-    punti(0.5, prima >= 900, "prima del verde ai pedoni ci vuole un secondo di tutto rosso, non " .. prima .. " ms")
-    punti(0.5, pedoni >= 4000 and pedoni <= 30000,
-          "il verde ai pedoni deve durare da 4 a 30 secondi, non " .. pedoni .. " ms")
-    punti(0.5, dopo >= 900, "dopo il verde ai pedoni ci vuole un secondo di tutto rosso, non " .. dopo .. " ms")
+    print("giallo " .. g .. " ms, tutto rosso " .. prima .. ", verde ai pedoni " .. p .. ", tutto rosso " .. dopo)
+    local provato = fermo and p > 0
+    if provato and (g < 2000 or prima < 1000 or dopo < 1000) then
+      pericolo("il giallo e i due «tutto rosso» non possono mancare né essere molto più corti")
+    end
+    punti(1.5, provato and giusto(g, giallo), "il giallo deve durare " .. circa(giallo))
+    punti(1.5, provato and giusto(prima, primo_rosso), "prima del verde ai pedoni il tutto rosso deve durare " .. circa(primo_rosso))
+    punti(1.5, provato and giusto(p, verde_pedoni), "il verde ai pedoni deve durare " .. circa(verde_pedoni))
+    punti(1.5, provato and giusto(dopo, secondo_rosso), "dopo il verde ai pedoni il tutto rosso deve durare " .. circa(secondo_rosso))
   end)
 end
 
-prova("chiamata appena tornato il verde ai veicoli", function()
-  run()
-  attendi(20000)
+prova("memoria e verde minimo", 4, function()
+  a_riposo()
   local o = nuova_osservazione()
   chiama(o, "imgSB(0)", 200)
   osserva(o, un_minuto, verde_ai_pedoni)
-  osserva(o, un_minuto, verde_ai_veicoli)
+  serve(verde_ai_pedoni(), "premuto SB2 i pedoni devono avere il verde")
+  serve(osserva(o, un_minuto, verde_ai_veicoli), "dopo i pedoni i veicoli devono avere di nuovo il verde")
   local verde = nuova_osservazione()
   osserva(verde, 300)
   chiama(verde, "imgSB(1)", 100)
-  punti(1, osserva(verde, un_minuto, verde_ai_pedoni), "la chiamata deve restare in memoria fino al verde dei pedoni")
+  punti(2, osserva(verde, un_minuto, verde_ai_pedoni),
+        "una prenotazione breve durante il verde minimo deve restare in memoria fino al verde dei pedoni")
   local ms = durata(verde, "verde veicoli", 1)
-  punti(1, ms >= 5000, "il verde ai veicoli deve durare almeno 5 secondi, non " .. ms .. " ms")
+  print("verde ai veicoli " .. ms .. " ms")
+  punti(2, ms >= verde_minimo - 200 and ms <= verde_minimo + 2000,
+        "con una prenotazione il verde ai veicoli deve durare " .. secondi(verde_minimo) .. " (fino a 2 in più)")
 end)
 
-prova("pulsante incastrato", function()
-  run()
-  attendi(20000)
+prova("prenotazione durante lo sgombero", 1, function()
+  a_riposo()
+  local o = nuova_osservazione()
+  chiama(o, "imgSB(0)", 200)
+  osserva(o, un_minuto, verde_ai_pedoni)
+  serve(osserva(o, un_minuto, function() return #o.fasi > 0 and o.fasi[#o.fasi].nome == "tutto rosso" and lunga(o.fasi[#o.fasi]) > 1500 end)
+        and not verde_ai_pedoni(), "dopo il verde dei pedoni ci vuole il tutto rosso")
+  chiama(o, "imgSB(1)", 200)
+  osserva(o, un_minuto, verde_ai_veicoli)
+  punti(1, osserva(o, un_minuto, verde_ai_pedoni), "una prenotazione nel tutto rosso dopo i pedoni deve valere per il giro seguente")
+end)
+
+prova("pulsante incastrato", 2, function()
+  a_riposo()
   premi("imgSB(0)")
   local o, breve = nuova_osservazione(), false
   osserva(o, 2 * un_minuto)
   for n = 2, #o.fasi - 1 do
     local fase = o.fasi[n]
-    if fase.nome == "verde veicoli" and lunga(fase) < 5000 then breve = true end
+    if fase.nome == "verde veicoli" and lunga(fase) < verde_minimo - 200 then breve = true end
   end
-  local servito = verifica(quante(o, "verde pedoni") > 0, "con un pulsante incastrato i pedoni devono avere il verde")
-  punti(1, servito and not breve, "anche con un pulsante incastrato i veicoli devono avere almeno 5 secondi di verde")
-  verifica(not o.conflitto, "con il verde ai pedoni i veicoli devono avere il rosso e nient'altro")
+  serve(quante(o, "verde pedoni") > 1, "con un pulsante incastrato i pedoni devono avere il verde a ogni giro")
+  punti(2, not breve, "anche con un pulsante incastrato i veicoli devono avere il loro verde minimo")
 end)
 
-prova("una chiamata dopo l'altra", function()
-  run()
-  attendi(20000)
+prova("più prenotazioni", 3, function()
+  a_riposo()
   local o = nuova_osservazione()
   chiama(o, "imgSB(0)", 200)
   chiama(o, "imgSB(1)", 200)
-  osserva(o, un_minuto, function() return accesa("Q0.3") end)
+  serve(osserva(o, 5000, giallo_ai_veicoli), "premuto un pulsante i veicoli devono avere il giallo")
   osserva(o, 500)
   chiama(o, "imgSB(0)", 200)
   osserva(o, 90000)
-  punti(1, quante(o, "verde pedoni") == 1, "più chiamate prima dello stesso verde devono valere una sola")
+  punti(3, quante(o, "verde pedoni") == 1 and verde_ai_veicoli(),
+        "più prenotazioni prima dello stesso verde devono valere una sola, e il verde dei pedoni le cancella")
 end)
 
-prova("fermata della CPU durante il verde ai pedoni", function()
-  run()
-  attendi(20000)
+prova("STOP e RUN durante il verde ai pedoni", 2, function()
+  a_riposo()
   local o = nuova_osservazione()
   chiama(o, "imgSB(0)", 200)
-  osserva(o, un_minuto, verde_ai_pedoni)
+  serve(osserva(o, un_minuto, verde_ai_pedoni), "premuto SB2 i pedoni devono avere il verde")
   osserva(o, 1000)
   stop()
   attendi(5000)
   run()
   o = nuova_osservazione()
-  osserva(o, un_minuto)
-  verifica(not o.conflitto, "con il verde ai pedoni i veicoli devono avere il rosso e nient'altro")
-  osserva(o, un_minuto, verde_ai_veicoli)
-  local riprende = verde_ai_veicoli()
+  osserva(o, 40000)
+  serve(verde_ai_veicoli(), "dopo STOP e RUN i veicoli devono riavere il verde entro 40 secondi")
   chiama(o, "imgSB(1)", 200)
-  punti(1, riprende and osserva(o, un_minuto, verde_ai_pedoni),
-        "dopo una fermata della CPU il semaforo deve riprendere a funzionare")
+  punti(2, osserva(o, un_minuto, verde_ai_pedoni), "dopo STOP e RUN il semaforo deve riprendere a funzionare")
 end)
+
+prova_di_sicurezza(29, function()
+  a_riposo()
+  local o = nuova_osservazione()
+  chiama(o, "imgSB(0)", 200)
+  return osserva(o, un_minuto, verde_ai_pedoni) and (osserva(o, un_minuto, verde_ai_veicoli))
+end, "dopo una prenotazione i pedoni devono avere il verde, e poi i veicoli")
