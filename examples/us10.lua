@@ -1,90 +1,104 @@
 -- US-10, miscelatore di due liquidi con controllo di temperatura. Da avviare con --impianto 10.
 -- SA1 automatico, SB1 start, SB2 stop; in manuale SA2 prodotto 1, SA3 prodotto 2, SA4 scarico, SA5
 -- agitatore e vapore. Il prodotto scorre solo con pompa e valvola insieme.
--- La ricetta chiesta si cambia qui. Lo script accetta un litro in più o in meno, un programma che
--- mescola mentre scalda e uno che dopo lo scarico ricomincia da solo.
+-- La ricetta chiesta si cambia qui.
 local litri_1, litri_2 = 30, 20
 local mescola = 10000  -- ms
 
-usa("comandi.lua")
 usa("miscelatore.lua")
+usa("sicurezza.lua")
 
 local sa1, start, stop_auto = "imgCom(0)", "imgSB(0)", "imgSB(1)"
 local mandata_1, mandata_2, scarico = { "Q0.0", "Q0.5" }, { "Q0.1", "Q0.6" }, { "Q0.2", "Q0.7" }
 local vapore, agitatore = "Q0.3", "Q0.4"
+local comandi = { "Q0.0", "Q0.1", "Q0.2", "Q0.3", "Q0.4", "Q0.5", "Q0.6", "Q0.7" }
+local hl = { "Q1.0", "Q1.1", "Q1.2", "Q1.3", "Q1.4", "Q1.5", "Q1.6", "Q1.7" }  -- da HL1 a HL8
 
-local function scorre(linea) return acceso(linea[1]) and acceso(linea[2]) end
-local function tutto_fermo()
-  for bit = 0, 7 do
-    if acceso("Q0." .. bit) then return false end
-  end
-  return true
-end
+local function tutto_fermo() return spenti(comandi) end
 local function gradi() return tonumber(elemento("etT").Caption) end
 
+local function in_manuale()
+  run()
+  attendi(1000)
+  return serve(tutto_fermo(), "senza comandi pompe, valvole e agitatore devono stare fermi")
+end
+
+-- SA1 in automatico e Start: il carico comincia.
 local function in_automatico(temperatura)
   regola("UpDown1", temperatura)
-  run()
-  attendi(200)
+  in_manuale()
   gira(sa1)
+  serve(tutto_fermo(), "con SA1 in automatico si deve aspettare Start")
   premi_per(start, 300)
+  return serve(accesi(mandata_1), "in automatico, a serbatoio vuoto, Start deve cominciare il carico del prodotto 1")
 end
 
 local function osserva(ms)
-  return osserva_ricetta(ms, function() return scorre(scarico) end, function() return acceso(agitatore) end, function(visto)
-    visto.vapore = visto.vapore or acceso(vapore)
+  local insieme = 0
+  return osserva_ricetta(ms, function() return accesi(scarico) end, function() return acceso(agitatore) end, function(visto)
+    if acceso(vapore) then
+      visto.vapore = visto.vapore or 0
+      visto.vapore = visto.vapore + 1
+      if not acceso(agitatore) then visto.senza_agitatore = true end
+      if visto.litri[2] < litri_2 - 1 then visto.presto = true end
+    end
+    if visto.dopo or visto.vapore and acceso("I0.7") then visto.dopo = (visto.dopo or 0) + 1 end
+    if accesi(mandata_1) and accesi(mandata_2) then insieme = insieme + 1 end
+    visto.insieme = insieme > 100
     visto.gradi = gradi()
     visto.gradi_massimi = math.max(visto.gradi_massimi or 0, visto.gradi)
   end)
 end
 
-prova("a riposo", function()
-  in_manuale()
-  attendi(3000)
-  punti(2, tutto_fermo(), "senza comandi pompe, valvole e agitatore devono stare fermi")
-end)
+for _, operazione in ipairs {
+  { nome = "SA2 deve caricare il prodotto 1 (pompa e valvola)", selettore = "imgCom(1)", uscite = mandata_1, di = 1 },
+  { nome = "SA3 deve caricare il prodotto 2 (pompa e valvola)", selettore = "imgCom(2)", uscite = mandata_2, di = 1 },
+  { nome = "SA4 deve scaricare (pompa e valvola)", selettore = "imgCom(3)", uscite = scarico, di = -1 },
+  { nome = "SA5 deve comandare agitatore e vapore", selettore = "imgCom(4)", uscite = { agitatore, vapore }, di = 0 },
+} do
+  prova("manuale: " .. operazione.nome:sub(1, 3), 4, function()
+    in_manuale()
+    if operazione.di == -1 then
+      gira("imgCom(1)")
+      attendi(8000)
+      gira("imgCom(1)")
+      serve(litri() > 5, "in manuale SA2 deve caricare il prodotto 1")
+    end
+    local prima = litri()
+    gira(operazione.selettore)
+    attendi(4000)
+    local va = accesi(operazione.uscite) and (operazione.di == 0 or (litri() - prima) * operazione.di >= 3)
+    serve(va, "in manuale (SA1 a 0) " .. operazione.nome)
+    punti(2, va, "in manuale (SA1 a 0) " .. operazione.nome)
+    local altre = 0
+    for _, uscita in ipairs(comandi) do if acceso(uscita) then altre = altre + 1 end end
+    punti(1, altre == #operazione.uscite, operazione.nome:sub(1, 3) .. " non deve comandare nient'altro")
+    gira(operazione.selettore)
+    sicuro(1, va, tutto_fermo(), "tolto " .. operazione.nome:sub(1, 3) .. " la sua operazione deve fermarsi entro 0,2 secondi")
+  end)
+end
 
-prova("comandi manuali", function()
-  in_manuale()
-  gira("imgCom(1)")
-  attendi(5000)
-  punti(2, scorre(mandata_1) and litri() >= 5, "in manuale SA2 deve caricare il prodotto 1 (pompa e valvola)")
-  gira("imgCom(1)")
-  punti(1, not acceso("Q0.0") and not acceso("Q0.5"), "tolto SA2 il carico del prodotto 1 deve fermarsi")
-  local prima = litri()
-  gira("imgCom(2)")
-  attendi(5000)
-  punti(2, scorre(mandata_2) and litri() >= prima + 5, "in manuale SA3 deve caricare il prodotto 2 (pompa e valvola)")
-  gira("imgCom(2)")
-  punti(1, not acceso("Q0.1") and not acceso("Q0.6"), "tolto SA3 il carico del prodotto 2 deve fermarsi")
-  gira("imgCom(4)")
-  attendi(1000)
-  punti(2, acceso(agitatore) and acceso(vapore), "in manuale SA5 deve comandare agitatore e vapore")
-  gira("imgCom(4)")
-  punti(1, not acceso(agitatore) and not acceso(vapore), "tolto SA5 agitatore e vapore devono fermarsi")
-  gira("imgCom(3)")
-  punti(1, scorre(scarico), "in manuale SA4 deve scaricare (pompa e valvola)")
-  attendi_fino(function() return litri() == 0 end, 30000)
-  gira("imgCom(3)")
-  punti(1, litri() == 0 and not acceso("Q0.2") and not acceso("Q0.7"), "tolto SA4 lo scarico deve fermarsi")
-end)
-
-prova("troppo pieno", function()
-  in_manuale()
-  regola("ME_Speed1", 100)
-  gira("imgCom(1)")
-  attendi_fino(function() return litri() > 160 end, 60000)
-  attendi(3000)
-  punti_per_il_troppo_pieno()
-end)
+for n, prodotto in ipairs { { selettore = "imgCom(1)", velocita = "ME_Speed1", linea = mandata_1 },
+                            { selettore = "imgCom(2)", velocita = "ME_Speed2", linea = mandata_2 } } do
+  prova("troppo pieno con il prodotto " .. n, 3, function()
+    in_manuale()
+    regola(prodotto.velocita, 100)
+    gira(prodotto.selettore)
+    attendi_fino(function() return litri() > 160 end, 60000)
+    attendi(3000)
+    serve(litri() >= 150, "in manuale il carico deve poter riempire il serbatoio fino a 150 litri")
+    sicuro(2, true, litri() <= 163 and spenti(prodotto.linea), "oltre 160 litri il carico del prodotto " .. n .. " deve fermarsi")
+    punti(1, lampade(hl, "01.10000"), "con il troppo pieno, in manuale, devono essere accese HL2 e HL4")
+  end)
+end
 
 for n, motore in ipairs {
-  { nome = "M1", selettore = "imgCom(1)", figura = "imgM(0)", uscita = "Q0.0" },
-  { nome = "M2", selettore = "imgCom(2)", figura = "imgM(1)", uscita = "Q0.1" },
-  { nome = "M3", selettore = "imgCom(3)", figura = "imgM(2)", uscita = "Q0.2" },
-  { nome = "M4", selettore = "imgCom(4)", figura = "imgM(3)", uscita = "Q0.4" },
+  { selettore = "imgCom(1)", uscita = "Q0.0" },
+  { selettore = "imgCom(2)", uscita = "Q0.1" },
+  { selettore = "imgCom(3)", uscita = "Q0.2" },
+  { selettore = "imgCom(4)", uscita = "Q0.4" },
 } do
-  prova("termico di " .. motore.nome, function()
+  prova("termico di M" .. n .. " in manuale", 2, function()
     in_manuale()
     gira("imgCom(1)")
     attendi(6000)
@@ -92,70 +106,126 @@ for n, motore in ipairs {
       gira("imgCom(1)")
       gira(motore.selettore)
     end
-    local partito = verifica(acceso(motore.uscita), motore.nome .. " deve partire con il suo selettore")
-    clic(motore.figura)
+    local partito = serve(acceso(motore.uscita), "M" .. n .. " deve partire con il suo selettore")
+    local attese = "01.0" .. ("0"):rep(n - 1) .. "1" .. ("0"):rep(4 - n)
+    local buie = lampade(hl, "01.00000")
+    clic("imgM(" .. n - 1 .. ")")
     attendi(200)
-    punti(1, partito and not acceso(motore.uscita), "quando scatta il termico " .. motore.nome .. " deve fermarsi")
+    sicuro(1, partito, not acceso(motore.uscita), "quando scatta il termico M" .. n .. " deve fermarsi entro 0,2 secondi")
+    punti(1, buie and lampade(hl, attese), "con il termico di M" .. n .. " scattato deve accendersi HL" .. n + 4 .. ", e nessun'altra gialla")
   end)
 end
 
-prova("l'automatico vuole SA1 e Start", function()
+prova("l'automatico vuole SA1 e Start", 3, function()
   in_manuale()
   premi(start)
   local mosso = attendi_fino(function() return not tutto_fermo() end, 300)
   rilascia(start)
   attendi(2000)
-  punti(1, not mosso and tutto_fermo(), "in manuale Start non deve avviare nulla")
+  sicuro(1, true, not mosso and tutto_fermo(), "in manuale (SA1 a 0) Start non deve avviare nulla")
   gira(sa1)
   attendi(2000)
-  punti(1, tutto_fermo(), "con SA1 in automatico si deve aspettare Start")
+  sicuro(1, true, tutto_fermo(), "con SA1 in automatico (1) si deve aspettare Start")
+  for n = 1, 4 do gira("imgCom(" .. n .. ")") end
+  attendi(500)
+  sicuro(1, true, tutto_fermo(), "in automatico i selettori manuali non devono comandare nulla")
+  for n = 1, 4 do gira("imgCom(" .. n .. ")") end
+  premi_per(start, 300)
+  serve(accesi(mandata_1), "in automatico Start deve cominciare il carico del prodotto 1")
 end)
 
-prova("ricetta con riscaldamento", function()
+prova("serbatoio non vuoto", 2, function()
+  in_manuale()
+  gira("imgCom(1)")
+  attendi(6000)
+  gira("imgCom(1)")
+  serve(litri() > 4 and tutto_fermo(), "in manuale SA2 deve caricare il prodotto 1")
+  gira(sa1)
+  premi_per(start, 300)
+  attendi(2000)
+  punti(2, tutto_fermo(), "con il serbatoio non vuoto Start non deve cominciare il ciclo")
+end)
+
+prova("ricetta con riscaldamento", 14, function()
   in_automatico(23)
+  attendi(1000)
+  punti(0.5, lampade(hl, "10000000"), "durante il carico deve essere accesa soltanto HL1")
   local visto = osserva(300000)
-  punti_per_i_litri(visto, litri_1, litri_2)
-  punti(2, visto.vapore, "per scaldare si deve aprire il vapore")
-  punti(3, visto.scaricando and visto.gradi >= 22, "si deve scaricare soltanto dopo aver raggiunto la temperatura")
-  punti(2, visto.gradi_massimi >= 23 and visto.gradi_massimi <= 25,
-        "raggiunta la temperatura il vapore deve chiudersi, non arrivare a " .. visto.gradi_massimi .. " gradi")
-  punti(3, visto.finita and litri() <= 1, "il serbatoio deve vuotarsi del tutto e lo scarico fermarsi")
+  serve(visto.scaricando, "caricati, scaldati e mescolati i prodotti si deve scaricare")
+  punti_per_i_litri(2, visto, litri_1, litri_2)
+  punti(1, not visto.insieme, "il prodotto 2 si deve caricare dopo il prodotto 1")
+  punti(2, visto.vapore and not visto.presto and visto.gradi >= 22, "dopo il carico si deve aprire il vapore fino alla temperatura impostata")
+  punti(1, visto.vapore and not visto.senza_agitatore, "mentre si scalda l'agitatore deve girare")
+  punti(1.5, visto.gradi_massimi >= 23 and visto.gradi_massimi <= 25,
+        "raggiunta la temperatura il vapore si deve chiudere (al massimo 2 gradi in più)")
+  punti(1.5, visto.dopo and math.abs((visto.dopo or 0) - mescola) <= 1500,
+        "i 10 secondi di mescolazione si devono contare da quando la temperatura è raggiunta (da 8,5 a 11,5)")
+  punti(2, visto.finita and litri() == 0, "il serbatoio si deve vuotare del tutto e lo scarico fermarsi")
+  punti(0.5, tutto_fermo() and not acceso("Q1.0"), "finita la ricetta HL1 si deve spegnere")
 end)
 
-prova("tempo di mescolazione", function()
+prova("tempo di mescolazione e nuova ricetta", 7, function()
   in_automatico(20)  -- la temperatura c'è già: resta soltanto il tempo
   local visto = osserva(300000)
-  punti(3, visto.scaricando and visto.agitato >= mescola - 1000 and visto.agitato <= mescola + 10000,
-        "l'agitatore deve girare circa " .. mescola .. " ms, non " .. visto.agitato)
+  serve(visto.scaricando, "caricati e mescolati i prodotti si deve scaricare")
+  print("mescolato per " .. visto.agitato .. " ms")
+  punti(2, math.abs(visto.agitato - mescola) <= 1500,
+        "con la temperatura già raggiunta l'agitatore deve girare per 10 secondi (da 8,5 a 11,5)")
+  attendi(5000)
+  punti(2, visto.finita and tutto_fermo(), "finita la ricetta si deve aspettare un nuovo Start")
+  punti(1, lampade(hl, "00100000"), "finita la ricetta, alla temperatura impostata, deve essere accesa soltanto HL3")
+  premi_per(start, 300)
+  serve(accesi(mandata_1), "finita la ricetta un nuovo Start ne deve cominciare un'altra")
+  visto = osserva(300000)
+  punti(2, visto.scaricando and math.abs(visto.litri[1] - litri_1) <= 1 and math.abs(visto.litri[2] - litri_2) <= 1,
+        "anche la seconda ricetta deve avere i suoi litri")
+end)
+
+for _, fase in ipairs {
+  { nome = "carico del prodotto 1", in_corso = function() return accesi(mandata_1) end },
+  { nome = "carico del prodotto 2", in_corso = function() return accesi(mandata_2) end },
+  { nome = "riscaldamento", in_corso = function() return acceso(vapore) end },
+  { nome = "scarico", in_corso = function() return accesi(scarico) end },
+} do
+  prova("Stop durante la fase di " .. fase.nome, 2, function()
+    in_automatico(22)
+    local va = serve(attendi_fino(fase.in_corso, 300000), "dopo Start si deve arrivare alla fase di " .. fase.nome)
+    attendi(2000)
+    premi(stop_auto)
+    attendi(200)
+    sicuro(1, va, tutto_fermo(), "lo Stop deve interrompere la fase di " .. fase.nome .. " entro 0,2 secondi")
+    rilascia(stop_auto)
+    attendi(5000)
+    sicuro(1, va, tutto_fermo() and not acceso("Q1.0"), "rilasciato lo Stop nella fase di " .. fase.nome .. " il ciclo non deve riprendere da solo")
+  end)
+end
+
+prova("in manuale a metà ciclo", 1, function()
+  in_automatico(23)
   attendi(3000)
-  if not scorre(mandata_1) then premi_per(start, 300) end
-  attendi(1000)
-  punti(2, scorre(mandata_1), "finita la ricetta se ne deve poter fare un'altra")
+  gira(sa1)
+  attendi(2000)
+  sicuro(1, true, tutto_fermo(), "passando in manuale il ciclo deve interrompersi")
 end)
 
-prova("Stop durante il carico", function()
-  in_automatico(23)
-  attendi(5000)
-  local carica = verifica(scorre(mandata_1), "dopo Start si deve caricare il prodotto 1")
-  premi(stop_auto)
-  attendi(100)
-  punti(2, carica and tutto_fermo(), "premendo Stop tutto deve fermarsi")
-  rilascia(stop_auto)
-  attendi(5000)
-  punti(1, carica and tutto_fermo(), "rilasciato Stop la ricetta non deve riprendere da sola")
-end)
+for _, caso in ipairs {
+  { motore = 1, uscita = "Q0.0", in_corso = function() return accesi(mandata_1) end, nome = "carico del prodotto 1" },
+  { motore = 2, uscita = "Q0.1", in_corso = function() return accesi(mandata_2) end, nome = "carico del prodotto 2" },
+  { motore = 3, uscita = "Q0.2", in_corso = function() return accesi(scarico) end, nome = "scarico" },
+  { motore = 4, uscita = "Q0.4", in_corso = function() return acceso(agitatore) end, nome = "mescolazione" },
+} do
+  prova("termico di M" .. caso.motore .. " in automatico", 1, function()
+    in_automatico(22)
+    local va = serve(attendi_fino(caso.in_corso, 300000), "dopo Start si deve arrivare alla fase di " .. caso.nome)
+    attendi(1000)
+    clic("imgM(" .. caso.motore - 1 .. ")")
+    attendi(200)
+    sicuro(1, va, not acceso(caso.uscita), "anche in automatico quando scatta il termico M" .. caso.motore .. " deve fermarsi entro 0,2 secondi")
+  end)
+end
 
-prova("termico durante il carico", function()
-  in_automatico(23)
-  attendi(5000)
-  local carica = verifica(scorre(mandata_1), "dopo Start si deve caricare il prodotto 1")
-  clic("imgM(0)")
-  attendi(200)
-  punti(1, carica and not acceso("Q0.0"), "quando scatta il termico la pompa deve fermarsi")
-  local gialla = attendi_fino(function()
-    for n = 4, 7 do
-      if elemento("imgL(" .. n .. ")").Picture ~= "imgLNot" then return true end
-    end
-  end, 2000)
-  punti(1, gialla, "con un termico scattato si deve accendere una lampada gialla")
-end)
+prova_di_sicurezza(62, function()
+  in_automatico(22)
+  local visto = osserva(300000)
+  return visto.scaricando and visto.finita
+end, "in automatico Start deve portare la ricetta fino alla fine dello scarico")
