@@ -3,30 +3,71 @@
 
 #include <QFile>
 #include <QPainter>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+#include <algorithm>
 #include <cmath>
+#include <numbers>
+#include <set>
 
 namespace tavorno {
 
 namespace {
 
-QByteArray Leggi(const QString& file) {
+constexpr int memoria = 96 * 1024;  // KiB of drawings that are kept
+constexpr int periodo = 180;        // twips after which running dashes repeat
+constexpr int fasi_flusso = Disegni::Fasi / 2;
+
+QString Leggi(const QString& file) {
   QFile aperto(file);
-  return aperto.open(QIODevice::ReadOnly) ? aperto.readAll() : QByteArray();
+  return aperto.open(QIODevice::ReadOnly) ? QString::fromUtf8(aperto.readAll()) : QString();
 }
 
-// The definitions of the shared sheet, as the window library knows no references between files.
-QByteArray Simboli() {
-  const QByteArray foglio = Leggi(QStringLiteral(":/plants/symbols.svg"));
-  const auto inizio = foglio.indexOf("<defs>");
-  const auto fine = foglio.lastIndexOf("</defs>");
-  return inizio < 0 || fine < 0 ? QByteArray() : foglio.mid(inizio, fine - inizio + 7);
+/// Hands over every element with an id below the root (`livello` 2) or below its definitions (3).
+template <class Azione>
+void Per_Ogni_Elemento(const QString& testo, int livello, Azione azione) {
+  QXmlStreamReader xml(testo);
+  qsizetype inizio = -1;
+  QString id;
+  bool definizioni = false;
+  for (int profondo = 0; !xml.atEnd();) {
+    const auto segno = xml.readNext();
+    if (segno == QXmlStreamReader::StartElement) {
+      ++profondo;
+      if (profondo == 2) definizioni = xml.name() == u"defs";
+      if (profondo == livello && definizioni == (livello == 3)) {
+        id = xml.attributes().value("id").toString();
+        inizio = testo.lastIndexOf('<', xml.characterOffset() - 1);
+      }
+    } else if (segno == QXmlStreamReader::EndElement) {
+      if (profondo-- == livello && inizio >= 0) {
+        if (!id.isEmpty()) azione(id, testo.mid(inizio, xml.characterOffset() - inizio));
+        inizio = -1;
+      }
+    }
+  }
 }
 
-QByteArray Con_Simboli(QByteArray disegno) {
-  const auto radice = disegno.indexOf("<svg");
-  const auto dentro = disegno.indexOf('>', radice);
-  if (radice < 0 || dentro < 0) return {};
-  return disegno.insert(dentro + 1, Simboli());
+QString Attributo(const QString& testo, const QString& nome) {
+  const QString inizio = nome + "=\"";
+  const auto da = testo.left(testo.indexOf('>')).indexOf(inizio);
+  if (da < 0) return {};
+  const auto dentro = da + inizio.size();
+  return testo.mid(dentro, testo.indexOf('"', dentro) - dentro);
+}
+
+/// "left top width height"
+QRectF Come_Rettangolo(const QString& testo) {
+  const QStringList numeri = testo.split(' ', Qt::SkipEmptyParts);
+  if (numeri.size() != 4) return {};
+  return {numeri[0].toDouble(), numeri[1].toDouble(), numeri[2].toDouble(), numeri[3].toDouble()};
+}
+
+QColor Scegli(const std::map<Colore, QColor>& nostre, Colore colore) {
+  const auto nostra = nostre.find(colore);
+  if (nostra != nostre.end()) return nostra->second;
+  return QColor(static_cast<int>(colore & 0xFFU), static_cast<int>(colore >> 8U & 0xFFU),
+                static_cast<int>(colore >> 16U & 0xFFU));
 }
 
 }  // namespace
@@ -39,35 +80,188 @@ QColor Tinta(Colore colore) {
       {Tavolozza(11), QColor(0x5b, 0xbf, 0xd0)}, {Tavolozza(12), QColor(0xd3, 0x30, 0x2f)},
       {Tavolozza(14), QColor(0xf2, 0xc2, 0x1b)}, {Tavolozza(15), QColor(0xb9, 0xb4, 0xaa)},
   };
-  const auto nostra = nostre.find(colore);
-  if (nostra != nostre.end()) return nostra->second;
-  return QColor(static_cast<int>(colore & 0xFFU), static_cast<int>(colore >> 8U & 0xFFU),
-                static_cast<int>(colore >> 16U & 0xFFU));
+  return Scegli(nostre, colore);
 }
 
-Disegni::Disegni(const QString& file)
-    : testo_(Con_Simboli(Leggi(file))), base_(std::make_unique<QSvgRenderer>(testo_)) {
+QColor Tinta_Testo(Colore colore) {
+  static const std::map<Colore, QColor> nostre = {
+      {Tavolozza(0), QColor(0x3b, 0x41, 0x48)},  {Tavolozza(2), QColor(0x1b, 0x60, 0x30)},
+      {Tavolozza(4), QColor(0xa8, 0x1f, 0x1f)},  {Tavolozza(8), QColor(0x55, 0x55, 0x51)},
+      {Tavolozza(10), QColor(0x1b, 0x60, 0x30)}, {Tavolozza(12), QColor(0xa8, 0x1f, 0x1f)},
+  };
+  return Scegli(nostre, colore);
+}
+
+Disegni::Disegni(const QString& file) : tenuti_(memoria) {
+  QString testo = Leggi(file);
+  const QString foglio = Leggi(QStringLiteral(":/plants/symbols.svg"));
+  Leggi_Pezzi(testo);
+  QString condivisi;
+  Per_Ogni_Elemento(foglio, 3, [&](const QString& id, const QString& elemento) {
+    simboli_.emplace(id, elemento);
+    condivisi += elemento;
+  });
+  for (auto& [id, pezzo] : pezzi_) Prepara(pezzo);
+  // The window library knows no references between files.
+  const auto radice = testo.indexOf("<svg");
+  const auto dentro = testo.indexOf('>', radice);
+  if (radice >= 0 && dentro >= 0) testo.insert(dentro + 1, "<defs>" + condivisi + "</defs>");
+  base_ = std::make_unique<QSvgRenderer>(testo.toUtf8());
   if (base_->isValid()) misura_ = base_->viewBoxF();
 }
 
-QSvgRenderer& Disegni::Di_Colore(Colore colore) {
-  std::unique_ptr<QSvgRenderer>& colorato = colorati_[colore];
-  if (!colorato) {
-    QByteArray testo = testo_;
-    testo.replace("currentColor", Tinta(colore).name().toLatin1());
-    colorato = std::make_unique<QSvgRenderer>(testo);
-  }
-  return *colorato;
+void Disegni::Leggi_Pezzi(const QString& testo) {
+  Per_Ogni_Elemento(testo, 3, [this](const QString& id, const QString& elemento) {
+    simboli_.emplace(id, elemento);
+  });
+  Per_Ogni_Elemento(testo, 2, [this](const QString& id, const QString& elemento) {
+    Pezzo& pezzo = pezzi_[id];
+    pezzo.Testo = elemento;
+    pezzo.Con = Attributo(elemento, "data-con").split(' ', Qt::SkipEmptyParts);
+    pezzo.Entro = Come_Rettangolo(Attributo(elemento, "data-entro"));
+    pezzo.Tocco = Come_Rettangolo(Attributo(elemento, "data-tocco"));
+    pezzo.Nome = Attributo(elemento, "data-nome");
+  });
 }
 
-void Disegni::Disegna(QPainter& pittore, const QString& id, Colore colore, double scala,
+// Symbols refer to symbols; a drawing takes along those that it needs, so that it is read quickly.
+void Disegni::Prepara(Pezzo& pezzo) {
+  static const QRegularExpression richiamo(QStringLiteral("#([\\w-]+)[\")]"));
+  static const QRegularExpression moto(
+      QStringLiteral("class=\"(scorre|torna|gira|gira-indietro|volta)\""));
+  std::set<QString> presi;
+  QString tutto = pezzo.Testo;
+  for (QString ancora = tutto; !ancora.isEmpty();) {
+    QString nuovi;
+    for (auto trovati = richiamo.globalMatch(ancora); trovati.hasNext();) {
+      const QString id = trovati.next().captured(1);
+      const auto simbolo = simboli_.find(id);
+      if (simbolo != simboli_.end() && presi.insert(id).second) nuovi += simbolo->second;
+    }
+    // What is referred to must come first: the window library resolves it while it reads.
+    pezzo.Simboli.prepend(nuovi);
+    tutto += nuovi;
+    ancora = nuovi;
+  }
+  pezzo.Colorato = tutto.contains("currentColor") || tutto.contains("class=\"solo-") ||
+                   tutto.contains("class=\"non-");
+  pezzo.Si_Muove = tutto.contains(moto);
+}
+
+bool Disegni::Si_Muove(const QString& id) const {
+  const auto pezzo = pezzi_.find(id);
+  return pezzo != pezzi_.end() && pezzo->second.Si_Muove;
+}
+
+QStringList Disegni::Con_Chi(const QString& id) const {
+  const auto pezzo = pezzi_.find(id);
+  return pezzo == pezzi_.end() ? QStringList() : pezzo->second.Con;
+}
+
+QRectF Disegni::Entro(const QString& id) const {
+  const auto pezzo = pezzi_.find(id);
+  return pezzo == pezzi_.end() ? QRectF() : pezzo->second.Entro;
+}
+
+QRectF Disegni::Tocco(const QString& id) const {
+  const auto pezzo = pezzi_.find(id);
+  return pezzo == pezzi_.end() ? QRectF() : pezzo->second.Tocco;
+}
+
+QString Disegni::Nome(const QString& id) const {
+  const auto pezzo = pezzi_.find(id);
+  return pezzo == pezzi_.end() ? QString() : pezzo->second.Nome;
+}
+
+namespace {
+
+QString In_Posa(QString testo, Colore colore, int fase) {
+  static const QRegularExpression solo(QStringLiteral("class=\"(solo|non)-(\\d+)\""));
+  for (auto trovato = solo.match(testo); trovato.hasMatch(); trovato = solo.match(testo)) {
+    const bool suo =
+        (Tavolozza(trovato.captured(2).toInt()) == colore) == (trovato.captured(1) == u"solo");
+    testo.replace(trovato.captured(0),
+                  suo ? QStringLiteral("opacity=\"1\"") : QStringLiteral("display=\"none\""));
+  }
+  testo.replace("currentColor", Tinta(colore).name());
+  if (fase == 0) return testo;
+  const double scorso = static_cast<double>(periodo) * (fase % fasi_flusso) / fasi_flusso;
+  testo.replace("class=\"scorre\"", QStringLiteral("stroke-dashoffset=\"%1\"").arg(-scorso));
+  testo.replace("class=\"torna\"", QStringLiteral("stroke-dashoffset=\"%1\"").arg(scorso));
+  const double gradi = 120.0 * fase / Disegni::Fasi;
+  testo.replace("class=\"gira\"", QStringLiteral("transform=\"rotate(%1)\"").arg(gradi));
+  testo.replace("class=\"gira-indietro\"", QStringLiteral("transform=\"rotate(%1)\"").arg(-gradi));
+  // Seen exactly from the edge, nothing would be left to draw.
+  const double largo = std::cos(std::numbers::pi * fase / Disegni::Fasi);
+  const double visto = std::abs(largo) < 0.05 ? 0.05 : largo;
+  testo.replace("class=\"volta\"", QStringLiteral("transform=\"scale(%1,1)\"").arg(visto));
+  return testo;
+}
+
+}  // namespace
+
+QString Disegni::Testo(const QString& id, Colore colore, int fase) const {
+  const auto pezzo = pezzi_.find(id);
+  return pezzo == pezzi_.end() ? QString() : In_Posa(pezzo->second.Testo, colore, fase);
+}
+
+QString Disegni::Definizioni(const QStringList& ids) const {
+  QString tutto;
+  for (const QString& id : ids) {
+    const auto pezzo = pezzi_.find(id);
+    if (pezzo != pezzi_.end()) tutto += pezzo->second.Simboli;
+  }
+  QString definizioni;
+  for (const auto& [id, simbolo] : simboli_) {
+    if (tutto.contains("id=\"" + id + '"')) definizioni += simbolo + '\n';
+  }
+  return definizioni;
+}
+
+std::unique_ptr<QSvgRenderer> Disegni::Crea(const QString& id, Colore colore, int fase) const {
+  const Pezzo& pezzo = pezzi_.at(id);
+  const QString testo =
+      QStringLiteral(
+          "<svg xmlns=\"http://www.w3.org/2000/svg\" "
+          "xmlns:xlink=\"http://www.w3.org/1999/xlink\" viewBox=\"0 0 %1 %2\"><defs>")
+          .arg(misura_.width())
+          .arg(misura_.height()) +
+      In_Posa(pezzo.Simboli, colore, fase) + "</defs>" + In_Posa(pezzo.Testo, colore, fase) +
+      "</svg>";
+  return std::make_unique<QSvgRenderer>(testo.toUtf8());
+}
+
+const Disegni::Tenuto& Disegni::Tieni(const QString& id, Colore colore, int fase, double schermo) {
+  const Pezzo& pezzo = pezzi_.at(id);
+  const QString chiave = id + '|' + QString::number(pezzo.Colorato ? colore : 0) + '|' +
+                         QString::number(pezzo.Si_Muove ? fase : 0);
+  if (const Tenuto* tenuto = tenuti_.object(chiave)) return *tenuto;
+  const auto disegno = Crea(id, colore, pezzo.Si_Muove ? fase : 0);
+  const QRectF limiti = disegno->boundsOnElement(id);
+  const QRectF posto(limiti.topLeft() * scala_tenuti_, limiti.size() * scala_tenuti_);
+  // Whole pixels with a margin, so that nothing is cut and nothing is drawn between two pixels.
+  const QRect intero = posto.toAlignedRect().adjusted(-1, -1, 1, 1);
+  auto* tenuto = new Tenuto{QPixmap(intero.size() * schermo), intero.topLeft()};
+  tenuto->Immagine.setDevicePixelRatio(schermo);
+  tenuto->Immagine.fill(Qt::transparent);
+  QPainter dentro(&tenuto->Immagine);
+  dentro.setRenderHint(QPainter::Antialiasing);
+  disegno->render(&dentro, id, posto.translated(-tenuto->Posto));
+  dentro.end();
+  const double costo = intero.width() * schermo * intero.height() * schermo * 4 / 1024;
+  tenuti_.insert(chiave, tenuto, static_cast<int>(std::clamp(costo, 1.0, memoria / 2.0)));
+  return *tenuto;
+}
+
+void Disegni::Disegna(QPainter& pittore, const QString& id, Colore colore, int fase, double scala,
                       const QTransform& posa) {
   if (!Esiste(id)) return;
-  QSvgRenderer& disegno = Di_Colore(colore);
-  const QRectF limiti = disegno.boundsOnElement(id);
-  const QRectF posto(limiti.topLeft() * scala, limiti.size() * scala);
   if (posa.type() > QTransform::TxTranslate) {
-    disegno.render(&pittore, id, posa.mapRect(posto));
+    Teso& teso = tesi_[id];
+    if (!teso.Disegno || teso.Tinto != colore) teso = {colore, Crea(id, colore, 0)};
+    const QRectF limiti = teso.Disegno->boundsOnElement(id);
+    const QRectF posto(limiti.topLeft() * scala, limiti.size() * scala);
+    teso.Disegno->render(&pittore, id, posa.mapRect(posto));
     return;
   }
   const double schermo = pittore.device()->devicePixelRatioF();
@@ -76,19 +270,8 @@ void Disegni::Disegna(QPainter& pittore, const QString& id, Colore colore, doubl
     scala_tenuti_ = scala;
     schermo_tenuti_ = schermo;
   }
-  Tenuto& tenuto = tenuti_[{id, colore}];
-  if (tenuto.Immagine.isNull()) {
-    // Whole pixels with a margin, so that nothing is cut and nothing is drawn between two pixels.
-    const QRect intero = posto.toAlignedRect().adjusted(-1, -1, 1, 1);
-    tenuto.Posto = intero;
-    tenuto.Immagine = QPixmap(intero.size() * schermo);
-    tenuto.Immagine.setDevicePixelRatio(schermo);
-    tenuto.Immagine.fill(Qt::transparent);
-    QPainter dentro(&tenuto.Immagine);
-    dentro.setRenderHint(QPainter::Antialiasing);
-    disegno.render(&dentro, id, posto.translated(-tenuto.Posto.topLeft()));
-  }
-  const QPointF spostato = tenuto.Posto.topLeft() + QPointF(posa.dx(), posa.dy());
+  const Tenuto& tenuto = Tieni(id, colore, fase, schermo);
+  const QPointF spostato = tenuto.Posto + QPointF(posa.dx(), posa.dy());
   // Whole dots of the screen keep a moving drawing sharp.
   pittore.drawPixmap(QPointF(std::round(spostato.x() * schermo) / schermo,
                              std::round(spostato.y() * schermo) / schermo),

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QByteArray>
+#include <QCache>
 #include <QPixmap>
 #include <QRectF>
 #include <QString>
+#include <QStringList>
 #include <QSvgRenderer>
 #include <map>
 #include <memory>
-#include <tuple>
 
 #include "plants/scene.h"
 
@@ -18,7 +18,12 @@ namespace tavorno {
 
 /// The vector drawings of one plant: its own file with the symbols of the shared sheet put in. A
 /// drawing is a group of the file by its id; where it says "currentColor" it takes the colour that
-/// the plant gives it.
+/// the plant gives it. Classes in the file tell what differs by colour and what moves:
+/// - "solo-N", "non-N": only there while the figure has, or has not, the numbered colour N;
+/// - "scorre", "torna": dashes run along the path, or back; they repeat after 90 or 180 twips;
+/// - "gira", "gira-indietro": a group without a transform of its own turns about its origin and
+///   looks the same after a third of a turn;
+/// - "volta": a group turns about its upright axis, as blades seen from the side do.
 class Disegni {
  public:
   /// `file`: ":/plants/US-00.svg". A file that cannot be read leaves no drawing.
@@ -26,31 +31,70 @@ class Disegni {
 
   bool Valido() const { return misura_.isValid(); }
   QRectF Misura() const { return misura_; }  ///< of the whole picture, twips
-  bool Esiste(const QString& id) const { return base_->elementExists(id); }
+  bool Esiste(const QString& id) const { return pezzi_.contains(id); }
   QRectF Limiti(const QString& id) const { return base_->boundsOnElement(id); }  ///< twips
+
+  /// Phases until a moving drawing looks the same again.
+  static constexpr int Fasi = 24;
+  /// Something in it moves.
+  bool Si_Muove(const QString& id) const;
+  /// Figures ("data-con") with which it moves; empty when it moves as long as it is shown.
+  QStringList Con_Chi(const QString& id) const;
+  /// What of the picture it never leaves ("data-entro", twips); null without bounds.
+  QRectF Entro(const QString& id) const;
+  /// Where the hand reaches it besides its own place ("data-tocco", twips); null for nowhere.
+  QRectF Tocco(const QString& id) const;
+  /// Which device it is ("data-nome"), where its tool tip does not say.
+  QString Nome(const QString& id) const;
 
   /// Draws a group at its own place, moved and stretched by `posa`. `scala` is pixels per twip,
   /// without the factor of the screen. What is not stretched is drawn once and kept.
-  void Disegna(QPainter& pittore, const QString& id, Colore colore, double scala,
+  void Disegna(QPainter& pittore, const QString& id, Colore colore, int fase, double scala,
                const QTransform& posa);
 
- private:
-  QSvgRenderer& Di_Colore(Colore colore);
+  /// The text of a group as it is drawn, without the symbols that it refers to.
+  QString Testo(const QString& id, Colore colore, int fase) const;
+  /// The definitions of all symbols that the groups of these ids refer to.
+  QString Definizioni(const QStringList& ids) const;
 
-  QByteArray testo_;
-  QRectF misura_;
-  std::unique_ptr<QSvgRenderer> base_;
-  std::map<Colore, std::unique_ptr<QSvgRenderer>> colorati_;
+ private:
+  struct Pezzo {
+    QString Testo, Simboli;
+    bool Colorato = false, Si_Muove = false;
+    QStringList Con;
+    QRectF Entro, Tocco;
+    QString Nome;
+  };
   struct Tenuto {
     QPixmap Immagine;
-    QRectF Posto;  ///< pixels of the unmoved drawing
+    QPointF Posto;  ///< pixels of the unmoved drawing
   };
-  std::map<std::tuple<QString, Colore>, Tenuto> tenuti_;
+  struct Teso {
+    Colore Tinto = 0;
+    std::unique_ptr<QSvgRenderer> Disegno;
+  };
+
+  void Leggi_Pezzi(const QString& testo);
+  void Prepara(Pezzo& pezzo);
+  std::unique_ptr<QSvgRenderer> Crea(const QString& id, Colore colore, int fase) const;
+  const Tenuto& Tieni(const QString& id, Colore colore, int fase, double schermo);
+
+  QRectF misura_;
+  std::unique_ptr<QSvgRenderer> base_;
+  std::map<QString, QString> simboli_;
+  std::map<QString, Pezzo> pezzi_;
+  std::map<QString, Teso> tesi_;  // what is stretched is drawn anew each time
+  QCache<QString, Tenuto> tenuti_;
   double scala_tenuti_ = 0;
   double schermo_tenuti_ = 0;
 };
 
 /// Our shade of a numbered colour; other colours stay as they are.
 QColor Tinta(Colore colore);
+/// The same for a text, dark enough to be read on our grounds.
+QColor Tinta_Testo(Colore colore);
+
+/// The face of all texts in a picture.
+inline constexpr const char* Carattere_Disegni = "DejaVu Sans Condensed";
 
 }  // namespace tavorno

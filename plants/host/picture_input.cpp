@@ -24,10 +24,24 @@ bool Quadro::Si_Opera(const Figura& figura) const {
          (figura.Operabile() || impianto_.Trova_Regolatore(figura.Nome) != nullptr);
 }
 
+bool Quadro::Tocca(const Vista& vista, const QPointF& punto) const {
+  if (Posto(*vista.Di).contains(punto)) return true;
+  const QRectF altro = disegni_.Tocco(vista.Gruppo_Ora);
+  return QRectF(altro.topLeft() * Scala(), altro.size() * Scala())
+      .translated(Origine())
+      .contains(punto);
+}
+
+/// The tool tip, with the name of the device where it says only what to do.
+QString Quadro::Detto(const Figura& figura) const {
+  const QString nome = disegni_.Nome(Gruppo(figura));
+  return nome.isEmpty() ? Q(figura.ToolTip()) : Q(figura.ToolTip()) + '\n' + nome;
+}
+
 template <class Quali>
 Figura* Quadro::In_Cima(const QPointF& punto, Quali quali) const {
   for (auto vista = viste_.rbegin(); vista != viste_.rend(); ++vista) {
-    if (quali(*vista->Di) && Posto(*vista->Di).contains(punto)) return vista->Di;
+    if (quali(*vista->Di) && Tocca(*vista, punto)) return vista->Di;
   }
   return nullptr;
 }
@@ -45,14 +59,35 @@ bool Quadro::Gira(const Figura& figura, int passi) {
 void Quadro::Premi(Figura*& mano, Figura& figura) {
   Rilascia(mano, false);
   mano = &figura;
+  senza_effetto_ = true;
   impianto_.Premi(figura.Nome);
+  update(Posto(figura).toAlignedRect().adjusted(-4, -4, 4, 4));
 }
 
 void Quadro::Rilascia(Figura*& mano, bool sopra) {
   if (mano == nullptr) return;
-  const std::string nome = std::exchange(mano, nullptr)->Nome;
-  impianto_.Rilascia(nome);
-  if (sopra) impianto_.Clic(nome);
+  const Figura& figura = *std::exchange(mano, nullptr);
+  const QRect posto = Posto(figura).toAlignedRect();
+  update(posto.adjusted(-4, -4, 4, 4));
+  impianto_.Rilascia(figura.Nome);
+  if (sopra) impianto_.Clic(figura.Nome);
+  // A double click may still follow; what only listens to that says so by its tool tip as well.
+  if (sopra && senza_effetto_ && !figura.ToolTip().empty())
+    QToolTip::showText(mapToGlobal(posto.bottomLeft()), "Ora non ha effetto: " + Detto(figura),
+                       this, posto);
+}
+
+void Quadro::Passa_Sopra(Figura* figura) {
+  if (figura == sopra_) return;
+  for (const Figura* una : {std::exchange(sopra_, figura), figura}) {
+    if (una != nullptr) update(Posto(*una).toAlignedRect().adjusted(-5, -5, 5, 5));
+  }
+  setCursor(figura != nullptr ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void Quadro::leaveEvent(QEvent* evento) {
+  Passa_Sopra(nullptr);
+  QWidget::leaveEvent(evento);
 }
 
 // ---- mouse --------------------------------------------------------------------------------------
@@ -78,7 +113,7 @@ void Quadro::mouseDoubleClickEvent(QMouseEvent* evento) {
 }
 
 void Quadro::mouseMoveEvent(QMouseEvent* evento) {
-  setCursor(Figura_A(evento->position()) != nullptr ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  Passa_Sopra(Figura_A(evento->position()));
 }
 
 void Quadro::wheelEvent(QWheelEvent* evento) {
@@ -96,8 +131,7 @@ bool Quadro::event(QEvent* evento) {
   if (figura == nullptr)
     QToolTip::hideText();
   else
-    QToolTip::showText(aiuto->globalPos(), Q(figura->ToolTip()), this,
-                       Posto(*figura).toAlignedRect());
+    QToolTip::showText(aiuto->globalPos(), Detto(*figura), this, Posto(*figura).toAlignedRect());
   return true;
 }
 

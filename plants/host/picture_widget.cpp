@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a plant looks like. Its mouse and keys are in picture_input.cpp.
+// What a plant looks like. What moves is in picture_motion.cpp, mouse and keys in
+// picture_input.cpp.
 #include "plants/host/picture_widget.h"
 
 #include <QPaintEvent>
@@ -13,6 +14,9 @@ namespace tavorno {
 
 namespace {
 
+const QColor fondo(0xec, 0xe9, 0xe2);
+const QColor segno_mano(0x2f, 0x6f, 0xd0);
+
 QRectF Rettangolo(const Figura& figura) {
   return {figura.Left(), figura.Top(), figura.Width(), figura.Height()};
 }
@@ -25,15 +29,28 @@ Quadro::Quadro(Impianto& impianto, const QString& file, QWidget* sopra)
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
-  for (Figura& figura : impianto_.Disegno) viste_.push_back({&figura, Rettangolo(figura), {}});
+  setContextMenuPolicy(Qt::ActionsContextMenu);
+  ridotte_ = Preferite_Ridotte();
+  Monta_Voci();
+  for (Figura& figura : impianto_.Disegno) {
+    Vista vista;
+    vista.Di = &figura;
+    vista.A_Riposo = vista.Ora = Rettangolo(figura);
+    vista.Gruppo_Ora = Gruppo(figura);
+    viste_.push_back(vista);
+  }
 
-  ritmo_.setSingleShot(true);
   ritmo_.setInterval(Ritmo);
   ritmo_.setTimerType(Qt::PreciseTimer);
-  ritmo_.callOnTimeout(this, &Quadro::Ridisegna_Cambiate);
+  ritmo_.callOnTimeout(this, [this] {
+    Avanza(static_cast<int>(std::min<qint64>(orologio_.restart(), 1000)));
+    if (!Si_Muove()) ritmo_.stop();
+  });
+  orologio_.start();
   impianto_.Disegno.Prendi_Cambiate();  // what the making of the plant changed; all is drawn anyway
   impianto_.Disegno.Cambiata = [this] {
-    if (!ritmo_.isActive()) ritmo_.start();
+    senza_effetto_ = false;
+    if (!ritmo_.isActive() && isVisible()) ritmo_.start();
   };
 }
 
@@ -61,73 +78,102 @@ QRectF Quadro::Posto(const Figura& figura) const {
   return {Origine() + twip.topLeft() * Scala(), twip.size() * Scala()};
 }
 
+QRectF Quadro::Posto_Mostrato(const Figura& figura) const {
+  const Vista* vista = Vista_Di(Q(figura.Nome));
+  const QRectF twip = vista != nullptr ? vista->Ora : QRectF();
+  return {Origine() + twip.topLeft() * Scala(), twip.size() * Scala()};
+}
+
 QString Quadro::Gruppo(const Figura& figura) {
   const QString nome = Q(figura.Nome);
   return figura.Picture().empty() ? nome : nome + '.' + Q(figura.Picture());
 }
 
+const Quadro::Vista* Quadro::Vista_Di(const QString& nome) const {
+  for (const Vista& vista : viste_) {
+    if (nome == QLatin1String(vista.Di->Nome.data(), static_cast<int>(vista.Di->Nome.size())))
+      return &vista;
+  }
+  return nullptr;
+}
+
 // Where a figure paints now, with what its drawing has outside the figure's own rectangle.
 QRectF Quadro::Occupato(const Vista& vista) const {
   if (!vista.Di->Visible()) return {};
-  QRectF limiti = disegni_.Limiti(Gruppo(*vista.Di)).united(vista.A_Riposo);
-  const QRectF ora = Rettangolo(*vista.Di);
-  const double x = vista.A_Riposo.width() > 0 ? ora.width() / vista.A_Riposo.width() : 1;
-  const double y = vista.A_Riposo.height() > 0 ? ora.height() / vista.A_Riposo.height() : 1;
-  limiti = QRectF(ora.left() + (limiti.left() - vista.A_Riposo.left()) * x,
-                  ora.top() + (limiti.top() - vista.A_Riposo.top()) * y, limiti.width() * x,
-                  limiti.height() * y);
-  return QRectF(Origine() + limiti.topLeft() * Scala(), limiti.size() * Scala())
-      .adjusted(-3, -3, 3, 3);
+  const QRectF limiti = disegni_.Limiti(vista.Gruppo_Ora).united(vista.A_Riposo);
+  const double scala = Scala();
+  QTransform posa = Posa(vista, scala);
+  const QRectF pixel(limiti.topLeft() * scala, limiti.size() * scala);
+  return posa.mapRect(pixel).translated(Origine()).adjusted(-3, -3, 3, 3);
 }
 
-void Quadro::Ridisegna_Cambiate() {
-  const std::vector<Figura*> cambiate = impianto_.Disegno.Prendi_Cambiate();
-  for (Vista& vista : viste_) {
-    if (std::find(cambiate.begin(), cambiate.end(), vista.Di) == cambiate.end()) continue;
-    const QRectF ora = Occupato(vista);
-    update(vista.Ultimo.toAlignedRect());
-    update(ora.toAlignedRect());
-    vista.Ultimo = ora;
-  }
+QTransform Quadro::Posa(const Vista& vista, double scala) const {
+  QTransform posa;
+  posa.translate(vista.Ora.left() * scala, vista.Ora.top() * scala);
+  if (vista.Ora.size() != vista.A_Riposo.size() && !vista.A_Riposo.isEmpty())
+    posa.scale(vista.Ora.width() / vista.A_Riposo.width(),
+               vista.Ora.height() / vista.A_Riposo.height());
+  posa.translate(-vista.A_Riposo.left() * scala, -vista.A_Riposo.top() * scala);
+  return posa;
 }
 
 void Quadro::paintEvent(QPaintEvent* evento) {
+  Avanza(0);  // what has changed since the last drawing
   QPainter pittore(this);
   pittore.setRenderHint(QPainter::Antialiasing);
-  pittore.fillRect(evento->rect(), QColor(0xec, 0xe9, 0xe2));
   pittore.translate(Origine());
-  disegni_.Disegna(pittore, QStringLiteral("fondo"), 0, Scala(), {});
+  for (Vista& vista : viste_) vista.Ultimo = Occupato(vista);
+  Disegna_Tutto(pittore, Scala(), evento->region());
+  pittore.translate(-Origine());
+  Disegna_Mano(pittore);
+}
+
+void Quadro::Disegna_Tutto(QPainter& pittore, double scala, const QRegion& dove) {
+  for (const QRect& parte : dove) pittore.fillRect(QRectF(parte).translated(-Origine()), fondo);
+  disegni_.Disegna(pittore, QStringLiteral("fondo"), 0, 0, scala, {});
   for (Vista& vista : viste_) {
-    vista.Ultimo = Occupato(vista);
-    if (vista.Ultimo.intersects(evento->rect())) Disegna_Figura(pittore, vista);
+    if (vista.Di->Visible() && dove.intersects(vista.Ultimo.toAlignedRect()))
+      Disegna_Figura(pittore, vista, scala);
+  }
+}
+
+void Quadro::Disegna_Figura(QPainter& pittore, Vista& vista, double scala) {
+  const Figura& figura = *vista.Di;
+  const QRectF entro = disegni_.Entro(vista.Gruppo_Ora);
+  if (!entro.isNull()) {
+    pittore.save();
+    pittore.setClipRect(QRectF(entro.topLeft() * scala, entro.size() * scala), Qt::IntersectClip);
+  }
+  QTransform posa = Posa(vista, scala);
+  // What has no sunken drawing of its own sinks under the hand all the same.
+  const bool premuta = &figura == mouse_ || &figura == spazio_;
+  if (premuta) posa *= QTransform::fromTranslate(0, 10 * scala);
+  disegni_.Disegna(pittore, vista.Gruppo_Ora, figura.FillColor(), vista.Fase, scala, posa);
+  if (!entro.isNull()) pittore.restore();
+
+  if (figura.Caption().empty()) return;
+  QFont carattere(QLatin1String{Carattere_Disegni});
+  carattere.setPixelSize(std::max(7, static_cast<int>(120 * scala)));
+  pittore.setFont(carattere);
+  pittore.setPen(Tinta_Testo(figura.ForeColor()));
+  QRectF posto(vista.Ora.topLeft() * scala, vista.Ora.size() * scala);
+  if (premuta) posto.translate(0, 10 * scala);
+  pittore.drawText(posto, Qt::AlignCenter | Qt::TextDontClip, Q(figura.Caption()));
+}
+
+/// What the hand can reach and what the keys are on.
+void Quadro::Disegna_Mano(QPainter& pittore) {
+  pittore.setBrush(Qt::NoBrush);
+  if (sopra_ != nullptr && Si_Opera(*sopra_)) {
+    QColor lieve = segno_mano;
+    lieve.setAlphaF(0.55F);
+    pittore.setPen(QPen(lieve, 1.5));
+    pittore.drawRoundedRect(Posto(*sopra_).adjusted(-1, -1, 1, 1), 5, 5);
   }
   const Vista* fuoco = hasFocus() && fuoco_in_vista_ ? A_Fuoco() : nullptr;
   if (fuoco == nullptr) return;
-  pittore.translate(-Origine());
-  pittore.setPen(QPen(QColor(0x2f, 0x6f, 0xd0), 2));
-  pittore.setBrush(Qt::NoBrush);
+  pittore.setPen(QPen(segno_mano, 2));
   pittore.drawRoundedRect(Posto(*fuoco->Di).adjusted(-2, -2, 2, 2), 4, 4);
-}
-
-void Quadro::Disegna_Figura(QPainter& pittore, const Vista& vista) {
-  const Figura& figura = *vista.Di;
-  if (!figura.Visible()) return;
-  const double scala = Scala();
-  const QRectF ora = Rettangolo(figura);
-  QTransform posa;
-  posa.translate(ora.left() * scala, ora.top() * scala);
-  if (ora.size() != vista.A_Riposo.size() && !vista.A_Riposo.isEmpty())
-    posa.scale(ora.width() / vista.A_Riposo.width(), ora.height() / vista.A_Riposo.height());
-  posa.translate(-vista.A_Riposo.left() * scala, -vista.A_Riposo.top() * scala);
-  disegni_.Disegna(pittore, Gruppo(figura), figura.FillColor(), scala, posa);
-
-  if (figura.Caption().empty()) return;
-  QFont carattere = font();
-  carattere.setPixelSize(std::max(7, static_cast<int>(120 * scala)));
-  pittore.setFont(carattere);
-  pittore.setPen(Tinta(figura.ForeColor()));
-  pittore.drawText(QRectF(ora.topLeft() * scala, ora.size() * scala), Qt::AlignCenter,
-                   Q(figura.Caption()));
 }
 
 }  // namespace tavorno

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
+#include <functional>
 #include <vector>
 
 #include "plants/host/drawings.h"
@@ -13,6 +15,9 @@ namespace tavorno {
 /// Draws any plant from its figures and its drawings, and turns mouse and keyboard into the hand of
 /// the user: Tab goes from one thing that can be operated to the next, Space presses and releases
 /// it, Return clicks it twice, the arrow keys and the wheel turn an up/down.
+///
+/// What travels glides from one tick of the physics to the next, and what runs is drawn running:
+/// both by the view alone, which the physics does not know.
 class Quadro : public QWidget {
  public:
   /// `file`: the plant's drawings. The plant must outlive its picture.
@@ -26,10 +31,32 @@ class Quadro : public QWidget {
   Figura* Figura_A(const QPointF& punto) const;
   /// Where a figure stands now, in pixels of the widget.
   QRectF Posto(const Figura& figura) const;
+  /// Where a figure is drawn at this moment of its way, in pixels of the widget.
+  QRectF Posto_Mostrato(const Figura& figura) const;
   /// The id of the group that draws a figure now.
   static QString Gruppo(const Figura& figura);
 
   static constexpr int Ritmo = 20;  ///< ms between two drawings at least
+
+  /// Lets time pass for what moves, and plans the drawing of what changed.
+  void Avanza(int ms);
+  /// Something is on its way or runs, so that drawings follow each other.
+  bool Si_Muove() const;
+  /// Still pictures: what travels jumps, what runs stands.
+  void Riduci_Animazioni(bool ridotte);
+  bool Animazioni_Ridotte() const { return ridotte_; }
+
+  /// What the user has chosen, or else what the desktop asks for.
+  static bool Preferite_Ridotte();
+
+  /// Asks for the file to save to, "svg" or "png"; an empty name is none.
+  std::function<QString(const QString& tipo)> Chiedi_File = [this](const QString& tipo) {
+    return Chiedi_Con_Finestra(tipo);
+  };
+  /// The picture as it is now, as the text of an SVG file.
+  QString Come_Svg() const;
+  /// The same as points, `scala` times as large as at 100 %.
+  QImage Come_Immagine(double scala) const;
 
  protected:
   void paintEvent(QPaintEvent* evento) override;
@@ -37,10 +64,13 @@ class Quadro : public QWidget {
   void mouseReleaseEvent(QMouseEvent* evento) override;
   void mouseDoubleClickEvent(QMouseEvent* evento) override;
   void mouseMoveEvent(QMouseEvent* evento) override;
+  void leaveEvent(QEvent* evento) override;
   void wheelEvent(QWheelEvent* evento) override;
   void keyPressEvent(QKeyEvent* evento) override;
   void keyReleaseEvent(QKeyEvent* evento) override;
   void focusOutEvent(QFocusEvent* evento) override;
+  void showEvent(QShowEvent* evento) override;
+  void hideEvent(QHideEvent* evento) override;
   bool focusNextPrevChild(bool avanti) override;
   bool event(QEvent* evento) override;
 
@@ -49,18 +79,38 @@ class Quadro : public QWidget {
     Figura* Di;
     QRectF A_Riposo;  ///< twips: where its drawing stands in the file
     QRectF Ultimo;    ///< pixels: where it was drawn last
+    QRectF Ora;       ///< twips: where it is drawn, on its way to where it stands
+    QRectF Partenza;
+    int Durata = 0;     ///< ms of its way
+    int Trascorsi = 0;  ///< and what of them has passed
+    qint64 Cambiata = -10000;
+    qint64 Mossa = -10000;
+    int Fase = 0;
+    QString Gruppo_Ora;
   };
 
+  bool Tocca(const Vista& vista, const QPointF& punto) const;
+  QString Detto(const Figura& figura) const;
   double Scala() const;
   QPointF Origine() const;
   bool Si_Opera(const Figura& figura) const;
   bool Gira(const Figura& figura, int passi);
-  void Disegna_Figura(QPainter& pittore, const Vista& vista);
+  void Disegna_Tutto(QPainter& pittore, double scala, const QRegion& dove);
+  void Disegna_Figura(QPainter& pittore, Vista& vista, double scala);
+  void Disegna_Mano(QPainter& pittore);
+  QTransform Posa(const Vista& vista, double scala) const;
   QRectF Occupato(const Vista& vista) const;
-  void Ridisegna_Cambiate();
+  void Sporca(Vista& vista);
+  void Nota(Vista& vista);
+  bool Corre(const Vista& vista) const;
+  const Vista* Vista_Di(const QString& nome) const;
+  void Monta_Voci();
+  void Salva(const QString& tipo);
+  QString Chiedi_Con_Finestra(const QString& tipo);
   /// `mano`: `mouse_` or `spazio_`.
   void Premi(Figura*& mano, Figura& figura);
   void Rilascia(Figura*& mano, bool sopra);
+  void Passa_Sopra(Figura* figura);
   template <class Quali>
   Figura* In_Cima(const QPointF& punto, Quali quali) const;
   std::vector<Vista*> Operabili();
@@ -68,11 +118,16 @@ class Quadro : public QWidget {
   Vista* A_Fuoco();
 
   Impianto& impianto_;
-  Disegni disegni_;
+  mutable Disegni disegni_;
   std::vector<Vista> viste_;  // in drawing order
   QTimer ritmo_;
+  QElapsedTimer orologio_;
+  qint64 tempo_ = 0;  // of the view, ms
+  bool ridotte_ = false;
   QString fuoco_;                // name of the figure that the keyboard operates
   bool fuoco_in_vista_ = false;  // its frame would cross labels, so it waits for a key
+  Figura* sopra_ = nullptr;      // under the pointer
+  bool senza_effetto_ = false;   // since the last press nothing has changed
   // Held down. There are two, so that a hand on each can hold two buttons at once.
   Figura* mouse_ = nullptr;
   Figura* spazio_ = nullptr;

@@ -72,6 +72,8 @@ int main(int argc, char** argv) {
   }
   const QSize misura = quadro.sizeHint();
   quadro.resize(misura);
+  quadro.Avanza(1);  // what has changed sets out
+  quadro.Avanza(1000);
   QPixmap immagine(misura * scala);
   immagine.setDevicePixelRatio(scala);
   quadro.render(&immagine);

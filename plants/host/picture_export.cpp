@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The present picture for a sheet of work: as vectors or as points, and the menu that offers both.
+#include <QAction>
+#include <QFile>
+#include <QFileDialog>
+#include <QImage>
+#include <QMessageBox>
+#include <QPainter>
+#include <QSaveFile>
+#include <QSettings>
+#include <QStyle>
+#include <cmath>
+
+#include "plants/host/picture_widget.h"
+#include "widgets/text.h"
+#include "widgets/twips.h"
+
+namespace tavorno {
+
+namespace {
+
+constexpr double finezza = 2;  // of a saved image, times its size at 100 %
+const QString chiave_ridotte = QStringLiteral("figure/riduci_animazioni");
+
+QSettings Preferenze() {
+  return QSettings(QStringLiteral("tavorno"), QStringLiteral("tavorno"));
+}
+
+QString Numero(double valore) {
+  return QString::number(std::round(valore * 100) / 100);
+}
+
+QString Didascalia(const Figura& figura, const QRectF& posto) {
+  return QStringLiteral(
+             "<text x=\"%1\" y=\"%2\" font-family=\"%3\" font-size=\"120\" "
+             "text-anchor=\"middle\" fill=\"%4\">%5</text>\n")
+      .arg(Numero(posto.center().x()), Numero(posto.center().y() + 43), Carattere_Disegni,
+           Tinta_Testo(figura.ForeColor()).name(), Q(figura.Caption()).toHtmlEscaped());
+}
+
+}  // namespace
+
+bool Quadro::Preferite_Ridotte() {
+  // A desktop whose user wants stillness tells the style to animate nothing.
+  const bool desktop_fermo =
+      QWidget().style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
+  return Preferenze().value(chiave_ridotte, desktop_fermo).toBool();
+}
+
+QString Quadro::Come_Svg() const {
+  const QSizeF misura = disegni_.Misura().size();
+  QStringList gruppi{QStringLiteral("fondo")};
+  QString corpo = disegni_.Testo(gruppi[0], 0, 0) + '\n';
+  QString ritagli;
+  for (const Vista& vista : viste_) {
+    const Figura& figura = *vista.Di;
+    if (!figura.Visible()) continue;
+    const QString gruppo = Gruppo(figura);
+    const QTransform posa = Posa(vista, 1);
+    if (disegni_.Esiste(gruppo)) {
+      gruppi << gruppo;
+      const QString testo = disegni_.Testo(gruppo, figura.FillColor(), vista.Fase);
+      const QRectF entro = disegni_.Entro(gruppo);
+      QString dentro = posa.isIdentity()
+                           ? testo
+                           : QStringLiteral("<g transform=\"matrix(%1,0,0,%2,%3,%4)\">%5</g>")
+                                 .arg(Numero(posa.m11()), Numero(posa.m22()), Numero(posa.dx()),
+                                      Numero(posa.dy()), testo);
+      if (!entro.isNull()) {
+        ritagli += QStringLiteral(
+                       "<clipPath id=\"entro-%1\"><rect x=\"%2\" y=\"%3\" width=\"%4\" "
+                       "height=\"%5\"/></clipPath>\n")
+                       .arg(gruppo, Numero(entro.x()), Numero(entro.y()), Numero(entro.width()),
+                            Numero(entro.height()));
+        dentro = QStringLiteral("<g clip-path=\"url(#entro-%1)\">%2</g>").arg(gruppo, dentro);
+      }
+      corpo += dentro + '\n';
+    }
+    if (!figura.Caption().empty()) corpo += Didascalia(figura, vista.Ora);
+  }
+  return QStringLiteral(
+             "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+             "<svg xmlns=\"http://www.w3.org/2000/svg\" "
+             "xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"%1\" height=\"%2\" "
+             "viewBox=\"0 0 %3 %4\">\n<defs>\n")
+             .arg(Numero(misura.width() / Twip_Per_Pixel), Numero(misura.height() / Twip_Per_Pixel),
+                  Numero(misura.width()), Numero(misura.height())) +
+         disegni_.Definizioni(gruppi) + ritagli + "</defs>\n" + corpo + "</svg>\n";
+}
+
+QImage Quadro::Come_Immagine(double scala) const {
+  QImage immagine((disegni_.Misura().size() * scala / Twip_Per_Pixel).toSize(),
+                  QImage::Format_RGB32);
+  immagine.fill(QColor(0xec, 0xe9, 0xe2));
+  QSvgRenderer disegno(Come_Svg().toUtf8());
+  QPainter pittore(&immagine);
+  pittore.setRenderHint(QPainter::Antialiasing);
+  disegno.render(&pittore);
+  return immagine;
+}
+
+void Quadro::Salva(const QString& tipo) {
+  const QString scelto = Chiedi_File(tipo);
+  if (scelto.isEmpty()) return;
+  const QString file =
+      scelto.endsWith('.' + tipo, Qt::CaseInsensitive) ? scelto : scelto + '.' + tipo;
+  QSaveFile aperto(file);
+  bool riuscito = aperto.open(QIODevice::WriteOnly);
+  if (riuscito && tipo == u"svg")
+    riuscito = aperto.write(Come_Svg().toUtf8()) >= 0;
+  else if (riuscito)
+    riuscito = Come_Immagine(finezza).save(&aperto, "PNG");
+  if (!riuscito || !aperto.commit())
+    QMessageBox::warning(this, QStringLiteral("Errore!"),
+                         "La figura non si può salvare in\n" + file + '\n' + aperto.errorString());
+}
+
+QString Quadro::Chiedi_Con_Finestra(const QString& tipo) {
+  return QFileDialog::getSaveFileName(this, QStringLiteral("Salva la figura"), QString(),
+                                      tipo == u"svg" ? QStringLiteral("Disegni (*.svg *.SVG)")
+                                                     : QStringLiteral("Immagini (*.png *.PNG)"));
+}
+
+void Quadro::Monta_Voci() {
+  const auto voce = [this](const char* nome, const QString& testo, auto azione) {
+    auto* nuova = new QAction(testo, this);
+    nuova->setObjectName(QLatin1String(nome));
+    connect(nuova, &QAction::triggered, this, azione);
+    addAction(nuova);
+    return nuova;
+  };
+  voce("mnuSalvaSvg", QStringLiteral("Salva la figura come SVG…"),
+       [this] { Salva(QStringLiteral("svg")); });
+  voce("mnuSalvaPng", QStringLiteral("Salva la figura come PNG…"),
+       [this] { Salva(QStringLiteral("png")); });
+  auto* riduci = voce("mnuRiduci", QStringLiteral("Riduci animazioni"), [this](bool ridotte) {
+    Preferenze().setValue(chiave_ridotte, ridotte);
+    Riduci_Animazioni(ridotte);
+  });
+  riduci->setCheckable(true);
+  riduci->setChecked(ridotte_);
+}
+
+}  // namespace tavorno

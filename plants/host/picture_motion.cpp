@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What moves in a picture: figures on their way between two ticks of the physics, and drawings that
+// run for as long as they are shown.
+#include <QRegion>
+#include <algorithm>
+#include <cmath>
+
+#include "plants/host/picture_widget.h"
+#include "widgets/text.h"
+
+namespace tavorno {
+
+namespace {
+
+constexpr double salto = 900;        // twips: what goes further at once was put there
+constexpr int via_breve = 40;        // ms of one way at least
+constexpr int via_lunga = 250;       // and at most
+constexpr int ancora_in_moto = 300;  // ms after its last change in which a figure counts as moving
+
+QRectF Rettangolo(const Figura& figura) {
+  return {figura.Left(), figura.Top(), figura.Width(), figura.Height()};
+}
+
+double Distanza(const QRectF& uno, const QRectF& altro) {
+  return std::max({std::abs(uno.left() - altro.left()), std::abs(uno.top() - altro.top()),
+                   std::abs(uno.right() - altro.right()), std::abs(uno.bottom() - altro.bottom())});
+}
+
+QRectF Tra(const QRectF& da, const QRectF& a, double parte) {
+  const auto tra = [parte](double x, double y) { return x + (y - x) * parte; };
+  return {tra(da.left(), a.left()), tra(da.top(), a.top()), tra(da.width(), a.width()),
+          tra(da.height(), a.height())};
+}
+
+}  // namespace
+
+void Quadro::Riduci_Animazioni(bool ridotte) {
+  ridotte_ = ridotte;
+  for (Vista& vista : viste_) {
+    vista.Ora = Rettangolo(*vista.Di);
+    vista.Trascorsi = vista.Durata = 0;
+    vista.Fase = 0;
+  }
+  update();
+  if (!ridotte && !ritmo_.isActive()) ritmo_.start();
+}
+
+bool Quadro::Corre(const Vista& vista) const {
+  if (ridotte_ || !vista.Di->Visible() || !disegni_.Si_Muove(vista.Gruppo_Ora)) return false;
+  const QStringList con = disegni_.Con_Chi(vista.Gruppo_Ora);
+  return con.isEmpty() || std::ranges::any_of(con, [this](const QString& nome) {
+           const Vista* altra = Vista_Di(nome);
+           return altra != nullptr && tempo_ - altra->Cambiata < ancora_in_moto;
+         });
+}
+
+bool Quadro::Si_Muove() const {
+  return std::ranges::any_of(viste_, [this](const Vista& vista) {
+    return vista.Trascorsi < vista.Durata || Corre(vista);
+  });
+}
+
+void Quadro::Sporca(Vista& vista) {
+  const QRectF ora = Occupato(vista);
+  update(vista.Ultimo.toAlignedRect());
+  update(ora.toAlignedRect());
+  vista.Ultimo = ora;
+}
+
+// A figure glides for as long as its last step took, so that steady ticks make a steady way.
+void Quadro::Nota(Vista& vista) {
+  vista.Cambiata = tempo_;
+  vista.Gruppo_Ora = Gruppo(*vista.Di);
+  const QRectF meta = Rettangolo(*vista.Di);
+  if (meta == vista.Ora && vista.Trascorsi >= vista.Durata) return;
+  const auto passo = std::clamp<qint64>(tempo_ - vista.Mossa, via_breve, via_lunga);
+  vista.Mossa = tempo_;
+  if (ridotte_ || !vista.Di->Visible() || Distanza(vista.Ora, meta) > salto) {
+    vista.Ora = meta;
+    vista.Durata = vista.Trascorsi = 0;
+  } else {
+    vista.Partenza = vista.Ora;
+    vista.Durata = static_cast<int>(passo);
+    vista.Trascorsi = 0;
+  }
+}
+
+void Quadro::Avanza(int ms) {
+  tempo_ += ms;
+  const std::vector<Figura*> cambiate = impianto_.Disegno.Prendi_Cambiate();
+  for (Vista& vista : viste_) {
+    const bool cambiata = std::ranges::find(cambiate, vista.Di) != cambiate.end();
+    if (cambiata) Nota(vista);
+    const bool in_via = vista.Trascorsi < vista.Durata;
+    if (in_via) {
+      // A way that begins now has no part in the time before.
+      vista.Trascorsi =
+          std::min(vista.Trascorsi + (cambiata ? std::min(ms, Ritmo) : ms), vista.Durata);
+      vista.Ora = Tra(vista.Partenza, Rettangolo(*vista.Di),
+                      static_cast<double>(vista.Trascorsi) / vista.Durata);
+    }
+    const bool corre = Corre(vista);
+    if (corre) vista.Fase = static_cast<int>(tempo_ / Ritmo % Disegni::Fasi);
+    if (cambiata || in_via || corre) Sporca(vista);
+  }
+}
+
+void Quadro::showEvent(QShowEvent* evento) {
+  QWidget::showEvent(evento);
+  if (!ritmo_.isActive()) ritmo_.start();
+}
+
+// Nothing is drawn of a window that nobody sees.
+void Quadro::hideEvent(QHideEvent* evento) {
+  ritmo_.stop();
+  QWidget::hideEvent(evento);
+}
+
+}  // namespace tavorno
