@@ -168,6 +168,11 @@ void Ctr_Canc::Accendi_Lampeggiante(bool acceso) {
 void Ctr_Canc::Comanda(const Direzione& direzione, Temporizzatore& timer, bool acceso) {
   Disegno[direzione.Contattore].Picture = acceso ? "imgKMON" : "imgKMOF";
   Disegno[direzione.Filo].FillColor = acceso ? filo_in_tensione : filo_spento;
+  const auto in_tensione = [this](const Direzione& una) {
+    return Disegno[una.Filo].FillColor == filo_in_tensione;
+  };
+  Disegno["nodo"].FillColor =
+      in_tensione(chiusura_) || in_tensione(apertura_) ? filo_in_tensione : filo_spento;
   timer.Enabled(acceso);
   if (acceso)
     imgM.Picture = "imgMON";

@@ -22,15 +22,13 @@ constexpr Riga_Figura figure[] = {
     {"Label2",   1740, 1230, 1440,  210},
     {"shKM1",    2340,  720, 1860,  345},
     {"shKM2",    3840,  720,  375,  345},
+    {"nodo",     2340,  720, 2930,  345},
     {"imgKm1",   1800,  480,  930,  240, "imgKMOF"},
     {"imgKM2",   3300,  480,  930,  240, "imgKMOF"},
     {"imgM",     5220,  705,  480,  480, "imgMOF", nota_termico},
     {"imgFR",    4695,  765,  195,  375, "ImgRTOF"},
     {"shC",      1290, 2250,  180,  240, "operato"},
     {"shA",      5760, 2250,  180,  240, "riposo"},
-    {"linFC",    1740, 2355, 1560,   30},
-    {"imgLFC",   3300, 2280,  180,  210, "imgLFCOF"},
-    {"picFC",    2220, 2265,  600,  240, "libera", "Ostacolo davanti alla fotocellula (B), I0.1"},
 
     {"etCom(1)", 6270,  315,  240,  330, "", "Selettore a chiave in posizione 1 (SA_1), I0.7"},
     {"imgCom",   6570,  210,  540,  540, chiave_a_riposo},
@@ -44,6 +42,10 @@ constexpr Riga_Figura figure[] = {
     {"imgHL3",   8160, 1785,  480,  480, Lampada_Spenta, "Lampada blu (HL3), Q0.6"},
 
     {"imgC",     1260, 1500, 2400,  720},
+    // On the ground in front of the gate.
+    {"linFC",    1740, 2355, 1560,   30},
+    {"imgLFC",   3300, 2280,  180,  210, "imgLFCOF"},
+    {"picFC",    2340, 1950,  360,  570, "libera", "Ostacolo davanti alla fotocellula (B), I0.1"},
 };
 
 constexpr Riga_Pulsante pulsanti[] = {

@@ -36,6 +36,7 @@ constexpr int sinistra_chiusa = 660, destra_chiusa = 1200;
 constexpr int sinistra_aperta = 180, destra_aperta = 1680;
 constexpr float soglia_fotocellula = 620;  // of the left leaf; beyond it nobody fits through
 constexpr float twip_per_volt = 500;
+constexpr float tetto_vano = 840, fondo_vano = 5400;  // where the shaft ends, twips
 
 constexpr Colore rosso_vivo = Tavolozza(12), verde_vivo = Tavolozza(10);
 constexpr Colore verde_scuro = Tavolozza(2), grigio_scuro = Tavolozza(8), nero = Tavolozza(0);
@@ -89,7 +90,7 @@ ctr_Ascensore::ctr_Ascensore(Orologio& orologio)
   Mostra_Porte(5, false);
   Disegno["linFC"].FillColor = nero;
   EtPos.Caption = Testo(imgC.Top / twip_per_volt);
-  for (const char* nascosta : {"imgSu", "imgGiu", "imgLFC", "EtPos"})
+  for (const char* nascosta : {"imgSu", "imgGiu", "imgLFC", "EtPos", "extracorsa"})
     Disegno[nascosta].Visible = false;
 
   Disegno["Label3"].Caption = "Selettore SA1";
@@ -188,6 +189,7 @@ void ctr_Ascensore::Tick_timCab() {
   imgP.Top = imgP.Top - passo;
   Tendi(Disegno["lin2"], imgC.Top);
   Tendi(Disegno["lin1"], imgP.Top);
+  Disegno["extracorsa"].Visible = imgC.Top < tetto_vano || imgC.Top + imgC.Height > fondo_vano;
 
   const long posizione = std::lrint(imgC.Top);
   for (int n = 0; n < 4; ++n) {

@@ -25,6 +25,7 @@ constexpr Riga_Figura figure[] = {
     {"imgSu",      1860,  390,  210,  300},
     {"imgGiu",     2100,  390,  210,  300},
 
+    {"extracorsa",  690, 2850, 1620,  300},
     {"imgSC(0)",   2160, 4560,  180,  120, "spento"},
     {"imgSC(1)",   2160, 3360,  180,  120, "spento"},
     {"imgSC(2)",   2160, 2160,  180,  120, "spento"},

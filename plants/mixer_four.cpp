@@ -17,9 +17,9 @@ constexpr const char* manca = "Tenere premuto per simulare la mancanza di prodot
 // imgTG(n) leads from the tank of a product to its valve, imgTOP from the valves to the pump, imgTVP
 // from the pump into the mixing tank.
 constexpr Riga_Figura figure[] = {
+    {"imgSp",     3720,  900,  240,  240},
     {"imgLiquido", 3480, 2699, 1500, 1},
     {"shL",       3480, 2700, 1500,    0},
-    {"imgSp",     3720,  900,  240,  240},
     {"ShDos",     3810, 2280,  840,  240, "imgDos4"},
     {"imgVasca",  3420,  780, 1620, 2040},
     {"imgTG(0)",   360,  900,   60,  840, "imgTOF"},
@@ -158,8 +158,21 @@ void ctr_Mis4::Comanda(int uscita, bool eccitata) {
 // A valve that falls stops the fill, even while another stands open and the pump runs.
 void ctr_Mis4::Comanda_Prodotto(std::size_t valvola, bool aperta) {
   valvole_.at(valvola) = aperta;
+  Mostra_Prodotto();
   Disegno("imgV", static_cast<int>(valvola)).Picture = Elettrovalvola(aperta);
   Carica(aperta && pompa_);
+}
+
+// Through valves that are open together flows a mixture of their products.
+void ctr_Mis4::Mostra_Prodotto() {
+  Colore miscela = 0;
+  double parti = 0;
+  for (std::size_t n = 0; n < valvole_.size(); ++n) {
+    if (valvole_.at(n)) miscela = Mescola(miscela, parti++, Prodotti[n], 1);
+  }
+  if (parti == 0) return;
+  Tinta_Mandata(0, miscela);
+  for (const char* nome : {"imgTOP", "imgTVP", "imgSp"}) Disegno[nome].FillColor = miscela;
 }
 
 void ctr_Mis4::Comanda_Pompa_P1(bool accesa) {

@@ -15,6 +15,7 @@ class ctr_Mis4 : public Serbatoio_Agitato {
 
  private:
   void Comanda(int uscita, bool eccitata) override;
+  void Mostra_Prodotto();
   void Comanda_Prodotto(std::size_t valvola, bool aperta);
   void Comanda_Pompa_P1(bool accesa);
   void Carica(bool attivo);

@@ -17,10 +17,10 @@ constexpr const char* scatta = "Click per simulare intervento";
 //
 // Later figures cover earlier ones: the tank stands before its liquid and hides what rises beyond.
 constexpr Riga_Figura figure[] = {
-    {"imgLiquido", 3000, 2999, 1800, 1},
-    {"shL",       3000, 3000, 1800,    0},
     {"imgSp(0)",  3300, 1080,  240,  300},
     {"imgSp(1)",  3060, 1200,  240,  240},
+    {"imgLiquido", 3000, 2999, 1800, 1},
+    {"shL",       3000, 3000, 1800,    0},
     {"imgSp(2)",  3060, 2400,  420,  420},
     {"ShDos",     3420, 2520,  960,  240, "imgDos4"},
     {"imgVasca",  2940,  900, 1920, 2280},

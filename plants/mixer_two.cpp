@@ -8,10 +8,10 @@ namespace {
 // clang-format off
 // name, left, top, width, height, picture at first, tool tip
 constexpr Riga_Figura figure[] = {
-    {"imgLiquido", 2700, 2759, 1500, 1},
-    {"shL",       2700, 2760, 1500,    0},
     {"imgSp(0)",  2880,  960,  240,  240},
     {"imgSp(1)",  2760, 1080,  240,  180},
+    {"imgLiquido", 2700, 2759, 1500, 1},
+    {"shL",       2700, 2760, 1500,    0},
     {"imgSp(2)",  2760, 2280,  360,  360},
     {"ShDos",     3030, 2340,  840,  240, "imgDos4"},
     {"imgVasca",  2640,  840, 1620, 2100},

@@ -12,6 +12,7 @@ constexpr Riga_Figura figure[] = {
     // name, left, top, width, height, picture at first, tool tip
     {"linKM1",      825, 1130, 1770,  600},
     {"linKM2",     2205, 1130,  390,  600},
+    {"nodo",        825, 1130, 1770, 1200},
     {"imgKm1",      300,  840,  930,  360, "imgKMOF", forza},
     {"imgKM2",     1680,  840,  930,  360, "imgKMOF", forza},
     {"ImgTer",     2100, 1830,  600,  300, "ImgRTOF", "Click per simulare intervento"},
@@ -73,7 +74,10 @@ void INV::KMIStato(std::string_view stato) {
 }
 
 void INV::Concludi() {
-  Disegno["imgM"].Picture = km1_eccitato_ || km2_eccitato_ ? "imgMON" : "imgMOF";
+  const bool alimentato = km1_eccitato_ || km2_eccitato_;
+  Disegno["imgM"].Picture = alimentato ? "imgMON" : "imgMOF";
+  // The wires of both meet: what one of them feeds is live below the other as well.
+  Disegno["nodo"].FillColor = Tavolozza(alimentato ? 12 : 15);
   Invia();
 }
 

@@ -34,6 +34,8 @@ void ST::Mostra_Motori() {
   const bool triangolo = km1 && km3;
   const bool stella = km1 && km2 && !triangolo;
   Disegno["imgM"].Picture = triangolo || stella ? "imgMON" : "imgMOFF";
+  // The ends W2, U2, V2 of the windings hang on both.
+  Disegno["nodo"].FillColor = Tavolozza(km2 || km3 ? 12 : 15);
   Disegno["imgT"].Visible = triangolo;
   Disegno["imgS"].Visible = stella;
   if (Figura* imgM2 = Disegno.Trova("imgM2")) imgM2->Picture = km4 ? "imgM1ON" : "imgM1OFF";

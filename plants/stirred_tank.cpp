@@ -34,6 +34,8 @@ Serbatoio_Agitato::Serbatoio_Agitato(const Schema_Serbatoio& schema, Orologio& o
         ShDos.Picture = ShDos.FillStyle == 5 ? "imgDos5" : "imgDos4";
       }) {
   Mostra_Liquido(0);
+  Colora_Liquido(Prodotti[0]);
+  for (std::size_t n = 0; n < mandate_.size(); ++n) Tinta_Mandata(n, Prodotti[n]);
   etcap.Caption = "0";
   etcap.ForeColor = Verde_Display;
   ME_AIW0 = 0.0F;
@@ -136,7 +138,10 @@ void Serbatoio_Agitato::Ferma_Carico(std::size_t linea) {
 }
 
 void Serbatoio_Agitato::Riempi(Mandata& linea) {
-  if (Prodotto_Ok) Mostra_Liquido(shL.Height + twip_per_tick);
+  if (Prodotto_Ok) {
+    Colora_Liquido(Mescola(imgLiquido.FillColor, shL.Height, linea.Prodotto, twip_per_tick));
+    Mostra_Liquido(shL.Height + twip_per_tick);
+  }
   const bool impulso = !linea.Alto && Prodotto_Ok;
   linea.Alto = !linea.Alto;
   linea.imgTr.Picture = impulso ? "imgTrON" : "imgTrOF";
@@ -194,6 +199,25 @@ void Serbatoio_Agitato::Mostra_Liquido(float altezza) {
   shL.Top = schema_.Fondo - altezza;
   imgLiquido.Height = std::clamp(altezza, 1.0F, schema_.Fondo);
   imgLiquido.Top = schema_.Fondo - imgLiquido.Height;
+}
+
+void Serbatoio_Agitato::Colora_Liquido(Colore miscela) {
+  imgLiquido.FillColor = miscela;
+  Disegno[schema_.Tubo_Scarico].FillColor = miscela;
+}
+
+Colore Serbatoio_Agitato::Mescola(Colore uno, double parti_uno, Colore altro, double parti_altro) {
+  const double tutte = parti_uno + parti_altro;
+  if (tutte <= 0) return altro;
+  Colore miscela = 0;
+  for (const unsigned canale : {0U, 8U, 16U}) {
+    const double a = uno >> canale & 0xFFU;
+    const double b = altro >> canale & 0xFFU;
+    // Upwards from one and downwards to the other, so that small parts are not lost.
+    const double tra = (a * parti_uno + b * parti_altro) / tutte;
+    miscela |= static_cast<Colore>(b > a ? std::ceil(tra) : std::floor(tra)) << canale;
+  }
+  return miscela;
 }
 
 void Serbatoio_Agitato::Mostra_Livello(const Riga_Livello& riga) {

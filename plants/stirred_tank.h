@@ -103,6 +103,13 @@ class Serbatoio_Agitato : public Impianto {
   virtual void Aggiorna_Analogici();
   static float Volt(Figura& etichetta, float volt);
 
+  /// The colours of the products as the pictures show them.
+  static constexpr Colore Prodotti[] = {0xD68F4F, 0xCF748A, 0x9AA33A, 0x458FC9};
+  /// What a line fills with from now on.
+  void Tinta_Mandata(std::size_t linea, Colore prodotto) { mandate_[linea].Prodotto = prodotto; }
+  /// Colours by their parts.
+  static Colore Mescola(Colore uno, double parti_uno, Colore altro, double parti_altro);
+
   // Lines with a pump and a valve each: they flow while both are on.
   void Comanda_Pompa(std::size_t linea, bool accesa);
   void Comanda_Valvola(std::size_t linea, bool aperta);
@@ -134,6 +141,7 @@ class Serbatoio_Agitato : public Impianto {
     Temporizzatore Timer;
     bool Pompa_On = false, Valvola_On = false;
     bool Alto = false;  // the pulse of this litre has begun
+    Colore Prodotto = Prodotti[0];
   };
 
   void Applica_Uscite() override;
@@ -144,6 +152,7 @@ class Serbatoio_Agitato : public Impianto {
   void Riempi(Mandata& linea);
   void Tick_Scarico();
   void Mostra_Liquido(float altezza);
+  void Colora_Liquido(Colore miscela);
   void Aggiorna_Livello(int vuoto);
   void Mostra_Livello(const Riga_Livello& riga);
 

@@ -17,10 +17,11 @@ namespace {
 // clang-format off
 // name, left, top, width, height, picture at first, tool tip
 constexpr Riga_Figura figure[] = {
+    {"imgSpruzzo",    780,  900,  240, 1500},
+    {"spruzzo",      3720,  510,  240, 1425},
     {"shL1",          600, 1935, 1680,  465},
     {"shL2",         3480, 1770, 1680,  165},
     {"imgVasca",      540, 1320, 1800, 1140},
-    {"imgSpruzzo",    780,  900,  240,  540},
     {"shSerb",       3420,  375, 1800, 1560},
     {"linR1",         540, 2400, 1800,   60},
     {"imgTubi",      2280,  240, 1560, 2040, "imgTOF"},
@@ -128,6 +129,7 @@ Ctr_Level0::Ctr_Level0(Orologio& orologio)
               }),
       timP1_(orologio, intervallo, [this] { Pompa(); }) {
   Disegno["imgSpruzzo"].Visible = false;
+  Disegno["spruzzo"].Visible = false;
   for (const Riga_Micro* micro : {&SL1, &SL2, &SL3, &SL4, &SL5}) {
     Disegno[micro->Spia].FillColor = spenta;
     Disegno[micro->Raggi].Visible = false;
@@ -218,7 +220,9 @@ void Ctr_Level0::Aggiorna_Serbatoio() {
 }
 
 void Ctr_Level0::Mostra_Tubi() {
-  Disegno["imgTubi"].Picture = pompa_on_ && !vasca_vuota_ ? "imgTON" : "imgTOF";
+  const bool scorre = pompa_on_ && !vasca_vuota_;
+  Disegno["imgTubi"].Picture = scorre ? "imgTON" : "imgTOF";
+  Disegno["spruzzo"].Visible = scorre;
 }
 
 void Ctr_Level0::Mostra_Scarico() {

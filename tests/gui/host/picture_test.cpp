@@ -10,6 +10,8 @@
 namespace tavorno {
 namespace {
 
+constexpr QPoint contatto_FR(7170, 585);  // of US-00, twips
+
 struct Picture : ::testing::Test {
   Banco_Host banco{0};  // a motor with one contactor
   Quadro& quadro = banco.Disegno();
@@ -34,6 +36,25 @@ TEST_F(Picture, AClickTripsTheRelay) {
   EXPECT_EQ(Ingresso(4), '0');
   QTest::mouseClick(&quadro, Qt::LeftButton, {}, banco.Centro("ImgTer"));
   EXPECT_EQ(Ingresso(4), '1');
+}
+
+TEST_F(Picture, TheContactOfTheRelayTakesTheClickToo) {
+  const QRectF figura = quadro.Posto(banco.Macchina().Disegno["ImgTer"]);
+  const double twip = figura.width() / banco.Macchina().Disegno["ImgTer"].Width;
+  const QPointF origine = figura.topLeft() - QPointF(banco.Macchina().Disegno["ImgTer"].Left * twip,
+                                                     banco.Macchina().Disegno["ImgTer"].Top * twip);
+  // Where the picture has the contact, among the inputs of the PLC.
+  const QPoint contatto = (origine + QPointF(contatto_FR) * twip).toPoint();
+  ASSERT_FALSE(figura.contains(contatto));
+  QTest::mouseClick(&quadro, Qt::LeftButton, {}, contatto);
+  EXPECT_EQ(Ingresso(4), '0');
+}
+
+TEST_F(Picture, APressThatChangesNothingSaysSo) {
+  Banco_Host ascensore{14};  // its keys act in maintenance only
+  QTest::mouseClick(&ascensore.Disegno(), Qt::LeftButton, {}, ascensore.Centro("cmdSu"));
+  EXPECT_TRUE(QToolTip::text().startsWith("Ora non ha effetto: Salita a mano"))
+      << QToolTip::text().toStdString();
 }
 
 TEST_F(Picture, ADoubleClickForcesTheContactor) {
@@ -102,7 +123,7 @@ TEST_F(Picture, EverythingWithAToolTipSaysIt) {
     return QToolTip::text();
   };
   EXPECT_EQ(chiedi("imgKM"), "DbClick per forzare apertura");
-  EXPECT_EQ(chiedi("ImgTer"), "Click per simulare intervento");
+  EXPECT_EQ(chiedi("ImgTer"), "Click per simulare intervento\nRelè termico FR, I0.3");
   EXPECT_EQ(chiedi("imgLA"), "Lampada blu, Q0.1");
   EXPECT_EQ(chiedi("imgKMa"), "Contatto ausiliario, I0.2");
 }
