@@ -41,11 +41,11 @@ constexpr Riga_Figura figure[] = {
     {"imgHL2",   7230, 1785,  480,  480, Lampada_Spenta, "Lampada gialla (HL2), Q0.5"},
     {"imgHL3",   8160, 1785,  480,  480, Lampada_Spenta, "Lampada blu (HL3), Q0.6"},
 
+    // In the passage behind the gate, on the ground.
+    {"linFC",    1500, 2085, 1920,   30},
+    {"imgLFC",   3390, 2010,  150,  225, "imgLFCOF"},
+    {"picFC",    2340, 1680,  360,  555, "libera", "Ostacolo davanti alla fotocellula (B), I0.1"},
     {"imgC",     1260, 1500, 2400,  720},
-    // On the ground in front of the gate.
-    {"linFC",    1740, 2355, 1560,   30},
-    {"imgLFC",   3300, 2280,  180,  210, "imgLFCOF"},
-    {"picFC",    2340, 1950,  360,  570, "libera", "Ostacolo davanti alla fotocellula (B), I0.1"},
 };
 
 constexpr Riga_Pulsante pulsanti[] = {

@@ -311,6 +311,21 @@ TEST_P(Leggibilita, NothingTouchesATextInAnyStateOfAnyFigure) {
   }
 }
 
+struct Vasca : Leggibilita {};
+
+TEST_P(Vasca, TheNumbersInATankAreReadAtEveryLevel) {
+  const std::map<int, std::string> riempie = {{8, "1100000000000000"},
+                                              {10, "1100011000000000"},
+                                              {12, "1110000000000000"},
+                                              {13, "1000010000000000"}};
+  impianto->Stato_Q(riempie.at(GetParam()));
+  for (int livello = 0; livello < 12; ++livello) {
+    orologio.Avanza(10000);
+    Guarda("after " + std::to_string(10 * (livello + 1)) + " s of filling");
+  }
+}
+INSTANTIATE_TEST_SUITE_P(Esercizi, Vasca, ::testing::Values(8, 10, 12, 13));
+
 std::vector<int> Con_Impianto() {
   std::vector<int> indici;
   for (const Esercizio& esercizio : Tabella_Esercizi()) {
