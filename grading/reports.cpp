@@ -107,13 +107,13 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-const char* Parola(Giudizio esito) {
+const char* Parola(Verdetto esito) {
   switch (esito) {
-    case Giudizio::Soddisfatta:
+    case Verdetto::Soddisfatta:
       return "met";
-    case Giudizio::Mancata:
+    case Verdetto::Mancata:
       return "missed";
-    case Giudizio::Non_Giudicata:
+    case Verdetto::Non_Giudicata:
       break;
   }
   return "not judged";

@@ -192,12 +192,12 @@ void Esame::Segna_Punti(double punti, bool meritati, const std::string& testo) {
 
 void Esame::Registra(bool premessa, double punti, bool soddisfatta, const std::string& testo) {
   Caso& caso = Adesso();
-  const Giudizio esito = !Si_Giudica() ? Giudizio::Non_Giudicata
-                         : soddisfatta ? Giudizio::Soddisfatta
-                                       : Giudizio::Mancata;
+  const Verdetto esito = !Si_Giudica() ? Verdetto::Non_Giudicata
+                         : soddisfatta ? Verdetto::Soddisfatta
+                                       : Verdetto::Mancata;
   conto_.Contati += punti;
-  if (esito == Giudizio::Soddisfatta) caso.Punti += punti;
-  if (esito == Giudizio::Mancata) Rileva((premessa ? "premessa mancata: " : "") + testo);
+  if (esito == Verdetto::Soddisfatta) caso.Punti += punti;
+  if (esito == Verdetto::Mancata) Rileva((premessa ? "premessa mancata: " : "") + testo);
   if (caso.Richieste.size() < richieste_massime)
     caso.Richieste.push_back({premessa, punti, Accorcia(testo), esito, banco_->Tempo()});
 }
