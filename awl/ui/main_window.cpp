@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QLayout>
 #include <QPushButton>
 #include <QShortcut>
 #include <QStatusBar>

@@ -90,7 +90,8 @@ FrmStampe::FrmStampe(Progetto& progetto, Scelta_Stampante scegli_stampante, QWid
     tasto->setAutoDefault(false);
     tasto->setDefault(pulsante.Indice == 1);
     tasto->setMinimumWidth(110);
-    connect(tasto, &QPushButton::clicked, this, [this, &pulsante] { cmdStp(pulsante.Indice); });
+    connect(tasto, &QPushButton::clicked, this,
+            [this, indice = pulsante.Indice] { cmdStp(indice); });
     tasti->addWidget(tasto);
   }
   tasti->addStretch();

@@ -53,7 +53,7 @@ Campione_Contraves::Campione_Contraves() : etC1_(new QLabel(Come_Testo(0))) {
     tasto->setFocusPolicy(Qt::StrongFocus);
     tasto->setToolTip(Q(freccia.Suggerimento));
     tasto->setFixedSize(26, 20);
-    connect(tasto, &QToolButton::clicked, this, [this, &freccia] { Gira(freccia.Passo); });
+    connect(tasto, &QToolButton::clicked, this, [this, passo = freccia.Passo] { Gira(passo); });
     colonna->addWidget(tasto);
   }
 
