@@ -16,7 +16,7 @@ struct Rilievo {
 };
 
 /// What became of something that a script asks for.
-enum class Verdetto {
+enum class Esito_Richiesta {
   Soddisfatta,
   Mancata,
   Non_Giudicata  ///< something that must come before did not happen, or the program broke
@@ -27,7 +27,7 @@ struct Richiesta {
   bool Premessa = false;  ///< of `serve`, which carries no marks itself
   double Punti = 0;       ///< marks that it is worth
   std::string Testo;
-  Verdetto Esito = Verdetto::Soddisfatta;
+  Esito_Richiesta Esito = Esito_Richiesta::Soddisfatta;
   std::int64_t Ms = 0;  ///< virtual time since the case began
 
   bool operator==(const Richiesta&) const = default;

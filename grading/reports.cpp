@@ -107,13 +107,13 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-const char* Parola(Verdetto esito) {
+const char* Parola(Esito_Richiesta esito) {
   switch (esito) {
-    case Verdetto::Soddisfatta:
+    case Esito_Richiesta::Soddisfatta:
       return "met";
-    case Verdetto::Mancata:
+    case Esito_Richiesta::Mancata:
       return "missed";
-    case Verdetto::Non_Giudicata:
+    case Esito_Richiesta::Non_Giudicata:
       break;
   }
   return "not judged";

@@ -192,12 +192,12 @@ void Esame::Segna_Punti(double punti, bool meritati, const std::string& testo) {
 
 void Esame::Registra(bool premessa, double punti, bool soddisfatta, const std::string& testo) {
   Caso& caso = Adesso();
-  const Verdetto esito = !Si_Giudica() ? Verdetto::Non_Giudicata
-                         : soddisfatta ? Verdetto::Soddisfatta
-                                       : Verdetto::Mancata;
+  const Esito_Richiesta esito = !Si_Giudica() ? Esito_Richiesta::Non_Giudicata
+                                : soddisfatta ? Esito_Richiesta::Soddisfatta
+                                              : Esito_Richiesta::Mancata;
   conto_.Contati += punti;
-  if (esito == Verdetto::Soddisfatta) caso.Punti += punti;
-  if (esito == Verdetto::Mancata) Rileva((premessa ? "premessa mancata: " : "") + testo);
+  if (esito == Esito_Richiesta::Soddisfatta) caso.Punti += punti;
+  if (esito == Esito_Richiesta::Mancata) Rileva((premessa ? "premessa mancata: " : "") + testo);
   if (caso.Richieste.size() < richieste_massime)
     caso.Richieste.push_back({premessa, punti, Accorcia(testo), esito, banco_->Tempo()});
 }

@@ -12,7 +12,7 @@
 namespace tavorno {
 
 /// A straight line; a wire or a symbol's stroke is live with its point.
-struct Tratto {
+struct Asta {
   double X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;
   Nodo_Elettrico Nodo = 0;
   int Riquadro = -1;  ///< the symbol that it belongs to, -1 for a wire
@@ -47,7 +47,7 @@ struct Scritta {
 
 struct Tratteggio_Rete {
   double Larghezza = 0, Altezza = 0;
-  std::vector<Tratto> Tratti;
+  std::vector<Asta> Tratti;
   std::vector<Parentesi> Curve;
   std::vector<Cornice> Cornici;
   std::vector<Scritta> Scritte;

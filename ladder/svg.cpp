@@ -60,7 +60,7 @@ std::string Come_Svg(const Tratteggio_Rete& forme, const std::vector<bool>& vivi
     testo += "<rect x=\"" + Cifre(c.X) + "\" y=\"" + Cifre(c.Y) + "\" width=\"" +
              Cifre(c.Larghezza) + "\" height=\"" + Cifre(c.Altezza) + "\" rx=\"2\"" +
              classe(c.Nodo) + "/>\n";
-  for (const Tratto& t : forme.Tratti)
+  for (const Asta& t : forme.Tratti)
     testo += "<path d=\"M" + Punto_Svg(t.X1, t.Y1) + " L" + Punto_Svg(t.X2, t.Y2) + "\"" +
              classe(t.Nodo) + "/>\n";
   for (const Parentesi& p : forme.Curve)

@@ -55,17 +55,19 @@ void Scrivi_Uscite(Plc& plc, int num, std::uint8_t byte) {
 }
 
 template <class Elemento>
-double Leggi_Elemento(const Elemento& elemento, std::int16_t preset, Parte quale) {
-  return quale == Parte::Bit ? elemento.Uscita : quale == Parte::Val ? elemento.Val : preset;
+double Leggi_Elemento(const Elemento& elemento, std::int16_t preset, Parte_Cella quale) {
+  return quale == Parte_Cella::Bit   ? elemento.Uscita
+         : quale == Parte_Cella::Val ? elemento.Val
+                                     : preset;
 }
 
 template <class Elemento>
-void Scrivi_Elemento(Elemento& elemento, std::int16_t& preset, Parte quale, double valore) {
+void Scrivi_Elemento(Elemento& elemento, std::int16_t& preset, Parte_Cella quale, double valore) {
   const auto intero = static_cast<std::int16_t>(valore);
-  if (quale == Parte::Bit)
+  if (quale == Parte_Cella::Bit)
     elemento.Uscita = static_cast<std::uint8_t>(intero);
   else
-    (quale == Parte::Val ? elemento.Val : preset) = intero;
+    (quale == Parte_Cella::Val ? elemento.Val : preset) = intero;
 }
 
 }  // namespace
@@ -93,9 +95,9 @@ std::optional<Indirizzo> Leggi_Indirizzo(std::string_view testo) {
   }
   if (riga.Preset.empty()) return {};
   if (resto == "VAL")
-    indirizzo.Quale = Parte::Val;
+    indirizzo.Quale = Parte_Cella::Val;
   else if (resto == riga.Preset)
-    indirizzo.Quale = Parte::Preset;
+    indirizzo.Quale = Parte_Cella::Preset;
   else
     return {};
   return indirizzo;
@@ -148,7 +150,7 @@ double Leggi_Cella(const Plc& plc, const Indirizzo& indirizzo) {
 
 bool Scrivi_Cella(Plc& plc, const Indirizzo& indirizzo, double valore) {
   const Riga_Area& riga = Riga_Di(indirizzo.Dove);
-  const bool bit_di_elemento = !riga.Preset.empty() && indirizzo.Quale == Parte::Bit;
+  const bool bit_di_elemento = !riga.Preset.empty() && indirizzo.Quale == Parte_Cella::Bit;
   const double massimo = bit_di_elemento ? 1 : riga.Massimo;
   const double minimo = bit_di_elemento ? 0 : riga.Minimo;
   if (!(valore >= minimo && valore <= massimo)) return false;

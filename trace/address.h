@@ -10,15 +10,15 @@
 namespace tavorno {
 
 /// A part of a timer or counter.
-enum class Parte { Bit, Val, Preset };
+enum class Parte_Cella { Bit, Val, Preset };
 
 /// A cell of the CPU's memory that exists: every area of the table but constants and the words of
 /// bits (IW, QW, MW).
 struct Indirizzo {
   Area Dove = Area::I;
   int Num = 0;
-  int Bit = 0;               ///< of I, Q, M, SM, S
-  Parte Quale = Parte::Bit;  ///< of T and C
+  int Bit = 0;                           ///< of I, Q, M, SM, S
+  Parte_Cella Quale = Parte_Cella::Bit;  ///< of T and C
 };
 
 /// Reads "Q0.0", "VW10", "T37", "T37.Val", "C5.PV"; capitals do not matter. Empty when it is none,

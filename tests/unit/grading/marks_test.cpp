@@ -94,11 +94,11 @@ TEST_F(Premise, AndMarksAreRecordedWithTheirOutcome) {
   EXPECT_THAT(Di(R"(punti(1, true, 'uno') attendi(3) punti(2, false, 'due')
             serve(true, 'tre') serve(false, 'quattro') punti(5, true, 'cinque'))")
                   .Richieste,
-              ElementsAre(Richiesta{false, 1, "uno", Verdetto::Soddisfatta, 0},
-                          Richiesta{false, 2, "due", Verdetto::Mancata, 3},
-                          Richiesta{true, 0, "tre", Verdetto::Soddisfatta, 3},
-                          Richiesta{true, 0, "quattro", Verdetto::Mancata, 3},
-                          Richiesta{false, 5, "cinque", Verdetto::Non_Giudicata, 3}));
+              ElementsAre(Richiesta{false, 1, "uno", Esito_Richiesta::Soddisfatta, 0},
+                          Richiesta{false, 2, "due", Esito_Richiesta::Mancata, 3},
+                          Richiesta{true, 0, "tre", Esito_Richiesta::Soddisfatta, 3},
+                          Richiesta{true, 0, "quattro", Esito_Richiesta::Mancata, 3},
+                          Richiesta{false, 5, "cinque", Esito_Richiesta::Non_Giudicata, 3}));
 }
 
 TEST_F(CaseMarks, DemandsStandInTheJsonReport) {
