@@ -1,8 +1,10 @@
 -- US-14, ascensore a quattro piani. Da avviare con --impianto 14.
 -- KM1 Q0.0 salita, KM2 Q0.1 discesa, KM3 Q0.2 chiude e KM4 Q0.3 apre le porte. SQ5 I0.4 = porte chiuse,
 -- SQ6 I1.7 = 0 a porte aperte. All'inizio la cabina è al terzo piano con le porte chiuse.
--- A ogni chiamata o mandata la cabina va al piano, apre le porte, aspetta (da 1 a 15 secondi) e le
--- chiude. Prima si finiscono le richieste nel verso di marcia. Oltre 8 V di carico non si parte.
+-- A ogni chiamata o mandata la cabina va al piano, apre le porte, aspetta tre secondi e le chiude. Prima
+-- si finiscono le richieste nel verso di marcia. Oltre 8 V di carico non si parte.
+
+usa("sicurezza.lua")
 
 local piani = {
   { nome = "terra", micro = "I0.0", chiamata = "imgPP(3)", mandata = "imgPC(0)", lampada = "Q0.4", in_cabina = "Q1.3" },
@@ -24,24 +26,20 @@ local function a_un_piano()
   return al_piano(terra) or al_piano(primo) or al_piano(secondo) or al_piano(terzo)
 end
 
--- Che cosa c'è di pericoloso in questa scansione.
-local function pericolo()
+-- Guarda a ogni scansione che cosa c'è di pericoloso.
+local function sorveglia()
   local uscite = leggi("QB0")
-  if uscite & 3 == 3 then return "KM1 e KM2 non devono mai essere comandati insieme" end
-  if uscite & 12 == 12 then return "KM3 e KM4 non devono mai essere comandati insieme" end
-  if uscite & 3 ~= 0 and not chiuse() then return "la cabina non deve mai muoversi con le porte aperte" end
-  if uscite & 8 ~= 0 and not a_un_piano() then return "le porte non devono aprirsi fra due piani" end
+  if uscite & 3 == 3 then pericolo("KM1 e KM2 non devono mai essere comandati insieme") end
+  if uscite & 12 == 12 then pericolo("KM3 e KM4 non devono mai essere comandati insieme") end
+  if uscite & 3 ~= 0 and not chiuse() then pericolo("la cabina non deve mai muoversi con le porte aperte") end
+  if uscite & 8 ~= 0 and not a_un_piano() then pericolo("le porte non devono mai aprirsi fra due piani") end
 end
 
--- Aspetta, e guarda a ogni scansione che non ci siano pericoli. Alla fine dice anche se ce ne sono stati.
 local function aspetta(fino, ms)
-  local visto
-  local arrivato, passati = attendi_fino(function()
-    visto = visto or pericolo()
+  return attendi_fino(function()
+    sorveglia()
     return fino()
   end, ms)
-  verifica(not visto, visto)
-  return arrivato, passati, visto
 end
 local function guarda(ms) aspetta(function() return false end, ms) end
 local function si_chiude() return acceso("Q0.2") end
@@ -49,7 +47,8 @@ local function a_riposo() return chiuse() and leggi("QB0") & 15 == 0 end
 
 local function avvia()
   run()
-  guarda(500)
+  guarda(1000)
+  return serve(leggi("QB0") & 15 == 0 and chiuse(), "senza chiamate la cabina e le porte devono restare ferme")
 end
 
 local function chiama(pulsante)
@@ -79,120 +78,194 @@ local function fermate(ms)
   return table.concat(viste, ", ")
 end
 
-prova("a riposo", function()
-  run()
-  punti(1, not aspetta(in_corsa, 5000), "senza chiamate la cabina deve restare ferma")
-end)
+for _, comando in ipairs { "chiamata", "mandata" } do
+  local quali = comando == "chiamata" and { terra, primo, secondo, terzo } or { secondo, terra, terzo, primo }
+  prova(comando == "chiamata" and "chiamate ai piani" or "mandate dalla cabina", 8, function()
+    avvia()
+    local prima
+    for _, piano in ipairs(quali) do
+      local lampada = comando == "chiamata" and piano.lampada or piano.in_cabina
+      local buia = not acceso(lampada)
+      chiama(piano[comando])
+      guarda(300)
+      local accesa = acceso(lampada)
+      local arrivata = serve(aspetta(function() return servito(piano) end, una_corsa),
+                             comando .. " al piano " .. piano.nome .. ": la cabina deve arrivare e aprire le porte")
+      punti(1, arrivata, comando .. " al piano " .. piano.nome .. ": la cabina deve arrivare e aprire le porte")
+      guarda(500)
+      -- La lampada del piano può restare accesa finché la cabina è lì.
+      local spenta = comando == "chiamata" or not acceso(lampada)
+      punti(0.75, buia and accesa and spenta, comando .. " al piano " .. piano.nome .. ": la sua lampada deve accendersi, e spegnersi quando è servita")
+      if prima then punti(1 / 3, not acceso(prima), "lasciato il piano la lampada della " .. comando .. " di prima deve essere spenta") end
+      prima = lampada
+      guarda(500)
+    end
+  end)
+end
 
-prova("chiamate ai piani", function()
+prova("porte", 6, function()
   avvia()
-  local tutte, sicuro = true, true
-  for _, piano in ipairs { terra, primo, secondo, terzo } do
-    chiama(piano.chiamata)
-    local arrivata, _, visto = aspetta(function() return servito(piano) end, una_corsa)
-    punti(2, arrivata, "chiamata al piano " .. piano.nome .. ": la cabina deve arrivare e aprire le porte")
-    tutte, sicuro = tutte and arrivata, sicuro and not visto
-    guarda(1000)
-  end
-  punti(3, tutte and sicuro, "corse con le porte chiuse, porte aperte soltanto ai piani")
-end)
-
-prova("mandate dalla cabina", function()
-  avvia()
-  for _, piano in ipairs { secondo, terra, terzo, primo } do
-    punti(1, va(piano, piano.mandata), "mandata al piano " .. piano.nome .. ": la cabina deve arrivare e aprire le porte")
-    guarda(1000)
-  end
-end)
-
-prova("porte", function()
-  avvia()
-  local arrivata = va(secondo, secondo.mandata)
-  guarda(50)
-  punti(1, arrivata and not acceso("Q0.3"), "a porte aperte (SQ6) KM4 deve aprirsi")
+  local arrivata = serve(va(secondo, secondo.mandata), "la cabina deve arrivare al secondo piano e aprire le porte")
+  guarda(200)
+  sicuro(1, arrivata, not acceso("Q0.3"), "a porte aperte (SQ6) KM4 deve aprirsi entro 0,2 secondi")
   local chiude, sosta = aspetta(si_chiude, 20000)
-  punti(1, arrivata and chiude and sosta >= 950 and sosta <= 15000,
-        "le porte devono restare aperte da 1 a 15 secondi, non " .. sosta .. " ms")
-  punti(2, arrivata and aspetta(chiuse, 15000), "le porte devono chiudersi da sole")
-  guarda(50)
-  punti(1, arrivata and chiuse() and not si_chiude(), "a porte chiuse (SQ5) KM3 deve aprirsi")
+  sosta = sosta + 200
+  print("porte aperte per " .. sosta .. " ms")
+  serve(chiude, "le porte devono chiudersi da sole")
+  punti(2, sosta >= 2500 and sosta <= 4500, "le porte devono restare aperte 3 secondi (da 2,5 a 4,5)")
+  local richiuse = serve(aspetta(chiuse, 6000), "le porte devono chiudersi fino in fondo (SQ5)")
+  punti(1, richiuse, "le porte devono chiudersi fino in fondo (SQ5)")
+  guarda(200)
+  sicuro(1, richiuse, chiuse() and not si_chiude(), "a porte chiuse (SQ5) KM3 deve aprirsi entro 0,2 secondi")
+  punti(1, not aspetta(function() return leggi("QB0") & 15 ~= 0 end, 8000), "servita la mandata la cabina deve restare ferma a porte chiuse")
 end)
 
-prova("chiamata al piano della cabina", function()
+prova("chiamata al piano della cabina", 2, function()
   avvia()
   punti(1, va(terzo, terzo.chiamata), "chiamata dove si trova, la cabina deve aprire le porte")
+  aspetta(a_riposo, 20000)
+  punti(1, va(terzo, terzo.mandata), "mandata dove si trova, la cabina deve aprire le porte")
 end)
 
-prova("lampade", function()
+prova("persona fra le porte", 4, function()
   avvia()
-  chiama(terra.mandata)
-  chiama(primo.chiamata)
-  guarda(1000)
-  punti(1, aspetta(function() return acceso(terra.in_cabina) end, 2000)
-           and aspetta(function() return acceso(primo.lampada) end, 2000),
-        "le richieste memorizzate devono accendere le loro lampade")
-  local arrivata = aspetta(function() return servito(terra) end, 2 * una_corsa)
-  guarda(500)
-  punti(1, arrivata and not aspetta(function() return acceso(terra.in_cabina) end, 2000),
-        "servita la mandata la sua lampada deve spegnersi")
-end)
-
-prova("persona fra le porte", function()
-  avvia()
-  local si_chiudono = va(secondo, secondo.mandata) and aspetta(si_chiude, 20000)
-  verifica(si_chiudono, "arrivata al piano la cabina deve aprire e poi chiudere le porte")
+  local si_chiudono = serve(va(secondo, secondo.mandata) and aspetta(si_chiude, 20000), "arrivata al piano la cabina deve aprire e poi chiudere le porte")
   guarda(800)
   premi(persona)
   guarda(200)
-  punti(2, si_chiudono and not si_chiude(), "con una persona fra le porte KM3 deve aprirsi")
-  local riaperte = si_chiudono and aspetta(aperte, 10000)
-  punti(1, riaperte and not aspetta(si_chiude, 15000), "con una persona fra le porte le porte devono riaprirsi e restare aperte")
+  sicuro(2, si_chiudono, not si_chiude(), "con una persona fra le porte KM3 deve aprirsi entro 0,2 secondi")
+  local riaperte = aspetta(aperte, 5000)
+  sicuro(1, si_chiudono, riaperte and not aspetta(si_chiude, 15000), "con una persona fra le porte le porte devono riaprirsi e restare aperte")
   rilascia(persona)
-  punti(1, riaperte and aspetta(chiuse, 30000), "passata la persona le porte devono chiudersi")
+  punti(1, riaperte and aspetta(chiuse, 15000), "passata la persona le porte devono chiudersi")
 end)
 
-prova("sovraccarico", function()
+prova("sovraccarico", 7, function()
   avvia()
-  regola(carico, 10)
-  guarda(200)
-  local lampada = aspetta(function() return acceso("Q1.4") end, 3000)
+  regola(carico, 8)
+  guarda(300)
+  local buia = not acceso("Q1.4")
+  punti(1, va(secondo, secondo.mandata) and buia, "con 8 V di carico si parte ancora, e HL9 è spenta")
+  serve(aspetta(si_chiude, 10000), "le porte devono chiudersi da sole")
+  guarda(1000)
+  regola(carico, 9)
+  guarda(300)
+  sicuro(1, true, not si_chiude(), "il sovraccarico (9 V) deve fermare le porte che si chiudono")
+  punti(1, buia and aspetta(function() return acceso("Q1.4") end, 1100), "con 9 V di carico deve accendersi HL9")
+  punti(1, aspetta(aperte, 5000), "il sovraccarico deve riaprire le porte che si chiudono")
   chiama(terra.mandata)
-  local ferma = not aspetta(in_corsa, 15000)
+  sicuro(2, true, not aspetta(in_corsa, 15000), "con 9 V di carico la cabina non deve partire")
   regola(carico, 0)
   guarda(200)
-  local riparte = va(terra, terra.mandata)
-  punti(1, riparte, "tolto il sovraccarico la cabina deve poter partire")
-  punti(2, riparte and ferma, "con 10 V di carico la cabina non deve partire")
-  punti(1, lampada, "con 10 V di carico deve accendersi HL9")
+  punti(1, va(terra, terra.mandata) and not acceso("Q1.4"), "tolto il sovraccarico la cabina deve poter partire, e HL9 spegnersi")
 end)
 
-prova("arresto fra due piani", function()
+prova("arresto fra due piani", 6, function()
   avvia()
   chiama(terra.mandata)
   local corre = aspetta(in_corsa, 15000)
   aspetta(function() return not a_un_piano() end, 5000)
   guarda(700)
-  corre = verifica(corre and in_corsa(), "con la mandata la cabina deve partire")
+  corre = serve(corre and in_corsa(), "con la mandata la cabina deve partire")
   premi(arresto)
-  guarda(100)
-  punti(2, corre and not in_corsa(), "premuto SB5 la cabina deve fermarsi")
-  punti(1, corre and not aspetta(in_corsa, 5000), "con SB5 premuto la cabina deve restare ferma")
+  guarda(200)
+  sicuro(1, corre, not in_corsa(), "premuto SB5 la cabina deve fermarsi entro 0,2 secondi")
+  sicuro(1, corre, not aspetta(in_corsa, 3000), "con SB5 premuto la cabina deve restare ferma")
   rilascia(arresto)
-  guarda(500)
-  punti(1, corre and va(terra, terra.mandata), "dopo SB5 la cabina deve poter ripartire")
+  sicuro(2, corre, not aspetta(in_corsa, 10000), "SB5 deve cancellare le richieste: rilasciato, la cabina non riparte da sola")
+  punti(1, corre and not acceso(terra.in_cabina), "SB5 deve spegnere la lampada della richiesta cancellata")
+  punti(1, corre and va(terra, terra.mandata), "dopo SB5 una nuova richiesta deve essere servita")
 end)
 
-prova("più richieste insieme", function()
+-- In manutenzione un colpo al pulsante manuale ferma la cabina, o le porte, con il contattore chiuso.
+local function blocca(pulsante)
+  clic("imgCom")
+  premi(pulsante)
+  attendi(20)
+  rilascia(pulsante)
+  clic("imgCom")
+end
+
+for _, guasto in ipairs {
+  { nome = "corsa", pulsante = "cmdGiu", limite = 25000, in_corso = in_corsa, porta = function()
+      chiama(terra.mandata)
+      local corre = aspetta(in_corsa, 15000)
+      guarda(1000)
+      return corre and in_corsa()
+    end },
+  { nome = "apertura", pulsante = "cmdClose", limite = 6000, in_corso = function() return acceso("Q0.3") end, porta = function()
+      chiama(terzo.mandata)
+      local apre = aspetta(function() return acceso("Q0.3") end, 15000)
+      guarda(1000)
+      return apre and acceso("Q0.3")
+    end },
+  { nome = "chiusura", pulsante = "cmdOpen", limite = 6000, in_corso = function() return si_chiude() end, porta = function()
+      va(terzo, terzo.mandata)
+      local chiude = aspetta(si_chiude, 15000)
+      guarda(1000)
+      return chiude and si_chiude()
+    end },
+} do
+  local quanto = guasto.limite // 1000
+  prova("tempo massimo: " .. guasto.nome, 5, function()
+    avvia()
+    local va_bene = serve(guasto.porta(), "la cabina deve arrivare alla fase di " .. guasto.nome)
+    blocca(guasto.pulsante)
+    guarda(guasto.limite - 2500)
+    serve(guasto.in_corso() and not acceso("Q1.5"), "la " .. guasto.nome .. " può durare fino a " .. quanto .. " secondi")
+    guarda(2500)
+    sicuro(2, va_bene, leggi("QB0") & 15 == 0, "dopo " .. quanto .. " secondi di " .. guasto.nome .. " (uno e mezzo in meno, uno in più) tutto deve fermarsi")
+    punti(1, aspetta(function() return acceso("Q1.5") end, 1100), "superato il tempo massimo di " .. guasto.nome .. " deve accendersi HL10")
+    sicuro(1, va_bene, not aspetta(function() return leggi("QB0") & 15 ~= 0 end, 8000), "dopo il tempo massimo di " .. guasto.nome .. " niente deve ripartire da solo")
+    premi(arresto)
+    guarda(300)
+    rilascia(arresto)
+    guarda(300)
+    punti(1, not acceso("Q1.5"), "SB5 deve spegnere HL10")
+  end)
+end
+
+prova("più richieste insieme", 8, function()
   avvia()
   chiama(terra.mandata)
   chiama(primo.mandata)
   local viste = fermate(2 * una_corsa)
-  punti(2, viste == "primo, terra", "in discesa la cabina deve fermarsi prima al primo e poi a terra, non " .. viste)
-  aspetta(a_riposo, 30000)
+  punti(2, viste == "primo, terra", "in discesa la cabina deve fermarsi prima al primo e poi a terra")
+  serve(aspetta(a_riposo, 30000), "servite le richieste le porte devono chiudersi")
   chiama(terzo.mandata)
   local passa = aspetta(function() return al_piano(primo) end, 15000)
   aspetta(function() return not al_piano(primo) end, 5000)
   chiama(terra.chiamata)
   viste = fermate(2 * una_corsa)
-  punti(2, passa and viste == "terzo, terra", "la cabina deve finire la salita prima di tornare a terra; fermate: " .. viste)
+  punti(2, passa and viste == "terzo, terra", "la cabina deve finire la salita prima di tornare a terra")
+  serve(aspetta(a_riposo, 30000), "servite le richieste le porte devono chiudersi")
+  chiama(secondo.mandata)
+  serve(aspetta(function() return servito(secondo) end, una_corsa) and aspetta(a_riposo, 30000), "la cabina deve arrivare al secondo piano")
+  chiama(terra.mandata)
+  aspetta(function() return in_corsa() and not a_un_piano() end, 15000)
+  chiama(terzo.chiamata)
+  viste = fermate(2 * una_corsa)
+  punti(2, viste == "terra, terzo", "la cabina deve finire la discesa prima di risalire al terzo")
+  serve(aspetta(a_riposo, 30000), "servite le richieste le porte devono chiudersi")
+  chiama(terra.mandata)
+  aspetta(function() return in_corsa() and al_piano(secondo) end, 15000)
+  chiama(primo.chiamata)
+  viste = fermate(2 * una_corsa)
+  punti(2, viste == "primo, terra", "una chiamata di strada, arrivata durante la corsa, deve essere servita al passaggio")
 end)
+
+prova("STOP e RUN a metà corsa", 2, function()
+  avvia()
+  chiama(terra.mandata)
+  serve(aspetta(function() return in_corsa() and not a_un_piano() end, 15000), "con la mandata la cabina deve partire")
+  stop()
+  attendi(2000)
+  run()
+  sicuro(1, true, not aspetta(in_corsa, 5000), "dopo STOP e RUN la cabina deve aspettare una nuova richiesta")
+  punti(1, va(terra, terra.mandata), "dopo STOP e RUN una nuova richiesta deve essere servita")
+end)
+
+prova_di_sicurezza(55, function()
+  avvia()
+  return va(terra, terra.chiamata) and aspetta(a_riposo, 20000) and (va(secondo, secondo.mandata))
+end, "la cabina deve servire una chiamata e una mandata")
