@@ -46,7 +46,8 @@ TEST_F(Rest, NeverComesToWhatGrowsOrTogglesByItself) {
   for (const std::vector<std::string>& righe : {std::vector<std::string>{"LD SM0.0", "INCW VW0"},
                                                 {"LD SM0.6", "= Q0.0"},
                                                 {"LD SM0.6", "EU", "= M0.0"},
-                                                {"LDN M0.0", "= M0.0"}}) {
+                                                {"LDN M0.0", "= M0.0"},
+                                                {"LD SM0.6", "EU", "LPP"}}) {
     SCOPED_TRACE(righe[1]);
     riposo.Da_Capo();
     Avvia(righe);

@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "plants/link.h"
+#include "plc/instructions.h"
 #include "random_program.h"
 #include "recorder/virtual_run.h"
 
@@ -72,6 +73,27 @@ Uscita Corri(const Entrate& entrate, bool ogni_scansione) {
   return {diario.str(), plc, corsa.Scansioni_Saltate()};
 }
 
+/// Puts lines in that toggle at each scan, that look at it and that hide what they saw, which
+/// chance alone seldom brings together.
+void Semina_Alternanze(Memoria& programma, const Caso& caso) {
+  static const struct {
+    const char *Istr, *Area;
+    std::int16_t Bit;
+  } semi[] = {{"LD", "SM", 6}, {"A", "SM", 6},  {"EU", "", -1},  {"ED", "", -1},
+              {"LPP", "", -1}, {"LD", "SM", 5}, {"LDN", "SM", 6}};
+  for (Riga_PLC& riga : programma.Prog) {
+    if (riga.Nel_Programma != Compito::Nessuno || caso(3) != 0) continue;
+    const auto& seme = semi[caso(static_cast<unsigned>(std::size(semi) - 1))];
+    riga.Istr = seme.Istr;
+    riga.Area1 = seme.Area;
+    riga.Area2.clear();
+    riga.Num1 = 0;
+    riga.Bit1 = seme.Bit;
+    riga.NOper = seme.Bit < 0 ? 0 : 1;
+    Decodifica(riga);
+  }
+}
+
 Entrate Entrate_Casuali(const Memoria& programma, const Caso& caso) {
   Entrate entrate;
   entrate.Programma = programma;
@@ -131,6 +153,7 @@ TEST(RestProperty, ScansLeftOutChangeNothingThatCanBeSeen) {
     do {
       Programma_Casuale(progetto, caso, static_cast<int>(2 + caso(caso(3) ? 15 : 80)));
     } while (!progetto.Compilato);
+    if (caso(1) == 0) Semina_Alternanze(plc, caso);
     Memoria_Casuale(plc, caso);
     const Entrate entrate = Entrate_Casuali(plc, caso);
     const Uscita tutte = Corri(entrate, true);
