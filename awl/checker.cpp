@@ -17,8 +17,8 @@ bool Troppo_Grande(const std::string& operando) {
 }
 
 /// The rule of a family. Each test writes the same place in turn, so a later fault stands.
-Giudizio Applica(const Regola& regola, const Riga_PLC& riga) {
-  Giudizio giudizio;
+Esito_Riga Applica(const Regola& regola, const Riga_PLC& riga) {
+  Esito_Riga giudizio;
   const auto prova = [&](Verdetto nuovo, Parte_Riga dove) {
     if (nuovo.Stato != 0) giudizio = {nuovo.Stato, nuovo.Testo, dove};
   };
@@ -33,12 +33,12 @@ Giudizio Applica(const Regola& regola, const Riga_PLC& riga) {
   return giudizio;
 }
 
-Giudizio Giudica(const Riga_PLC& riga) {
+Esito_Riga Giudica(const Riga_PLC& riga) {
   const Istruzione* istruzione = Cerca_Istruzione(riga.Istr);
   if (!istruzione) return {3, "-> Istruzione non riconosciuta"};
   switch (istruzione->Trattamento) {
     case Gruppo::Senza_Operandi:
-      return riga.NOper == 0 ? Giudizio{} : Giudizio{3, "-> Operandi non supportati"};
+      return riga.NOper == 0 ? Esito_Riga{} : Esito_Riga{3, "-> Operandi non supportati"};
     case Gruppo::Non_Supportata:
       return {2, "-> Istruzione non supportata"};
     case Gruppo::Con_Regola:
@@ -51,8 +51,8 @@ Giudizio Giudica(const Riga_PLC& riga) {
 
 }  // namespace
 
-Giudizio Controlla_Riga(const Riga_PLC& riga, const Riga_Src& sorgente) {
-  Giudizio giudizio = Giudica(riga);
+Esito_Riga Controlla_Riga(const Riga_PLC& riga, const Riga_Src& sorgente) {
+  Esito_Riga giudizio = Giudica(riga);
   // A number that cannot be stored is refused, unless the line is refused for a graver reason.
   const bool per_operandi = giudizio.Stato == 0 || giudizio.Stato == 6 || giudizio.Stato == 9;
   if (per_operandi && !Nomina_Procedura(riga.Istr)) {
@@ -64,7 +64,7 @@ Giudizio Controlla_Riga(const Riga_PLC& riga, const Riga_Src& sorgente) {
   return giudizio;
 }
 
-Tratto Tratto_Di(const Riga_Src& sorgente, Parte_Riga parte) {
+Tratto_Riga Tratto_Di(const Riga_Src& sorgente, Parte_Riga parte) {
   constexpr int separatore = 2;  // ", "
   const auto lungo = [](const std::string& testo) { return static_cast<int>(testo.size()); };
   const int primo = static_cast<int>(Colonna_Operandi);

@@ -11,7 +11,7 @@ namespace tavorno {
 enum class Parte_Riga : std::uint8_t { Intera, Operando1, Operando2 };
 
 /// What the line checker says of a compiled line; `Stato` is 0 and `Testo` "" when it is accepted.
-struct Giudizio {
+struct Esito_Riga {
   int Stato = 0;
   const char* Testo = "";
   Parte_Riga Dove = Parte_Riga::Intera;
@@ -19,13 +19,13 @@ struct Giudizio {
 
 /// Judges one compiled line with the source line that it was filled from. Later faults stand for
 /// earlier ones.
-Giudizio Controlla_Riga(const Riga_PLC& riga, const Riga_Src& sorgente);
+Esito_Riga Controlla_Riga(const Riga_PLC& riga, const Riga_Src& sorgente);
 
 /// Columns of a piece in the canonical line (`Testo_Lista`), in characters from 0.
-struct Tratto {
+struct Tratto_Riga {
   int Colonna = 0;
   int Lunghezza = 0;
 };
-Tratto Tratto_Di(const Riga_Src& sorgente, Parte_Riga parte);
+Tratto_Riga Tratto_Di(const Riga_Src& sorgente, Parte_Riga parte);
 
 }  // namespace tavorno

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Rows of source into a program: the loop over the lines and the link passes.
+#include <array>
+
 #include "awl/checker.h"
 #include "awl/link.h"
 #include "awl/program.h"
@@ -11,12 +13,14 @@ namespace tavorno {
 namespace {
 
 /// SBR, MEND and RET come from the keywords of the blocks and stand in no text.
-bool Nel_Testo(const Riga_Src& sorgente) {
-  return !sorgente.Istr.starts_with("SBR") && sorgente.Istr != "MEND" && sorgente.Istr != "RET";
+bool Nel_Testo(Compito compito) {
+  return compito != Compito::Procedura && compito != Compito::Fine_Programma &&
+         compito != Compito::Fine_Procedura;
 }
 
-Diagnosi Di_Riga(const Riga_Src& sorgente, int riga, Parte_Riga parte) {
-  const Tratto tratto = Nel_Testo(sorgente) ? Tratto_Di(sorgente, parte) : Tratto{};
+Diagnosi Di_Riga(const Riga_Src& sorgente, const Riga_PLC& compilata, int riga, Parte_Riga parte) {
+  const Tratto_Riga tratto =
+      Nel_Testo(compilata.Nel_Programma) ? Tratto_Di(sorgente, parte) : Tratto_Riga{};
   Diagnosi diagnosi;
   diagnosi.Posto = sorgente.Posto;
   diagnosi.Colonna = tratto.Colonna;
@@ -47,11 +51,11 @@ Compilazione Compila_Righe(std::span<const Riga_Src> righe) {
   prodotte.resize(righe.size());
   for (std::size_t k = 0; k < righe.size(); ++k) {
     Riempi_Riga(prodotte[k], righe[k]);
-    const Giudizio giudizio = Controlla_Riga(prodotte[k], righe[k]);
+    const Esito_Riga giudizio = Controlla_Riga(prodotte[k], righe[k]);
     if (giudizio.Stato == 0) continue;
     ++esito.Errori;
-    Diagnosi& diagnosi =
-        esito.Rilievi.emplace_back(Di_Riga(righe[k], static_cast<int>(k), giudizio.Dove));
+    Diagnosi& diagnosi = esito.Rilievi.emplace_back(
+        Di_Riga(righe[k], prodotte[k], static_cast<int>(k), giudizio.Dove));
     diagnosi.Stato = giudizio.Stato;
     diagnosi.Messaggio = giudizio.Testo;
   }
@@ -60,8 +64,8 @@ Compilazione Compila_Righe(std::span<const Riga_Src> righe) {
     const Passo passo = nome.Esegui(prodotte);
     for (const Guasto& guasto : passo.Guasti) {
       const auto riga = static_cast<std::size_t>(guasto.Riga);
-      Diagnosi& diagnosi =
-          esito.Rilievi.emplace_back(Di_Riga(righe[riga], guasto.Riga, Parte_Riga::Intera));
+      Diagnosi& diagnosi = esito.Rilievi.emplace_back(
+          Di_Riga(righe[riga], prodotte[riga], guasto.Riga, Parte_Riga::Intera));
       diagnosi.Grado = nome.Grado;
       diagnosi.Di = nome.Di;
       diagnosi.Stato = 1;

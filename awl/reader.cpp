@@ -75,10 +75,13 @@ class Lettore {
     return apre || riga.starts_with("END_");
   }
 
+  int Estranea() const { return estranea_; }
+  const std::string& Testo_Estraneo() const { return testo_estraneo_; }
+
   /// One line of the file; throws `Riga_Rifiutata` when the read is to be given up.
   void Leggi(std::string riga) {
     bool salta = false;
-    Pretendi_Blocco(riga);
+    Nota_Estranea(riga);
     if (riga.starts_with("ORGANIZATION_BLOCK")) {
       salta = true;
       in_main_ = true;
@@ -115,19 +118,14 @@ class Lettore {
   }
 
  private:
-  /// What stands before all blocks is no project, and a block that never began cannot end. Text
-  /// between two blocks is dropped.
-  void Pretendi_Blocco(std::string_view riga) {
-    if (iniziato_) return;
-    iniziato_ = riga.starts_with("ORGANIZATION_BLOCK") || riga.starts_with("SUBROUTINE_BLOCK") ||
-                riga.starts_with("INTERRUPT_BLOCK");
-    if (iniziato_ || Trim(riga).empty()) return;
-    if (riga.starts_with("END_"))
-      throw Riga_Rifiutata("qui finisce un blocco che non è mai cominciato");
-    throw Riga_Rifiutata(
-        "un progetto comincia con la riga \"ORGANIZATION_BLOCK MAIN:OB1\": questo file non è un "
-        "progetto AWL, oppure gli manca l'inizio. Un testo semplice si apre con \"Importa File "
-        "TXT\"");
+  /// Text outside of all blocks is dropped; where nothing else is found, this is what to tell.
+  void Nota_Estranea(const std::string& riga) {
+    ++lette_;
+    const std::string nuda = Trim(riga);
+    if (estranea_ == 0 && !in_main_ && !in_sbr_ && !nuda.empty() && !nuda.starts_with("//")) {
+      estranea_ = lette_;
+      testo_estraneo_ = riga;
+    }
   }
 
   /// Where a line that is text of a block would go; behind the last procedure outside of any.
@@ -161,7 +159,9 @@ class Lettore {
   Righe_Lette& righe_;
   bool in_main_ = false;
   bool in_sbr_ = false;
-  bool iniziato_ = false;
+  int lette_ = 0;
+  int estranea_ = 0;  // line of the first text outside of all blocks
+  std::string testo_estraneo_;
   bool chiuso_ = false;  // a block has ended
   int linee_main_ = 0;
   int linee_procedura_ = 0;  // of the last one
@@ -175,6 +175,7 @@ Lettura Leggi_Sorgente(std::string_view byte, Commenti_Listato commenti,
   Righe_Lette righe(commenti, std::move(prima));
   Righe_File file(byte);
   std::string riga;
+  int estranea = 0;  // line that stands for a file without a program
   try {
     if (const char* tipo = Tipo_Estraneo(byte)) throw Riga_Rifiutata(tipo);
     Lettore lettore(lettura.Letta, righe);
@@ -182,12 +183,21 @@ Lettura Leggi_Sorgente(std::string_view byte, Commenti_Listato commenti,
       if (!file.Finita() || !lettore.Avanzo(riga)) lettore.Leggi(riga);
     }
     if (righe.NRighe == 0) {
-      riga.clear();
-      throw Riga_Rifiutata("il file non contiene nessun blocco di programma");
+      estranea = lettore.Estranea();
+      riga = estranea == 0 ? "" : lettore.Testo_Estraneo();
+      throw Riga_Rifiutata(
+          estranea == 0
+              ? "il file non contiene nessun blocco di programma"
+              : "il file non contiene nessun blocco di programma: un progetto AWL comincia con la "
+                "riga \"ORGANIZATION_BLOCK MAIN:OB1\". Un testo semplice si apre con \"Importa "
+                "File "
+                "TXT\"");
     }
   } catch (const Riga_Rifiutata& rifiuto) {
-    lettura.Rifiuto = {riga.empty() ? 0 : file.Lette(), A_Utf8(riga), rifiuto.what(),
-                       rifiuto.Perche()};
+    lettura.Rifiuto = {estranea != 0  ? estranea
+                       : riga.empty() ? 0
+                                      : file.Lette(),
+                       A_Utf8(riga), rifiuto.what(), rifiuto.Perche()};
   }
   lettura.Letta.Righe_Lette = file.Lette();
   lettura.Letta.Righe.assign(righe.Tabella.begin(), righe.Tabella.begin() + righe.NRighe);

@@ -70,7 +70,9 @@ AwlEditor::AwlEditor(Genere_Testo genere, const char* nome, QWidget* sopra)
   connect(this, &QsciScintillaBase::SCN_MODIFIED, this, [this](int, int tipo) {
     constexpr int testo = SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT;
     const bool a_meta = (tipo & SC_MULTISTEPUNDOREDO) != 0 && (tipo & SC_LASTSTEPINUNDOREDO) == 0;
-    if (!scrive_ && (tipo & testo) != 0 && !a_meta && Cambiato) Cambiato();
+    if (scrive_ || (tipo & testo) == 0) return;
+    if ((tipo & SC_PERFORMED_USER) != 0 && Scritto) Scritto();
+    if (!a_meta && Cambiato) Cambiato();
   });
   connect(this, &QsciScintillaBase::SCN_DOUBLECLICK, this, [this](int, int linea) {
     if (Linea_Scelta) Linea_Scelta(linea);
@@ -218,10 +220,11 @@ void AwlEditor::undo() {
 }
 
 void AwlEditor::redo() {
-  if (isRedoAvailable())
-    SendScintilla(SCI_REDO);
-  else if (Va_Oltre(Oltre_Ripeti))
+  // What was taken back last comes again first.
+  if (Va_Oltre(Oltre_Ripeti))
     Oltre_Ripeti.Fai();
+  else
+    SendScintilla(SCI_REDO);
 }
 
 void AwlEditor::Mostra_Documento(const QsciDocument& documento) {

@@ -22,6 +22,7 @@ class AwlEditor : public QsciScintilla {
   AwlEditor(Genere_Testo genere, const char* nome, QWidget* sopra);
 
   std::function<void()> Cambiato;         ///< the user changed the text, undo included
+  std::function<void()> Scritto;          ///< the same without undo and redo, and before it
   std::function<void(int)> Linea_Scelta;  ///< a line (from 0) was double clicked or got Enter
 
   /// What undo and redo go on to when this text has nothing left to take back or to do again.

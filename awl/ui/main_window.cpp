@@ -228,12 +228,14 @@ void FrmMain::Nuovo() {
 /// Rows keep their texts by place, and what a failed read takes away is kept.
 void FrmMain::Compila(bool carica) {
   Vista prima = Come_Sta();
+  const std::string testi = p_.Testi();
   const bool pronta = p_.Prepara_Compilazione();
   if (p_.Err_Lettura && p_.Vuoto() && !prima.Stato.Vuoto())
     Sostituito(std::move(prima));
   else
     documenti_.Adegua(p_.Num_SBR);
   if (pronta) {
+    if (p_.Testi() != testi) storia_.Scorda();
     p_.Compila_Righe_Lette();
     segni_.Prendi(p_, documenti_);
     Specchia_Esiti();  // the result stands on its page before the box that tells it
@@ -248,6 +250,7 @@ void FrmMain::Inserimento(const std::function<void()>& comando) {
   Vista prima = Come_Sta();
   const int quante = p_.Num_SBR;
   comando();
+  storia_.Scorda();
   if (p_.Num_SBR > quante) {
     if (quante == 0) documenti_.Svuota();
     documenti_.Inserisci(p_.Scheda);
@@ -271,6 +274,7 @@ void FrmMain::Rimozione() {
 
 void FrmMain::Network(int indice) {
   p_.CmdNet(indice);
+  storia_.Scorda();
   Specchia();
   (indice == 0 ? txtList : txtP)->Vai_In_Fondo();
 }

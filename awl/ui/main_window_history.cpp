@@ -39,6 +39,7 @@ void FrmMain::Rimetti(Vista vista) {
 
 void FrmMain::Collega_Storia() {
   for (AwlEditor* testo : {txtList, txtP}) {
+    testo->Scritto = [this] { storia_.Scorda(); };
     testo->Oltre_Annulla = {.Possibile = [this] { return storia_.Annullabile(p_.Testi()); },
                             .Fai = [this] { Rimetti(storia_.Annulla(Come_Sta())); }};
     testo->Oltre_Ripeti = {.Possibile = [this] { return storia_.Ripetibile(p_.Testi()); },

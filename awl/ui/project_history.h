@@ -18,6 +18,10 @@ class Storia_Comandi {
   void Passo(Stato prima, std::string testi) {
     indietro_.push_back({std::move(prima), std::move(testi_)});
     testi_ = std::move(testi);
+    Scorda();
+  }
+  /// Something was written anew: there is no way forth any more.
+  void Scorda() {
     tornato_.reset();
     avanti_.clear();
   }

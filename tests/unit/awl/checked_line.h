@@ -89,7 +89,7 @@ struct LineChecker {
 
   Verdict Check(const Riga_Src& source) {
     Riempi_Riga(plc.Prog[0], source);
-    const Giudizio found = Controlla_Riga(plc.Prog[0], source);
+    const Esito_Riga found = Controlla_Riga(plc.Prog[0], source);
     return {found.Stato, found.Testo};
   }
   Verdict Check(const std::string& line) { return Check(Source(line)); }

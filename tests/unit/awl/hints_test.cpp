@@ -7,6 +7,7 @@
 #include "awl/program.h"
 #include "awl/reader.h"
 #include "awl/writer.h"
+#include "plc/instructions.h"
 
 namespace tavorno::prova {
 

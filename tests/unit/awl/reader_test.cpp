@@ -283,4 +283,9 @@ TEST_F(ProjectReader, FillsTheTableToItsLastRow) {
   EXPECT_EQ(progetto.Righe_Src[300].Istr, "MEND");
 }
 
+TEST_F(ProjectReader, LetsCommentsStandBeforeTheFirstBlock) {
+  ASSERT_TRUE(Apri("// di Anna\r\n\r\n  // terza A\r\n" + File_Main({"NOT"})));
+  EXPECT_EQ(progetto.Testo_Main, Righe({"//", A36("NOT")}));
+}
+
 }  // namespace tavorno::prova

@@ -222,7 +222,7 @@ TEST_F(RoundTrip, ARemovedProcedureStaysAway) {
   progetto.Scrivi_Main("//a\r\nCALL SBR_1");
   progetto.New_Sub();
   progetto.New_Sub();
-  Gira();
+  Salva();
   ASSERT_EQ(progetto.Num_SBR, 2);
   progetto.Scegli_Procedura(2);
   progetto.Remove_Sub();
