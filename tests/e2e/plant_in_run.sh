@@ -22,7 +22,7 @@ press() {
   xdotool mouseup 1
 }
 
-open_screen
+open_screen 2200x1200  # smaller, and the picture gives way to the other windows
 start_program "$1"
 load_project "$2"
 start_run
