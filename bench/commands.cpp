@@ -60,6 +60,10 @@ Uso:
       Esamina progetti con uno script e assegna i punti; le opzioni e le
       funzioni degli script sono in "tavorno-banco prova --help".
 
+  tavorno-banco classe CARTELLA|ZIP SCRIPT.lua --uscita DIR [opzioni]
+      Esamina una classe e scrive una pagina per studente, quella del docente e
+      le tabelle dei punti; vedi "tavorno-banco classe --help".
+
   tavorno-banco --help
       Questo testo.
 

@@ -6,6 +6,7 @@
 #include <exception>
 #include <iostream>
 
+#include "bench/class_command.h"
 #include "bench/commands.h"
 #include "bench/grade_command.h"
 
@@ -23,6 +24,8 @@ int Esegui(const std::vector<std::string>& parole) {
   try {
     if (!parole.empty() && parole.front() == "prova")
       return tavorno::Comando_Prova({parole.begin() + 1, parole.end()}, std::cout, std::cerr);
+    if (!parole.empty() && parole.front() == "classe")
+      return tavorno::Comando_Classe({parole.begin() + 1, parole.end()}, std::cout, std::cerr);
     return tavorno::Banco(parole, std::cout, std::cerr);
   } catch (const std::exception& errore) {
     std::cerr << "tavorno-banco: " << errore.what() << '\n';

@@ -19,15 +19,6 @@ std::string Minuscole(std::string testo) {
   return testo;
 }
 
-/// Why a file with this name is none to grade although somebody may have meant it; empty for
-/// others.
-std::string Motivo_Del_Nome(const std::string& nome) {
-  if (std::ranges::find(archivi, Estensione(nome)) != std::end(archivi))
-    return "è un archivio: va estratto prima";
-  if (Minuscole(nome).find(".awl") != std::string::npos) return "il nome non finisce con .AWL";
-  return "";
-}
-
 void Cerca(const fs::path& cartella, Consegne_Trovate& trovate) {
   std::error_code errore;
   std::vector<fs::directory_entry> voci;
@@ -60,6 +51,14 @@ void Cerca(const fs::path& cartella, Consegne_Trovate& trovate) {
 
 std::string Estensione(const std::string& file) {
   return Minuscole(fs::path(file).extension().string());
+}
+
+std::string Motivo_Del_Nome(const std::string& nome) {
+  if (Estensione(nome) == ".awl") return "";
+  if (std::ranges::find(archivi, Estensione(nome)) != std::end(archivi))
+    return "è un archivio: va estratto prima";
+  if (Minuscole(nome).find(".awl") != std::string::npos) return "il nome non finisce con .AWL";
+  return "";
 }
 
 Consegne_Trovate Cerca_Consegne(const std::string& cartella) {

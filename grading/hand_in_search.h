@@ -21,6 +21,10 @@ struct Consegne_Trovate {
 /// out of the folder with them. Files that nobody would take for a project are passed over.
 Consegne_Trovate Cerca_Consegne(const std::string& cartella);
 
+/// Why a file with this name is none to grade although somebody may have meant it, in Italian;
+/// empty for others.
+std::string Motivo_Del_Nome(const std::string& nome);
+
 /// The extension of a file's name in small letters, ".awl".
 std::string Estensione(const std::string& file);
 

@@ -2,4 +2,5 @@
 include(CMakeFindDependencyMacro)
 find_dependency(Threads)
 find_dependency(nlohmann_json)
+find_dependency(LibArchive)
 include(${CMAKE_CURRENT_LIST_DIR}/TavornoTargets.cmake)

@@ -70,6 +70,11 @@ class Foglio {
     testo_ += "<path d=\"" + percorso + "\" stroke=\"" + linea + "\" fill=\"" + fondo +
               "\" stroke-width=\"1.5\" stroke-linejoin=\"round\"/>\n";
   }
+  void Segno(double x, double alto, double basso) {
+    testo_ += "<line class=\"segno\" x1=\"" + Cifre(x) + "\" y1=\"" + Cifre(alto) + "\" x2=\"" +
+              Cifre(x) + "\" y2=\"" + Cifre(basso) +
+              "\" stroke=\"#c0281c\" stroke-width=\"2\" stroke-dasharray=\"6 3\"/>\n";
+  }
   const std::string& Testo() const { return testo_; }
 
  private:
@@ -95,8 +100,8 @@ std::string Istante(std::int64_t ms, std::int64_t passo) {
 
 class Disegno_Tempi {
  public:
-  Disegno_Tempi(const Traccia& traccia, const std::string& titolo)
-      : traccia_(traccia), titolo_(titolo) {
+  Disegno_Tempi(const Traccia& traccia, const std::string& titolo, std::int64_t segno)
+      : traccia_(traccia), titolo_(titolo), segno_(segno) {
     durata_ = static_cast<double>(std::max<std::int64_t>(traccia.Durata(), 1));
     largo_ = std::clamp(durata_ / 1000 * per_secondo, larghezza_minima, larghezza_massima);
     cambi_.resize(traccia.Segnali().size());
@@ -121,6 +126,7 @@ class Disegno_Tempi {
       y += analogico ? altezza_analogica : altezza_bit;
     }
     Casi(alto);
+    if (segno_ >= 0) foglio_.Segno(X(segno_), alto_righe - 6, alto);
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
            "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
            Cifre(larghezza) + "\" height=\"" + Cifre(altezza) + "\" viewBox=\"0 0 " +
@@ -238,6 +244,7 @@ class Disegno_Tempi {
 
   const Traccia& traccia_;
   const std::string& titolo_;
+  std::int64_t segno_;
   double durata_ = 1, largo_ = 1;
   std::vector<std::vector<Cambio_Segnale>> cambi_;  // by signal
   Foglio foglio_;
@@ -245,8 +252,8 @@ class Disegno_Tempi {
 
 }  // namespace
 
-std::string Diagramma_Svg(const Traccia& traccia, const std::string& titolo) {
-  return Disegno_Tempi(traccia, titolo).Disegna();
+std::string Diagramma_Svg(const Traccia& traccia, const std::string& titolo, std::int64_t segno) {
+  return Disegno_Tempi(traccia, titolo, segno).Disegna();
 }
 
 }  // namespace tavorno

@@ -61,7 +61,9 @@ class Traccia {
 /// A value change dump with a time unit of a millisecond, each signal under its symbol.
 std::string Testo_Vcd(const Traccia& traccia);
 
-/// A timing diagram, `titolo` above it.
-std::string Diagramma_Svg(const Traccia& traccia, const std::string& titolo);
+/// A timing diagram, `titolo` above it; a red line marks the moment `segno`, in ms, when it is not
+/// negative.
+std::string Diagramma_Svg(const Traccia& traccia, const std::string& titolo,
+                          std::int64_t segno = -1);
 
 }  // namespace tavorno

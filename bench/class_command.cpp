@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bench/class_command.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <filesystem>
+#include <iostream>
+#include <thread>
+
+#include "bench/arguments.h"
+#include "bench/commands.h"
+#include "bench/interruption.h"
+#include "bench/plant_options.h"
+#include "bench/report_files.h"
+#include "grading/class_hand_ins.h"
+#include "grading/class_report.h"
+#include "grading/grader.h"
+#include "grading/reports.h"
+#include "trace/trace.h"
+
+namespace tavorno {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* aiuto =
+    R"(tavorno-banco classe: esamina le consegne di una classe e scrive i rapporti.
+
+Uso:
+  tavorno-banco classe CARTELLA|ZIP SCRIPT.lua --uscita DIR [opzioni]
+      Le consegne sono i file .AWL di una cartella, o di un archivio zip come lo
+      scarica una piattaforma; il nome dello studente viene dal percorso.
+      --uscita DIR       la cartella dei rapporti, che deve essere nuova o vuota:
+                         indice.html, una pagina per studente, punti.csv,
+                         junit.xml, esiti.json
+      --impianto N       l'esercizio collegato alla CPU (0..17); senza, quello che
+                         lo script nomina
+      --processi N       quante consegne alla volta (normalmente i processori)
+
+Stato di uscita: 0 tutte superate, 1 qualcuna no, non esaminata o un rapporto che
+non si può scrivere, 2 consegne o script illeggibili, 64 uso errato.
+)";
+
+/// A folder for what comes out of an archive; it goes with its owner.
+class Appoggio {
+ public:
+  Appoggio() {
+    std::string nome = (fs::temp_directory_path() / "tavorno-classe-XXXXXX").string();
+    if (!::mkdtemp(nome.data())) throw std::runtime_error("impossibile scrivere \"" + nome + "\"");
+    cartella_ = nome;
+  }
+  ~Appoggio() {
+    std::error_code nessuno;
+    fs::remove_all(cartella_, nessuno);
+  }
+  Appoggio(const Appoggio&) = delete;
+  Appoggio& operator=(const Appoggio&) = delete;
+  const fs::path& Cartella() const { return cartella_; }
+
+ private:
+  fs::path cartella_;
+};
+
+/// The diagrams of the cases that failed, each played once more on its own.
+std::vector<std::string> Diagrammi(const Esito_Progetto& esito, const std::string& percorso,
+                                   Verifiche verifiche) {
+  std::vector<std::string> diagrammi(esito.Casi.size());
+  if (!esito.Compilato) return diagrammi;
+  for (std::size_t n = 0; n < esito.Casi.size(); ++n) {
+    const Caso& caso = esito.Casi[n];
+    if (caso.Superato() || caso.Script_Errato) continue;
+    verifiche.Solo_Caso = caso.Nome;
+    Traccia traccia(verifiche.Impianto);
+    Esamina(percorso, verifiche, &traccia);
+    const std::string svg = Diagramma_Svg(traccia, caso.Nome, caso.Rilievi.front().Ms);
+    diagrammi[n] = svg.substr(std::min(svg.find("<svg"), svg.size()));
+  }
+  return diagrammi;
+}
+
+Voto Esamina_Consegna(const Consegna& consegna, const Verifiche& verifiche) {
+  Voto voto;
+  voto.Studente = consegna.Studente.empty() ? consegna.File : consegna.Studente;
+  if (!consegna.Motivo.empty() || Interruzione::Chiesta()) {
+    voto.Esito = Non_Esaminata(consegna.File,
+                               consegna.Motivo.empty() ? "esame interrotto" : consegna.Motivo);
+    return voto;
+  }
+  voto.Esito = Esamina(consegna.Percorso, verifiche);
+  voto.Diagrammi = Diagrammi(voto.Esito, consegna.Percorso, verifiche);
+  voto.Esito.Progetto = consegna.File;  // the same wherever it was unpacked
+  return voto;
+}
+
+std::vector<Voto> Esamina_Classe(const std::vector<Consegna>& consegne, const Verifiche& verifiche,
+                                 unsigned processi, std::ostream& err) {
+  const Interruzione interruzione;
+  const bool terminale = &err == &std::cerr && ::isatty(STDERR_FILENO) == 1;
+  std::vector<Voto> voti(consegne.size());
+  std::atomic<std::size_t> prossima = 0, fatte = 0;
+  std::vector<std::jthread> operai;
+  for (unsigned n = 0; n < processi && n < consegne.size(); ++n) {
+    operai.emplace_back([&] {
+      for (std::size_t posto = 0; (posto = prossima++) < consegne.size();) {
+        voti[posto] = Esamina_Consegna(consegne[posto], verifiche);
+        ++fatte;
+      }
+    });
+  }
+  while (terminale && fatte < consegne.size()) {
+    err << "\r\033[Kesaminate " << fatte << " di " << consegne.size() << std::flush;
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+  }
+  operai.clear();  // waits for them
+  if (terminale) err << "\r\033[K" << std::flush;
+  return voti;
+}
+
+void Prepara_Uscita(const std::string& cartella) {
+  std::error_code errore;
+  fs::create_directories(cartella, errore);
+  if (errore || !fs::is_directory(cartella, errore))
+    throw std::runtime_error("impossibile scrivere \"" + cartella + "\": non è una cartella");
+  if (!fs::is_empty(cartella, errore) || errore)
+    throw Uso_Errato("la cartella \"" + cartella +
+                     "\" non è vuota: i rapporti non prendono il posto di altri file");
+}
+
+void Scrivi_Rapporti(const fs::path& cartella, const std::vector<Voto>& voti,
+                     const Testata& testata) {
+  std::vector<Esito_Progetto> esiti;
+  for (const Voto& voto : voti) esiti.push_back(voto.Esito);
+  Scrivi_Rapporto((cartella / "indice.html").string(), Pagina_Docente(voti, testata));
+  for (std::size_t n = 0; n < voti.size(); ++n)
+    Scrivi_Rapporto((cartella / Nome_Pagina(n)).string(), Pagina_Studente(voti[n], testata));
+  Scrivi_Rapporto((cartella / "punti.csv").string(), Tabella_Csv(voti));
+  Scrivi_Rapporto((cartella / "junit.xml").string(), Rapporto_Junit(esiti, testata));
+  Scrivi_Rapporto((cartella / "esiti.json").string(), Rapporto_Json(esiti, testata) + "\n");
+}
+
+int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
+  if (argomenti.File().size() != 2)
+    throw Uso_Errato("servono le consegne (una cartella o un archivio zip) e lo script");
+  const std::string uscita = argomenti.Testo("--uscita", "");
+  if (uscita.empty()) throw Uso_Errato("manca l'opzione --uscita");
+  const auto processi = static_cast<unsigned>(
+      argomenti.Numero("--processi", std::max(1U, std::thread::hardware_concurrency()), 1, 256));
+  Verifiche verifiche;
+  verifiche.Impianto = Impianto_Di(argomenti);
+  const Appoggio appoggio;
+  std::vector<Consegna> consegne;
+  Testata testata;
+  try {
+    verifiche.Script.push_back(Leggi_Sorgente(argomenti.File()[1]));
+    const Sorgente_Script& script = verifiche.Script.front();
+    if (const std::string sbaglio = Errore_Di_Sintassi(script); !sbaglio.empty())
+      throw std::runtime_error(sbaglio);
+    testata.Con.push_back({script.Nome, script.Impronta});
+    consegne = Leggi_Classe(argomenti.File()[0], appoggio.Cartella());
+  } catch (const std::runtime_error& errore) {
+    err << errore.what() << '\n';
+    return Uscita_Illeggibile;
+  }
+  if (!verifiche.Impianto) verifiche.Impianto = Impianto_Nominato(verifiche.Script);
+  if (consegne.empty()) {
+    err << argomenti.File()[0] << ": non ci sono consegne.\n";
+    return Uscita_Illeggibile;
+  }
+  Prepara_Uscita(uscita);
+  const std::vector<Voto> voti = Esamina_Classe(consegne, verifiche, processi, err);
+  Scrivi_Rapporti(uscita, voti, testata);
+
+  bool errati = false, superati = true;
+  for (const Voto& voto : voti) {
+    Stampa_Riga(out, voto.Esito);
+    errati = errati || voto.Esito.Script_Errato();
+    superati = superati && voto.Esito.Superato();
+  }
+  out << "Rapporti in " << uscita << "/indice.html\n";
+  return errati ? Uscita_Illeggibile : superati ? Uscita_Buona : Uscita_Errori;
+}
+
+}  // namespace
+
+std::string Aiuto_Classe() {
+  return aiuto;
+}
+
+int Comando_Classe(const std::vector<std::string>& parole, std::ostream& out, std::ostream& err) {
+  if (std::ranges::any_of(parole, [](const auto& p) { return p == "--help" || p == "-h"; })) {
+    out << Aiuto_Classe();
+    return Uscita_Buona;
+  }
+  try {
+    return Esegui(Argomenti(parole, {"--uscita", "--impianto", "--processi"}, {}), out, err);
+  } catch (const Uso_Errato& errore) {
+    err << "tavorno-banco: " << errore.what() << " (tavorno-banco classe --help per l'aiuto)\n";
+    return Uscita_Uso;
+  } catch (const std::exception& errore) {
+    err << "tavorno-banco: " << errore.what() << '\n';
+    return Uscita_Errori;
+  }
+}
+
+}  // namespace tavorno

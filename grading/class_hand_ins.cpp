@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "grading/class_hand_ins.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <fstream>
+#include <memory>
+#include <set>
+#include <stdexcept>
+#include <tuple>
+
+#include "grading/hand_in_search.h"
+#include "trace/markup.h"
+
+namespace tavorno {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Chiudi {
+  void operator()(archive* zip) const { archive_read_free(zip); }
+};
+
+/// No project in it may be larger; false beyond that, or when the data is broken.
+bool Estrai(archive* zip, const fs::path& file) {
+  std::string byte;
+  char blocco[16'384];
+  la_ssize_t letti = 0;
+  while ((letti = archive_read_data(zip, blocco, sizeof blocco)) > 0) {
+    byte.append(blocco, static_cast<std::size_t>(letti));
+    if (byte.size() > consegna_massima) return false;
+  }
+  if (letti < 0) return false;
+  std::ofstream uscita(file, std::ios::binary);
+  return static_cast<bool>(uscita << byte << std::flush);
+}
+
+/// A path that stays inside its folder.
+bool Sta_Dentro(const fs::path& percorso) {
+  return percorso.is_relative() &&
+         std::ranges::none_of(percorso, [](const fs::path& parte) { return parte == ".."; });
+}
+
+std::string Motivo_Della_Voce(const std::string& nome, archive_entry* voce) {
+  if (!Sta_Dentro(nome)) return "il percorso esce dalla cartella";
+  if (archive_entry_filetype(voce) != AE_IFREG || archive_entry_hardlink(voce))
+    return "non è un file";
+  return Motivo_Del_Nome(nome);
+}
+
+std::vector<Consegna> Leggi_Zip(const std::string& file, const fs::path& scratch) {
+  const std::unique_ptr<archive, Chiudi> zip(archive_read_new());
+  archive_read_support_format_zip(zip.get());
+  if (archive_read_open_filename(zip.get(), file.c_str(), 65'536) != ARCHIVE_OK)
+    throw std::runtime_error(file + ": non è una cartella e non è un archivio zip");
+  std::vector<Consegna> consegne;
+  archive_entry* voce = nullptr;
+  int numero = 0, esito = ARCHIVE_OK;
+  while ((esito = archive_read_next_header(zip.get(), &voce)) == ARCHIVE_OK ||
+         esito == ARCHIVE_WARN) {
+    if (++numero > voci_massime) {
+      consegne.push_back(
+          {"", Utf8_Valido(file), "", "l'archivio ha più di 10000 voci: le altre non si leggono"});
+      break;
+    }
+    const char* testo = archive_entry_pathname(voce);
+    const std::string nome = testo ? testo : "";
+    if (archive_entry_filetype(voce) == AE_IFDIR || nome.empty()) continue;
+    const bool progetto = Estensione(nome) == ".awl";
+    Consegna consegna{Nome_Studente(Utf8_Valido(nome)), Utf8_Valido(nome), "",
+                      Motivo_Della_Voce(nome, voce)};
+    if (!progetto && consegna.Motivo.empty()) continue;
+    if (consegna.Motivo.empty()) {
+      const fs::path estratto = scratch / (std::to_string(numero) + ".AWL");
+      if (Estrai(zip.get(), estratto)) {
+        const timespec data{archive_entry_mtime(voce), 0};
+        const timespec date[2] = {data, data};
+        ::utimensat(AT_FDCWD, estratto.c_str(), date, 0);
+        consegna.Percorso = estratto.string();
+      } else {
+        consegna.Motivo = "è troppo grande, o l'archivio è rovinato";
+      }
+    }
+    consegne.push_back(std::move(consegna));
+  }
+  if (esito == ARCHIVE_FATAL && numero == 0)
+    throw std::runtime_error(file + ": non è una cartella e non è un archivio zip");
+  if (esito == ARCHIVE_FATAL)
+    consegne.push_back({"", Utf8_Valido(file), "", "l'archivio è rovinato: il resto non si legge"});
+  return consegne;
+}
+
+std::vector<Consegna> Leggi_Cartella(const std::string& cartella) {
+  std::vector<Consegna> consegne;
+  const auto Aggiungi = [&](const std::string& percorso, const std::string& motivo) {
+    const std::string nome = Utf8_Valido(fs::path(percorso).lexically_relative(cartella).string());
+    consegne.push_back({Nome_Studente(nome), nome, motivo.empty() ? percorso : "", motivo});
+  };
+  const Consegne_Trovate trovate = Cerca_Consegne(cartella);
+  for (const std::string& progetto : trovate.Progetti) Aggiungi(progetto, "");
+  for (const Scartata& scartata : trovate.Scartate) Aggiungi(scartata.Percorso, scartata.Motivo);
+  // A student's folder without any project is a hand-in too.
+  std::set<std::string> presenti;
+  for (const Consegna& consegna : consegne) presenti.insert(consegna.Studente);
+  std::error_code errore;
+  for (fs::directory_iterator voce(cartella, errore), fine; !errore && voce != fine;
+       voce.increment(errore)) {
+    std::error_code ignoto;
+    const std::string nome = Utf8_Valido(voce->path().filename().string());
+    if (voce->symlink_status(ignoto).type() == fs::file_type::directory &&
+        !presenti.contains(Nome_Studente(nome + "/")))
+      consegne.push_back(
+          {Nome_Studente(nome + "/"), nome, "", "nella cartella non c'è un progetto .AWL"});
+  }
+  return consegne;
+}
+
+}  // namespace
+
+std::string Nome_Studente(const std::string& percorso) {
+  const std::size_t barra = percorso.find('/');
+  const std::string prima = barra == std::string::npos ? percorso : percorso.substr(0, barra);
+  if (const std::size_t segno = prima.find("_assignsubmission_"); segno != std::string::npos) {
+    const std::size_t numero = prima.rfind('_', segno - 1);
+    const bool cifre = segno > 0 && numero != std::string::npos && numero + 1 < segno &&
+                       std::ranges::all_of(prima.substr(numero + 1, segno - numero - 1),
+                                           [](char c) { return c >= '0' && c <= '9'; });
+    if (cifre && numero > 0) return prima.substr(0, numero);
+  }
+  return barra == std::string::npos ? fs::path(prima).stem().string() : prima;
+}
+
+std::vector<Consegna> Leggi_Classe(const std::string& origine, const fs::path& scratch) {
+  std::error_code errore;
+  std::vector<Consegna> consegne =
+      fs::is_directory(origine, errore) ? Leggi_Cartella(origine) : Leggi_Zip(origine, scratch);
+  std::ranges::stable_sort(consegne, {}, [](const Consegna& consegna) {
+    return std::tie(consegna.Studente, consegna.File);
+  });
+  return consegne;
+}
+
+}  // namespace tavorno
