@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <algorithm>
-#include <ranges>
 
 #include "awl/line_numbers.h"
 #include "awl/ui/completion.h"
@@ -161,10 +160,11 @@ void AwlEditor::Scrivi(const std::string& byte) {
   setReadOnly(false);
   SendScintilla(SCI_BEGINUNDOACTION);
   // From the end, so that the places further up stay what they are.
-  for (const Tratto_Cambiato& tratto : std::views::reverse(Tratti_Cambiati(vecchie, nuove)))
+  const std::vector<Tratto_Cambiato> tratti = Tratti_Cambiati(vecchie, nuove);
+  for (auto tratto = tratti.rbegin(); tratto != tratti.rend(); ++tratto)
     Sostituisci(
-        vecchie.empty() ? 0 : static_cast<std::size_t>(tratto.Vecchio.data() - vecchio.data()),
-        tratto.Vecchio, tratto.Nuovo);
+        vecchie.empty() ? 0 : static_cast<std::size_t>(tratto->Vecchio.data() - vecchio.data()),
+        tratto->Vecchio, tratto->Nuovo);
   SendScintilla(SCI_ENDUNDOACTION);
   setReadOnly(Di_Sola_Lettura());
   scrive_ = false;
