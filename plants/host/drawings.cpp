@@ -148,6 +148,13 @@ void Disegni::Prepara(Pezzo& pezzo) {
   pezzo.Si_Muove = tutto.contains(moto);
 }
 
+QRectF Disegni::Limiti(const QString& id) const {
+  const auto pezzo = pezzi_.find(id);
+  if (pezzo == pezzi_.end()) return {};
+  if (pezzo->second.Limiti.isNull()) pezzo->second.Limiti = base_->boundsOnElement(id);
+  return pezzo->second.Limiti;
+}
+
 bool Disegni::Si_Muove(const QString& id) const {
   const auto pezzo = pezzi_.find(id);
   return pezzo != pezzi_.end() && pezzo->second.Si_Muove;

@@ -32,7 +32,7 @@ class Disegni {
   bool Valido() const { return misura_.isValid(); }
   QRectF Misura() const { return misura_; }  ///< of the whole picture, twips
   bool Esiste(const QString& id) const { return pezzi_.contains(id); }
-  QRectF Limiti(const QString& id) const { return base_->boundsOnElement(id); }  ///< twips
+  QRectF Limiti(const QString& id) const;  ///< twips; kept, since finding them walks the drawing
 
   /// Phases until a moving drawing looks the same again.
   static constexpr int Fasi = 24;
@@ -63,6 +63,7 @@ class Disegni {
     bool Colorato = false, Si_Muove = false;
     QStringList Con;
     QRectF Entro, Tocco;
+    mutable QRectF Limiti;
     QString Nome;
   };
   struct Tenuto {

@@ -179,7 +179,6 @@ struct Leggibilita : ::testing::TestWithParam<int> {
   std::set<QString> detti;
 
   Leggibilita() {
-    impianto->Change = [] {};
     // The picture without its texts: what they stand on. Its own symbols go before shared ones.
     static const QRegularExpression scritta(QStringLiteral("<text[^>]*>[^<]*</text>"));
     const QString foglio = Leggi(QStringLiteral(":/plants/symbols.svg"));

@@ -14,7 +14,6 @@ struct Moto {
   explicit Moto(int indice)
       : impianto(Tabella_Esercizi()[static_cast<std::size_t>(indice)].Crea(plc)),
         quadro(*impianto, QStringLiteral(":/plants/US-%1.svg").arg(indice, 2, 10, QChar('0'))) {
-    impianto->Change = [] {};
     quadro.Riduci_Animazioni(false);
     quadro.resize(quadro.sizeHint());
     Avanza(2000);

@@ -71,7 +71,6 @@ struct Nodi : ::testing::TestWithParam<Nodo> {
 };
 
 TEST_P(Nodi, HaveOneColourWhateverFeedsThem) {
-  impianto->Change = [] {};
   quadro.resize(quadro.sizeHint() * 2);
   for (unsigned quali = 0; quali < 16; ++quali) {
     std::string uscite(16, '0');
