@@ -2,6 +2,7 @@
 // Guards, loop and report of the compile, and the load.
 #include <sstream>
 
+#include "plc/instructions.h"
 #include "project_bed.h"
 
 namespace tavorno::prova {
