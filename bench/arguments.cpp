@@ -55,4 +55,10 @@ long long Argomenti::Numero(const std::string& opzione, long long altrimenti, lo
   return numero;
 }
 
+const std::string& Argomenti::Un_File() const {
+  if (file_.empty()) throw Uso_Errato("manca il file del progetto");
+  if (file_.size() > 1) throw Uso_Errato("troppi file: \"" + file_[1] + "\"");
+  return file_.front();
+}
+
 }  // namespace tavorno

@@ -23,6 +23,8 @@ class Argomenti {
             const std::set<std::string>& senza_valore);
 
   const std::vector<std::string>& File() const { return file_; }
+  /// The project, where a command takes one; throws `Uso_Errato` for none and for more.
+  const std::string& Un_File() const;
   bool Ha(const std::string& opzione) const { return opzioni_.contains(opzione); }
   std::string Testo(const std::string& opzione, const std::string& altrimenti) const;
   /// A number in `minimo`..`massimo`.

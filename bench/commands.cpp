@@ -10,6 +10,7 @@
 
 #include "bench/arguments.h"
 #include "bench/json_report.h"
+#include "bench/ladder_command.h"
 #include "bench/plant_options.h"
 #include "bench/report_files.h"
 #include "bench/speed.h"
@@ -51,6 +52,13 @@ Uso:
       --ogni-scansione   esegue anche le scansioni che non cambiano nulla: dà gli
                          stessi risultati, più lentamente
 
+  tavorno-banco scala FILE.AWL [--svg FILE] [--impianto N]
+      Disegna il progetto a contatti (KOP), un segmento sotto l'altro. Ciò che uno
+      schema a contatti non può dire resta in lista, con il motivo.
+      --svg FILE         il disegno va in un file e si stampa che cosa resta in lista;
+                         senza, il disegno si stampa
+      --impianto N       sopra gli indirizzi si leggono i simboli dell'esercizio N
+
   tavorno-banco misura FILE.AWL [--ms T]
       Compila ed esegue alla massima velocità, in tempo reale, e stampa quante
       righe e quante scansioni al secondo, per l'orologio e per il processore.
@@ -90,13 +98,6 @@ void Stampa_Listato(std::ostream& out, const std::string& listato) {
   out << testo;
 }
 
-/// The one file of the command line.
-const std::string& Un_File(const Argomenti& argomenti) {
-  if (argomenti.File().empty()) throw Uso_Errato("manca il file del progetto");
-  if (argomenti.File().size() > 1) throw Uso_Errato("troppi file: \"" + argomenti.File()[1] + "\"");
-  return argomenti.File().front();
-}
-
 /// Opens and compiles; empty when the project is unreadable, which has been reported.
 std::unique_ptr<Seduta> Apri_E_Compila(const std::string& file, std::ostream& err) {
   auto seduta = std::make_unique<Seduta>();
@@ -111,7 +112,7 @@ std::unique_ptr<Seduta> Apri_E_Compila(const std::string& file, std::ostream& er
 }
 
 int Comando_Compila(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
-  const auto seduta = Apri_E_Compila(Un_File(argomenti), err);
+  const auto seduta = Apri_E_Compila(argomenti.Un_File(), err);
   if (!seduta) return Uscita_Illeggibile;
   if (argomenti.Ha("--json")) {
     out << Rapporto_Json(*seduta) << '\n';
@@ -147,7 +148,7 @@ int Comando_Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& 
   std::vector<Gesto> mani = Mani_Di(argomenti, esercizio);
 
   Stato_Uscita illeggibile{};
-  const std::string& file = Un_File(argomenti);
+  const std::string& file = argomenti.Un_File();
   Controlla_Rapporti(argomenti, {"--vcd", "--svg"}, {file});
   const auto seduta = Apri_Per_Eseguire(file, err, illeggibile);
   if (!seduta) return illeggibile;
@@ -207,7 +208,7 @@ std::string Un_Decimale(double numero) {
 int Comando_Misura(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
   const std::chrono::milliseconds durata{argomenti.Numero("--ms", 1000, 1, 60'000)};
   Stato_Uscita illeggibile{};
-  const auto seduta = Apri_Per_Eseguire(Un_File(argomenti), err, illeggibile);
+  const auto seduta = Apri_Per_Eseguire(argomenti.Un_File(), err, illeggibile);
   if (!seduta) return illeggibile;
   try {
     const Velocita velocita = Misura(seduta->plc, durata);
@@ -256,6 +257,8 @@ int Banco(const std::vector<std::string>& argomenti, std::ostream& out, std::ost
                     {"--ms", "--scansione", "--ingressi", "--impianto", "--mani", "--vcd", "--svg"},
                     {"--ogni-scansione"}),
           out, err);
+    if (comando == "scala")
+      return Comando_Scala(Argomenti(resto, {"--svg", "--impianto"}, {}), out, err);
     if (comando == "misura") return Comando_Misura(Argomenti(resto, {"--ms"}, {}), out, err);
     throw Uso_Errato("comando sconosciuto: " + comando);
   } catch (const Uso_Errato& errore) {

@@ -13,7 +13,8 @@ struct Passo_Scala {
   /// Mnemonic. A contact has the one that begins a branch: "LD", "LDN", "LDB=".
   std::string Istr;
   std::vector<std::string> Operandi;
-  /// Line of the network it came from, from 0; -1 when it is new. Not part of the value.
+  /// Row of the program, or of whatever list it came from; -1 when it is new. Not part of the
+  /// value.
   int Riga = -1;
 
   bool operator==(const Passo_Scala& altro) const {

@@ -285,14 +285,11 @@ class Disegnatore {
 std::variant<Diagramma, Non_Disegnabile> Disegna(std::span<const Passo_Scala> rete) {
   try {
     Disegnatore disegnatore;
-    int riga = 0;
-    for (Passo_Scala passo : rete) {
-      passo.Riga = riga++;
-      disegnatore.Aggiungi(passo);
-    }
+    for (const Passo_Scala& passo : rete) disegnatore.Aggiungi(passo);
     Diagramma diagramma = disegnatore.Fine();
     if (!Elenca(diagramma))
-      return Non_Disegnabile{0, "ha più derivazioni una dentro l'altra di quante la pila ne tenga",
+      return Non_Disegnabile{rete.front().Riga,
+                             "ha più derivazioni una dentro l'altra di quante la pila ne tenga",
                              false};
     return diagramma;
   } catch (const Non_Disegnabile& motivo) {

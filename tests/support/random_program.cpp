@@ -34,6 +34,22 @@ std::string Operando(const Regola_Operando* regola, bool bit, const Caso& caso) 
   return testo;
 }
 
+/// Mnemonics that a line of its own may bear; blocks are put in by `Programma_Casuale`.
+const std::vector<const Istruzione*>& Ammesse() {
+  static const auto righe = [] {
+    std::vector<const Istruzione*> ammesse;
+    for (const Istruzione& istruzione : Tabella_Istruzioni()) {
+      if (istruzione.Trattamento != Gruppo::Non_Supportata && istruzione.Nome != "SBR" &&
+          istruzione.Nome != "INT" && istruzione.Nome != "MEND")
+        ammesse.push_back(&istruzione);
+    }
+    return ammesse;
+  }();
+  return righe;
+}
+
+}  // namespace
+
 Riga_Src Riga_Casuale(const Istruzione& istruzione, const Caso& caso) {
   Riga_Src riga;
   riga.Istr = istruzione.Nome;
@@ -54,22 +70,6 @@ Riga_Src Riga_Casuale(const Istruzione& istruzione, const Caso& caso) {
   }
   return riga;
 }
-
-/// Mnemonics that a line of its own may bear; blocks are put in by `Programma_Casuale`.
-const std::vector<const Istruzione*>& Ammesse() {
-  static const auto righe = [] {
-    std::vector<const Istruzione*> ammesse;
-    for (const Istruzione& istruzione : Tabella_Istruzioni()) {
-      if (istruzione.Trattamento != Gruppo::Non_Supportata && istruzione.Nome != "SBR" &&
-          istruzione.Nome != "INT" && istruzione.Nome != "MEND")
-        ammesse.push_back(&istruzione);
-    }
-    return ammesse;
-  }();
-  return righe;
-}
-
-}  // namespace
 
 int Programma_Casuale(Progetto& progetto, const Caso& caso, int righe) {
   int usate = 0;

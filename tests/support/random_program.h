@@ -13,6 +13,9 @@ namespace tavorno::prova {
 /// A number in 0..massimo, from a generator or from the bytes of a fuzzer.
 using Caso = std::function<unsigned(unsigned massimo)>;
 
+/// A line of an instruction with operands that its rule may or may not take.
+Riga_Src Riga_Casuale(const Istruzione& istruzione, const Caso& caso);
+
 /// Loads a random program of about `righe` lines, every one of which the line checker accepts, with
 /// a MEND and up to two procedures, compiled and linked. Returns the lines accepted.
 int Programma_Casuale(Progetto& progetto, const Caso& caso, int righe);

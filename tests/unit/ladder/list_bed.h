@@ -20,6 +20,7 @@ inline std::vector<Passo_Scala> Rete(const std::string& testo) {
     Passo_Scala passo;
     if (!(parole >> passo.Istr)) continue;
     for (std::string operando; parole >> operando;) passo.Operandi.push_back(operando);
+    passo.Riga = static_cast<int>(rete.size());
     rete.push_back(passo);
   }
   return rete;

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A project's ladder as one SVG document.
+#include <algorithm>
+
+#include "ladder/layout.h"
+#include "ladder/project_ladder.h"
+#include "ladder/to_list.h"
+#include "plc/codepage.h"
+#include "trace/markup.h"
+
+namespace tavorno {
+
+namespace {
+
+constexpr double margine = 24;
+constexpr double larghezza_minima = 640;
+constexpr double altezza_riga_lista = 18;
+
+constexpr const char* stile = R"(<style>
+svg { background: #ffffff }
+text { font: 12px "DejaVu Sans", "Liberation Sans", sans-serif; fill: #1a1a1a }
+path, rect { fill: none; stroke: #1a1a1a; stroke-width: 1.5 }
+.vivo { stroke: #c00000; stroke-width: 2.5 }
+.progetto { font-size: 18px; font-weight: bold }
+.blocco { font-size: 15px; font-weight: bold }
+.rete, .nome { font-weight: bold }
+.commento, .motivo { fill: #4a4a4a }
+.simbolo { fill: #1f4e79 }
+.lista { font-family: "DejaVu Sans Mono", "Liberation Mono", monospace }
+</style>
+)";
+
+class Documento {
+ public:
+  explicit Documento(const Nome_Simbolico& nome) : nome_(nome) {}
+
+  void Scrivi(const std::string& testo, const char* classe, double salto) {
+    y_ += salto;
+    testo_ += "<text x=\"" + std::to_string(static_cast<int>(margine)) + "\" y=\"" +
+              std::to_string(static_cast<int>(y_)) + "\" class=\"" + classe + "\">" +
+              In_Xml(testo) + "</text>\n";
+    Allarga(static_cast<double>(Lunghezza_Utf8(testo)) * 8);
+  }
+
+  void Metti(const Rete_Scala& rete) {
+    Scrivi(rete.Titolo + (rete.Commento.empty() ? "" : "   " + rete.Commento), "rete", 34);
+    if (const auto* diagramma = std::get_if<Diagramma>(&rete.Forma)) {
+      if (!diagramma->empty()) Metti(Traccia_Forme(Impagina(*diagramma), nome_));
+      return;
+    }
+    const auto& motivo = std::get<Non_Disegnabile>(rete.Forma);
+    Scrivi("Resta in lista: " + motivo.Motivo + " (riga " + std::to_string(motivo.Riga) + ").",
+           "motivo", 20);
+    for (const Passo_Scala& passo : rete.Passi)
+      Scrivi(std::to_string(passo.Riga) + "  " + A_Utf8(Come_Testo(passo)), "lista",
+             altezza_riga_lista);
+  }
+
+  std::string Fine() {
+    y_ += margine;
+    return "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
+           std::to_string(static_cast<int>(larghezza_)) + "\" height=\"" +
+           std::to_string(static_cast<int>(y_)) + "\">\n" + stile + testo_ + "</svg>\n";
+  }
+
+ private:
+  void Metti(const Tratteggio_Rete& forme) {
+    y_ += 6;
+    testo_ += "<g transform=\"translate(" + std::to_string(static_cast<int>(margine)) + " " +
+              std::to_string(static_cast<int>(y_)) + ")\">\n" + Come_Svg(forme, {}) + "</g>\n";
+    y_ += forme.Altezza;
+    Allarga(forme.Larghezza);
+  }
+  void Allarga(double larghezza) { larghezza_ = std::max(larghezza_, larghezza + 2 * margine); }
+
+  const Nome_Simbolico& nome_;
+  std::string testo_;
+  double y_ = 6;
+  double larghezza_ = larghezza_minima;
+};
+
+}  // namespace
+
+std::string Documento_Svg(std::span<const Blocco_Scala> blocchi, const std::string& titolo,
+                          const Nome_Simbolico& nome) {
+  Documento documento(nome);
+  documento.Scrivi(titolo, "progetto", margine);
+  for (const Blocco_Scala& blocco : blocchi) {
+    documento.Scrivi(blocco.Nome == "MAIN" ? "Programma principale" : "Procedura " + blocco.Nome,
+                     "blocco", 36);
+    for (const Rete_Scala& rete : blocco.Reti) documento.Metti(rete);
+  }
+  return documento.Fine();
+}
+
+}  // namespace tavorno
