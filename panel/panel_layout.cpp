@@ -20,6 +20,7 @@
 #include "panel/panel_controls.h"
 #include "panel/panel_tables.h"
 #include "panel/program_list.h"
+#include "widgets/colours.h"
 #include "widgets/naming.h"
 #include "widgets/scroll_area.h"
 
@@ -68,9 +69,9 @@ QLineEdit* Numero(const char* nome, const QString& testo, const char* suggerimen
 QLabel* Quadrante(const QString& nome, const QString& testo) {
   QLabel* quadrante = Lettura(nome, testo, 8);
   quadrante->setFont(Carattere_Fisso(13));
-  QPalette colori = quadrante->palette();
-  colori.setColor(QPalette::Base, QColor(0x1e, 0x24, 0x2a));
-  quadrante->setPalette(colori);
+  QPalette tinte = quadrante->palette();
+  tinte.setColor(QPalette::Base, colori::Tempo_Acceso.Fondo);
+  quadrante->setPalette(tinte);
   return quadrante;
 }
 

@@ -14,6 +14,7 @@
 #include "panel/panel_window.h"
 #include "panel/program_list.h"
 #include "plc/number_text.h"
+#include "widgets/colours.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -26,9 +27,9 @@ void Scrivi(QLabel& etichetta, const QString& testo) {
 
 void Colora(QLabel& etichetta, QPalette::ColorRole ruolo, QColor colore) {
   if (etichetta.palette().color(ruolo) == colore) return;
-  QPalette colori = etichetta.palette();
-  colori.setColor(ruolo, colore);
-  etichetta.setPalette(colori);
+  QPalette tinte = etichetta.palette();
+  tinte.setColor(ruolo, colore);
+  etichetta.setPalette(tinte);
 }
 
 }  // namespace
@@ -92,9 +93,8 @@ void FrmPLC::Mostra_Modo() {
 }
 
 void FrmPLC::Mostra_Tempo_Acceso() {
-  const QColor verde(0x55, 0xf0, 0x6c);
-  const QColor grigio(0x80, 0x88, 0x90);
-  Colora(*c_.etTime, c_.etTime->foregroundRole(), plc_.Scelte.chkList ? verde : grigio);
+  Colora(*c_.etTime, c_.etTime->foregroundRole(),
+         (plc_.Scelte.chkList ? colori::Tempo_Acceso : colori::Tempo_Spento).Testo);
 }
 
 void FrmPLC::Mostra_Immagini() {
@@ -107,8 +107,8 @@ void FrmPLC::Mostra_Immagini() {
 void FrmPLC::Mostra_Pila() {
   const bool accesa = c_.chkVs->isChecked();
   for (std::size_t i = 0; i < c_.etS.size(); ++i) {
-    Colora(*c_.etS[i], QPalette::Window,
-           accesa ? QColor(0x80, 0xff, 0xff) : QColor(0x80, 0x80, 0x80));
+    Colora(*c_.etS[i], QPalette::Window, accesa ? colori::Pila.Fondo : colori::Pila_Spenta);
+    Colora(*c_.etS[i], QPalette::WindowText, colori::Pila.Testo);
     Scrivi(*c_.etS[i], accesa ? QString::number(plc_.Stak[static_cast<int>(i)]) : QString());
   }
 }

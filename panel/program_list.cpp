@@ -4,15 +4,13 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
+#include "widgets/colours.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
 
 namespace tavorno {
 
 namespace {
-
-/// As the margin of the editor has it.
-constexpr QColor grigio(0x6b, 0x72, 0x80);
 
 /// Draws the number of the row in a margin before the text.
 class Con_Numero : public QStyledItemDelegate {
@@ -29,8 +27,8 @@ class Con_Numero : public QStyledItemDelegate {
     const QRect numero(opzioni.rect.left(), opzioni.rect.top(), margine, opzioni.rect.height());
     pittore->save();
     pittore->setFont(opzioni.font);
-    pittore->fillRect(numero, opzioni.palette.alternateBase());
-    pittore->setPen(grigio);
+    pittore->fillRect(numero, colori::Numero_Riga.Fondo);
+    pittore->setPen(colori::Numero_Riga.Testo);
     pittore->drawText(numero.adjusted(0, 0, -6, 0), Qt::AlignRight | Qt::AlignVCenter,
                       QString::number(indice.row()));
     pittore->restore();
@@ -75,7 +73,7 @@ void Lista_Programma::paintEvent(QPaintEvent* evento) {
   QListWidget::paintEvent(evento);
   if (count() > 0) return;
   QPainter pittore(viewport());
-  pittore.setPen(grigio);
+  pittore.setPen(palette().color(QPalette::Text));
   pittore.drawText(viewport()->rect().adjusted(16, 16, -16, -16),
                    Qt::AlignCenter | Qt::TextWordWrap,
                    QStringLiteral("Nessun programma nella CPU.\n\nScrivi o apri un progetto "

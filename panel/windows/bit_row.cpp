@@ -5,13 +5,9 @@
 #include <QPainter>
 #include <QStringList>
 
+#include "widgets/colours.h"
+
 namespace tavorno {
-
-namespace {
-
-constexpr QColor acceso{0x2B, 0x8A, 0x3E};
-
-}  // namespace
 
 Riga_Bit::Riga_Bit(const QString& nome, int celle, Contenuto contenuto)
     : celle_(celle), contenuto_(contenuto) {
@@ -46,9 +42,9 @@ void Riga_Bit::paintEvent(QPaintEvent*) {
     }
     const QString segno = testo.mid(k, 1);
     const bool uno = segno == QLatin1String("1");
-    pittore.fillRect(cella, uno ? QBrush(acceso) : palette().brush(QPalette::Base));
+    pittore.fillRect(cella, uno ? QBrush(colori::Bit_Uno.Fondo) : palette().brush(QPalette::Base));
     pittore.setFont(uno ? grassetto : font());
-    pittore.setPen(uno ? QColor(Qt::white) : palette().color(QPalette::Text));
+    pittore.setPen(uno ? colori::Bit_Uno.Testo : palette().color(QPalette::Text));
     pittore.drawText(cella, Qt::AlignCenter, segno);
   }
 }

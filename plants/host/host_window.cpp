@@ -17,6 +17,7 @@
 
 #include "plants/host/picture_widget.h"
 #include "plc/number_text.h"
+#include "widgets/colours.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
 #include "widgets/twips.h"
@@ -24,13 +25,6 @@
 namespace tavorno {
 
 namespace {
-
-// Our shades of the two numbered colours of the table, light enough to read on.
-const QColor verde_ingressi(0xcb, 0xee, 0xd2);
-const QColor celeste_uscite(0xcc, 0xec, 0xf2);
-
-const QColor fondo_run(0x1b, 0x7a, 0x33);
-const QColor fondo_stop(0x59, 0x60, 0x68);
 
 /// Two groups of controls side by side, or one above the other where the window is narrow.
 class Riga_Comandi : public QWidget {
@@ -180,8 +174,10 @@ QWidget* Finestra_Impianto::Assegna_IO() {
     for (int colonna = 0; colonna < 4; ++colonna) {
       auto* cella = new QTableWidgetItem(testi[static_cast<std::size_t>(colonna)]);
       if (colonna == 1 || colonna == 2) {
-        cella->setBackground(Uscita(riga) ? celeste_uscite : verde_ingressi);
-        cella->setForeground(Qt::black);
+        // Our shades of the two numbered colours of the table, light enough to read on.
+        const colori::Coppia& tinta = Uscita(riga) ? colori::Uscite : colori::Ingressi;
+        cella->setBackground(tinta.Fondo);
+        cella->setForeground(tinta.Testo);
       }
       if (colonna == 3) cella->setForeground(FGr->palette().buttonText());
       FGr->setItem(n, colonna, cella);
@@ -229,10 +225,11 @@ QSize Finestra_Impianto::Voluta() const {
 
 void Finestra_Impianto::Mostra_Corsa(bool acceso) {
   etRun_->setText(acceso ? QStringLiteral("CPU in RUN") : QStringLiteral("CPU in STOP"));
-  QPalette colori = etRun_->palette();
-  colori.setColor(QPalette::Window, acceso ? fondo_run : fondo_stop);
-  colori.setColor(QPalette::WindowText, Qt::white);
-  etRun_->setPalette(colori);
+  const colori::Coppia& tinta = acceso ? colori::In_Run : colori::In_Stop;
+  QPalette tinte = etRun_->palette();
+  tinte.setColor(QPalette::Window, tinta.Fondo);
+  tinte.setColor(QPalette::WindowText, tinta.Testo);
+  etRun_->setPalette(tinte);
 }
 
 /// The height shows or hides the table. What the user has made the window larger by stays.
