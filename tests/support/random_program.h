@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "awl/project.h"
+#include "plc/instructions.h"
 #include "plc/plc.h"
 
 namespace tavorno::prova {
