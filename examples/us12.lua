@@ -198,6 +198,17 @@ prova("ricetta", 16, function()
         "anche la seconda ricetta deve avere i suoi litri")
 end)
 
+for n, lenta in ipairs { "ME_SpedP1", "ME_SpedP2" } do
+  prova("ricetta con la pompa " .. n .. " lenta", 2, function()
+    regola(lenta, 600)
+    in_automatico()
+    local visto = osserva(300000)
+    serve(visto.scaricando, "caricati e mescolati i prodotti si deve scaricare")
+    punti(2, math.abs(visto.litri[1] - litri_1) <= 1 and math.abs(visto.litri[2] - litri_2) <= 1,
+          "anche con la pompa " .. n .. " lenta ogni prodotto deve avere i suoi litri")
+  end)
+end
+
 prova("luci dello scarico", 1, function()
   in_automatico()
   serve(attendi_fino(function() return acceso(scarico) end, 300000), "caricati e mescolati i prodotti si deve scaricare")
@@ -205,16 +216,44 @@ prova("luci dello scarico", 1, function()
   punti(1, lampade(hl, "10001010"), "durante lo scarico devono essere accese HL1, HL5 e HL7, e nessun'altra")
 end)
 
-prova("serbatoio non vuoto", 2, function()
+for _, quanti in ipairs { 10, 90 } do
+  prova("serbatoio con " .. quanti .. " litri", 2, function()
+    in_manuale()
+    premi_per("imgSB(2)", 300)
+    attendi_fino(function() return litri() >= quanti end, 60000)
+    premi_per("imgSB(3)", 300)
+    serve(litri() >= quanti and tutto_fermo(), "in manuale SB2 deve caricare il prodotto 1 e SB3 fermarlo")
+    gira(sa)
+    premi_per(start, 300)
+    attendi(2000)
+    punti(2, tutto_fermo(), "con " .. quanti .. " litri nel serbatoio Start non deve cominciare il ciclo")
+  end)
+end
+
+prova("emergenza prima di Start", 2, function()
   in_manuale()
-  premi_per("imgSB(2)", 300)
-  attendi(6000)
-  premi_per("imgSB(3)", 300)
-  serve(litri() > 4 and tutto_fermo(), "in manuale SB2 deve caricare il prodotto 1 e SB3 fermarlo")
   gira(sa)
-  premi_per(start, 300)
+  clic("ImgEm")
+  attendi(200)
+  premi(start)
+  attendi(300)
+  local fermo = tutto_fermo()
+  rilascia(start)
+  attendi(200)
+  clic("ImgEm")
   attendi(2000)
-  punti(2, tutto_fermo(), "con il serbatoio non vuoto Start non deve cominciare il ciclo")
+  fermo = fermo and tutto_fermo()
+  premi_per(start, 300)
+  serve(carica(), "dopo l'emergenza Start deve cominciare il ciclo")
+  sicuro(2, true, fermo, "durante l'emergenza Start non deve avviare nulla, nemmeno dopo")
+end)
+
+prova("dall'automatico al manuale", 1, function()
+  in_automatico()
+  attendi(3000)
+  gira(sa)
+  attendi(1000)
+  sicuro(1, true, tutto_fermo(), "girando SA in manuale il ciclo deve interrompersi")
 end)
 
 -- Il ciclo è nella fase data: ci arriva e sta un secondo.
@@ -252,25 +291,37 @@ for _, fase in ipairs(fasi) do
   end)
 end
 
-prova("emergenza in manuale", 3, function()
-  in_manuale()
-  premi_per("imgSB(2)", 300)
-  premi_per("imgSB(6)", 300)
-  attendi(2000)
-  local va = serve(accesi(mandata_1) and acceso(agitatore), "in manuale gli Start devono avviare carico e mescolatore")
-  clic("ImgEm")
-  attendi(200)
-  sicuro(1, va, tutto_fermo(), "anche in manuale l'emergenza deve fermare tutto entro 0,2 secondi")
-  premi("imgSB(2)")
-  attendi(300)
-  sicuro(1, va, tutto_fermo(), "durante l'emergenza gli Start manuali non devono avviare nulla")
-  rilascia("imgSB(2)")
-  clic("ImgEm")
-  attendi(3000)
-  sicuro(1, va, tutto_fermo(), "finita l'emergenza in manuale non deve ripartire niente da solo")
-end)
+for _, operazione in ipairs {
+  { nome = "prodotto 1", start = "imgSB(2)", uscite = mandata_1 },
+  { nome = "prodotto 2", start = "imgSB(4)", uscite = mandata_2 },
+  { nome = "mescolatore e vapore", start = "imgSB(6)", uscite = { agitatore, vapore } },
+  { nome = "scarico", start = "imgSB(8)", uscite = { scarico } },
+} do
+  local nome = operazione.nome
+  prova("emergenza in manuale: " .. nome, 3, function()
+    in_manuale()
+    if nome == "scarico" then
+      premi_per("imgSB(2)", 300)
+      attendi(8000)
+      premi_per("imgSB(3)", 300)
+    end
+    premi_per(operazione.start, 300)
+    attendi(1000)
+    local va = serve(accesi(operazione.uscite), "in manuale lo Start deve avviare " .. nome)
+    clic("ImgEm")
+    attendi(200)
+    sicuro(1, va, tutto_fermo(), "anche in manuale l'emergenza deve fermare " .. nome .. " entro 0,2 secondi")
+    premi(operazione.start)
+    attendi(300)
+    sicuro(1, va, tutto_fermo(), "durante l'emergenza lo Start di " .. nome .. " non deve avviare nulla")
+    rilascia(operazione.start)
+    clic("ImgEm")
+    attendi(3000)
+    sicuro(1, va, tutto_fermo(), "finita l'emergenza in manuale " .. nome .. " non deve ripartire da solo")
+  end)
+end
 
-prova_di_sicurezza(60, function()
+prova_di_sicurezza(71, function()
   in_automatico()
   local visto = osserva(300000)
   return visto.scaricando and visto.finita
