@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "bench/commands.h"
+#include "bench/exit_status.h"
 #include "bench/plant_options.h"
 #include "bench/report_files.h"
 #include "ladder/project_ladder.h"

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plants/parts.h"
-
 #include "plants/plant.h"
 
 namespace tavorno {

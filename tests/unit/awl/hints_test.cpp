@@ -35,13 +35,13 @@ using Lista = std::vector<std::string>;
 
 }  // namespace
 
-struct Caso_Linea {
+struct Caso_Suggerimento {
   std::string nome;
   std::string linea;
   Lista detti;  ///< on the line, which is the second of the text
 };
 
-class LineHint : public testing::TestWithParam<Caso_Linea> {};
+class LineHint : public testing::TestWithParam<Caso_Suggerimento> {};
 
 TEST_P(LineHint, IsGivenOnThatLineOnly) {
   EXPECT_EQ(Detti(Con_Main("//titolo\r\n" + GetParam().linea + "\r\nNOT\r\n")), GetParam().detti);
@@ -49,29 +49,29 @@ TEST_P(LineHint, IsGivenOnThatLineOnly) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rules, LineHint,
-    testing::Values(Caso_Linea{"Good", "LD     I0.0              //marcia", {}},
-                    Caso_Linea{"Division", "/I     VW0, VW2  //x", {}}, Caso_Linea{"Empty", "", {}},
-                    Caso_Linea{"Blanks", "    ", {}}, Caso_Linea{"Comment", "//a / b", {}},
-                    Caso_Linea{"Network", "NETWORK 1 //a", {}},
-                    Caso_Linea{"ThreeCommas", "MOVW VW0, VW2, VW4", {}},
-                    Caso_Linea{"IndentedInstruction", "  LD I0.0", {"0.1 Comincia con uno spa"}},
-                    Caso_Linea{"IndentedByATab", "\tLD I0.0", {"0.1 Comincia con uno spa"}},
-                    Caso_Linea{"IndentedComment", " // a", {"0.1 Comincia con uno spa"}},
-                    Caso_Linea{"FourBlanks", "A B C D E", {"0.1 Quattro spazi tra le"}},
-                    Caso_Linea{"FiveBlanks", "A B C D E F", {"0.1 Così il progetto no"}},
-                    Caso_Linea{"OneBar", "LD I0.0 /marcia", {"0.1 Un commento comincia"}},
-                    Caso_Linea{"BarInAnOperand", "MOVW VW0/2, VW2", {"0.1 Un commento comincia"}},
-                    Caso_Linea{"TwentyTwoCharacters", "MOVW VW100, VW100123", {}},
-                    Caso_Linea{"TooLong", "MOVW VW100, VW1001234", {"0.1 Così il progetto no"}},
-                    Caso_Linea{"LongMnemonic", "ABCDEFGH I0.0", {"0.1 Così il progetto no"}},
-                    Caso_Linea{
+    testing::Values(Caso_Suggerimento{"Good", "LD     I0.0              //marcia", {}},
+                    Caso_Suggerimento{"Division", "/I     VW0, VW2  //x", {}}, Caso_Suggerimento{"Empty", "", {}},
+                    Caso_Suggerimento{"Blanks", "    ", {}}, Caso_Suggerimento{"Comment", "//a / b", {}},
+                    Caso_Suggerimento{"Network", "NETWORK 1 //a", {}},
+                    Caso_Suggerimento{"ThreeCommas", "MOVW VW0, VW2, VW4", {}},
+                    Caso_Suggerimento{"IndentedInstruction", "  LD I0.0", {"0.1 Comincia con uno spa"}},
+                    Caso_Suggerimento{"IndentedByATab", "\tLD I0.0", {"0.1 Comincia con uno spa"}},
+                    Caso_Suggerimento{"IndentedComment", " // a", {"0.1 Comincia con uno spa"}},
+                    Caso_Suggerimento{"FourBlanks", "A B C D E", {"0.1 Quattro spazi tra le"}},
+                    Caso_Suggerimento{"FiveBlanks", "A B C D E F", {"0.1 Così il progetto no"}},
+                    Caso_Suggerimento{"OneBar", "LD I0.0 /marcia", {"0.1 Un commento comincia"}},
+                    Caso_Suggerimento{"BarInAnOperand", "MOVW VW0/2, VW2", {"0.1 Un commento comincia"}},
+                    Caso_Suggerimento{"TwentyTwoCharacters", "MOVW VW100, VW100123", {}},
+                    Caso_Suggerimento{"TooLong", "MOVW VW100, VW1001234", {"0.1 Così il progetto no"}},
+                    Caso_Suggerimento{"LongMnemonic", "ABCDEFGH I0.0", {"0.1 Così il progetto no"}},
+                    Caso_Suggerimento{
                         "LongNetwork", "NETWORK 1234567890 //a", {"0.1 Così il progetto no"}},
-                    Caso_Linea{"FiveCommas", "MOVW 1,2,3,4,5,6", {"0.1 Così il progetto no"}},
-                    Caso_Linea{"Xord", "xord AC0, AC1", {"0.1 XORD supera la compi"}},
-                    Caso_Linea{"Reti", "RETI", {"0.1 RETI supera la compi"}},
-                    Caso_Linea{"Int", "INT0 nome", {"0.1 INT0 supera la compi"}},
-                    Caso_Linea{"Unsupported", "XORW AC0, AC1", {}},
-                    Caso_Linea{"TimerNobodyReads", "TON T37, +100", {"0.1 Nessuno legge T37: i"}}),
+                    Caso_Suggerimento{"FiveCommas", "MOVW 1,2,3,4,5,6", {"0.1 Così il progetto no"}},
+                    Caso_Suggerimento{"Xord", "xord AC0, AC1", {"0.1 XORD supera la compi"}},
+                    Caso_Suggerimento{"Reti", "RETI", {"0.1 RETI supera la compi"}},
+                    Caso_Suggerimento{"Int", "INT0 nome", {"0.1 INT0 supera la compi"}},
+                    Caso_Suggerimento{"Unsupported", "XORW AC0, AC1", {}},
+                    Caso_Suggerimento{"TimerNobodyReads", "TON T37, +100", {"0.1 Nessuno legge T37: i"}}),
     [](const auto& caso) { return caso.param.nome; });
 
 TEST(Hints, TellColumnAndLengthOfTheInstruction) {
