@@ -53,7 +53,7 @@ struct Banco_Pannello : ::testing::Test {
     ASSERT_TRUE(seduta.Apri(percorso)) << progetto.Dettaglio.Come_Testo();
     progetto.Compila();
     ASSERT_EQ(progetto.Errori, 0) << progetto.Lista_Comp;
-    progetto.mnuPlcCarica();
+    progetto.Consegna();
     pannello.Attivata();
     seduta.Avvisi.clear();
   }

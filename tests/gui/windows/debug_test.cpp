@@ -216,6 +216,7 @@ TEST_F(Debug, AJumpShowsItsTimers) {
 
 TEST_F(Debug, ACallShowsItsTimers) {
   plc.Prog[0].Istr = "CALL";
+  plc.Prog[0].Nel_Programma = Compito::Chiamata;
   plc.Prog[0].Lista_T = {0, 33, 40};
   Riga(0);
   EXPECT_EQ(Timer(), (std::vector<std::string>{"33", "40"}));
