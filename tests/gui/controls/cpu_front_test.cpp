@@ -193,9 +193,9 @@ TEST_P(CpuFrontSize, KeepsItsProportionsBetweenItsBounds) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, CpuFrontSize,
-                         ::testing::Values(QSize(300, 150), QSize(352, 171), QSize(512, 248),
-                                           QSize(640, 310), QSize(900, 310), QSize(640, 500),
-                                           QSize(1280, 620), QSize(1900, 900)));
+                         ::testing::Values(QSize(352, 171), QSize(512, 248), QSize(640, 310),
+                                           QSize(900, 310), QSize(640, 500), QSize(1280, 620),
+                                           QSize(1900, 900)));
 
 TEST_F(CpuFront, TheTabKeyGoesFromTheFirstRowToTheSecond) {
   fronte.activateWindow();
