@@ -33,8 +33,9 @@ local function in_automatico(temperatura)
   return serve(accesi(mandata_1), "in automatico, a serbatoio vuoto, Start deve cominciare il carico del prodotto 1")
 end
 
+-- Oltre ai litri: il vapore, l'agitatore, la temperatura e HL1, fino all'inizio dello scarico.
 local function osserva(ms)
-  local insieme = 0
+  local insieme, buio = 0, 0
   return osserva_ricetta(ms, function() return accesi(scarico) end, function() return acceso(agitatore) end, function(visto)
     if acceso(vapore) then
       visto.vapore = visto.vapore or 0
@@ -42,6 +43,9 @@ local function osserva(ms)
       if not acceso(agitatore) then visto.senza_agitatore = true end
       if visto.litri[2] < litri_2 - 1 then visto.presto = true end
     end
+    if visto.dopo == 1000 then visto.chiuso = not acceso(vapore) end
+    if not acceso("Q1.0") then buio = buio + 1 end
+    visto.sempre_luce = buio < 100
     if visto.dopo or visto.vapore and acceso("I0.7") then visto.dopo = (visto.dopo or 0) + 1 end
     if accesi(mandata_1) and accesi(mandata_2) then insieme = insieme + 1 end
     visto.insieme = insieme > 100
@@ -134,30 +138,52 @@ prova("l'automatico vuole SA1 e Start", 3, function()
   serve(accesi(mandata_1), "in automatico Start deve cominciare il carico del prodotto 1")
 end)
 
-prova("serbatoio non vuoto", 2, function()
+for _, quanti in ipairs { 10, 90 } do
+  prova("serbatoio con " .. quanti .. " litri", 2, function()
+    regola("ME_Speed1", 100)
+    in_manuale()
+    gira("imgCom(1)")
+    attendi_fino(function() return litri() >= quanti end, 60000)
+    gira("imgCom(1)")
+    serve(litri() >= quanti and tutto_fermo(), "in manuale SA2 deve caricare il prodotto 1")
+    gira(sa1)
+    premi_per(start, 300)
+    attendi(2000)
+    punti(2, tutto_fermo(), "con " .. quanti .. " litri nel serbatoio Start non deve cominciare il ciclo")
+  end)
+end
+
+prova("Start con Stop premuto", 1, function()
   in_manuale()
-  gira("imgCom(1)")
-  attendi(6000)
-  gira("imgCom(1)")
-  serve(litri() > 4 and tutto_fermo(), "in manuale SA2 deve caricare il prodotto 1")
   gira(sa1)
+  premi(stop_auto)
+  attendi(100)
+  premi(start)
+  attendi(300)
+  local fermo = tutto_fermo()
+  rilascia(start)
+  attendi(200)
+  rilascia(stop_auto)
+  attendi(500)
+  fermo = fermo and tutto_fermo()
   premi_per(start, 300)
-  attendi(2000)
-  punti(2, tutto_fermo(), "con il serbatoio non vuoto Start non deve cominciare il ciclo")
+  serve(accesi(mandata_1), "rilasciato Stop un nuovo Start deve cominciare il carico")
+  sicuro(1, true, fermo, "con Stop premuto Start non deve avviare nulla")
 end)
 
 prova("ricetta con riscaldamento", 14, function()
   in_automatico(23)
   attendi(1000)
-  punti(0.5, lampade(hl, "10000000"), "durante il carico deve essere accesa soltanto HL1")
+  serve(lampade(hl, "10000000"), "durante il carico deve essere accesa soltanto HL1")
   local visto = osserva(300000)
   serve(visto.scaricando, "caricati, scaldati e mescolati i prodotti si deve scaricare")
+  punti(0.5, visto.sempre_luce, "HL1 deve essere accesa dal carico allo scarico")
   punti_per_i_litri(2, visto, litri_1, litri_2)
   punti(1, not visto.insieme, "il prodotto 2 si deve caricare dopo il prodotto 1")
   punti(2, visto.vapore and not visto.presto and visto.gradi >= 22, "dopo il carico si deve aprire il vapore fino alla temperatura impostata")
   punti(1, visto.vapore and not visto.senza_agitatore, "mentre si scalda l'agitatore deve girare")
-  punti(1.5, visto.gradi_massimi >= 23 and visto.gradi_massimi <= 25,
-        "raggiunta la temperatura il vapore si deve chiudere (al massimo 2 gradi in più)")
+  punti(1.5, visto.gradi_massimi >= 23 and visto.chiuso,
+        "raggiunta la temperatura (BT a 1) il vapore si deve chiudere entro un secondo")
   punti(1.5, visto.dopo and math.abs((visto.dopo or 0) - mescola) <= 1500,
         "i 10 secondi di mescolazione si devono contare da quando la temperatura è raggiunta (da 8,5 a 11,5)")
   punti(2, visto.finita and litri() == 0, "il serbatoio si deve vuotare del tutto e lo scarico fermarsi")
@@ -224,7 +250,7 @@ for _, caso in ipairs {
   end)
 end
 
-prova_di_sicurezza(62, function()
+prova_di_sicurezza(65, function()
   in_automatico(22)
   local visto = osserva(300000)
   return visto.scaricando and visto.finita

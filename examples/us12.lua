@@ -248,6 +248,24 @@ prova("emergenza prima di Start", 2, function()
   sicuro(2, true, fermo, "durante l'emergenza Start non deve avviare nulla, nemmeno dopo")
 end)
 
+prova("Start con Stop premuto", 1, function()
+  in_manuale()
+  gira(sa)
+  premi(stop_auto)
+  attendi(100)
+  premi(start)
+  attendi(300)
+  local fermo = tutto_fermo()
+  rilascia(start)
+  attendi(200)
+  rilascia(stop_auto)
+  attendi(500)
+  fermo = fermo and tutto_fermo()
+  premi_per(start, 300)
+  serve(carica(), "rilasciato Stop un nuovo Start deve cominciare il carico")
+  sicuro(1, true, fermo, "con Stop premuto Start non deve avviare nulla")
+end)
+
 prova("dall'automatico al manuale", 1, function()
   in_automatico()
   attendi(3000)
@@ -321,7 +339,7 @@ for _, operazione in ipairs {
   end)
 end
 
-prova_di_sicurezza(71, function()
+prova_di_sicurezza(72, function()
   in_automatico()
   local visto = osserva(300000)
   return visto.scaricando and visto.finita

@@ -63,7 +63,7 @@ prova("ricetta", 22, function()
   local luci_carico, luci_mescola, spente = false, false, true
   attendi(500)
   luci_carico = lampade(hl, "1001000")
-  local fino, ultima, una_sola, agitato, avvii, pompava = {}, 0, true, 0, 1, true
+  local fino, ultima, una_sola, agitato, avvii, pompava, buio = {}, 0, true, 0, 1, true, 0
   local mescolato = attendi_fino(function()
     for n, valvola in ipairs(valvole) do
       if acceso(valvola) then
@@ -73,6 +73,7 @@ prova("ricetta", 22, function()
       end
     end
     if aperte() > 1 then una_sola = false end
+    if not acceso("Q1.1") then buio = buio + 1 end
     if acceso(pompa) and not pompava then avvii = avvii + 1 end
     pompava = acceso(pompa)
     if acceso(agitatore) then
@@ -91,7 +92,7 @@ prova("ricetta", 22, function()
   if fino[4] and fino[4] >= 160 then pericolo("il carico del prodotto D non deve arrivare al troppo pieno") end
   punti(1, fino[4] and una_sola, "le valvole dei prodotti si devono aprire una alla volta, da A a D")
   punti(1, fino[4] and avvii == 1, "la pompa deve restare in moto mentre si cambia valvola")
-  punti(1, luci_carico, "durante il carico devono essere accese HL2 ciclo attivo e HL4 motore M1, e nessun'altra")
+  punti(1, luci_carico and buio < 100, "durante il carico devono essere accese HL2 ciclo attivo e HL4 motore M1, e nessun'altra; HL2 sempre, da A a D")
   serve(mescolato and agitato > 0, "caricati i prodotti si deve mescolare")
   punti(2, math.abs(agitato - mescola) <= 1000, "il mescolatore deve girare per 5 secondi (uno in più o in meno)")
   punti(1, luci_mescola, "durante la mescolazione devono essere accese HL2 ciclo attivo e HL5 motore M2, e nessun'altra")
@@ -126,7 +127,7 @@ prova("serbatoio non vuoto", 2, function()
   punti(2, tutto_fermo(), "con il serbatoio non vuoto Start non deve cominciare il ciclo")
 end)
 
-prova("prodotto mancante", 7, function()
+prova("prodotto A mancante", 5, function()
   avvia()
   attendi(8000)
   local va = serve(carica(), "dopo Start si deve caricare il prodotto A")
@@ -147,16 +148,22 @@ prova("prodotto mancante", 7, function()
   premi_per(start, 300)
   attendi(5000)
   punti(1, carica() and acceso(valvole[1]) and litri() > erano, "tornato il prodotto Start deve riprovare dallo stesso prodotto")
-  serve(attendi_fino(function() return acceso(valvole[2]) end, 60000), "il carico deve arrivare al prodotto B")
-  attendi(3000)
-  premi("etGP(1)")
-  attendi(5000)
-  rilascia("etGP(1)")
-  serve(tutto_fermo(), "anche al prodotto B, senza impulsi, il carico deve fermarsi")
-  premi_per(start, 300)
-  attendi(1000)
-  punti(2, carica() and acceso(valvole[2]) and not acceso(valvole[1]), "mancato il prodotto B, Start deve riprovare da B")
 end)
+
+for n = 2, 4 do
+  prova("prodotto " .. nomi[n] .. " mancante", 2, function()
+    porta_a(function() return acceso(valvole[n]) end, "al prodotto " .. nomi[n])
+    attendi(1000)
+    premi("etGP(" .. n - 1 .. ")")
+    attendi(4500)
+    punti(1, tutto_fermo(), "anche se manca il prodotto " .. nomi[n] .. " pompa e valvola devono fermarsi dopo 3 secondi")
+    rilascia("etGP(" .. n - 1 .. ")")
+    attendi(500)
+    premi_per(start, 300)
+    attendi(500)
+    punti(1, carica() and acceso(valvole[n]) and aperte() == 1, "mancato il prodotto " .. nomi[n] .. ", Start deve riprovare da lì")
+  end)
+end
 
 prova("carico lento", 2, function()
   regola("ME_SpedP", 500)
@@ -194,20 +201,27 @@ for _, fase in ipairs(fasi) do
   end
 end
 
-prova("emergenza prima di Start", 2, function()
-  a_riposo()
-  clic("ImgEm")
-  attendi(200)
-  premi_per(start, 300)
-  attendi(500)
-  local fermo = tutto_fermo()
-  clic("ImgEm")
-  attendi(1000)
-  fermo = fermo and tutto_fermo()
-  premi_per(start, 300)
-  serve(carica(), "dopo l'emergenza Start deve cominciare il ciclo")
-  sicuro(2, true, fermo, "durante l'emergenza Start non deve avviare nulla, nemmeno dopo")
-end)
+for _, arresto in ipairs {
+  { nome = "l'emergenza", comincia = function() clic("ImgEm") end, finisce = function() clic("ImgEm") end },
+  { nome = "lo Stop", comincia = function() premi(stop_ciclo) end, finisce = function() rilascia(stop_ciclo) end },
+} do
+  prova("Start durante " .. arresto.nome, 2, function()
+    a_riposo()
+    arresto.comincia()
+    attendi(200)
+    premi(start)
+    attendi(300)
+    local fermo = tutto_fermo()
+    rilascia(start)
+    attendi(300)
+    arresto.finisce()
+    attendi(1000)
+    fermo = fermo and tutto_fermo()
+    premi_per(start, 300)
+    serve(carica(), "dopo " .. arresto.nome .. " Start deve cominciare il ciclo")
+    sicuro(2, true, fermo, "durante " .. arresto.nome .. " Start non deve avviare nulla, nemmeno dopo")
+  end)
+end
 
 for _, motore in ipairs {
   { nome = "M1", figura = "imgM(0)", uscita = pompa, luci = "...0.10",
@@ -285,7 +299,7 @@ prova("manutenzione di M2", 4, function()
   punti(1, not acceso("Q1.0"), "SB3 deve spegnere anche HL1")
 end)
 
-prova_di_sicurezza(53, function()
+prova_di_sicurezza(58, function()
   porta_a(dopo_mescolazione(), "alla fine della mescolazione")
   gira(sa)
   return (attendi_fino(function() return litri() == 0 end, 120000))
