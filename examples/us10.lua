@@ -213,10 +213,11 @@ for _, fase in ipairs {
   { nome = "riscaldamento", in_corso = function() return acceso(vapore) end },
   { nome = "scarico", in_corso = function() return accesi(scarico) end },
 } do
-  prova("Stop durante la fase di " .. fase.nome, 2, function()
+  prova("Stop durante la fase di " .. fase.nome, 2.5, function()
     in_automatico(22)
     local va = serve(attendi_fino(fase.in_corso, 300000), "dopo Start si deve arrivare alla fase di " .. fase.nome)
     attendi(2000)
+    punti(0.5, acceso("Q1.0"), "nella fase di " .. fase.nome .. " HL1 deve essere accesa")
     premi(stop_auto)
     attendi(200)
     sicuro(1, va, tutto_fermo(), "lo Stop deve interrompere la fase di " .. fase.nome .. " entro 0,2 secondi")
@@ -250,7 +251,7 @@ for _, caso in ipairs {
   end)
 end
 
-prova_di_sicurezza(65, function()
+prova_di_sicurezza(67, function()
   in_automatico(22)
   local visto = osserva(300000)
   return visto.scaricando and visto.finita
