@@ -132,6 +132,7 @@ void Prepara_Uscita(const std::string& cartella) {
 void Scrivi_Rapporti(const fs::path& cartella, const std::vector<Voto>& voti,
                      const Testata& testata) {
   std::vector<Esito_Progetto> esiti;
+  esiti.reserve(voti.size());
   for (const Voto& voto : voti) esiti.push_back(voto.Esito);
   Scrivi_Rapporto((cartella / "indice.html").string(), Pagina_Docente(voti, testata));
   for (std::size_t n = 0; n < voti.size(); ++n)

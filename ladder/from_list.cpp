@@ -257,6 +257,7 @@ class Disegnatore {
 
   static std::vector<Nodo> Nodi(const std::vector<Punto*>& punti) {
     std::vector<Nodo> nodi;
+    nodi.reserve(punti.size());
     for (Punto* punto : punti)
       nodi.push_back({std::move(punto->Condizione), punto->Uscita, Nodi(punto->Seguito)});
     return nodi;

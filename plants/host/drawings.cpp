@@ -50,8 +50,8 @@ void Per_Ogni_Elemento(const QString& testo, int livello, Azione azione) {
 
 QString Attributo(const QString& testo, const QString& nome) {
   const QString inizio = nome + "=\"";
-  const auto da = testo.left(testo.indexOf('>')).indexOf(inizio);
-  if (da < 0) return {};
+  const auto da = testo.indexOf(inizio);
+  if (da < 0 || da > testo.indexOf('>')) return {};
   const auto dentro = da + inizio.size();
   return testo.mid(dentro, testo.indexOf('"', dentro) - dentro);
 }

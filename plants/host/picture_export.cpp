@@ -20,11 +20,8 @@ namespace tavorno {
 namespace {
 
 constexpr double finezza = 2;  // of a saved image, times its size at 100 %
-const QString chiave_ridotte = QStringLiteral("figure/riduci_animazioni");
-
-QSettings Preferenze() {
-  return QSettings(QStringLiteral("tavorno"), QStringLiteral("tavorno"));
-}
+constexpr const char* chiave_ridotte = "figure/riduci_animazioni";
+constexpr const char* nome_preferenze = "tavorno";
 
 QString Numero(double valore) {
   return QString::number(std::round(valore * 100) / 100);
@@ -44,7 +41,8 @@ bool Quadro::Preferite_Ridotte() {
   // A desktop whose user wants stillness tells the style to animate nothing.
   const bool desktop_fermo =
       QWidget().style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
-  return Preferenze().value(chiave_ridotte, desktop_fermo).toBool();
+  const QSettings preferenze(nome_preferenze, nome_preferenze);
+  return preferenze.value(chiave_ridotte, desktop_fermo).toBool();
 }
 
 QString Quadro::Come_Svg() const {
@@ -134,7 +132,8 @@ void Quadro::Monta_Voci() {
   voce("mnuSalvaPng", QStringLiteral("Salva la figura come PNG…"),
        [this] { Salva(QStringLiteral("png")); });
   auto* riduci = voce("mnuRiduci", QStringLiteral("Riduci animazioni"), [this](bool ridotte) {
-    Preferenze().setValue(chiave_ridotte, ridotte);
+    QSettings preferenze(nome_preferenze, nome_preferenze);
+    preferenze.setValue(chiave_ridotte, ridotte);
     Riduci_Animazioni(ridotte);
   });
   riduci->setCheckable(true);

@@ -46,9 +46,59 @@ class Autore {
  private:
   std::string Rete(unsigned numero) {
     std::string testo = "NETWORK " + std::to_string(numero) + "\n";
+    if (caso_(2) != 0) return testo + Rete_Ordinata();
     const unsigned righe = 1 + caso_(9);
     for (unsigned n = 0; n < righe; ++n) testo += Riga(n == 0 && caso_(15) != 0);
     return testo;
+  }
+
+  /// As somebody writes who knows what the stack is for: a block, then coils, some of them behind
+  /// further contacts.
+  std::string Rete_Ordinata() {
+    std::string testo = Blocco(2);
+    if (caso_(2) == 0) testo += "LPS\n" + Contatto("A") + Bobina() + "LPP\n";
+    testo += Bobina();
+    if (caso_(2) == 0) testo += Contatto("A") + Bobina();
+    return testo;
+  }
+
+  std::string Blocco(unsigned profondita) {
+    static const char* const giunzioni[] = {"ALD\n", "OLD\n"};
+    static const char* const trasformazioni[] = {"NOT\n", "EU\n", "ED\n"};
+    std::string testo = Contatto("LD");
+    const unsigned pezzi = caso_(3);
+    for (unsigned n = 0; n < pezzi; ++n) {
+      const unsigned quale = caso_(9);
+      if (quale == 0)
+        testo += trasformazioni[caso_(2)];
+      else if (quale < 4 && profondita > 0)
+        testo += Blocco(profondita - 1) + giunzioni[caso_(1)];
+      else
+        testo += Contatto(quale % 2 == 0 ? "A" : "O");
+    }
+    return testo;
+  }
+
+  std::string Contatto(const std::string& attacco) {
+    static const char* const aree[] = {"I0.", "M0.", "M1.", "Q0.", "S0."};
+    return attacco + (caso_(2) == 0 ? "N " : " ") + aree[caso_(4)] + std::to_string(caso_(3)) +
+           "\n";
+  }
+
+  std::string Bobina() {
+    const std::string bit = std::to_string(caso_(3));
+    switch (caso_(4)) {
+      case 0:
+        return "S M0." + bit + " 1\n";
+      case 1:
+        return "R M0." + bit + " 1\n";
+      case 2:
+        return "TON T" + bit + " +" + std::to_string(caso_(5)) + "\n";
+      case 3:
+        return "= M1." + bit + "\n";
+      default:
+        return "= Q0." + bit + "\n";
+    }
   }
 
   std::string Riga(bool inizio) {
