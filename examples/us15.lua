@@ -58,7 +58,16 @@ local function osserva(ms, massimo, anche)
   end, ms)
   return visti
 end
-local function un_ciclo(anche) return table.concat(osserva(12000, #sequenza, anche), ", ") == testo_atteso end
+-- La sequenza, un passo alla volta: due cilindri non sono mai in corsa insieme.
+local function in_corsa(cilindro) return not arrivato(cilindro .. "-") and not arrivato(cilindro .. "+") and 1 or 0 end
+local function un_ciclo(anche)
+  local insieme = false
+  local visti = osserva(12000, #sequenza, function(quanti)
+    if in_corsa("A") + in_corsa("B") + in_corsa("C") > 1 then insieme = true end
+    if anche then anche(quanti) end
+  end)
+  return not insieme and table.concat(visti, ", ") == testo_atteso
+end
 local function niente_si_muove(ms)
   local dove = {}
   for n, movimento in ipairs(movimenti) do dove[n] = arrivato(movimento) end
@@ -95,8 +104,8 @@ prova("ciclo singolo", 14, function()
   con_aria()
   serve(niente_si_muove(3000), "senza premere nulla i cilindri devono restare dentro")
   premi_per("imgSB2", 200)
-  local giusto = serve(un_ciclo(), "premuto SB2 la sequenza deve essere " .. testo_atteso)
-  punti(8, giusto, "premuto SB2 la sequenza deve essere " .. testo_atteso)
+  local giusto = serve(un_ciclo(), "premuto SB2 la sequenza deve essere " .. testo_atteso .. ", un passo alla volta")
+  punti(8, giusto, "premuto SB2 la sequenza deve essere " .. testo_atteso .. ", un passo alla volta")
   punti(2, niente_si_muove(5000) and a_riposo(), "il ciclo singolo deve fermarsi dopo una volta")
   premi("imgSB2")
   serve(un_ciclo(), "un secondo SB2 deve rifare il ciclo")
@@ -165,20 +174,26 @@ end)
 
 for _, caso in ipairs {
   { nome = "nel ciclo singolo", pulsante = "imgSB2", passo = 4 },
+  { nome = "nel primo passo", pulsante = "imgSB2", passo = 1 },
   { nome = "nel ciclo automatico", pulsante = "imgSB1", passo = 2 },
 } do
   prova("emergenza " .. caso.nome, 8, function()
     con_aria()
-    premi_per(caso.pulsante, 100)
+    premi_per(caso.pulsante, 20)
     local va = serve(nel_passo(caso.passo), "il ciclo deve arrivare al movimento " .. sequenza[caso.passo])
     attendi(50)
     clic("ImgEm")
     attendi(200)
     sicuro(2, va, not acceso(aria) and bobine_spente(), "premuto SB5 " .. caso.nome .. " le bobine e l'aria devono cadere entro 0,2 secondi")
-    premi_per("imgSB4", 300)
-    premi_per("imgSB2", 300)
-    premi_per("imgSB1", 300)
-    sicuro(1, va, not acceso(aria) and bobine_spente(), "con SB5 premuto SB1, SB2 e SB4 non devono muovere niente")
+    local spento = true
+    for _, pulsante in ipairs { "imgSB4", "imgSB2", "imgSB1" } do
+      premi(pulsante)
+      attendi(200)
+      spento = spento and not acceso(aria) and bobine_spente()
+      rilascia(pulsante)
+      attendi(100)
+    end
+    sicuro(1, va, spento and not acceso(aria) and bobine_spente(), "con SB5 premuto SB1, SB2 e SB4 non devono muovere niente")
     clic("ImgEm")
     local fermo = niente_si_muove(3000) and not acceso(aria)
     premi_per("imgSB2", 300)
@@ -225,11 +240,11 @@ for _, caso in ipairs { { passo = 2, bobina = bobine[2], valvola = "cmdV2a" }, {
   end)
 end
 
-for _, caso in ipairs { { nome = "singolo", pulsante = "imgSB2" }, { nome = "automatico", pulsante = "imgSB1" } } do
+for _, caso in ipairs { { nome = "singolo", pulsante = "imgSB2", passo = 4 }, { nome = "automatico", pulsante = "imgSB1", passo = 1 } } do
   prova("STOP e RUN nel ciclo " .. caso.nome, 3, function()
     con_aria()
-    premi_per(caso.pulsante, 100)
-    local va = serve(nel_passo(4), "il ciclo deve arrivare al movimento " .. sequenza[4])
+    premi_per(caso.pulsante, 20)
+    local va = serve(nel_passo(caso.passo), "il ciclo deve arrivare al movimento " .. sequenza[caso.passo])
     stop()
     attendi(1000)
     run()
@@ -279,7 +294,7 @@ prova("lampade", 10, function()
   punti(1, lampade("100100"), "dopo SB4, rientrati i cilindri, devono essere accese HL1 e HL4, e nessun'altra")
 end)
 
-prova_di_sicurezza(53, function()
+prova_di_sicurezza(59, function()
   con_aria()
   premi_per("imgSB2", 200)
   return un_ciclo()
