@@ -98,7 +98,7 @@ for _, comando in ipairs {
   prova("apertura con " .. comando.nome, 1, function()
     avvia()
     local parte = comanda(comando.organo, apre)
-    punti(1, parte and aspetta(aperto, 8000), "un impulso di " .. comando.nome .. " deve aprire il cancello fino in fondo")
+    punti(1, parte and aspetta(aperto, 8000), "basta un impulso: " .. comando.nome .. " deve aprire il cancello fino in fondo")
   end)
 end
 
