@@ -71,12 +71,8 @@ Contenuto_File Progetto::Contenuto(const std::string& percorso) const {
     const std::string come_utf8 = A_Utf8(Da_Utf8_Senza_Segno(parola).Byte);
     const std::string come_pagina = A_Utf8(parola);
     if (Nessuno_Risponde)
-      Avvisa({.Titolo = "Attenzione!",
-              .Testo = "Il file sembra scritto in UTF-8 e viene letto com'è: \"" + come_utf8 +
-                       "\" diventa \"" + come_pagina + "\".",
-              .Simbolo = Icona::Nessuna,
-              .Scelte = Tasti::Ok,
-              .Dettagli = {}});
+      file.Nota = "Il file sembra scritto in UTF-8 e viene letto com'è: \"" + come_utf8 +
+                  "\" diventa \"" + come_pagina + "\".";
     else if (Avvisa(
                  {.Titolo = "Attenzione!",
                   .Testo = "Il file sembra scritto in UTF-8. Leggerlo così?\n\nCon Sì si legge \"" +
@@ -98,6 +94,7 @@ Contenuto_File Progetto::Contenuto(const std::string& percorso) const {
 }
 
 void Progetto::Leggi_Contenuto(const Contenuto_File& contenuto) {
+  Nota_Lettura = contenuto.Nota;
   if (contenuto.Errore.empty()) {
     Leggi_Byte(contenuto.Byte);
     return;

@@ -65,6 +65,7 @@ struct Progetto : Stato_Progetto {
   Memoria& CPU;
   Dialoghi Chiedi;                ///< of the editor, while it is open
   bool Nessuno_Risponde = false;  ///< boxes are only collected
+  std::string Nota_Lettura;       ///< what such a caller should say of the file last read, UTF-8
   Dialoghi Riserva;               ///< for the questions that are put while `Chiedi` is empty
 
   // ---- source model ----------------------------------------------------------------------------

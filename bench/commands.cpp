@@ -107,6 +107,8 @@ std::unique_ptr<Seduta> Apri_E_Compila(const std::string& file, std::ostream& er
         << seduta->progetto.Dettaglio.Come_Testo() << '\n';
     return nullptr;
   }
+  if (!seduta->progetto.Nota_Lettura.empty())
+    err << file << ": " << seduta->progetto.Nota_Lettura << '\n';
   seduta->progetto.Compila();
   return seduta;
 }

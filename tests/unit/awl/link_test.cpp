@@ -2,6 +2,7 @@
 // Jump targets, timer lists and SCR sections.
 #include "awl/link.h"
 
+#include "plc/instructions.h"
 #include "project_bed.h"
 
 namespace tavorno::prova {
@@ -27,6 +28,7 @@ class LinkPass : public Banco_Progetto {
       plc.Prog[i].Istr = voci[static_cast<std::size_t>(i)].istr;
       plc.Prog[i].Num1 = voci[static_cast<std::size_t>(i)].numero;
       plc.Prog[i].Area1 = voci[static_cast<std::size_t>(i)].area;
+      Decodifica(plc.Prog[i]);
     }
   }
 };
