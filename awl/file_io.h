@@ -8,7 +8,7 @@ namespace tavorno {
 struct Contenuto_File {
   std::string Byte = {};
   std::string Errore = {};  ///< in Italian, UTF-8; empty: the file was read
-  std::string Nota = {};    ///< what there is to say of a file that was read, likewise; mostly empty
+  std::string Nota = {};  ///< what there is to say of a file that was read, likewise; mostly empty
 };
 
 /// Files larger than any project are refused unread.
