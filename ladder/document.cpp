@@ -17,9 +17,9 @@ constexpr double larghezza_minima = 640;
 constexpr double altezza_riga_lista = 18;
 
 constexpr const char* stile = R"(<style>
-svg { background: #ffffff }
 text { font: 12px "DejaVu Sans", "Liberation Sans", sans-serif; fill: #1a1a1a }
 path, rect { fill: none; stroke: #1a1a1a; stroke-width: 1.5 }
+.foglio { fill: #ffffff; stroke: none }
 .vivo { stroke: #c00000; stroke-width: 2.5 }
 .progetto { font-size: 18px; font-weight: bold }
 .blocco { font-size: 15px; font-weight: bold }
@@ -60,7 +60,8 @@ class Documento {
     y_ += margine;
     return "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
            std::to_string(static_cast<int>(larghezza_)) + "\" height=\"" +
-           std::to_string(static_cast<int>(y_)) + "\">\n" + stile + testo_ + "</svg>\n";
+           std::to_string(static_cast<int>(y_)) + "\">\n" + stile +
+           "<rect width=\"100%\" height=\"100%\" class=\"foglio\"/>\n" + testo_ + "</svg>\n";
   }
 
  private:

@@ -32,6 +32,7 @@ using Scala_Dal_Banco = Banco_Comandi;
 TEST_F(Scala_Dal_Banco, PrintsTheDrawingWithThePlantsSymbols) {
   ASSERT_EQ(Comando({"scala", Esempio("us00.AWL"), "--impianto", "0"}), 0) << err;
   EXPECT_TRUE(out.starts_with("<svg ")) << out.substr(0, 80);
+  EXPECT_NE(out.find("class=\"foglio\""), std::string::npos) << "a sheet, also where none is shown";
   EXPECT_NE(out.find(">Q0.0<"), std::string::npos);
   EXPECT_NE(out.find(">KM<"), std::string::npos);
   EXPECT_NE(out.find("Programma principale"), std::string::npos);
