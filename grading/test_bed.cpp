@@ -164,7 +164,7 @@ void Collaudo::Un_Millisecondo(bool scansione) {
     orologio_.Avanza(1);
     if (!scansione) return;
     const bool riposa = !scorte_.Ogni_Scansione && riposo_.Riposa();
-    if (riposa && riposo_.Righe() <= scorte_.Righe && riposo_.Al_Massimo() > 0)
+    if (riposa && riposo_.Saltabili(1) > 0 && riposo_.Righe(1) <= scorte_.Righe)
       Lascia_Fuori(1);
     else
       Scansione();
@@ -173,7 +173,7 @@ void Collaudo::Un_Millisecondo(bool scansione) {
 
 void Collaudo::Lascia_Fuori(std::int64_t scansioni) {
   riposo_.Salta(scansioni);
-  scorte_.Righe -= scansioni * riposo_.Righe();
+  scorte_.Righe -= riposo_.Righe(scansioni);
   riposa_ = true;
 }
 
@@ -181,8 +181,10 @@ void Collaudo::Lascia_Fuori(std::int64_t scansioni) {
 /// much, 0 where the next scan has to be looked at.
 std::int64_t Collaudo::Salta(std::int64_t ms) {
   if (!riposa_) return 0;
-  ms = std::min({ms, orologio_.Prossimo() - orologio_.Adesso() - 1, scorte_.Ms,
-                 scorte_.Righe / std::max<std::int64_t>(riposo_.Righe(), 1), riposo_.Al_Massimo()});
+  constexpr std::int64_t due = 2;  // lines of two scans are known whatever the period is
+  ms = riposo_.Saltabili(
+      std::min({ms, orologio_.Prossimo() - orologio_.Adesso() - 1, scorte_.Ms,
+                scorte_.Righe / std::max<std::int64_t>(riposo_.Righe(due), 1) * due}));
   if (ms <= 0) return 0;
   Consuma(ms);
   orologio_.Avanza(ms);

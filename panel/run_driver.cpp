@@ -83,7 +83,7 @@ Guida_Corsa::Istante Guida_Corsa::Riposa(Istante adesso) {
     const Istante fine = std::max(evento, scansione_ + una_scansione);
     if (adesso < fine) std::this_thread::sleep_for(fine - adesso);
     adesso = Adesso();
-    const auto scansioni = std::min((adesso - scansione_) / una_scansione, riposo_.Al_Massimo());
+    const auto scansioni = riposo_.Saltabili((adesso - scansione_) / una_scansione);
     if (scansioni < 1) break;
     scansione_ += scansioni * una_scansione;
     Porta_Al_Presente(adesso);

@@ -17,42 +17,75 @@ std::uint8_t& SM06(Celle& celle) {
 
 }  // namespace
 
-void Riposo::Fotografa() {
-  foto_.Memoria = plc_;
-  foto_.Righe.clear();
-  for (const Riga_PLC& riga : plc_.Prog) foto_.Righe.emplace_back(riga.Fronte, riga.Abil_SCR);
+void Riposo::Fotografa(std::size_t lato) {
+  lato_ = lato;
+  Foto& foto = foto_[lato];
+  foto.Memoria = plc_;
+  foto.Righe.clear();
+  for (const Riga_PLC& riga : plc_.Prog) foto.Righe.emplace_back(riga.Fronte, riga.Abil_SCR);
   for (std::size_t n = 0; n < 2; ++n) {
-    foto_.Ingressi[n] = plc_.SI[n].Stato_I();
-    foto_.Lettura_Ingressi[n] = plc_.SI[n].Stato_BitI();
-    foto_.Byte_Ingressi[n] = plc_.SI[n].Stato_IB();
-    foto_.Uscite[n] = plc_.SQ[n].Stato_Q();
+    foto.Ingressi[n] = plc_.SI[n].Stato_I();
+    foto.Lettura_Ingressi[n] = plc_.SI[n].Stato_BitI();
+    foto.Byte_Ingressi[n] = plc_.SI[n].Stato_IB();
+    foto.Uscite[n] = plc_.SQ[n].Stato_Q();
   }
-  foto_.Scelte = plc_.Scelte;
-  foto_.Modo_Run = plc_.Modo_Run;
-  foto_.Tempo_Ciclo = plc_.Tempo_Ciclo;
-  foto_.Primo_Ciclo = plc_.Primo_Ciclo;
+  foto.Scelte = plc_.Scelte;
+  foto.Modo_Run = plc_.Modo_Run;
+  foto.Tempo_Ciclo = plc_.Tempo_Ciclo;
+  foto.Primo_Ciclo = plc_.Primo_Ciclo;
+}
+
+bool Riposo::Uscite_Come_Allora() const {
+  for (std::size_t n = 0; n < 2; ++n) {
+    if (!plc_.SQ[n].In_Pari() || plc_.SQ[n].Stato_Q() != foto_[lato_].Uscite[n]) return false;
+  }
+  return true;
 }
 
 bool Riposo::Come_Allora() const {
-  if (plc_.PC != 0 || plc_.Ferma || !plc_.PLC_Acceso || plc_.Tempo_Ciclo != foto_.Tempo_Ciclo ||
-      plc_.Primo_Ciclo != foto_.Primo_Ciclo || plc_.Modo_Run != foto_.Modo_Run ||
-      !(plc_.Scelte == foto_.Scelte))
+  const Foto& foto = foto_[lato_];
+  if (plc_.PC != 0 || plc_.Ferma || !plc_.PLC_Acceso || plc_.Tempo_Ciclo != foto.Tempo_Ciclo ||
+      plc_.Primo_Ciclo != foto.Primo_Ciclo || plc_.Modo_Run != foto.Modo_Run ||
+      !(plc_.Scelte == foto.Scelte) || !Uscite_Come_Allora())
     return false;
   for (std::size_t n = 0; n < 2; ++n) {
-    if (!plc_.SQ[n].In_Pari() || plc_.SQ[n].Stato_Q() != foto_.Uscite[n] ||
-        plc_.SI[n].Stato_I() != foto_.Ingressi[n] ||
-        plc_.SI[n].Stato_IB() != foto_.Byte_Ingressi[n] ||
-        plc_.SI[n].Stato_BitI() != foto_.Lettura_Ingressi[n])
+    if (plc_.SI[n].Stato_I() != foto.Ingressi[n] ||
+        plc_.SI[n].Stato_IB() != foto.Byte_Ingressi[n] ||
+        plc_.SI[n].Stato_BitI() != foto.Lettura_Ingressi[n])
       return false;
   }
-  return static_cast<const Celle&>(plc_) == foto_.Memoria;
+  return static_cast<const Celle&>(plc_) == foto.Memoria;
 }
 
 /// What only a scan changes.
 bool Riposo::Righe_Come_Allora() const {
-  return std::ranges::equal(plc_.Prog, foto_.Righe, [](const Riga_PLC& riga, const auto& allora) {
-    return riga.Fronte == allora.first && riga.Abil_SCR == allora.second;
-  });
+  return std::ranges::equal(plc_.Prog, foto_[lato_].Righe,
+                            [](const Riga_PLC& riga, const auto& allora) {
+                              return riga.Fronte == allora.first && riga.Abil_SCR == allora.second;
+                            });
+}
+
+/// What the scan adds to what is known; false when it belongs to no period.
+bool Riposo::Ripete(std::int64_t righe) {
+  if (fase_ == Fase::Ignoto || !parte_uguale_) return false;
+  const std::size_t prima = lato_;
+  const bool guardato = fase_ == Fase::Guardato;
+  if (guardato || fase_ == Fase::Diverso) foto_[prima].Righe_Scansione = righe;
+  if (foto_[prima].Righe_Scansione != righe) return false;
+  if (periodo_ == 2)
+    lato_ ^= 1U;
+  else
+    SM06(foto_[0].Memoria) ^= 1U;  // as every scan does
+  if (Come_Allora() && Righe_Come_Allora()) {
+    fase_ = guardato ? Fase::Fermo : Fase::Riposo;
+    return true;
+  }
+  if (!guardato || !Uscite_Come_Allora()) return false;
+  SM06(foto_[0].Memoria) ^= 1U;  // two scans leave it alone
+  Fotografa(1);
+  periodo_ = 2;
+  fase_ = Fase::Diverso;
+  return true;
 }
 
 bool Riposo::Scansione_Fatta(std::int64_t righe) {
@@ -61,24 +94,19 @@ bool Riposo::Scansione_Fatta(std::int64_t righe) {
     return false;
   }
   const Fase prima = fase_;
-  if (prima != Fase::Ignoto) {
-    SM06(foto_.Memoria) ^= 1U;  // as every scan does
-    if (parte_uguale_ && (prima == Fase::Guardato || righe == righe_) && Come_Allora() &&
-        Righe_Come_Allora()) {
-      righe_ = righe;
-      fase_ = prima == Fase::Guardato ? Fase::Fermo : Fase::Riposo;
-      pausa_ = 0;
-      return fase_ == Fase::Riposo;
-    }
-    // What rested a moment ago will soon rest again; what never does is looked at ever less.
-    if (prima != Fase::Riposo) {
-      pausa_ = std::clamp(2 * pausa_, 1, pausa_massima);
-      attesa_ = pausa_;
-      fase_ = Fase::Ignoto;
-      return false;
-    }
+  if (Ripete(righe)) {
+    if (fase_ == Fase::Riposo) pausa_ = 0;
+    return fase_ == Fase::Riposo;
   }
-  Fotografa();
+  // What rested a moment ago will soon rest again; what never does is looked at ever less.
+  if (prima != Fase::Ignoto && prima != Fase::Riposo) {
+    pausa_ = std::clamp(2 * pausa_, 1, pausa_massima);
+    attesa_ = pausa_;
+    fase_ = Fase::Ignoto;
+    return false;
+  }
+  Fotografa(0);
+  periodo_ = 1;
   fase_ = Fase::Guardato;
   return false;
 }
@@ -87,7 +115,7 @@ void Riposo::Salta(std::int64_t scansioni) {
   plc_.N_Cicli += static_cast<std::int32_t>(scansioni);
   if (scansioni % 2 != 0) {
     SM06(plc_) ^= 1U;
-    SM06(foto_.Memoria) ^= 1U;
+    SM06(foto_[0].Memoria) ^= 1U;
   }
   plc_.StartTimer();
   saltate_ += scansioni;

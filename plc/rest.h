@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -19,7 +21,8 @@ namespace tavorno {
 /// Only the CPU has to be looked at: a plant hears of a scan by the output bars alone, and a bar
 /// that is given the text that it has says nothing. SM0.6 toggles at each scan, so two scans in a
 /// row, with nothing in between, are watched before anything is left out: the second proves that
-/// the toggling changes nothing else. A program that does change with it is run on.
+/// the toggling changes nothing else, or that it undoes what the first changed. In that case, a
+/// period of two, scans are left out in twos, and only where no output takes part in it.
 ///
 /// In turn: `Riposa`; then a scan and `Scansione_Fatta`, or `Salta`.
 class Riposo {
@@ -35,9 +38,9 @@ class Riposo {
     attesa_ = pausa_ = 0;
   }
 
-  /// Right before a scan: true when it would change nothing but what `Salta` brings up to date. It
-  /// compares the whole state, so between two scans it need be asked only where a timer ticked or a
-  /// hand moved since.
+  /// Right before a scan: true when the scans from here on would change nothing but what `Salta`
+  /// brings up to date. It compares the whole state, so between two scans it need be asked only
+  /// where a timer ticked or a hand moved since.
   bool Riposa() {
     if (fase_ == Fase::Ignoto) return false;
     parte_uguale_ = Come_Allora();
@@ -45,25 +48,32 @@ class Riposo {
   }
 
   /// A whole scan has been run, of so many lines; `PC` stands at line 0 again. Returns whether the
-  /// next one would change nothing.
+  /// next ones would change nothing.
   bool Scansione_Fatta(std::int64_t righe);
 
-  /// Lines of each scan that is left out.
-  std::int64_t Righe() const { return righe_; }
+  /// How many of the next scans may be left out at once: 0 to `scansioni`, and no more than fit
+  /// into `N_Cicli`.
+  std::int64_t Saltabili(std::int64_t scansioni) const {
+    const std::int64_t quante = std::min(scansioni, INT32_MAX - 1 - std::int64_t{plc_.N_Cicli});
+    return quante - quante % periodo_;
+  }
+  /// Lines of so many scans that `Saltabili` allows.
+  std::int64_t Righe(std::int64_t scansioni) const {
+    return periodo_ == 1 ? scansioni * foto_[0].Righe_Scansione
+                         : scansioni / 2 * (foto_[0].Righe_Scansione + foto_[1].Righe_Scansione);
+  }
 
-  /// Scans that may be left out before `N_Cicli` is full.
-  std::int64_t Al_Massimo() const { return INT32_MAX - 1 - std::int64_t{plc_.N_Cicli}; }
-
-  /// Leaves out so many scans, at least 1 and at most `Al_Massimo()`, the last of them now: they
-  /// are counted, SM0.6 toggles for each, and the last one began at the present instant.
+  /// Leaves out so many scans, as `Saltabili` allows and at least 1, the last of them now: they are
+  /// counted, SM0.6 toggles for each, and the last one began at the present instant.
   void Salta(std::int64_t scansioni);
   /// How many were left out in all.
   std::int64_t Saltate() const { return saltate_; }
 
  private:
-  /// What is known of the scans behind: nothing; the state that the last one left (`foto_`); that
-  /// it had found the same; that the one before had, too.
-  enum class Fase : std::uint8_t { Ignoto, Guardato, Fermo, Riposo };
+  /// What is known of the scans behind: nothing; the state that the last one left; that it had
+  /// found the same; that it had found another, with the same outputs; that the period is over and
+  /// has come back to where it began.
+  enum class Fase : std::uint8_t { Ignoto, Guardato, Fermo, Diverso, Riposo };
 
   /// The state of the CPU between two scans, without what merely grows.
   struct Foto {
@@ -76,17 +86,21 @@ class Riposo {
     Modo Modo_Run = Modo::Cont;
     std::int32_t Tempo_Ciclo = 0;
     std::int16_t Primo_Ciclo = 0;
+    std::int64_t Righe_Scansione = 0;  // of the scan that begins here
   };
 
-  void Fotografa();
+  void Fotografa(std::size_t lato);
+  bool Uscite_Come_Allora() const;
   bool Come_Allora() const;
   bool Righe_Come_Allora() const;
+  bool Ripete(std::int64_t righe);
 
   Plc& plc_;
   Fase fase_ = Fase::Ignoto;
-  Foto foto_;
-  bool parte_uguale_ = false;  // the scan began with the state of `foto_`
-  std::int64_t righe_ = 0;
+  std::array<Foto, 2> foto_;   // the second where the period is two
+  std::size_t lato_ = 0;       // the one that the present state is held against
+  int periodo_ = 1;            // scans, 1 or 2
+  bool parte_uguale_ = false;  // the scan began with that state
   std::int64_t saltate_ = 0;
   int attesa_ = 0;  // scans until the next look
   int pausa_ = 0;   // how many the next failure costs

@@ -87,7 +87,7 @@ std::int64_t Corsa::Scansioni_Senza_Eventi() const {
     fino_a = std::min(fino_a, inizio_ + Ingressi[prossimo_ingresso_].Ms);
   if (Impianto_Collegato && prossimo_gesto_ < Mani.size())
     fino_a = std::min(fino_a, inizio_ + Mani[prossimo_gesto_].Ms);
-  return std::min((fino_a - plc_.Tempo.Adesso() - 1) / limiti_.Scansione, riposo_.Al_Massimo());
+  return riposo_.Saltabili((fino_a - plc_.Tempo.Adesso() - 1) / limiti_.Scansione);
 }
 
 /// The yield of the run. It comes again within a scan only when the lines of the limit are used up.
@@ -110,7 +110,7 @@ void Corsa::Prima_Della_Scansione() {
     if (senza_eventi > 0) {
       riposo_.Salta(senza_eventi);
     } else {
-      riposa = !limiti_.Ogni_Scansione && riposo_.Riposa() && riposo_.Al_Massimo() > 0;
+      riposa = !limiti_.Ogni_Scansione && riposo_.Riposa() && riposo_.Saltabili(1) > 0;
       if (!riposa) return;
       riposo_.Salta(1);
     }

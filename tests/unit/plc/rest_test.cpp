@@ -39,15 +39,15 @@ TEST_F(Rest, ComesOnceTwoScansHaveChangedNothing) {
   Avvia({"LD I0.0", "= Q0.0"});
   EXPECT_EQ(Scansioni_Fino_Al_Riposo(), 3);
   EXPECT_TRUE(riposo.Riposa());
-  EXPECT_EQ(riposo.Righe(), 3);
+  EXPECT_EQ(riposo.Righe(5), 15);
+  EXPECT_EQ(riposo.Saltabili(5), 5);
 }
 
 TEST_F(Rest, NeverComesToWhatGrowsOrTogglesByItself) {
   for (const std::vector<std::string>& righe : {std::vector<std::string>{"LD SM0.0", "INCW VW0"},
                                                 {"LD SM0.6", "= Q0.0"},
-                                                {"LD SM0.6", "EU", "= M0.0"},
-                                                {"LDN M0.0", "= M0.0"},
-                                                {"LD SM0.6", "EU", "LPP"}}) {
+                                                {"LDN Q0.0", "= Q0.0"},
+                                                {"LD SM0.0", "RRW VW0, +5"}}) {
     SCOPED_TRACE(righe[1]);
     riposo.Da_Capo();
     Avvia(righe);
@@ -100,11 +100,52 @@ TEST_F(Rest, WhatIsLeftOutIsCountedAndTogglesSm06) {
   EXPECT_TRUE(Una_Scansione());  // one that is run after all leaves the rest as it is
 }
 
+TEST_F(Rest, LeavesOutTwosWhereOneScanUndoesTheOther) {
+  for (const std::vector<std::string>& righe :
+       {std::vector<std::string>{"LD SM0.6", "= M0.0"},
+        {"LD SM0.6", "EU", "= M0.0"},
+        {"LDN M0.0", "= M0.0"},
+        {"LD SM0.6", "EU", "LPP"},
+        {"LD SM0.6", "JMP 1", "LD SM0.0", "= M0.1", "LBL 1", "LD SM0.6", "= M0.1"}}) {
+    SCOPED_TRACE(righe[0] + ", " + righe[1]);
+    riposo.Da_Capo();
+    Avvia(righe);
+    ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
+    EXPECT_EQ(riposo.Saltabili(1), 0);
+    EXPECT_EQ(riposo.Saltabili(7), 6);
+    const Memoria una = plc;
+    const auto finite = plc.N_Cicli;
+    const std::int64_t saltate = riposo.Righe(2);
+    riposo.Salta(6);
+    EXPECT_TRUE(static_cast<const Memoria&>(plc) == una);
+    EXPECT_EQ(plc.N_Cicli, finite + 6);
+    std::int64_t fatte = 0;
+    for (int n = 0; n < 2; ++n) {
+      EXPECT_TRUE(riposo.Riposa());
+      std::int64_t di_questa = 0;
+      while (plc.N_Cicli == finite + 6 + n) di_questa += plc.Esegui_Righe(1000);
+      EXPECT_TRUE(riposo.Scansione_Fatta(di_questa));
+      EXPECT_EQ(static_cast<const Memoria&>(plc) == una, n == 1);
+      fatte += di_questa;
+    }
+    EXPECT_EQ(saltate, fatte);
+    plc.mnuPlcStop();
+  }
+}
+
+TEST_F(Rest, IsNotProvedInTwosByWhatCameInBetween) {
+  Avvia({"LD SM0.6", "= M0.0", "LD SM0.0", "MOVW +0, VW0"});
+  for (int n = 0; n < 50; ++n) {
+    if (n % 2 == 0) plc.Mem_VW[0] = 7;
+    EXPECT_FALSE(Una_Scansione()) << n;
+  }
+}
+
 TEST_F(Rest, NeverFillsTheCounterOfScans) {
   Avvia({"LD I0.0", "= Q0.0"});
   ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
   plc.N_Cicli = INT32_MAX - 3;
-  EXPECT_EQ(riposo.Al_Massimo(), 2);
+  EXPECT_EQ(riposo.Saltabili(100), 2);
 }
 
 }  // namespace tavorno::prova
