@@ -18,6 +18,7 @@
 #include "grading/class_report.h"
 #include "grading/grader.h"
 #include "grading/reports.h"
+#include "manual/manuals.h"
 #include "trace/trace.h"
 
 namespace tavorno {
@@ -25,24 +26,6 @@ namespace tavorno {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* aiuto =
-    R"(tavorno-banco classe: esamina le consegne di una classe e scrive i rapporti.
-
-Uso:
-  tavorno-banco classe CARTELLA|ZIP SCRIPT.lua --uscita DIR [opzioni]
-      Le consegne sono i file .AWL di una cartella, o di un archivio zip come lo
-      scarica una piattaforma; il nome dello studente viene dal percorso.
-      --uscita DIR       la cartella dei rapporti, che deve essere nuova o vuota:
-                         indice.html, una pagina per studente, punti.csv,
-                         junit.xml, esiti.json
-      --impianto N       l'esercizio collegato alla CPU (0..17); senza, quello che
-                         lo script nomina
-      --processi N       quante consegne alla volta (normalmente i processori)
-
-Stato di uscita: 0 tutte superate, 1 qualcuna no, non esaminata o un rapporto che
-non si può scrivere, 2 consegne o script illeggibili, 64 uso errato.
-)";
 
 /// A folder for what comes out of an archive; it goes with its owner.
 class Appoggio {
@@ -187,7 +170,7 @@ int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
 }  // namespace
 
 std::string Aiuto_Classe() {
-  return aiuto;
+  return Aiuto(Manuale_Classe());
 }
 
 int Comando_Classe(const std::vector<std::string>& parole, std::ostream& out, std::ostream& err) {

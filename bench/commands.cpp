@@ -16,6 +16,7 @@
 #include "bench/speed.h"
 #include "bench/trace_options.h"
 #include "grading/reports.h"
+#include "manual/manuals.h"
 #include "plants/link.h"
 #include "plc/codepage.h"
 #include "recorder/session.h"
@@ -24,63 +25,6 @@
 namespace tavorno {
 
 namespace {
-
-constexpr const char* aiuto =
-    R"(tavorno-banco: compila ed esegue progetti AWL senza finestre, in tempo virtuale.
-
-Uso:
-  tavorno-banco compila FILE.AWL [--json]
-      Stampa il listato di compilazione e gli avvisi.
-      --json             un oggetto JSON con listing, errors, boxes e prog
-
-  tavorno-banco esegui FILE.AWL [opzioni]
-      Compila, esegue e stampa ogni cambiamento di ingressi e uscite.
-      --ms T             durata in millisecondi virtuali (1..86400000, normalmente 10000)
-      --scansione MS     tempo virtuale di una scansione (1..10000, normalmente 1)
-      --ingressi LISTA   ingressi nel tempo, per esempio "0:I0.1=1,500:I0.1=0";
-                         un canale analogico in volt: "800:AI0=2.5"
-      --impianto N       collega l'impianto dell'esercizio N (0..17): gli ingressi
-                         li dà lui, e accanto agli indirizzi si leggono i simboli
-      --mani LISTA       ciò che la mano fa sull'impianto, con i nomi delle figure:
-                         "500:premi:imgStart,700:rilascia:imgStart"  un pulsante
-                         "3000:clic:ImgTer"      un relè termico, un commutatore
-                         "4000:doppio:imgKM"     un contattore forzato
-                         "5000:regola:UpD1=3"    un regolatore o un cursore
-                         Un nome sbagliato fa elencare quelli che ci sono.
-      --vcd FILE         ingressi e uscite nel tempo, per GTKWave
-      --svg FILE         diagramma dei tempi
-      --ogni-scansione   esegue anche le scansioni che non cambiano nulla: dà gli
-                         stessi risultati, più lentamente
-
-  tavorno-banco scala FILE.AWL [--svg FILE] [--impianto N]
-      Disegna il progetto a contatti (KOP), un segmento sotto l'altro. Ciò che uno
-      schema a contatti non può dire resta in lista, con il motivo.
-      --svg FILE         il disegno va in un file e si stampa che cosa resta in lista;
-                         senza, il disegno si stampa
-      --impianto N       sopra gli indirizzi si leggono i simboli dell'esercizio N
-
-  tavorno-banco misura FILE.AWL [--ms T]
-      Compila ed esegue alla massima velocità, in tempo reale, e stampa quante
-      righe e quante scansioni al secondo, per l'orologio e per il processore.
-      --ms T             durata in millisecondi veri (1..60000, normalmente 1000)
-
-  tavorno-banco prova PROGETTO.AWL... SCRIPT.lua... [opzioni]
-      Esamina progetti con uno script e assegna i punti; le opzioni e le
-      funzioni degli script sono in "tavorno-banco prova --help".
-
-  tavorno-banco classe CARTELLA|ZIP SCRIPT.lua --uscita DIR [opzioni]
-      Esamina una classe e scrive una pagina per studente, quella del docente e
-      le tabelle dei punti; vedi "tavorno-banco classe --help".
-
-  tavorno-banco --help
-      Questo testo.
-
-  tavorno-banco --version
-      La versione del programma.
-
-Stato di uscita: 0 tutto bene, 1 errori di compilazione o di esecuzione oppure
-un file che non si può scrivere, 2 progetto illeggibile, 64 uso errato.
-)";
 
 /// A message box on one line of its own for each line of its text.
 void Stampa_Avviso(std::ostream& out, const Avviso& avviso) {
@@ -244,7 +188,7 @@ int Banco(const std::vector<std::string>& argomenti, std::ostream& out, std::ost
     const std::vector<std::string> resto(argomenti.begin() + 1, argomenti.end());
     for (const std::string& parola : argomenti) {
       if (parola == "--help" || parola == "-h") {
-        out << aiuto;
+        out << Aiuto(Manuale_Banco());
         return Uscita_Buona;
       }
     }

@@ -18,41 +18,13 @@
 #include "grading/hand_in_search.h"
 #include "grading/reports.h"
 #include "grading/script_functions.h"
+#include "manual/manuals.h"
 
 namespace tavorno {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* aiuto =
-    R"(tavorno-banco prova: esamina progetti con uno o più script, in tempo virtuale.
-
-Uso:
-  tavorno-banco prova PROGETTO.AWL... SCRIPT.lua... [opzioni]
-      I file .lua sono gli script, gli altri i progetti; di una cartella si
-      esaminano tutti i file .AWL, anche quelli nelle sue sottocartelle.
-      Con un solo progetto stampa ogni caso; con più progetti li esamina insieme
-      su tutti i processori e stampa una riga per ciascuno.
-      --impianto N       l'esercizio collegato alla CPU (0..17)
-      --caso NOME        esegue soltanto la prova con questo nome
-      --junit FILE       rapporto JUnit XML, un testcase per ogni prova
-      --csv FILE         tabella dei punti, una riga per progetto
-      --json             stampa il rapporto in JSON
-      --vcd FILE         ingressi e uscite nel tempo, per GTKWave (un solo progetto)
-      --svg FILE         diagramma dei tempi (un solo progetto)
-      --processi N       quanti progetti alla volta (normalmente i processori)
-      --ogni-scansione   esegue anche le scansioni che non cambiano nulla: dà gli
-                         stessi risultati, più lentamente
-
-Funzioni degli script (Lua 5.4, senza file, processi e rete):
-)";
-
-constexpr const char* stati = R"(
-Stato di uscita: 0 tutte le prove superate, 1 qualcuna no, una consegna non esaminata
-oppure un rapporto che non si può scrivere, 2 progetto illeggibile o script sbagliato,
-64 uso errato.
-)";
 
 class Illeggibile : public std::runtime_error {
  public:
@@ -211,10 +183,10 @@ int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
 }  // namespace
 
 std::string Aiuto_Prova() {
-  std::string testo = aiuto;
+  std::string testo = Aiuto_Uso(Manuale_Prova()) + "\n" + Titolo_Funzioni.Italiano + "\n";
   for (const Riga_Funzione& riga : Funzioni_Script())
     testo += std::string("  ") + riga.Uso + "\n      " + riga.Aiuto + "\n";
-  return testo + stati;
+  return testo + Aiuto_Stati(Manuale_Prova());
 }
 
 int Comando_Prova(const std::vector<std::string>& parole, std::ostream& out, std::ostream& err) {

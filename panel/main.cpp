@@ -1,21 +1,43 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The process entry: makes the objects, connects them, runs.
+#include <QFileInfo>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QStyleFactory>
 #include <QTranslator>
 #include <cstdio>
+#include <iostream>
 
 #include "assets/resources.h"
 #include "panel/application.h"
 #include "panel/child_windows.h"
+#include "panel/command_line.h"
 #include "panel/run_driver.h"
 #include "widgets/message_box.h"
 
 using namespace tavorno;
 
+namespace {
+
+/// A project from the command line, or from a double click on its file.
+void Apri_Progetto(const std::string& file, Progetto& progetto, Finestre& finestre) {
+  const QFileInfo scelto(QString::fromStdString(file));
+  progetto.File_Progetto = scelto.absoluteFilePath().toStdString();
+  progetto.File_Titolo = scelto.fileName().toStdString();
+  finestre.Mostra_Editor(Avvio::Modifica);
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+  const std::vector<std::string> tutte(argv + 1, argv + argc);
+  if (Solo_Domande(tutte)) return *Leggi_Riga_Di_Comando(tutte, std::cout, std::cerr).Stato;
   Applicazione applicazione(argc, argv);
+  std::vector<std::string> parole;
+  for (const QString& parola : Applicazione::arguments().sliced(1))
+    parole.push_back(parola.toStdString());
+  const Riga_Di_Comando comando = Leggi_Riga_Di_Comando(parole, std::cout, std::cerr);
+  if (comando.Stato) return *comando.Stato;
   Applicazione::setApplicationName(QStringLiteral("Tavorno"));
   Applicazione::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   Applicazione::setQuitOnLastWindowClosed(false);
@@ -37,7 +59,7 @@ int main(int argc, char** argv) {
 
   FrmPLC pannello(plc, progetto);
   Guida_Corsa corsa(plc, [&pannello] { pannello.Aggiorna(); });
-  const Finestre finestre(pannello, plc, progetto, guida);
+  Finestre finestre(pannello, plc, progetto, guida);
 
   applicazione.Fine_Fatale = [&](const Fatale& fatale) {
     corsa.Ferma();
@@ -47,5 +69,6 @@ int main(int argc, char** argv) {
     pannello.Salva_Il_Progetto();
   };
   pannello.show();
+  if (!comando.File.empty()) Apri_Progetto(comando.File, progetto, finestre);
   return Applicazione::exec();
 }
