@@ -9,16 +9,19 @@
 #include <iostream>
 #include <thread>
 
+#include "awl/file_io.h"
 #include "bench/arguments.h"
 #include "bench/commands.h"
 #include "bench/interruption.h"
 #include "bench/plant_options.h"
+#include "bench/program_folder.h"
 #include "bench/report_files.h"
 #include "grading/class_hand_ins.h"
 #include "grading/class_report.h"
 #include "grading/grader.h"
 #include "grading/reports.h"
 #include "manual/manuals.h"
+#include "plants/exercises.h"
 #include "trace/trace.h"
 
 namespace tavorno {
@@ -73,6 +76,9 @@ Voto Esamina_Consegna(const Consegna& consegna, const Verifiche& verifiche) {
     return voto;
   }
   voto.Esito = Esamina(consegna.Percorso, verifiche);
+  const std::string byte = Leggi_File(consegna.Percorso).Byte;
+  voto.Impronta = Firma_Di(byte);
+  voto.Programma = Programma_In_Chiaro(byte);
   voto.Diagrammi = Diagrammi(voto.Esito, consegna.Percorso, verifiche);
   voto.Esito.Progetto = consegna.File;  // the same wherever it was unpacked
   return voto;
@@ -120,25 +126,45 @@ void Scrivi_Rapporti(const fs::path& cartella, const std::vector<Voto>& voti,
   Scrivi_Rapporto((cartella / "indice.html").string(), Pagina_Docente(voti, testata));
   for (std::size_t n = 0; n < voti.size(); ++n)
     Scrivi_Rapporto((cartella / Nome_Pagina(n)).string(), Pagina_Studente(voti[n], testata));
+  Scrivi_Rapporto((cartella / Nome_Pagina_Simili).string(), Pagina_Simili(voti, testata));
   Scrivi_Rapporto((cartella / "punti.csv").string(), Tabella_Csv(voti));
   Scrivi_Rapporto((cartella / "junit.xml").string(), Rapporto_Junit(esiti, testata));
   Scrivi_Rapporto((cartella / "esiti.json").string(), Rapporto_Json(esiti, testata) + "\n");
 }
 
+/// What a class is graded with: a script of its own, or an exercise with the one that comes with
+/// it.
+struct Compito {
+  std::string Script;
+  const Esercizio* Impianto = nullptr;
+};
+
+Compito Compito_Di(const Argomenti& argomenti) {
+  const bool esercizio = argomenti.Ha("--esercizio");
+  if (argomenti.File().size() != (esercizio ? 1U : 2U))
+    throw Uso_Errato(
+        "servono le consegne (una cartella o un archivio zip) e lo script, oppure --esercizio");
+  if (!esercizio) return {argomenti.File()[1], Impianto_Di(argomenti)};
+  const auto esercizi = Tabella_Esercizi();
+  const long long numero =
+      argomenti.Numero("--esercizio", 0, 0, static_cast<long long>(esercizi.size()) - 1);
+  return {File_Esercizio(Cartella_Programma(), static_cast<int>(numero)).string(),
+          &Scegli_Impianto(esercizi, static_cast<std::size_t>(numero))};
+}
+
 int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
-  if (argomenti.File().size() != 2)
-    throw Uso_Errato("servono le consegne (una cartella o un archivio zip) e lo script");
-  const std::string uscita = argomenti.Testo("--uscita", "");
-  if (uscita.empty()) throw Uso_Errato("manca l'opzione --uscita");
+  const Compito compito = Compito_Di(argomenti);
+  const std::string uscita =
+      argomenti.Testo("--uscita", "esiti-" + fs::path(compito.Script).stem().string());
   const auto processi = static_cast<unsigned>(
       argomenti.Numero("--processi", std::max(1U, std::thread::hardware_concurrency()), 1, 256));
   Verifiche verifiche;
-  verifiche.Impianto = Impianto_Di(argomenti);
+  verifiche.Impianto = compito.Impianto;
   const Appoggio appoggio;
   std::vector<Consegna> consegne;
   Testata testata;
   try {
-    verifiche.Script.push_back(Leggi_Sorgente(argomenti.File()[1]));
+    verifiche.Script.push_back(Leggi_Sorgente(compito.Script));
     const Sorgente_Script& script = verifiche.Script.front();
     if (const std::string sbaglio = Errore_Di_Sintassi(script); !sbaglio.empty())
       throw std::runtime_error(sbaglio);
@@ -179,7 +205,8 @@ int Comando_Classe(const std::vector<std::string>& parole, std::ostream& out, st
     return Uscita_Buona;
   }
   try {
-    return Esegui(Argomenti(parole, {"--uscita", "--impianto", "--processi"}, {}), out, err);
+    return Esegui(Argomenti(parole, {"--uscita", "--esercizio", "--impianto", "--processi"}, {}),
+                  out, err);
   } catch (const Uso_Errato& errore) {
     err << "tavorno-banco: " << errore.what() << " (tavorno-banco classe --help per l'aiuto)\n";
     return Uscita_Uso;

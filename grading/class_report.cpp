@@ -19,6 +19,7 @@ td.n { text-align: right; }
 .si { color: #2c6e2f; } .no { color: #a32017; } .errore { color: #8a5a00; }
 .diagramma { overflow-x: auto; border: 1px solid #dcd8cf; }
 pre { background: #f5f3ee; padding: .6em; overflow-x: auto; }
+.accanto { display: flex; gap: 1em; overflow-x: auto; }
 </style>
 )";
 
@@ -63,6 +64,25 @@ std::vector<std::string> Nomi_Dei_Casi(const std::vector<Voto>& voti) {
     }
   }
   return nomi;
+}
+
+std::vector<Gruppo_Simili> Gruppi(const std::vector<Voto>& voti) {
+  std::vector<Firma> firme;
+  firme.reserve(voti.size());
+  for (const Voto& voto : voti) firme.push_back(voto.Impronta);
+  return Consegne_Simili(firme);
+}
+
+const char* Parola(Somiglianza come) {
+  switch (come) {
+    case Somiglianza::Uguali:
+      return "lo stesso file";
+    case Somiglianza::Riordinate:
+      return "uguali a parte commenti, nomi delle procedure e ordine dei segmenti";
+    case Somiglianza::Rinominate:
+      return "uguali anche cambiando nome a merker, temporizzatori, contatori e celle";
+  }
+  return "";
 }
 
 const Caso* Trova(const Voto& voto, const std::string& nome) {
@@ -150,7 +170,38 @@ std::string Pagina_Docente(const std::vector<Voto>& voti, const Testata& testata
               std::to_string(*peggiore) + ").";
   pagina += "</p>\n<table>\n<tr><th>Studente</th><th>File</th><th>Esito</th><th>Punti</th>";
   for (const std::string& nome : nomi) pagina += "<th>" + In_Xml(nome) + "</th>";
-  return pagina + "</tr>\n" + righe + "</table>\n" + Chiudi(testata);
+  pagina += "</tr>\n" + righe + "</table>\n";
+  const std::vector<Gruppo_Simili> gruppi = Gruppi(voti);
+  if (!gruppi.empty()) {
+    pagina +=
+        "<h2>Consegne che si somigliano</h2>\n<p>Non tolgono punti a nessuno: un esercizio breve "
+        "ha "
+        "poche soluzioni. <a href=\"" +
+        std::string(Nome_Pagina_Simili) + "\">I programmi uno accanto all'altro</a></p>\n<ul>\n";
+    for (const Gruppo_Simili& gruppo : gruppi) {
+      pagina += "<li>";
+      for (const std::size_t n : gruppo.Quali)
+        pagina += (n == gruppo.Quali.front() ? "" : ", ") + In_Xml(voti[n].Studente);
+      pagina += ": " + std::string(Parola(gruppo.Come)) + "</li>\n";
+    }
+    pagina += "</ul>\n";
+  }
+  return pagina + Chiudi(testata);
+}
+
+std::string Pagina_Simili(const std::vector<Voto>& voti, const Testata& testata) {
+  std::string pagina = Apri("Consegne che si somigliano");
+  const std::vector<Gruppo_Simili> gruppi = Gruppi(voti);
+  if (gruppi.empty()) pagina += "<p>Nessuna.</p>\n";
+  for (const Gruppo_Simili& gruppo : gruppi) {
+    pagina += "<h2>" + std::to_string(gruppo.Quali.size()) + " consegne: " + Parola(gruppo.Come) +
+              "</h2>\n<div class=\"accanto\">\n";
+    for (const std::size_t n : gruppo.Quali)
+      pagina += "<div><h3><a href=\"" + Nome_Pagina(n) + "\">" + In_Xml(voti[n].Studente) +
+                "</a></h3>\n<pre>" + In_Xml(voti[n].Programma) + "</pre></div>\n";
+    pagina += "</div>\n";
+  }
+  return pagina + Chiudi(testata);
 }
 
 std::string Tabella_Csv(const std::vector<Voto>& voti) {

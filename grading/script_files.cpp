@@ -43,6 +43,13 @@ Sorgente_Script Leggi_Sorgente(const std::string& file) {
   return script;
 }
 
+std::filesystem::path File_Esercizio(const std::filesystem::path& cartella_programma,
+                                     int esercizio) {
+  const std::string numero = std::to_string(esercizio);
+  return cartella_programma / "examples" /
+         ("us" + std::string(2 - numero.size(), '0') + numero + ".lua");
+}
+
 Sorgente_Script Leggi_Vicino(const Sorgente_Script& script, const std::string& nome) {
   if (!Nome_Semplice(nome))
     throw std::runtime_error("serve il nome di un file .lua, senza cartelle");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 namespace tavorno {
@@ -15,6 +16,10 @@ struct Sorgente_Script {
 
 /// Reads a script. What goes wrong is thrown as `std::runtime_error`, in Italian.
 Sorgente_Script Leggi_Sorgente(const std::string& file);
+
+/// The script that comes with the program for an exercise, 0..17, below the program's folder.
+std::filesystem::path File_Esercizio(const std::filesystem::path& cartella_programma,
+                                     int esercizio);
 
 /// Reads the file that stands under this name beside a script. A script may come from anywhere, so
 /// that the name must be a bare one and the file no link: nothing outside the folder is ever

@@ -54,13 +54,18 @@ constexpr Manuale manuale_prova = {
     {}};
 
 constexpr Opzione_Manuale classe[] = {
+    {{"--esercizio N"},
+     {"lo script che il programma porta con sé per\nl'esercizio (0..17), al posto di SCRIPT.lua",
+      "the script that comes with the program for the\nexercise (0..17), in place of SCRIPT.lua"}},
     {{"--uscita DIR"},
-     {"la cartella dei rapporti, che deve essere nuova o vuota:\n"
-      "indice.html, una pagina per studente, punti.csv,\n"
-      "junit.xml, esiti.json",
-      "the folder of the reports, which must be new or empty:\n"
-      "indice.html, a page per student, punti.csv,\n"
-      "junit.xml, esiti.json"}},
+     {"la cartella dei rapporti, che deve essere nuova o vuota\n"
+      "(normalmente esiti- e il nome dello script):\n"
+      "indice.html, una pagina per studente, simili.html,\n"
+      "punti.csv, junit.xml, esiti.json",
+      "the folder of the reports, which must be new or empty\n"
+      "(normally esiti- and the script's name):\n"
+      "indice.html, a page per student, simili.html,\n"
+      "punti.csv, junit.xml, esiti.json"}},
     {{"--impianto N"},
      {"l'esercizio collegato alla CPU (0..17); senza, quello che\nlo script nomina",
       "the exercise connected to the CPU (0..17); without it, the\none that the script names"}},
@@ -70,8 +75,8 @@ constexpr Opzione_Manuale classe[] = {
 };
 
 constexpr Comando_Manuale comandi_classe[] = {
-    {{"tavorno-banco classe CARTELLA|ZIP SCRIPT.lua --uscita DIR [opzioni]",
-      "tavorno-banco classe FOLDER|ZIP SCRIPT.lua --uscita DIR [options]"},
+    {{"tavorno-banco classe CARTELLA|ZIP SCRIPT.lua|--esercizio N [opzioni]",
+      "tavorno-banco classe FOLDER|ZIP SCRIPT.lua|--esercizio N [options]"},
      {"Le consegne sono i file .AWL di una cartella, o di un archivio zip come lo\n"
       "scarica una piattaforma; il nome dello studente viene dal percorso.",
       "Grades a class. The hand-ins are the files named .AWL of a folder, or of a zip as a "
