@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <filesystem>
 #include <string>
+#include <string_view>
+#include <system_error>
+
+#include "awl/disk.h"
 
 namespace tavorno {
 
@@ -11,12 +16,19 @@ struct Contenuto_File {
   std::string Nota = {};  ///< what there is to say of a file that was read, likewise; mostly empty
 };
 
+/// Paths inside the program are UTF-8.
+std::filesystem::path Percorso_Disco(std::string_view utf8);
+
+/// The cause of a failure in Italian, UTF-8, without a full stop.
+std::string Causa_Disco(std::error_code errore);
+
 /// Files larger than any project are refused unread.
 Contenuto_File Leggi_File(const std::string& percorso);
 
-/// Replaces `percorso` in one step: the bytes go to a new file in the same folder, are flushed to
-/// the disk and take the name of the old one. On any failure the old file is whole and the new one
-/// gone. Returns the cause in Italian (UTF-8), empty when it worked.
-std::string Scrivi_File(const std::string& percorso, const std::string& byte);
+/// Replaces `percorso` in one step (see `Sostituisci`); a link stays, and the file at the end of
+/// its chain is replaced. On any failure the old file is whole and the new one gone. Returns the
+/// cause as `Causa_Disco` tells it, empty when it worked.
+std::string Scrivi_File(const std::string& percorso, std::string_view byte,
+                        Modo_Scrittura modo = {});
 
 }  // namespace tavorno
