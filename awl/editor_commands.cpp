@@ -85,8 +85,18 @@ void Progetto::Gestione_Voci(std::uint8_t stato) {
 
 // ---- projects -----------------------------------------------------------------------------------
 
+void Progetto::Altro_Progetto() {
+  Numero = ++numeri_;
+  File_Salvato.clear();
+}
+
+void Progetto::Sistemati() const {
+  if (Al_Sicuro) Al_Sicuro(Numero);
+}
+
 void Progetto::mnuFileNew(bool chiedi_di_salvare) {
   if (chiedi_di_salvare && Modificato && !Chiedi_Di_Salvare()) return;  // the edits are kept
+  Altro_Progetto();
   Scrivi_Main(Testo_Nuovo_Main());
   Num_SBR = 0;
   Formattato = 0;
@@ -99,7 +109,10 @@ void Progetto::mnuFileNew(bool chiedi_di_salvare) {
 bool Progetto::Chiedi_Di_Salvare() {
   const Avviso domanda{
       "Attenzione!", "Salvare il progetto corrente?", Icona::Domanda, Tasti::Si_No, {}};
-  if (Avvisa(domanda) != Risposta::Si) return true;
+  if (Avvisa(domanda) != Risposta::Si) {
+    Sistemati();
+    return true;
+  }
   mnuFileSave();
   return !Annulla || Vuoto();
 }
@@ -116,12 +129,14 @@ void Progetto::mnuFileOpen() {
 }
 
 void Progetto::Apri_File(const File_Scelto& scelto, const Contenuto_File& contenuto) {
+  Altro_Progetto();
   File_Progetto = scelto.Percorso;
   File_Titolo = scelto.Titolo;
   stB[0] = "File: " + File_Titolo;
   Annulla = 0;
   Leggi_Contenuto(contenuto);
   if (Err_Lettura) return;
+  File_Salvato = scelto.Percorso;
   Gestione_Voci(1);
   Formattato = -1;
   Compilato = 0;
@@ -144,7 +159,10 @@ void Progetto::mnuFileSave() {
   stB[0] = "File: " + scelto->Titolo;
   Testo_Main = txtList + std::string(CRLF);
   Annulla = Crea_Progetto() && SalvaFile() ? 0 : -1;
-  if (!Annulla) Testi_Salvati = Testi();
+  if (Annulla) return;
+  Testi_Salvati = Testi();
+  File_Salvato = File_Salva;
+  Sistemati();
 }
 
 // ---- text files ---------------------------------------------------------------------------------

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,6 +31,8 @@ struct Stato_Progetto {
   std::int16_t Formattato = 0;  ///< -1: the text on screen came from a read of a saved project
   std::int16_t Modificato = 0;  ///< -1: edited after the last read
   std::string Testi_Salvati;    ///< `Testi` as they were last read, saved or begun anew
+  int Numero = 0;               ///< of the project among those of this process
+  std::string File_Salvato;     ///< full path of the file last read or saved, empty for none
 
   std::string txtList;             ///< the Main text on screen
   std::string txtP;                ///< the text of the selected procedure on screen
@@ -67,6 +70,8 @@ struct Progetto : Stato_Progetto {
   bool Nessuno_Risponde = false;  ///< boxes are only collected
   std::string Nota_Lettura;       ///< what such a caller should say of the file last read, UTF-8
   Dialoghi Riserva;               ///< for the questions that are put while `Chiedi` is empty
+  /// The texts of the project with this number are in a file, or the user does not want them.
+  std::function<void(int numero)> Al_Sicuro;
 
   // ---- source model ----------------------------------------------------------------------------
 
@@ -133,6 +138,8 @@ struct Progetto : Stato_Progetto {
 
   // ---- commands of the editor (editor_commands.cpp, procedures.cpp) ----------------------------
 
+  /// What the texts are from now on is another project than before.
+  void Altro_Progetto();
   void mnuFileNew(bool chiedi_di_salvare);
   /// Asks whether to save the project, and does. False when it was to be saved and is not.
   bool Chiedi_Di_Salvare();
@@ -161,12 +168,15 @@ struct Progetto : Stato_Progetto {
   void Gestione_Voci(std::uint8_t stato);  ///< 0 disables the commands on a project, 1 enables
 
  private:
+  int numeri_ = 0;  // given to projects so far
+
   Risposta Avvisa(const Avviso& avviso) const;
   void Prendi(Lettura lettura);
   void Lettura_Fallita();
   int Inserisci_Procedura();
   void Esporta(const std::string& testo);
   std::optional<File_Scelto> Scegli_File(const Richiesta_File& richiesta);
+  void Sistemati() const;
   bool Scrivi_Testo(const std::string& testo);
 };
 
