@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Keys, and the menu of the right button.
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <array>
+
+#include "awl/ui/awl_editor.h"
+
+namespace tavorno {
+
+namespace {
+
+struct Comando_Modifica {
+  const char* Testo;
+  unsigned Messaggio;
+  QKeySequence::StandardKey Tasti;
+  bool Modifica;  // not for a text that is read only
+  bool Stacco;
+};
+
+constexpr std::array<Comando_Modifica, 7> comandi_modifica = {{
+    {"&Annulla", QsciScintilla::SCI_UNDO, QKeySequence::Undo, true, false},
+    {"&Ripeti", QsciScintilla::SCI_REDO, QKeySequence::Redo, true, false},
+    {"&Taglia", QsciScintilla::SCI_CUT, QKeySequence::Cut, true, true},
+    {"&Copia", QsciScintilla::SCI_COPY, QKeySequence::Copy, false, false},
+    {"&Incolla", QsciScintilla::SCI_PASTE, QKeySequence::Paste, true, false},
+    {"&Elimina", QsciScintilla::SCI_CLEAR, QKeySequence::Delete, true, false},
+    {"&Seleziona tutto", QsciScintilla::SCI_SELECTALL, QKeySequence::SelectAll, false, true},
+}};
+
+}  // namespace
+
+void AwlEditor::keyPressEvent(QKeyEvent* evento) {
+  const bool invio = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
+  const bool spazio = evento->key() == Qt::Key_Space && evento->modifiers() == Qt::ControlModifier;
+  if (genere_ == Genere_Testo::Listato && invio) {
+    int linea = 0;
+    int colonna = 0;
+    getCursorPosition(&linea, &colonna);
+    if (Linea_Scelta) Linea_Scelta(linea);
+  } else if (genere_ == Genere_Testo::Programma && spazio) {
+    Offri_Completamenti();
+    if (!isListActive()) Mostra_Suggerimento();
+  } else if (evento->matches(QKeySequence::Undo)) {
+    undo();
+  } else if (evento->matches(QKeySequence::Redo)) {
+    redo();
+  } else {
+    QsciScintilla::keyPressEvent(evento);
+  }
+}
+
+std::unique_ptr<QMenu> AwlEditor::Menu_Modifica() {
+  auto menu = std::make_unique<QMenu>();
+  for (const Comando_Modifica& comando : comandi_modifica) {
+    if (comando.Modifica && isReadOnly()) continue;
+    if (comando.Stacco && !menu->isEmpty()) menu->addSeparator();
+    QAction* azione = menu->addAction(QString::fromUtf8(comando.Testo), [this, &comando] {
+      if (comando.Messaggio == SCI_UNDO)
+        undo();
+      else if (comando.Messaggio == SCI_REDO)
+        redo();
+      else
+        SendScintilla(comando.Messaggio);
+    });
+    azione->setShortcut(comando.Tasti);
+    azione->setShortcutVisibleInContextMenu(true);
+    switch (comando.Messaggio) {
+      case SCI_UNDO:
+        azione->setEnabled(Annullabile());
+        break;
+      case SCI_REDO:
+        azione->setEnabled(Ripetibile());
+        break;
+      case SCI_PASTE:
+        azione->setEnabled(SendScintilla(SCI_CANPASTE) != 0);
+        break;
+      case SCI_SELECTALL:
+        azione->setEnabled(length() != 0);
+        break;
+      default:
+        azione->setEnabled(hasSelectedText());
+        break;
+    }
+  }
+  return menu;
+}
+
+void AwlEditor::contextMenuEvent(QContextMenuEvent* evento) {
+  Menu_Modifica()->exec(evento->globalPos());
+}
+
+}  // namespace tavorno
