@@ -2,6 +2,7 @@
 #include "awl/ui/awl_editor.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "awl/ui/editor_numbers.h"
 #include "awl/ui/line_changes.h"
@@ -40,7 +41,10 @@ AwlEditor::AwlEditor(Genere_Testo genere, const char* nome, QWidget* sopra)
     const bool a_meta = (tipo & SC_MULTISTEPUNDOREDO) != 0 && (tipo & SC_LASTSTEPINUNDOREDO) == 0;
     if (scrive_ || (tipo & testo) == 0) return;
     if ((tipo & SC_PERFORMED_USER) != 0 && Scritto) Scritto();
-    if (!a_meta && Cambiato) Cambiato();
+    if (raccoglie_ > 0)
+      raccolto_ = true;
+    else if (!a_meta && Cambiato)
+      Cambiato();
   });
   connect(this, &QsciScintillaBase::SCN_DOUBLECLICK, this, [this](int, int linea) {
     if (Linea_Scelta) Linea_Scelta(linea);
@@ -154,6 +158,22 @@ void AwlEditor::Sostituisci(std::size_t inizio, std::string_view vecchio, std::s
                 static_cast<long>(inizio + vecchio.size() - dopo));
   const std::string pezzo(nuovo.substr(prima, nuovo.size() - dopo - prima));
   SendScintilla(SCI_REPLACETARGET, pezzo.size(), pezzo.data());
+}
+
+/// A key or command may change a thousand lines, one by one; what follows from a change looks at
+/// the whole project.
+void AwlEditor::Raccogli(const std::function<void()>& modifiche) {
+  ++raccoglie_;
+  modifiche();
+  if (--raccoglie_ == 0 && std::exchange(raccolto_, false) && Cambiato) Cambiato();
+}
+
+void AwlEditor::In_Un_Passo(const std::function<void()>& modifiche) {
+  Raccogli([&] {
+    SendScintilla(SCI_BEGINUNDOACTION);
+    modifiche();
+    SendScintilla(SCI_ENDUNDOACTION);
+  });
 }
 
 void AwlEditor::Spegni(bool spento) {

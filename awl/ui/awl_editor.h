@@ -21,7 +21,9 @@ class AwlEditor : public QsciScintilla {
   /// A listing is for reading only.
   AwlEditor(Genere_Testo genere, const char* nome, QWidget* sopra);
 
-  std::function<void()> Cambiato;         ///< the user changed the text, undo included
+  /// The user changed the text, undo included: once for each key or command, however many lines it
+  /// changes.
+  std::function<void()> Cambiato;
   std::function<void()> Scritto;          ///< the same without undo and redo, and before it
   std::function<void(int)> Linea_Scelta;  ///< a line (from 0) was double clicked or got Enter
 
@@ -46,6 +48,8 @@ class AwlEditor : public QsciScintilla {
   void Scrivi_Listato(const std::vector<Riga_Listato>& righe, const std::vector<Diagnosi>& rilievi);
   /// Grey and for reading only, or as usual.
   void Spegni(bool spento);
+  /// Many changes that are one to the user: one step of undo, and told once behind them all.
+  void In_Un_Passo(const std::function<void()>& modifiche);
   void Dimentica_Annulla() { SendScintilla(SCI_EMPTYUNDOBUFFER); }
 
   /// Shows another text. Its undo history and its marks are its own.
@@ -83,6 +87,8 @@ class AwlEditor : public QsciScintilla {
 
  private:
   void Prepara_Documento();
+  void Batti(QKeyEvent& evento);
+  void Raccogli(const std::function<void()>& modifiche);
   void Sostituisci(std::size_t inizio, std::string_view vecchio, std::string_view nuovo);
   bool Di_Sola_Lettura() const { return genere_ == Genere_Testo::Listato || spento_; }
   void Prepara_Vista();
@@ -98,6 +104,8 @@ class AwlEditor : public QsciScintilla {
   std::vector<Diagnosi> suggerimenti_;
   bool spento_ = false;
   bool scrive_ = false;  // a command, not the user, is changing the text
+  int raccoglie_ = 0;    // changes are told later, together
+  bool raccolto_ = false;
 };
 
 }  // namespace tavorno

@@ -47,8 +47,18 @@ void AwlEditor::keyPressEvent(QKeyEvent* evento) {
   } else if (evento->matches(QKeySequence::Redo)) {
     redo();
   } else {
-    QsciScintilla::keyPressEvent(evento);
+    Raccogli([&] { Batti(*evento); });
   }
+}
+
+/// What the component itself does with a key. Where it has no command for a combination it would
+/// type the letter of its key.
+void AwlEditor::Batti(QKeyEvent& evento) {
+  if ((evento.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0)
+    return QsciScintilla::keyPressEvent(&evento);
+  QKeyEvent senza_lettera(evento.type(), evento.key(), evento.modifiers());
+  QsciScintilla::keyPressEvent(&senza_lettera);
+  evento.setAccepted(senza_lettera.isAccepted());
 }
 
 std::unique_ptr<QMenu> AwlEditor::Menu_Modifica() {

@@ -4,6 +4,7 @@
 // The editor component's headers are written with keywords that this program switches off.
 #define signals Q_SIGNALS
 #define slots Q_SLOTS
+#include <Qsci/qscicommandset.h>
 #include <Qsci/qscidocument.h>
 #include <Qsci/qscilexercustom.h>
 #include <Qsci/qsciscintilla.h>

@@ -207,6 +207,41 @@ TEST_F(AwlText, ControlAndBlankAskForTheList) {
   EXPECT_EQ(editor.Byte(), "LD");
 }
 
+// ---- keys ---------------------------------------------------------------------------------------
+
+TEST_F(AwlText, NoCombinationTypesALetter) {
+  editor.Scrivi("NOT\r\n");
+  for (const auto modificatori :
+       {Qt::KeyboardModifiers(Qt::ControlModifier), Qt::KeyboardModifiers(Qt::AltModifier),
+        Qt::ControlModifier | Qt::AltModifier, Qt::ControlModifier | Qt::ShiftModifier,
+        Qt::AltModifier | Qt::ShiftModifier}) {
+    for (int tasto = Qt::Key_Space; tasto <= Qt::Key_AsciiTilde; ++tasto) {
+      editor.setCursorPosition(0, 3);
+      // The commands of the component may cut and paste, but none of them types.
+      if (editor.standardCommands()->boundTo(tasto | static_cast<int>(modificatori)) != nullptr)
+        continue;
+      QKeyEvent evento(QEvent::KeyPress, tasto, modificatori, QString(QChar(tasto)));
+      QApplication::sendEvent(&editor, &evento);
+      EXPECT_EQ(editor.Byte(), "NOT\r\n") << tasto << " with " << static_cast<int>(modificatori);
+    }
+  }
+  QTest::keyClicks(&editor, "A");
+  EXPECT_EQ(editor.Byte(), "NOTA\r\n");
+}
+
+TEST_F(AwlText, AKeyThatChangesManyLinesIsToldOnce) {
+  editor.Scrivi("NOT\r\nNOP\r\nEU\r\n");
+  int cambi = 0;
+  editor.Cambiato = [&cambi] { ++cambi; };
+  editor.selectAll();
+  QTest::keyClick(&editor, Qt::Key_Tab);
+  EXPECT_EQ(editor.Byte(), "\tNOT\r\n\tNOP\r\n\tEU\r\n");
+  EXPECT_EQ(cambi, 1);
+  editor.undo();
+  EXPECT_EQ(editor.Byte(), "NOT\r\nNOP\r\nEU\r\n");
+  EXPECT_EQ(cambi, 2);
+}
+
 // ---- call tips ----------------------------------------------------------------------------------
 
 class Tip : public testing::TestWithParam<Istruzione> {};
