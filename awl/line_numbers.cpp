@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 
+#include "awl/line_words.h"
+
 namespace tavorno {
 
 namespace {
@@ -19,19 +21,6 @@ constexpr std::array<std::string_view, 8> parole_del_file = {
     "END_ORGANIZATION_BLOCK",
     "ORGANIZATION_BLOCK",
 };
-
-/// The lines of a text; what stands behind the last line end is a line too, even when empty, as it
-/// is in an editor.
-std::vector<std::string_view> Linee(std::string_view testo) {
-  std::vector<std::string_view> linee;
-  std::size_t inizio = 0;
-  while (true) {
-    const std::size_t fine = testo.find_first_of("\r\n", inizio);
-    linee.push_back(testo.substr(inizio, fine - inizio));
-    if (fine == std::string_view::npos) return linee;
-    inizio = fine + (testo.substr(fine, 2) == "\r\n" ? 2 : 1);
-  }
-}
 
 }  // namespace
 
@@ -50,7 +39,6 @@ bool Diventa_Riga(std::string_view linea, bool nome_vecchio) {
 }
 
 Numerazione::Numerazione(const Progetto& progetto) {
-  int righe = 0;
   const auto vecchia = [&](int riga) {
     return riga <= progetto.Righe_Src.ultimo && !progetto.Righe_Src[riga].Istr.empty();
   };
@@ -61,15 +49,15 @@ Numerazione::Numerazione(const Progetto& progetto) {
     std::vector<int> numeri;
     numeri.reserve(linee.size());
     for (const std::string_view linea : linee) {
-      numeri.push_back(Diventa_Riga(linea, vecchia(righe)) ? righe++ : Nessuno);
+      numeri.push_back(Diventa_Riga(linea, vecchia(righe_)) ? righe_++ : Nessuno);
     }
-    ++righe;  // MEND or RET
+    ++righe_;  // MEND or RET
     testi_.push_back(std::move(numeri));
   };
 
   aggiungi(progetto.txtList);
   for (int i = 1; i <= progetto.Num_SBR; ++i) {
-    ++righe;  // SBR
+    ++righe_;  // SBR
     aggiungi(progetto.Tab_SBR[i].Testo);
   }
 }
@@ -78,6 +66,24 @@ const std::vector<int>& Numerazione::Numeri(int testo) const {
   static const std::vector<int> nessuno;
   if (testo < 0 || static_cast<std::size_t>(testo) >= testi_.size()) return nessuno;
   return testi_[static_cast<std::size_t>(testo)];
+}
+
+std::optional<Posto_Riga> Numerazione::Posto(int numero) const {
+  if (numero < 0 || numero >= righe_) return std::nullopt;
+  int prima = 0;  // row of the text's own beginning
+  for (std::size_t t = 0; t < testi_.size(); ++t) {
+    const std::vector<int>& numeri = testi_[t];
+    const auto testo = static_cast<int>(t);
+    if (t > 0 && numero == prima) return Posto_Riga{testo, 0};
+    const auto trovato = std::ranges::find(numeri, numero);
+    if (trovato != numeri.end())
+      return Posto_Riga{testo, static_cast<int>(trovato - numeri.begin())};
+    const auto righe = std::ranges::count_if(numeri, [](int n) { return n != Nessuno; });
+    const int ultima = prima + (t > 0 ? 1 : 0) + static_cast<int>(righe);
+    if (numero == ultima) return Posto_Riga{testo, static_cast<int>(numeri.size()) - 1};
+    prima = ultima + 1;
+  }
+  return std::nullopt;
 }
 
 }  // namespace tavorno

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -26,8 +27,15 @@ class Numerazione {
   /// for a text that the project does not have.
   const std::vector<int>& Numeri(int testo) const;
 
+  /// How many rows the program will have.
+  int Righe() const { return righe_; }
+  /// Where a row of the program stands: MEND and RET at the end of their text, SBR at the beginning
+  /// of its. Nothing for a number that no row has.
+  std::optional<Posto_Riga> Posto(int numero) const;
+
  private:
   std::vector<std::vector<int>> testi_;
+  int righe_ = 0;
 };
 
 }  // namespace tavorno

@@ -2,8 +2,9 @@
 // Help while typing: lists of mnemonics, and tips.
 #include <algorithm>
 
+#include "awl/completion.h"
+#include "awl/line_words.h"
 #include "awl/ui/awl_editor.h"
-#include "awl/ui/completion.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -20,7 +21,7 @@ void AwlEditor::Offri_Completamenti() {
   int colonna = 0;
   getCursorPosition(&linea, &colonna);
   const std::string testo = Linea_Byte(linea);
-  const Prima_Parola parola = Trova_Prima_Parola(testo);
+  const Parola parola = Trova_Prima_Parola(testo);
   if (parola.Vuota() || parola.Fine != static_cast<std::size_t>(colonna)) return;
   const std::string fin_qui = testo.substr(parola.Inizio, parola.Fine - parola.Inizio);
   std::string lista;
@@ -39,7 +40,7 @@ void AwlEditor::Mostra_Suggerimento() {
   const auto linea = static_cast<int>(SendScintilla(SCI_LINEFROMPOSITION, posizione));
   const auto inizio = static_cast<int>(SendScintilla(SCI_POSITIONFROMLINE, linea));
   const std::string testo = Linea_Byte(linea);
-  const Prima_Parola parola = Trova_Prima_Parola(testo);
+  const Parola parola = Trova_Prima_Parola(testo);
   const Istruzione* istruzione = Istruzione_Di(testo);
   const auto colonna = static_cast<std::size_t>(posizione - inizio);
   // Behind a comment there is nothing left to help with.
@@ -53,7 +54,7 @@ void AwlEditor::Mostra_Suggerimento_A(int posizione, int, int) {
   const auto linea = static_cast<int>(SendScintilla(SCI_LINEFROMPOSITION, posizione));
   const long inizio = SendScintilla(SCI_POSITIONFROMLINE, linea);
   const std::string testo = Linea_Byte(linea);
-  const Prima_Parola parola = Trova_Prima_Parola(testo);
+  const Parola parola = Trova_Prima_Parola(testo);
   const Istruzione* istruzione = Istruzione_Di(testo);
   const auto colonna = static_cast<std::size_t>(posizione - inizio);
   const bool muto = istruzione == nullptr || colonna < parola.Inizio || colonna >= parola.Fine;

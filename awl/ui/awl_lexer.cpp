@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-#include "awl/ui/completion.h"
+#include "awl/line_words.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -109,7 +109,7 @@ void Colora_Istruzione(Penna& penna, std::size_t fine) {
     penna.Fino_A(fine, stile::Commento);
     return;
   }
-  const Prima_Parola parola = Trova_Prima_Parola(testo);
+  const Parola parola = Trova_Prima_Parola(testo);
   penna.Fino_A(parola.Inizio + prima, stile::Normale);
   if (!parola.Vuota()) penna.Fino_A(parola.Fine + prima, Stile_Istruzione(Istruzione_Di(testo)));
   // The writer of the file begins a comment at a single bar.

@@ -2,7 +2,8 @@
 // The text control: colours, help while typing, undo of what a command writes.
 #include <set>
 
-#include "awl/ui/completion.h"
+#include "awl/completion.h"
+#include "awl/line_words.h"
 #include "editor/editor_bed.h"
 #include "plc/instructions.h"
 

@@ -49,6 +49,20 @@ class LineNumbers : public Banco_Progetto {
     }
     // All other rows were made by the blocks: MEND, and SBR and RET of each procedure.
     EXPECT_EQ(numerate + 1 + 2 * progetto.Num_SBR, plc.NRighe + 1);
+    EXPECT_EQ(numerazione.Righe(), plc.NRighe + 1);
+    for (int i = 0; i < numerazione.Righe(); ++i) {
+      const auto posto = numerazione.Posto(i);
+      ASSERT_TRUE(posto.has_value()) << i;
+      EXPECT_EQ(posto->Testo, progetto.Righe_Src[i].Posto.Testo) << i;
+      const auto& numeri = numerazione.Numeri(posto->Testo);
+      const auto linea = static_cast<std::size_t>(posto->Linea);
+      ASSERT_LT(linea, numeri.size());
+      if (numeri[linea] == i) continue;
+      const std::string& istr = progetto.Righe_Src[i].Istr;
+      EXPECT_EQ(linea, istr.starts_with("SBR") ? 0 : numeri.size() - 1) << istr;
+    }
+    EXPECT_FALSE(numerazione.Posto(numerazione.Righe()).has_value());
+    EXPECT_FALSE(numerazione.Posto(-1).has_value());
   }
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "awl/ui/completion.h"
+#include "awl/completion.h"
 
 #include <algorithm>
 
@@ -26,20 +26,6 @@ std::string_view Operandi_Di(const Istruzione& istruzione) {
 }
 
 }  // namespace
-
-Prima_Parola Trova_Prima_Parola(std::string_view linea) {
-  const std::size_t inizio = std::min(linea.find_first_not_of(" \t"), linea.size());
-  const std::size_t vuoto = std::min(linea.find_first_of(" \t\r\n", inizio), linea.size());
-  const std::size_t commento = std::min(linea.find("//", inizio), linea.size());
-  return {inizio, std::min(vuoto, commento)};
-}
-
-const Istruzione* Istruzione_Di(std::string_view linea) {
-  const Istruzione* intera = Cerca_Testa(linea);
-  if (intera && intera->Nel_Programma == Compito::Segmento) return intera;
-  const Prima_Parola parola = Trova_Prima_Parola(linea);
-  return Cerca_Istruzione(Maiuscole(linea.substr(parola.Inizio, parola.Fine - parola.Inizio)));
-}
 
 std::vector<std::string> Completamenti(std::string_view inizio) {
   std::vector<std::string> nomi;
