@@ -220,17 +220,16 @@ Disegno Impagina(const Diagramma& diagramma) {
 }
 
 std::vector<bool> Correnti(const Disegno& disegno,
-                           const std::function<bool(const Passo_Scala&, bool arriva)>& passa) {
+                           const std::function<bool(const Riquadro&, bool arriva)>& passa) {
   std::vector<bool> vivi(disegno.Legami.size());
   vivi[0] = true;
   for (std::size_t n = 1; n < vivi.size(); ++n) {
     const Legame& legame = disegno.Legami[n];
     const bool arriva = std::ranges::any_of(
         legame.Da, [&](Nodo_Elettrico da) { return vivi[static_cast<std::size_t>(da)]; });
-    vivi[n] =
-        legame.Elemento < 0
-            ? arriva
-            : passa(disegno.Riquadri[static_cast<std::size_t>(legame.Elemento)].Passo, arriva);
+    vivi[n] = legame.Elemento < 0
+                  ? arriva
+                  : passa(disegno.Riquadri[static_cast<std::size_t>(legame.Elemento)], arriva);
   }
   return vivi;
 }

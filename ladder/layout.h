@@ -59,6 +59,6 @@ Disegno Impagina(const Diagramma& diagramma);
 /// Which points are live. `passa` tells what leaves a contact, a NOT or an edge when `arriva` comes
 /// in.
 std::vector<bool> Correnti(const Disegno& disegno,
-                           const std::function<bool(const Passo_Scala&, bool arriva)>& passa);
+                           const std::function<bool(const Riquadro&, bool arriva)>& passa);
 
 }  // namespace tavorno

@@ -114,6 +114,7 @@ Esito Istr_EU(Plc& plc, Riga_PLC& riga) {
   riga.Fronte = plc.Primo_Ciclo != 0 ? plc.Stak[0]
                 : plc.Stak[0] == 1   ? std::int16_t{1}
                                      : std::int16_t{0};
+  riga.Impulso.Dato = nuovo;
   plc.GestStak(Op_Pila::Cima, nuovo ? 1 : 0);
   return Esito::Avanti;
 }
@@ -121,6 +122,7 @@ Esito Istr_EU(Plc& plc, Riga_PLC& riga) {
 Esito Istr_ED(Plc& plc, Riga_PLC& riga) {
   const bool caduto = plc.Stak[0] == 0 && riga.Fronte == 1;
   riga.Fronte = plc.Stak[0] == 1 ? 1 : 0;
+  riga.Impulso.Dato = caduto;
   plc.GestStak(Op_Pila::Cima, caduto ? 1 : 0);
   return Esito::Avanti;
 }

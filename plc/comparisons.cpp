@@ -15,14 +15,21 @@ bool Vale(Relazione relazione, std::int32_t primo, std::int32_t secondo) {
   return (static_cast<unsigned>(relazione) >> (confronto + 1) & 1U) != 0;
 }
 
-/// The second operand is read first; a failure of either leaves the stack alone.
+/// The second operand is read first.
+template <auto Lettura>
+[[gnu::always_inline]] inline bool Tiene(const Memoria& memoria, const Riga_PLC& riga,
+                                         std::int16_t& err) {
+  const std::int32_t secondo = (memoria.*Lettura)(riga.Codice2, riga.Num2, err);
+  const std::int32_t primo = (memoria.*Lettura)(riga.Codice1, riga.Num1, err);
+  return err == 0 && Vale(riga.Confronto, primo, secondo);
+}
+
+/// A failure of either operand leaves the stack alone.
 template <auto Lettura>
 Esito Confronto(Plc& plc, const Riga_PLC& riga) {
   std::int16_t err = 0;
-  const std::int32_t secondo = (plc.*Lettura)(riga.Codice2, riga.Num2, err);
-  const std::int32_t primo = (plc.*Lettura)(riga.Codice1, riga.Num1, err);
+  const std::int16_t r = Tiene<Lettura>(plc, riga, err) ? 1 : 0;
   if (err) return Esito::Errore;
-  const std::int16_t r = Vale(riga.Confronto, primo, secondo) ? 1 : 0;
   switch (riga.Unione) {
     case Connessione::LD:
       plc.GestStak(Op_Pila::Spingi, r);
@@ -48,6 +55,16 @@ Esito Istr_Confronto_D(Plc& plc, Riga_PLC& riga) {
 }
 
 }  // namespace
+
+bool Memoria::Confronta_B(const Riga_PLC& riga, std::int16_t& err) const {
+  return Tiene<&Memoria::Leggi_B>(*this, riga, err);
+}
+bool Memoria::Confronta_W(const Riga_PLC& riga, std::int16_t& err) const {
+  return Tiene<&Memoria::Leggi_W>(*this, riga, err);
+}
+bool Memoria::Confronta_D(const Riga_PLC& riga, std::int16_t& err) const {
+  return Tiene<&Memoria::Leggi_D>(*this, riga, err);
+}
 
 // ---- rows of the table --------------------------------------------------------------------------
 

@@ -69,6 +69,14 @@ struct Riga_Contatore {
   bool operator==(const Riga_Contatore&) const = default;
 };
 
+/// What EU or ED last gave out, for whoever looks on: no instruction reads it, and it is no part of
+/// the value of a line.
+struct Impulso_Visto {
+  bool Dato = false;
+
+  constexpr bool operator==(const Impulso_Visto& /*altro*/) const { return true; }
+};
+
 /// One compiled line. Aligned so that what the interpreter reads of it is one cache line.
 struct alignas(64) Riga_PLC {
   // Decoded from the texts below by `Decodifica`; what the interpreter looks at comes first, so
@@ -87,6 +95,7 @@ struct alignas(64) Riga_PLC {
   std::int16_t Ha_Bit = 0;                     ///< -1 when the first operand has a dot
   std::uint8_t NOper = 0;                      ///< operands on the source line
   Compito Nel_Programma = Compito::Nessuno;
+  Impulso_Visto Impulso;
   /// JMP, CALL: timers that the jump leaves out. Entry 0 is unused; empty means none as well.
   std::vector<std::int16_t> Lista_T;
 
@@ -176,6 +185,10 @@ struct Memoria : Celle {
   std::int16_t Leggi_B(Area area, int num, std::int16_t& err) const;
   std::int16_t Leggi_W(Area area, int num, std::int16_t& err) const;
   std::int32_t Leggi_D(Area area, int num, std::int16_t& err) const;
+  /// Whether the comparison of a line holds; false and `err` -1 when an operand cannot be read.
+  bool Confronta_B(const Riga_PLC& riga, std::int16_t& err) const;
+  bool Confronta_W(const Riga_PLC& riga, std::int16_t& err) const;
+  bool Confronta_D(const Riga_PLC& riga, std::int16_t& err) const;
 };
 
 // Here and not in a source file: with its code known, an operation is a few machine instructions.

@@ -44,7 +44,10 @@ void Plc::mnuPlcRun() {
   N_Cicli = 0;
   PLC_Acceso = -1;
   for (Riga_Timer& timer : Mem_T) timer = {};
-  for (Riga_PLC& riga : Prog) riga.Fronte = 0;
+  for (Riga_PLC& riga : Prog) {
+    riga.Fronte = 0;
+    riga.Impulso.Dato = false;
+  }
   T100m.Enabled(true);
   PC = 0;
   etTime = "0";

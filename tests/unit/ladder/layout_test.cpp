@@ -93,9 +93,9 @@ class Corrente : public testing::TestWithParam<Caso_Corrente> {};
 
 TEST_P(Corrente, ReachesWhatItShould) {
   const Disegno disegno = Impaginata(GetParam().Lista);
-  const std::vector<bool> vivi = Correnti(disegno, [&](const Passo_Scala& passo, bool arriva) {
-    if (passo.Istr == "NOT") return !arriva;
-    return arriva && std::ranges::count(GetParam().Chiusi, passo.Operandi.front()) > 0;
+  const std::vector<bool> vivi = Correnti(disegno, [&](const Riquadro& riquadro, bool arriva) {
+    if (riquadro.Passo.Istr == "NOT") return !arriva;
+    return arriva && std::ranges::count(GetParam().Chiusi, riquadro.Passo.Operandi.front()) > 0;
   });
   std::vector<std::string> accesi;
   for (const Riquadro& r : disegno.Riquadri)
@@ -116,8 +116,8 @@ INSTANTIATE_TEST_SUITE_P(Reti, Corrente,
 
 TEST(Correnti, APointIsLiveWhenOneOfItsBranchesIs) {
   const Disegno disegno = Impaginata("LD I0.0\nO I0.1\n= Q0.0\n");
-  const std::vector<bool> vivi = Correnti(disegno, [](const Passo_Scala& passo, bool arriva) {
-    return arriva && passo.Operandi.front() == "I0.1";
+  const std::vector<bool> vivi = Correnti(disegno, [](const Riquadro& riquadro, bool arriva) {
+    return arriva && riquadro.Passo.Operandi.front() == "I0.1";
   });
   EXPECT_FALSE(vivi[static_cast<std::size_t>(Di(disegno, "I0.0").Dopo)]);
   EXPECT_TRUE(vivi[static_cast<std::size_t>(Di(disegno, "Q0.0").Prima)]);
