@@ -47,12 +47,6 @@ std::vector<Evento_Ingresso> Ingressi_Di(const Argomenti& argomenti, const Eserc
   return ingressi;
 }
 
-std::string Simbolo_Impianto(const std::string& indirizzo, const Esercizio* esercizio) {
-  if (!esercizio) return {};
-  const auto riga = std::ranges::find(esercizio->Righe_IO, indirizzo, &Riga_IO::Indirizzo);
-  return riga == esercizio->Righe_IO.end() ? "" : riga->Simbolo;
-}
-
 std::string Nome_Punto(char area, int byte, int bit, const Esercizio* esercizio) {
   const std::string indirizzo = area + std::to_string(byte) + '.' + std::to_string(bit);
   const std::string simbolo = Simbolo_Impianto(indirizzo, esercizio);

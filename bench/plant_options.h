@@ -27,9 +27,6 @@ std::vector<Gesto> Mani_Di(const Argomenti& argomenti, const Esercizio* esercizi
 /// The events of `--ingressi`; only analog ones beside a plant.
 std::vector<Evento_Ingresso> Ingressi_Di(const Argomenti& argomenti, const Esercizio* esercizio);
 
-/// What the plant's table calls an address, "SB2"; empty where it has no row for it.
-std::string Simbolo_Impianto(const std::string& indirizzo, const Esercizio* esercizio);
-
 /// "I0.1", or "I0.1 SB2" where the plant's table has a symbol for it.
 std::string Nome_Punto(char area, int byte, int bit, const Esercizio* esercizio);
 

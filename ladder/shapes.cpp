@@ -15,7 +15,6 @@ constexpr double mezzo_contatto = 7;  // half the gap between its strokes
 constexpr double mezza_altezza = 12;
 constexpr double per_lettera = 7.5;
 constexpr double rientro_scatola = 14;
-constexpr double margine = 8;
 
 /// What stands beside the wires of a box and before its operands.
 struct Piedini {
@@ -63,7 +62,7 @@ class Tracciatore {
       : disegno_(disegno), nome_(nome) {}
 
   Tratteggio_Rete Traccia() {
-    forme_.Larghezza = X(disegno_.Colonne) + margine;
+    forme_.Larghezza = X(disegno_.Colonne) + margine_forme;
     forme_.Altezza = disegno_.Righe * altezza_cella;
     for (const Filo& filo : disegno_.Fili)
       forme_.Tratti.push_back(
@@ -77,20 +76,26 @@ class Tracciatore {
   }
 
  private:
-  static double X(int colonna) { return margine + colonna * larghezza_cella; }
+  static double X(int colonna) { return margine_forme + colonna * larghezza_cella; }
   static double Y(int riga) { return riga * altezza_cella + quota_filo; }
 
   void Linea(double x1, double y1, double x2, double y2, Nodo_Elettrico nodo) {
     forme_.Tratti.push_back({x1, y1, x2, y2, nodo, indice_});
   }
   void Scrivi(double x, double y, std::string testo, Stile_Scritta stile,
-              Ancora posto = Ancora::Centro) {
-    if (!testo.empty()) forme_.Scritte.push_back({x, y, std::move(testo), stile, posto, indice_});
+              Ancora posto = Ancora::Centro, int operando = -1) {
+    if (!testo.empty())
+      forme_.Scritte.push_back({x, y, std::move(testo), stile, posto, indice_, operando});
+  }
+  void Scrivi_Operando(double x, double y, const Passo_Scala& passo, std::size_t quale,
+                       Ancora posto = Ancora::Centro) {
+    Scrivi(x, y, Operando(passo, quale), Stile_Scritta::Indirizzo, posto, static_cast<int>(quale));
   }
 
   /// The address above a symbol, and the plant's name for it above that.
-  void Etichetta(double x, double y, const std::string& operando) {
-    Scrivi(x, y, operando, Stile_Scritta::Indirizzo);
+  void Etichetta(double x, double y, const Passo_Scala& passo) {
+    const std::string operando = Operando(passo, 0);
+    Scrivi_Operando(x, y, passo, 0);
     if (nome_ && !operando.empty()) Scrivi(x, y - 13, nome_(operando), Stile_Scritta::Simbolo);
   }
 
@@ -128,8 +133,8 @@ class Tracciatore {
     if (negato)
       Linea(centro - mezzo, y + mezza_altezza, centro + mezzo, y - mezza_altezza, r.Prima);
     Scrivi(centro, y + 4, segno, Stile_Scritta::Segno);
-    Etichetta(centro, y - mezza_altezza - 6, Operando(r.Passo, 0));
-    Scrivi(centro, y + mezza_altezza + 13, Operando(r.Passo, 1), Stile_Scritta::Indirizzo);
+    Etichetta(centro, y - mezza_altezza - 6, r.Passo);
+    Scrivi_Operando(centro, y + mezza_altezza + 13, r.Passo, 1);
   }
 
   void Bobina(const Riquadro& r) {
@@ -143,8 +148,8 @@ class Tracciatore {
     forme_.Curve.push_back({centro - mezzo, y, pancia, 2 * mezza_altezza, r.Prima, indice_});
     forme_.Curve.push_back({centro + mezzo, y, -pancia, 2 * mezza_altezza, r.Prima, indice_});
     Scrivi(centro, y + 4, r.Come.Segno, Stile_Scritta::Segno);
-    Etichetta(centro, y - mezza_altezza - 6, Operando(r.Passo, 0));
-    Scrivi(centro, y + mezza_altezza + 13, Operando(r.Passo, 1), Stile_Scritta::Indirizzo);
+    Etichetta(centro, y - mezza_altezza - 6, r.Passo);
+    Scrivi_Operando(centro, y + mezza_altezza + 13, r.Passo, 1);
   }
 
   void Scatola(const Riquadro& r) {
@@ -168,15 +173,14 @@ class Tracciatore {
     }
     std::size_t primo = 0;
     if (piedini.Primo_Sopra) {
-      Etichetta(centro, sopra - 5, Operando(r.Passo, 0));
+      Etichetta(centro, sopra - 5, r.Passo);
       primo = 1;
     }
     double y = sopra + altezza - 9;
     for (std::size_t n = r.Passo.Operandi.size(); n-- > primo;) {
       const std::string nome = n < 2 ? std::string(piedini.Operandi[n]) : std::string();
       Scrivi(sinistra + 5, y, nome, Stile_Scritta::Piedino, Ancora::Sinistra);
-      Scrivi(sinistra + larghezza - 5, y, Operando(r.Passo, n), Stile_Scritta::Indirizzo,
-             Ancora::Destra);
+      Scrivi_Operando(sinistra + larghezza - 5, y, r.Passo, n, Ancora::Destra);
       y -= 16;
     }
   }

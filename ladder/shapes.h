@@ -43,6 +43,7 @@ struct Scritta {
   Stile_Scritta Stile = Stile_Scritta::Indirizzo;
   Ancora Posto = Ancora::Centro;
   int Riquadro = -1;
+  int Operando = -1;  ///< which of the symbol's it shows, from 0; -1: none
 };
 
 struct Tratteggio_Rete {
@@ -58,6 +59,9 @@ inline constexpr double larghezza_cella = 96;
 inline constexpr double altezza_cella = 78;
 /// The wire of a row below the row's upper edge.
 inline constexpr double quota_filo = 46;
+
+/// Between the edges of a network and its rails.
+inline constexpr double margine_forme = 8;
 
 /// What a plant calls an operand ("SB1" for "I0.0"), empty where it has no name for it; UTF-8.
 using Nome_Simbolico = std::function<std::string(const std::string& operando)>;

@@ -7,6 +7,7 @@
 #include <initializer_list>
 
 #include "awl/ui/main_window.h"
+#include "ladder/ui/ladder_window.h"
 #include "panel/controls/cpu_front.h"
 #include "panel/documents/about_window.h"
 #include "panel/documents/print_window.h"
@@ -65,6 +66,7 @@ Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
   legami.Mostra_Impostazioni = [this] { Mostra_Impostazioni(); };
   legami.Mostra_Analogici = [this] { Mostra_Analogici(); };
   legami.Mostra_Stati = [this] { Mostra_Stati(); };
+  legami.Mostra_Scala = [this] { Mostra_Scala(); };
   legami.Mostra_Info = [this] { Mostra_Info(); };
   legami.Mostra_Impianto = [this](int indice) { Apri_Impianto(indice); };
   legami.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
@@ -82,8 +84,9 @@ Finestre::~Finestre() {
 /// Those that are there. No message box and no file dialog is among them.
 std::vector<QWidget*> Finestre::Tutte() const {
   std::vector<QWidget*> tutte;
-  for (QWidget* finestra : std::initializer_list<QWidget*>{
-           &pannello_, impianto_, editor_, impostazioni_, analogici_, stati_, debug_, aiuto_}) {
+  for (QWidget* finestra :
+       std::initializer_list<QWidget*>{&pannello_, impianto_, editor_, impostazioni_, analogici_,
+                                       stati_, debug_, scala_, aiuto_}) {
     if (finestra != nullptr) tutte.push_back(finestra);
   }
   return tutte;
@@ -112,6 +115,7 @@ void Finestre::Mostra_Editor(Avvio avvio_file) {
     };
     legami.Mostra_Debug = [this] { Mostra_Debug(); };
     legami.Mostra_Stampe = [this] { Mostra_Stampe(); };
+    legami.Mostra_Scala = [this] { Mostra_Scala(); };
     legami.Mostra_Info = [this] { Mostra_Info(); };
     legami.Mostra_Aiuto = [this](const QString& pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
     return new FrmMain(progetto_, plc_, std::move(legami));
@@ -163,6 +167,7 @@ void Finestre::Apri_Impianto(int indice) {
       [this](Modo_Sportello modo) { pannello_.PLC_Sportello(modo); });
   Collegamento& fili = *collegamento;
   pannello_.Segna_Impianto(indice);
+  Apri_Esercizio(&Tabella_Esercizi()[static_cast<std::size_t>(indice)]);
   ordine_.Sta_Per_Aprire();
   Finestra_Impianto& finestra =
       Trova(impianto_, [&] { return new Finestra_Impianto(std::move(collegamento)); });
@@ -171,6 +176,7 @@ void Finestre::Apri_Impianto(int indice) {
   finestra.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Panel + pagina); };
   finestra.Chiusa = [this] {
     pannello_.Segna_Impianto(-1);
+    Apri_Esercizio(nullptr);
     if (stati_) stati_->close();
     ordine_.Chiuse();
   };
@@ -191,6 +197,39 @@ void Finestre::Mostra_Debug() {
     auto* finestra = new FrmDebug(progetto_);
     Prepara(*finestra, "Index.htm#editor");
     return finestra;
+  }));
+}
+
+/// The ladder names its operands as the plant does.
+void Finestre::Apri_Esercizio(const Esercizio* esercizio) {
+  esercizio_ = esercizio;
+  if (scala_) scala_->Vista().Nomi_Cambiati();
+}
+
+void Finestre::Mostra_Scala() {
+  Porta_Avanti(Trova(scala_, [this] {
+    Legami_Scala legami;
+    legami.Nome = [this](const std::string& operando) {
+      return Simbolo_Impianto(operando, esercizio_);
+    };
+    const auto aperto = [this] { return editor_ && editor_->isVisible(); };
+    legami.Modificabile = aperto;
+    legami.Cursore = [this, aperto] { return aperto() ? editor_->Posto_Cursore() : std::nullopt; };
+    legami.Vai_A = [this](Posto_Riga posto) {
+      if (!editor_) return;
+      Porta_Avanti(*editor_);
+      editor_->Vai_A(posto);
+    };
+    legami.Scrivi = [this](int testo, const std::string& byte) {
+      if (editor_) editor_->Scrivi_Testo(testo, byte);
+    };
+    legami.Annulla = [this](int testo, bool ripeti) {
+      if (editor_) editor_->Annulla_Testo(testo, ripeti);
+    };
+    Servizi_Scala servizi;
+    servizi.Scegli_Stampante = Scegli_Stampante;
+    servizi.Mostra_Aiuto = [this] { Mostra_Aiuto(guida_.Dir_Help + "SCALA.htm"); };
+    return new FrmScala(plc_, progetto_, std::move(legami), std::move(servizi));
   }));
 }
 

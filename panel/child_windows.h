@@ -21,6 +21,7 @@ namespace tavorno {
 class Finestra_Impianto;
 class FrmDebug;
 class FrmMain;
+class FrmScala;
 class FrmSetPLC;
 class FrmSimAI;
 class FrmStatiL;
@@ -39,6 +40,7 @@ class Finestre {
   void Mostra_Analogici();
   void Mostra_Stati();
   void Mostra_Debug();
+  void Mostra_Scala();
   void Mostra_Stampe();
   void Mostra_Info();
   /// The host window of an exercise with the status window at its right. One at a time.
@@ -55,6 +57,7 @@ class Finestre {
   Finestra& Trova(QPointer<Finestra>& finestra, Crea crea);
   void Prepara(QWidget& finestra, const char* pagina);
   FrmStatiL& Stati();
+  void Apri_Esercizio(const Esercizio* esercizio);
   void Mostra_Modale(QDialog& dialogo);
   std::vector<QWidget*> Tutte() const;
   void Fuoco_A(const QWindow* finestra);
@@ -71,6 +74,8 @@ class Finestre {
   QPointer<FrmSimAI> analogici_;
   QPointer<FrmStatiL> stati_;
   QPointer<FrmDebug> debug_;
+  QPointer<FrmScala> scala_;
+  const Esercizio* esercizio_ = nullptr;  // that is open
   QPointer<FrmBrowser> aiuto_;
   QPointer<QDialog> modale_;        // print window or about box
   const QWidget* prima_ = nullptr;  // the program's own window that had the focus last

@@ -143,9 +143,11 @@ void FrmPLC::Abilita_Programma(bool caricato) {
     azione->setEnabled(caricato);
 }
 
+/// The program of that name where one is installed, else our own window.
 void FrmPLC::Apri_Scalaro() {
   const QString programma = QStandardPaths::findExecutable(QStringLiteral("Scalaro.exe"));
   if (!programma.isEmpty() && QProcess::startDetached(programma, {})) return;
+  if (programma.isEmpty() && legami_.Mostra_Scala) return legami_.Mostra_Scala();
   plc_.Hook.Mostra({"Attenzione!",
                     programma.isEmpty()
                         ? "Il programma \"Scalaro.exe\" non è installato in questo computer."

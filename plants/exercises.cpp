@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plants/exercises.h"
 
+#include <algorithm>
 #include <array>
 
 #include "plants/axis.h"
@@ -199,6 +200,12 @@ std::array<Esercizio, 18> Esercizi() {
 std::span<const Esercizio> Tabella_Esercizi() {
   static const std::array<Esercizio, 18> esercizi = Esercizi();
   return esercizi;
+}
+
+std::string Simbolo_Impianto(const std::string& indirizzo, const Esercizio* esercizio) {
+  if (!esercizio) return {};
+  const auto riga = std::ranges::find(esercizio->Righe_IO, indirizzo, &Riga_IO::Indirizzo);
+  return riga == esercizio->Righe_IO.end() ? "" : riga->Simbolo;
 }
 
 }  // namespace tavorno

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <span>
+#include <string>
 
 #include "plants/io_tables.h"
 #include "plants/plant.h"
@@ -52,5 +53,9 @@ inline constexpr const char* Scheda_1 = " Assegnazioni I/0";
 
 /// The exercises in the order of the menu, `Indice` 0 to 17.
 std::span<const Esercizio> Tabella_Esercizi();
+
+/// What the table of an exercise calls an address, "SB2"; empty where it has no row for it, or
+/// without an exercise.
+std::string Simbolo_Impianto(const std::string& indirizzo, const Esercizio* esercizio);
 
 }  // namespace tavorno

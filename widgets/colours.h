@@ -27,7 +27,23 @@ inline constexpr Coppia In_Run{"the CPU runs", Bianco, {0x1b, 0x7a, 0x33}};
 inline constexpr Coppia In_Stop{"the CPU stands", Bianco, {0x59, 0x60, 0x68}};
 inline constexpr Coppia Bit_Uno{"a bit that is 1", Bianco, {0x1f, 0x7a, 0x34}};
 
-inline constexpr Coppia Tutte[] = {Tempo_Acceso, Tempo_Spento, Pila,    Numero_Riga, Ingressi,
-                                   Uscite,       In_Run,       In_Stop, Bit_Uno};
+// The sheet of a ladder diagram, on screen and on paper.
+inline constexpr Coppia Scala_Testo{"ladder", {0x1a, 0x1a, 0x1a}, Bianco};
+inline constexpr Coppia Scala_Commento{"comment of a ladder", {0x4a, 0x4a, 0x4a}, Bianco};
+inline constexpr Coppia Scala_Simbolo{"name of a plant's part", {0x1f, 0x4e, 0x79}, Bianco};
+inline constexpr Coppia Scala_Vivo{"live wire", {0xc0, 0x00, 0x00}, Bianco};
+inline constexpr Coppia Scala_Valore{"number in a ladder", {0x6b, 0x2f, 0x8a}, Bianco};
+inline constexpr Coppia Scala_Scelta{"chosen symbol", Scala_Testo.Testo, {0xd3, 0xe5, 0xf8}};
+inline constexpr Coppia Scala_Presente{"present line", Scala_Testo.Testo, {0xff, 0xe7, 0x9c}};
+inline constexpr Coppia Scala_Errore{"refused operand", {0xa8, 0x00, 0x14}, {0xfd, 0xec, 0xec}};
+inline constexpr Coppia Scala_Aiuto{"help to an operand", Scala_Testo.Testo, {0xff, 0xfb, 0xe6}};
+inline constexpr QColor Scala_Passa(0xff, 0xc9, 0xc2);    ///< inside a contact that lets power pass
+inline constexpr QColor Scala_Cursore(0x2f, 0x6f, 0xb5);  ///< beside the network of the caret
+inline constexpr QColor Scala_Bordo(0xb8, 0xbe, 0xc6);    ///< between networks
+
+inline constexpr Coppia Tutte[] = {
+    Tempo_Acceso, Tempo_Spento, Pila,         Numero_Riga,    Ingressi,       Uscite,
+    In_Run,       In_Stop,      Bit_Uno,      Scala_Testo,    Scala_Commento, Scala_Simbolo,
+    Scala_Vivo,   Scala_Valore, Scala_Scelta, Scala_Presente, Scala_Errore,   Scala_Aiuto};
 
 }  // namespace tavorno::colori

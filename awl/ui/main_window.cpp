@@ -139,6 +139,7 @@ void FrmMain::Collega_Comandi() {
   al(a_.mnuViewSTB, [this, mostra] { mostra(*statusBar(), *a_.mnuViewSTB); });
   for (int i = 0; i < Pagina_Nascosta; ++i)
     al(a_.mnuViewC.at(static_cast<std::size_t>(i)), [this, i] { SSTb2->setCurrentIndex(i); });
+  al(a_.mnuViewKOP, [this] { legami_.Mostra_Scala(); });
   al(a_.MnuHLPIndex, [this] { legami_.Mostra_Aiuto(QStringLiteral("Index-AWL.htm")); });
   al(a_.MnuHlpList, [this] { legami_.Mostra_Aiuto(QStringLiteral("SET_IST.htm")); });
   al(a_.MnuHLPInfo, [this] { legami_.Mostra_Info(); });
@@ -156,6 +157,7 @@ void FrmMain::Collega_Comandi() {
   come(a_.tB1.Stampa, a_.mnuFileStp);
   come(a_.tB1.Info, a_.MnuHLPInfo);
   come(a_.tB1.Termina, a_.mnuFileEnd);
+  a_.mnuViewKOP->setEnabled(bool(legami_.Mostra_Scala));
   a_.MnuHLPIndex->setEnabled(bool(legami_.Mostra_Aiuto));
   a_.MnuHlpList->setEnabled(bool(legami_.Mostra_Aiuto));
   a_.MnuHLPInfo->setEnabled(bool(legami_.Mostra_Info));
@@ -308,6 +310,46 @@ void FrmMain::Vai_A_Riga(int numero) {
   }
   SSTb2->setCurrentIndex(testo == txtList ? 0 : 1);
   testo->Vai_A(segni_.Linea(*testo, numero));
+}
+
+/// The editor of a block, with that block in it; nullptr: there is no such block.
+AwlEditor* FrmMain::Testo_Di(int testo) {
+  if (testo == 0) return txtList;
+  if (testo > p_.Num_SBR) return nullptr;
+  if (testo != p_.Scheda) Scegli_Procedura(testo);
+  return txtP;
+}
+
+std::optional<Posto_Riga> FrmMain::Posto_Cursore() const {
+  const bool main = p_.Pagina == 0;
+  if (!main && (p_.Pagina != 1 || p_.Scheda < 1 || p_.Scheda > p_.Num_SBR)) return {};
+  int linea = 0;
+  int colonna = 0;
+  (main ? txtList : txtP)->getCursorPosition(&linea, &colonna);
+  return Posto_Riga{main ? 0 : p_.Scheda, linea};
+}
+
+void FrmMain::Vai_A(Posto_Riga posto) {
+  AwlEditor* testo = Testo_Di(posto.Testo);
+  if (testo == nullptr) return;
+  SSTb2->setCurrentIndex(posto.Testo == 0 ? 0 : 1);
+  testo->Vai_A(posto.Linea);
+}
+
+void FrmMain::Scrivi_Testo(int testo, const std::string& byte) {
+  if (Testo_Di(testo) == nullptr) return;
+  if (testo == 0)
+    p_.Scrivi_Main(byte);
+  else
+    p_.Scrivi_Procedura(byte);
+  storia_.Scorda();
+  Specchia();
+}
+
+void FrmMain::Annulla_Testo(int testo, bool ripeti) {
+  AwlEditor* dove = Testo_Di(testo);
+  if (dove == nullptr) return;
+  ripeti ? dove->redo() : dove->undo();
 }
 
 // ---- window -------------------------------------------------------------------------------------

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "awl/project.h"
@@ -29,7 +30,7 @@ namespace tavorno {
 /// The windows that the editor can ask for. An empty one switches its command off.
 struct Legami_Editor {
   std::function<void()> Mostra_Pannello;  ///< called once, when the window closes
-  std::function<void()> Mostra_Debug, Mostra_Stampe, Mostra_Info;
+  std::function<void()> Mostra_Debug, Mostra_Stampe, Mostra_Info, Mostra_Scala;
   std::function<void(const QString& pagina)> Mostra_Aiuto;  ///< a file of the help folder
 };
 
@@ -47,6 +48,15 @@ class FrmMain : public QMainWindow {
 
   /// Goes to the line that row `numero` of the last compile came from.
   void Vai_A_Riga(int numero);
+
+  // For who shows the project in another way.
+  /// Where the caret stands, of the text in front; none on the listing.
+  std::optional<Posto_Riga> Posto_Cursore() const;
+  void Vai_A(Posto_Riga posto);
+  /// Makes the text of a block (0 the Main, else a procedure's row) this one, in one step that can
+  /// be undone.
+  void Scrivi_Testo(int testo, const std::string& byte);
+  void Annulla_Testo(int testo, bool ripeti);
 
  protected:
   void closeEvent(QCloseEvent* evento) override;
@@ -79,6 +89,7 @@ class FrmMain : public QMainWindow {
   void Network(int indice);
   void Scegli_Procedura(int scheda);
   void Cambia_Pagina(int pagina);
+  AwlEditor* Testo_Di(int testo);
 
   // main_window_history.cpp: undo beyond the texts
   /// The project with the texts that show it, their histories and marks.

@@ -12,7 +12,7 @@ for folder in plc awl plants trace recorder ladder grading bench HTML; do [ -d "
 while IFS= read -r -d '' file; do
   if grep -HnE '^[[:space:]]*#[[:space:]]*include[[:space:]]*[<"](Q[A-Z]|Qt|Qsci/)' "$file"; then bad=1; fi
 done < <(find "${folders[@]}" \( -name '*.cpp' -o -name '*.h' \) \
-  -not -path 'awl/ui/*' -not -path 'plants/host/*' -print0)
+  -not -path '*/ui/*' -not -path 'plants/host/*' -print0)
 
 for archive in "$@"; do
   [ -f "$archive" ] || { echo "missing: $archive"; bad=1; continue; }

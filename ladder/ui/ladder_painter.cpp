@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ladder/ui/ladder_painter.h"
+
+#include <QLineF>
+#include <QPainter>
+#include <QPainterPath>
+#include <QVector>
+#include <algorithm>
+
+#include "widgets/colours.h"
+#include "widgets/text.h"
+
+namespace tavorno {
+
+namespace {
+
+constexpr double tratto = 1.5, tratto_vivo = 2.75;
+constexpr double sporge = 3;  // of a mark around a symbol
+
+QColor Tinta(Stile_Scritta stile) {
+  return stile == Stile_Scritta::Simbolo ? colori::Scala_Simbolo.Testo : colori::Scala_Testo.Testo;
+}
+
+class Pittura {
+ public:
+  Pittura(QPainter& pittore, const Rete_Foglio& rete, const Stato_Rete& stato)
+      : p_(pittore), rete_(rete), stato_(stato) {}
+
+  /// What stands behind the strokes: the chosen ones, the present one, contacts that let pass.
+  void Fondi(const Segni_Rete& segni) {
+    const int da = std::min(segni.Scelto, segni.Fino);
+    const int a = std::max(segni.Scelto, segni.Fino);
+    for (int n = std::max(da, 0); n <= a; ++n) Segna(n, colori::Scala_Scelta.Fondo);
+    if (segni.Presente >= 0) Segna(segni.Presente, colori::Scala_Presente.Fondo);
+    if (!stato_.Viva) return;
+    for (int n = 0; n < rete_.Simboli(); ++n) {
+      const auto indice = static_cast<std::size_t>(n);
+      const Ruolo ruolo = rete_.Come.Riquadri[indice].Come.Cosa;
+      if (!stato_.Flusso.Attivi[indice] || ruolo == Ruolo::Da_Solo) continue;
+      p_.fillRect(rete_.Cuori[indice].adjusted(0, 3, 0, -3), colori::Scala_Passa);
+    }
+  }
+
+  void Cornici_Di_Scelta(const Segni_Rete& segni) {
+    p_.setBrush(Qt::NoBrush);
+    if (segni.Scelto < 0 || segni.Scelto >= rete_.Simboli()) return;
+    p_.setPen(QPen(colori::Scala_Cursore, 1.5, Qt::DashLine));
+    p_.drawRect(Posto(segni.Scelto).adjusted(-sporge, -sporge, sporge, sporge));
+  }
+
+  void Tratti() {
+    QVector<QLineF> fermi;
+    QVector<QLineF> vivi;
+    fermi.reserve(static_cast<int>(rete_.Forme.Tratti.size()));
+    for (const Asta& asta : rete_.Forme.Tratti)
+      (Vivo(asta.Nodo) ? vivi : fermi).append({asta.X1, asta.Y1, asta.X2, asta.Y2});
+    Penna(false);
+    p_.drawLines(fermi);
+    Curve(false);
+    if (vivi.isEmpty()) return;
+    Penna(true);
+    p_.drawLines(vivi);
+    Curve(true);
+  }
+
+  void Scritte() {
+    for (std::size_t n = 0; n < rete_.Scritte.size(); ++n) {
+      const Scritta_Pronta& scritta = rete_.Scritte[n];
+      const QString& valore = stato_.Viva ? stato_.Valori[static_cast<qsizetype>(n)] : QString();
+      p_.setFont(Carattere_Scala(scritta.Stile));
+      p_.setPen(Tinta(scritta.Stile));
+      if (valore.isEmpty()) {
+        p_.drawText(scritta.Posto, scritta.Testo);
+        continue;
+      }
+      // The number stands behind the address, and both where the address stood.
+      const QString coda = QStringLiteral(" = ") + valore;
+      const QFontMetricsF misura = p_.fontMetrics();
+      const double prima = misura.horizontalAdvance(scritta.Testo);
+      const double tutto = prima + misura.horizontalAdvance(coda);
+      const double x = scritta.X - (scritta.Dove == Ancora::Centro   ? tutto / 2
+                                    : scritta.Dove == Ancora::Destra ? tutto
+                                                                     : 0);
+      p_.drawText(QPointF(x, scritta.Posto.y()), scritta.Testo);
+      p_.setPen(colori::Scala_Valore.Testo);
+      p_.drawText(QPointF(x + prima, scritta.Posto.y()), coda);
+    }
+  }
+
+ private:
+  bool Vivo(Nodo_Elettrico nodo) const {
+    return stato_.Viva && nodo >= 0 && stato_.Flusso.Vivi[static_cast<std::size_t>(nodo)];
+  }
+  QRectF Posto(int simbolo) const {
+    const auto indice = static_cast<std::size_t>(simbolo);
+    QRectF posto = rete_.Cuori[indice];
+    // With its address, and wide enough for a stroke to be seen.
+    posto.setTop(std::max(posto.top() - 17, rete_.Celle[indice].top() + 2));
+    const double manca = std::max(0.0, 56 - posto.width());
+    return posto.adjusted(-manca / 2, 0, manca / 2, 0);
+  }
+  void Segna(int simbolo, const QColor& tinta) {
+    if (simbolo < rete_.Simboli())
+      p_.fillRect(Posto(simbolo).adjusted(-sporge, -sporge, sporge, sporge), tinta);
+  }
+  void Penna(bool viva) {
+    p_.setBrush(Qt::NoBrush);
+    p_.setPen(QPen(viva ? colori::Scala_Vivo.Testo : colori::Scala_Testo.Testo,
+                   viva ? tratto_vivo : tratto, Qt::SolidLine, Qt::SquareCap));
+  }
+  void Curve(bool vive) {
+    for (const Cornice& cornice : rete_.Forme.Cornici)
+      if (Vivo(cornice.Nodo) == vive)
+        p_.drawRect(QRectF(cornice.X, cornice.Y, cornice.Larghezza, cornice.Altezza));
+    for (const Parentesi& curva : rete_.Forme.Curve) {
+      if (Vivo(curva.Nodo) != vive) continue;
+      QPainterPath via(QPointF(curva.X + curva.Larghezza, curva.Y - curva.Altezza / 2));
+      via.quadTo(curva.X - curva.Larghezza, curva.Y, curva.X + curva.Larghezza,
+                 curva.Y + curva.Altezza / 2);
+      p_.drawPath(via);
+    }
+  }
+
+  QPainter& p_;
+  const Rete_Foglio& rete_;
+  const Stato_Rete& stato_;
+};
+
+void Testata(QPainter& p, const Rete_Foglio& rete, const Segni_Rete& segni, double larghezza) {
+  const double sopra = rete.Y_Titolo - rete.Y - 16;
+  if (segni.Rete_Presente)
+    p.fillRect(QRectF(0, sopra, larghezza, 22), colori::Scala_Presente.Fondo);
+  else if (segni.Rete_Scelta)
+    p.fillRect(QRectF(0, sopra, larghezza, 22), colori::Scala_Scelta.Fondo);
+  if (segni.Del_Cursore)
+    p.fillRect(QRectF(4, sopra, 4, rete.Altezza - sopra - 4), colori::Scala_Cursore);
+  const double x = Foglio_Scala::margine;
+  if (!rete.Intestazione.isEmpty()) {
+    QFont grande = Carattere_Scala(Stile_Scritta::Nome);
+    grande.setPixelSize(16);
+    p.setFont(grande);
+    p.setPen(colori::Scala_Testo.Testo);
+    p.drawText(QPointF(x, 26), rete.Intestazione);
+  }
+  p.setFont(Carattere_Scala(Stile_Scritta::Nome));
+  p.setPen(colori::Scala_Testo.Testo);
+  const QPointF posto(x, rete.Y_Titolo - rete.Y);
+  p.drawText(posto, rete.Titolo);
+  const double dopo = p.fontMetrics().horizontalAdvance(rete.Titolo) + 14;
+  p.setFont(Carattere_Scala(Stile_Scritta::Indirizzo));
+  p.setPen(colori::Scala_Commento.Testo);
+  p.drawText(posto + QPointF(dopo, 0), rete.Commento);
+}
+
+void Elenco(QPainter& p, const Rete_Foglio& rete) {
+  QFont fisso(QStringLiteral("DejaVu Sans Mono"));
+  fisso.setStyleHint(QFont::Monospace);
+  fisso.setPixelSize(12);
+  double y = 14;
+  for (const QString& riga : rete.Lista) {
+    p.setFont(y == 14 ? Carattere_Scala(Stile_Scritta::Indirizzo) : fisso);
+    p.setPen((y == 14 ? colori::Scala_Commento : colori::Scala_Testo).Testo);
+    p.drawText(QPointF(0, y), riga);
+    y += 18;
+  }
+}
+
+}  // namespace
+
+Stato_Rete Stato_Di(const Rete_Foglio& rete, const Memoria& cpu) {
+  Stato_Rete stato;
+  if (!rete.Disegnata() || !In_Cpu(rete.Rete.Passi, cpu)) return stato;
+  stato.Viva = true;
+  stato.Flusso = Flusso_Di(rete.Come, cpu);
+  for (const Scritta_Pronta& scritta : rete.Scritte) {
+    const bool numero = scritta.Operando >= 0 && scritta.Riquadro >= 0;
+    stato.Valori << (numero ? Q(Valore_Di(
+                                  rete.Come.Riquadri[static_cast<std::size_t>(scritta.Riquadro)],
+                                  static_cast<std::size_t>(scritta.Operando), cpu))
+                            : QString());
+  }
+  return stato;
+}
+
+void Dipingi_Rete(QPainter& pittore, const Rete_Foglio& rete, const Stato_Rete& stato,
+                  const Segni_Rete& segni, double larghezza) {
+  Testata(pittore, rete, segni, larghezza);
+  pittore.save();
+  pittore.translate(Foglio_Scala::margine, rete.Y_Disegno - rete.Y);
+  if (rete.Lista.isEmpty()) {
+    Pittura pittura(pittore, rete, stato);
+    pittura.Fondi(segni);
+    pittura.Tratti();
+    pittura.Scritte();
+    pittura.Cornici_Di_Scelta(segni);
+  } else {
+    Elenco(pittore, rete);
+  }
+  pittore.restore();
+}
+
+}  // namespace tavorno
