@@ -103,6 +103,14 @@ std::optional<Indirizzo> Leggi_Indirizzo(std::string_view testo) {
   return indirizzo;
 }
 
+std::string Testo_Indirizzo(const Indirizzo& indirizzo) {
+  const Riga_Area& riga = Riga_Di(indirizzo.Dove);
+  std::string testo = std::string(riga.Nome) + std::to_string(indirizzo.Num);
+  if (riga.Bit > 0) testo += "." + std::to_string(indirizzo.Bit);
+  if (riga.Preset.empty() || indirizzo.Quale == Parte_Cella::Bit) return testo;
+  return testo + (indirizzo.Quale == Parte_Cella::Val ? ".Val" : "." + std::string(riga.Preset));
+}
+
 std::string Indirizzi_Ammessi() {
   std::string testo;
   for (const Riga_Area& riga : tabella_aree) {

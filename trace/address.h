@@ -25,6 +25,9 @@ struct Indirizzo {
 /// or outside its table.
 std::optional<Indirizzo> Leggi_Indirizzo(std::string_view testo);
 
+/// As it is written: "Q0.0", "VW10", "T37.Val", "C5.PV".
+std::string Testo_Indirizzo(const Indirizzo& indirizzo);
+
 /// The addresses that `Leggi_Indirizzo` takes, for a message or a manual.
 std::string Indirizzi_Ammessi();
 

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "trace/markup.h"
+#include "trace/time_scale.h"
 #include "trace/trace.h"
 
 namespace tavorno {
@@ -44,15 +45,6 @@ std::string Cifre(double valore) {
   return cifre;
 }
 
-/// A number as it is written in Italian.
-std::string Con_Virgola(double valore) {
-  char testo[32];
-  std::snprintf(testo, sizeof testo, "%.4g", valore);
-  std::string cifre = testo;
-  std::ranges::replace(cifre, '.', ',');
-  return cifre;
-}
-
 class Foglio {
  public:
   void Linea(double x1, double y1, double x2, double y2, const char* colore, double spessore = 1) {
@@ -80,23 +72,6 @@ class Foglio {
  private:
   std::string testo_;
 };
-
-/// A step between two marks of the time axis, in ms: 1, 2 or 5 times a power of ten, or a full
-/// number of minutes.
-std::int64_t Passo_Tacche(double ms_minimi) {
-  constexpr std::int64_t passi[] = {1,     2,      5,      10,     20,      50,     100,
-                                    200,   500,    1000,   2000,   5000,    10000,  30000,
-                                    60000, 120000, 300000, 600000, 1800000, 3600000};
-  for (const std::int64_t passo : passi) {
-    if (static_cast<double>(passo) >= ms_minimi) return passo;
-  }
-  return 7'200'000;
-}
-
-std::string Istante(std::int64_t ms, std::int64_t passo) {
-  return passo >= 60'000 ? std::to_string(ms / 60'000) + " min"
-                         : Con_Virgola(static_cast<double>(ms) / 1000) + " s";
-}
 
 class Disegno_Tempi {
  public:
@@ -155,7 +130,7 @@ class Disegno_Tempi {
     const std::int64_t passo = Passo_Tacche(passo_tacche / largo_ * durata_);
     for (std::int64_t ms = 0; ms <= traccia_.Durata(); ms += passo) {
       foglio_.Linea(X(ms), alto_righe - 6, X(ms), basso, griglia);
-      foglio_.Scritta(X(ms), alto_righe - 12, Istante(ms, passo), 11, grigio, "middle");
+      foglio_.Scritta(X(ms), alto_righe - 12, Testo_Tacca(ms, passo), 11, grigio, "middle");
     }
   }
 

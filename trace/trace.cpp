@@ -5,26 +5,6 @@
 
 namespace tavorno {
 
-namespace {
-
-Segnale Fai_Segnale(const std::string& nome, const std::string& indirizzo) {
-  Segnale segnale{nome, indirizzo};
-  if (const auto letto = Leggi_Indirizzo(indirizzo)) {
-    segnale.Dove = letto->Dove;
-    segnale.Num = letto->Num;
-    segnale.Bit = letto->Bit;
-  }
-  return segnale;
-}
-
-double Valore(const Segnale& segnale, const Plc& plc) {
-  if (segnale.Dove == Area::AIW) return plc.Volt_AI[segnale.Num / 2];
-  if (segnale.Dove == Area::AQW) return plc.Volt_AQ[segnale.Num / 2];
-  return Leggi_Cella(plc, {segnale.Dove, segnale.Num, segnale.Bit});
-}
-
-}  // namespace
-
 Traccia::Traccia(const Esercizio* esercizio) {
   if (esercizio) {
     for (const Riga_IO& riga : esercizio->Righe_IO)
@@ -40,6 +20,13 @@ Traccia::Traccia(const Esercizio* esercizio) {
       segnali_.push_back(Fai_Segnale(nome, nome));
   }
 }
+
+Traccia::Traccia(std::vector<Segnale> segnali, std::vector<Cambio_Segnale> cambi,
+                 std::int64_t durata)
+    : segnali_(std::move(segnali)),
+      cambi_(std::move(cambi)),
+      casi_{{"", 0, durata}},
+      durata_(durata) {}
 
 void Traccia::Inizia_Caso(const std::string& nome) {
   // A millisecond apart, so that the end of one case is seen.

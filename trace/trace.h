@@ -6,20 +6,9 @@
 #include <vector>
 
 #include "plants/exercises.h"
-#include "trace/address.h"
+#include "trace/signal.h"
 
 namespace tavorno {
-
-/// A point that is recorded. Analog ones are in volts or milliamperes.
-struct Segnale {
-  std::string Nome;       ///< symbol, or the address where there is none; UTF-8
-  std::string Indirizzo;  ///< "I0.0", "AIW2"
-  Area Dove = Area::I;
-  int Num = 0, Bit = 0;
-
-  bool Analogico() const { return Dove == Area::AIW || Dove == Area::AQW; }
-  bool Uscita() const { return Dove == Area::Q || Dove == Area::AQW; }
-};
 
 struct Cambio_Segnale {
   std::int64_t Ms;
@@ -37,6 +26,8 @@ struct Caso_Registrato {
 class Traccia {
  public:
   explicit Traccia(const Esercizio* esercizio);
+  /// What was recorded elsewhere, as one case; `cambi` sorted by time, `durata` in ms.
+  Traccia(std::vector<Segnale> segnali, std::vector<Cambio_Segnale> cambi, std::int64_t durata);
 
   void Inizia_Caso(const std::string& nome);
   /// Records what changed since the last call; `ms` counts from the beginning of the case.

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <map>
 
 #include "trace/trace.h"
@@ -41,14 +43,27 @@ std::string Binario(std::size_t numero) {
   return bit.empty() ? "0" : bit;
 }
 
+/// A whole number as it is in 32 bits.
+std::string Binario_32(double valore) {
+  return Binario(static_cast<std::uint32_t>(static_cast<std::int64_t>(valore)));
+}
+
+bool Reale(const Segnale& segnale) {
+  return segnale.Analogico() || segnale.Dove == Area::AC;
+}
+
 struct Livello {
   const char* Nome;
-  Area Dove;
+  std::initializer_list<Area> Aree;
 };
-constexpr Livello livelli[] = {{"ingressi", Area::I},
-                               {"uscite", Area::Q},
-                               {"ingressi_analogici", Area::AIW},
-                               {"uscite_analogiche", Area::AQW}};
+const Livello livelli[] = {{"ingressi", {Area::I, Area::IB}},
+                           {"uscite", {Area::Q, Area::QB}},
+                           {"ingressi_analogici", {Area::AIW}},
+                           {"uscite_analogiche", {Area::AQW}},
+                           {"marker", {Area::M, Area::MB, Area::S, Area::SM, Area::SMB}},
+                           {"temporizzatori", {Area::T}},
+                           {"contatori", {Area::C}},
+                           {"memoria", {Area::VB, Area::VW, Area::VD, Area::AC}}};
 
 }  // namespace
 
@@ -64,11 +79,14 @@ std::string Testo_Vcd(const Traccia& traccia) {
     std::string variabili;
     for (std::size_t n = 0; n < segnali.size(); ++n) {
       const Segnale& segnale = segnali[n];
-      if (segnale.Dove != livello.Dove) continue;
+      if (std::ranges::find(livello.Aree, segnale.Dove) == livello.Aree.end()) continue;
       std::string nome = Nome_Semplice(segnale.Nome);
       if (segnale.Nome != segnale.Indirizzo) nome += "_" + Nome_Semplice(segnale.Indirizzo);
       if (const int volte = usati[nome]++; volte > 0) nome += "_" + std::to_string(volte + 1);
-      variabili += std::string("$var ") + (segnale.Analogico() ? "real 64 " : "wire 1 ") +
+      variabili += std::string("$var ") +
+                   (Reale(segnale)     ? "real 64 "
+                    : segnale.Di_Bit() ? "wire 1 "
+                                       : "integer 32 ") +
                    Sigla(n) + " " + nome + " $end\n";
     }
     if (!variabili.empty())
@@ -92,8 +110,11 @@ std::string Testo_Vcd(const Traccia& traccia) {
   };
   for (const Cambio_Segnale& cambio : traccia.Cambi()) {
     Porta_A(cambio.Ms);
-    if (segnali[cambio.Quale].Analogico())
+    const Segnale& segnale = segnali[cambio.Quale];
+    if (Reale(segnale))
       testo += "r" + Numero(cambio.Valore) + " " + Sigla(cambio.Quale) + "\n";
+    else if (!segnale.Di_Bit())
+      testo += "b" + Binario_32(cambio.Valore) + " " + Sigla(cambio.Quale) + "\n";
     else
       testo += (cambio.Valore != 0 ? "1" : "0") + Sigla(cambio.Quale) + "\n";
   }
