@@ -16,6 +16,7 @@
 #include "panel/windows/settings_window.h"
 #include "panel/windows/status_window.h"
 #include "plants/host/host_window.h"
+#include "recorder/ui/diagram_window.h"
 #include "widgets/twips.h"
 
 namespace tavorno {
@@ -67,6 +68,7 @@ Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
   legami.Mostra_Analogici = [this] { Mostra_Analogici(); };
   legami.Mostra_Stati = [this] { Mostra_Stati(); };
   legami.Mostra_Scala = [this] { Mostra_Scala(); };
+  legami.Mostra_Tempi = [this] { Mostra_Tempi(); };
   legami.Mostra_Info = [this] { Mostra_Info(); };
   legami.Mostra_Impianto = [this](int indice) { Apri_Impianto(indice); };
   legami.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
@@ -86,7 +88,7 @@ std::vector<QWidget*> Finestre::Tutte() const {
   std::vector<QWidget*> tutte;
   for (QWidget* finestra :
        std::initializer_list<QWidget*>{&pannello_, impianto_, editor_, impostazioni_, analogici_,
-                                       stati_, debug_, scala_, aiuto_}) {
+                                       stati_, tempi_, debug_, scala_, aiuto_}) {
     if (finestra != nullptr) tutte.push_back(finestra);
   }
   return tutte;
@@ -160,6 +162,24 @@ FrmStatiL& Finestre::Stati() {
   });
 }
 
+const Esercizio* Finestre::Impianto_Aperto() const {
+  return impianto_ ? &impianto_->Fili().Tabella() : nullptr;
+}
+
+void Finestre::Mostra_Tempi() {
+  const bool nuova = tempi_.isNull();
+  FrmTempi& finestra = Trova(tempi_, [this] {
+    auto* nuovo = new FrmTempi(plc_, Impianto_Aperto());
+    nuovo->setToolTip(QString::fromUtf8(tasti_ovunque));
+    nuovo->Mostra_Aiuto = [this] { Mostra_Aiuto(guida_.Dir_Help + "Tempi.htm"); };
+    return nuovo;
+  });
+  // At the lower border of the screen, where it hides least of the others.
+  const QRect schermo = pannello_.screen()->availableGeometry();
+  if (nuova) finestra.move(schermo.left(), schermo.bottom() - finestra.height() - 40);
+  Porta_Avanti(finestra);
+}
+
 void Finestre::Apri_Impianto(int indice) {
   pannello_.setCursor(Qt::WaitCursor);
   auto collegamento = std::make_unique<Collegamento>(
@@ -174,9 +194,12 @@ void Finestre::Apri_Impianto(int indice) {
   finestra.Mostra_Corsa(plc_.PLC_Acceso != 0);
   finestra.setToolTip(QString::fromUtf8(tasti_ovunque));
   finestra.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Panel + pagina); };
+  finestra.Mostra_Tempi = [this] { Mostra_Tempi(); };
+  if (tempi_) tempi_->Riparti(&finestra.Fili().Tabella());
   finestra.Chiusa = [this] {
     pannello_.Segna_Impianto(-1);
     Apri_Esercizio(nullptr);
+    if (tempi_) tempi_->Riparti(nullptr);
     if (stati_) stati_->close();
     ordine_.Chiuse();
   };

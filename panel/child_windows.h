@@ -25,6 +25,7 @@ class FrmScala;
 class FrmSetPLC;
 class FrmSimAI;
 class FrmStatiL;
+class FrmTempi;
 
 /// The windows beside the panel. Each is made when it is first asked for and thrown away when it is
 /// closed, so it always starts from its defaults.
@@ -39,6 +40,8 @@ class Finestre {
   void Mostra_Impostazioni();
   void Mostra_Analogici();
   void Mostra_Stati();
+  /// The timing diagram, of the open plant and the loaded program.
+  void Mostra_Tempi();
   void Mostra_Debug();
   void Mostra_Scala();
   void Mostra_Stampe();
@@ -58,6 +61,7 @@ class Finestre {
   void Prepara(QWidget& finestra, const char* pagina);
   FrmStatiL& Stati();
   void Apri_Esercizio(const Esercizio* esercizio);
+  const Esercizio* Impianto_Aperto() const;
   void Mostra_Modale(QDialog& dialogo);
   std::vector<QWidget*> Tutte() const;
   void Fuoco_A(const QWindow* finestra);
@@ -73,6 +77,7 @@ class Finestre {
   QPointer<FrmSetPLC> impostazioni_;
   QPointer<FrmSimAI> analogici_;
   QPointer<FrmStatiL> stati_;
+  QPointer<FrmTempi> tempi_;
   QPointer<FrmDebug> debug_;
   QPointer<FrmScala> scala_;
   const Esercizio* esercizio_ = nullptr;  // that is open

@@ -18,7 +18,7 @@ using Cursore = Diagramma::Cursore;
 
 constexpr double asse = Misura_Disegno::Asse;
 constexpr double alta_bandiera = 17;
-constexpr double corpo_piccolo = 11;
+constexpr double corpo_piccolo = 12;
 
 class Pittore_Tempi {
  public:

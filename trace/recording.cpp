@@ -13,7 +13,10 @@ std::optional<std::size_t> Registrazione::Cerca(const std::string& indirizzo) co
 }
 
 std::size_t Registrazione::Aggiungi(const Segnale& segnale) {
-  if (const auto numero = Cerca(segnale.Indirizzo)) return *numero;
+  if (const auto numero = Cerca(segnale.Indirizzo)) {
+    righe_[*numero].Chi = segnale;
+    return *numero;
+  }
   righe_.push_back({.Chi = segnale, .Quando = {}});
   return righe_.size() - 1;
 }

@@ -17,8 +17,8 @@ namespace tavorno {
 /// clock, in ms.
 class Registrazione {
  public:
-  /// The number of the signal; one whose address is recorded already keeps its number. It is heard
-  /// from the next sample on.
+  /// The number of the signal, which is heard from the next sample on. One whose address is
+  /// recorded already keeps number and past, and only has another name.
   std::size_t Aggiungi(const Segnale& segnale);
   /// It is recorded no longer, and what was is forgotten. Numbers do not move.
   void Togli(std::size_t numero);

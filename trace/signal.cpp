@@ -102,6 +102,22 @@ std::vector<Segnale> Segnali_Di(const Esercizio* esercizio, const Memoria& memor
   return raccolta.Prendi();
 }
 
+std::vector<Segnale> Tutte_Le_Celle() {
+  std::vector<Segnale> celle;
+  for (const Riga_Area& area : tabella_aree) {
+    for (int num = 0; num <= area.Ultima; num += area.Passo) {
+      for (int bit = 0; bit < std::max(1, area.Bit); ++bit) {
+        for (const Parte_Cella parte : {Parte_Cella::Bit, Parte_Cella::Val, Parte_Cella::Preset}) {
+          if (parte != Parte_Cella::Bit && area.Preset.empty()) continue;
+          const std::string testo = Testo_Indirizzo({area.Codice, num, bit, parte});
+          if (Leggi_Indirizzo(testo)) celle.push_back(Fai_Segnale(testo, testo));
+        }
+      }
+    }
+  }
+  return celle;
+}
+
 std::optional<Segnale> Cerca_Segnale(const std::string& testo, const Esercizio* esercizio) {
   const std::string cercato = Maiuscole(testo);
   if (esercizio) {

@@ -43,6 +43,9 @@ std::string Testo_Valore(const Segnale& segnale, double valore);
 std::vector<Segnale> Segnali_Di(const Esercizio* esercizio, const Memoria& memoria,
                                 std::size_t massimi = 64);
 
+/// Every cell that there is, in the order of the areas.
+std::vector<Segnale> Tutte_Le_Celle();
+
 /// The signal of an address or of a plant's symbol; capitals do not matter. Empty when it is
 /// neither.
 std::optional<Segnale> Cerca_Segnale(const std::string& testo, const Esercizio* esercizio);

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "trace/drawing.h"
+#include "trace/drawing_parts.h"
+#include "trace/signal.h"
+#include "trace/time_scale.h"
+#include "trace/wave.h"
 
 namespace tavorno {
 

@@ -41,9 +41,50 @@ inline constexpr QColor Scala_Passa(0xff, 0xc9, 0xc2);    ///< inside a contact 
 inline constexpr QColor Scala_Cursore(0x2f, 0x6f, 0xb5);  ///< beside the network of the caret
 inline constexpr QColor Scala_Bordo(0xb8, 0xbe, 0xc6);    ///< between networks
 
+/// The timing diagram, in the order of its list of what a colour stands for.
+inline constexpr QColor Tempi[] = {
+    Bianco,              // ground
+    {0xf7, 0xf9, 0xfb},  // ground of the names
+    {0xe6, 0xeb, 0xf1},  // ground of a group
+    {0xf0, 0xf3, 0xf7},  // ground of the axis
+    {0xcf, 0xe2, 0xf7},  // selected row
+    {0xe3, 0xe7, 0xec},  // between rows
+    {0xd3, 0xd9, 0xe0},  // grid
+    {0xe4, 0xdc, 0xf0},  // scans
+    {0x1b, 0x1f, 0x24},  // text
+    {0x56, 0x60, 0x70},  // lesser text
+    {0x1f, 0x6f, 0x9e},
+    {0xcf, 0xe4, 0xf2},  // inputs
+    {0xb3, 0x54, 0x1e},
+    {0xf8, 0xdc, 0xc6},  // outputs
+    {0x6a, 0x45, 0xa0},
+    {0xe4, 0xda, 0xf3},  // memory
+    {0x14, 0x7a, 0x5c},
+    {0xcd, 0xea, 0xde},  // timers and counters
+    {0x0b, 0x6e, 0x3a},  // cursor A
+    {0x8a, 0x1f, 0xa0},  // cursor B
+    {0xff, 0xf6, 0xd6},  // between the cursors
+    {0xc0, 0x28, 0x1c},  // trigger
+    {0x8a, 0x5a, 0x00},  // found
+    {0xec, 0xee, 0xf1},  // not recorded
+    Bianco,
+};
+inline constexpr Coppia Tempi_Nomi{"diagram, names", Tempi[8], Tempi[1]};
+inline constexpr Coppia Tempi_Scelta{"diagram, selected row", Tempi[9], Tempi[4]};
+inline constexpr Coppia Tempi_Asse{"diagram, axis", Tempi[9], Tempi[3]};
+inline constexpr Coppia Tempi_Gruppo{"diagram, group", Tempi[8], Tempi[2]};
+inline constexpr Coppia Tempi_A{"diagram, cursor A", Tempi[24], Tempi[18]};
+inline constexpr Coppia Tempi_B{"diagram, cursor B", Tempi[24], Tempi[19]};
+inline constexpr Coppia Tempi_Valore_A{"diagram, value at A", Tempi[18], Tempi[4]};
+inline constexpr Coppia Tempi_Valore_B{"diagram, value at B", Tempi[19], Tempi[4]};
+inline constexpr Coppia Tempi_Segno{"diagram, trigger", Tempi[24], Tempi[21]};
+inline constexpr Coppia Tempi_Trovato{"diagram, found", Tempi[24], Tempi[22]};
+
 inline constexpr Coppia Tutte[] = {
-    Tempo_Acceso, Tempo_Spento, Pila,         Numero_Riga,    Ingressi,       Uscite,
-    In_Run,       In_Stop,      Bit_Uno,      Scala_Testo,    Scala_Commento, Scala_Simbolo,
-    Scala_Vivo,   Scala_Valore, Scala_Scelta, Scala_Presente, Scala_Errore,   Scala_Aiuto};
+    Tempo_Acceso,   Tempo_Spento,   Pila,         Numero_Riga,    Ingressi,       Uscite,
+    In_Run,         In_Stop,        Bit_Uno,      Scala_Testo,    Scala_Commento, Scala_Simbolo,
+    Scala_Vivo,     Scala_Valore,   Scala_Scelta, Scala_Presente, Scala_Errore,   Scala_Aiuto,
+    Tempi_Nomi,     Tempi_Scelta,   Tempi_Asse,   Tempi_Gruppo,   Tempi_A,        Tempi_B,
+    Tempi_Valore_A, Tempi_Valore_B, Tempi_Segno,  Tempi_Trovato};
 
 }  // namespace tavorno::colori

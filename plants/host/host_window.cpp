@@ -122,6 +122,14 @@ QWidget* Finestra_Impianto::Crea_Comandi() {
   };
   connect(cmdSch, &QPushButton::clicked, this, guida);
   connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, guida);
+  auto* cmdTempi = Chiama(QStringLiteral("cmdTempi"), new QPushButton(QStringLiteral("Tempi")));
+  cmdTempi->setToolTip(QStringLiteral("Diagramma dei tempi di ingressi e uscite (Ctrl+D)"));
+  const auto tempi = [this] {
+    if (Mostra_Tempi) Mostra_Tempi();
+  };
+  connect(cmdTempi, &QPushButton::clicked, this, tempi);
+  connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_D), this), &QShortcut::activated, this,
+          tempi);
   auto* cmdEnd = Chiama(QStringLiteral("cmdEnd"), new QPushButton(QStringLiteral("Chiudi")));
   cmdEnd->setToolTip(QStringLiteral("Termina"));
   connect(cmdEnd, &QPushButton::clicked, this, &QWidget::close);
@@ -139,6 +147,7 @@ QWidget* Finestra_Impianto::Crea_Comandi() {
   riga->Sinistra->addStretch();
   riga->Destra->addStretch();
   riga->Destra->addWidget(etRun_);
+  riga->Destra->addWidget(cmdTempi);
   riga->Destra->addWidget(cmdSch);
   riga->Destra->addWidget(cmdEnd);
   return riga;

@@ -23,6 +23,7 @@ class Finestra_Impianto : public QWidget {
   ~Finestra_Impianto() override;
 
   std::function<void(const char* pagina)> Mostra_Aiuto;  ///< "Info": a page of the exercises
+  std::function<void()> Mostra_Tempi;                    ///< the timing diagram
   std::function<void()> Chiusa;                          ///< the plant was closed
   std::function<void()> Tabella_Mossa;                   ///< the table appeared or went
 

@@ -68,6 +68,7 @@ TEST_F(Recording, ASignalThatComesLateBeginsLate) {
   Disegna_Onda("M0.1", {{20, 1}});
   EXPECT_EQ(Cambi("M0.1"), (Coppie{{20, 1}}));
   EXPECT_EQ(registrazione.Aggiungi(Fai_Segnale("altro", "M0.1")), 1U) << "it is there already";
+  EXPECT_EQ(registrazione.Chi(1).Nome, "altro");
   registrazione.Togli(0);
   EXPECT_FALSE(registrazione.Cerca("M0.0"));
   EXPECT_EQ(registrazione.Cerca("M0.1"), 1U);

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "trace/drawing.h"
+
+class QPainter;
+
+namespace tavorno {
+
+/// Paints a drawing of `trace` as it is, in the colours of the windows.
+void Dipingi(QPainter& pittore, const Disegno_Tempi& disegno);
+
+/// The sheet of a timing diagram: names, axis and waves. The mouse moves time and cursors here; the
+/// keys are the window's.
+class Tela_Tempi : public QWidget {
+ public:
+  explicit Tela_Tempi(Diagramma& diagramma);
+
+  std::function<void()> Mossa;          ///< time, a cursor, the selection or the rows changed
+  std::function<void()> Vuole_Segnali;  ///< a double click where there is nothing
+
+  Misura_Disegno Misura() const;
+  /// Of the rows, pixels; held within what there is.
+  void Scorri(double y);
+  double Scorrimento() const { return scorrimento_; }
+  double Scorrimento_Massimo() const;
+  /// Scrolls so that the selected row is seen.
+  void Mostra_Scelta();
+
+  /// Milliseconds that the last picture took.
+  double Costo() const { return costo_; }
+
+ protected:
+  bool event(QEvent* evento) override;
+  void paintEvent(QPaintEvent* evento) override;
+  void resizeEvent(QResizeEvent* evento) override;
+  void mousePressEvent(QMouseEvent* evento) override;
+  void mouseMoveEvent(QMouseEvent* evento) override;
+  void mouseReleaseEvent(QMouseEvent* evento) override;
+  void mouseDoubleClickEvent(QMouseEvent* evento) override;
+  void wheelEvent(QWheelEvent* evento) override;
+
+ private:
+  enum class Trascina : std::uint8_t { Niente, Cursore, Tempo, Colonna };
+
+  std::optional<Riga_Diagramma> Riga_Sotto(double y) const;
+  std::optional<Diagramma::Cursore> Cursore_Sotto(double x) const;
+  void Porta_Cursore(const QPointF& punto, bool libero);
+  void Di_Mossa();
+
+  Diagramma& d_;
+  double scorrimento_ = 0, nomi_ = 290;
+  double costo_ = 0;
+  Trascina trascina_ = Trascina::Niente;
+  QPointF preso_;
+};
+
+}  // namespace tavorno
