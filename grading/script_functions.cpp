@@ -118,6 +118,13 @@ int Fa_Regola(lua_State* stato, Esame& esame) {
   return 0;
 }
 
+int Fa_Guasto(lua_State* stato, Esame& esame) {
+  const std::string_view nome = Arg_Testo(stato, 1, "guasto");
+  const bool attivo = lua_isnoneornil(stato, 2) || Vero(stato, 2);
+  lua_pushboolean(stato, esame.Banco().Guasta(nome, attivo));
+  return 1;
+}
+
 // ---- memory -------------------------------------------------------------------------------------
 
 Indirizzo Arg_Indirizzo(lua_State* stato, const char* funzione) {
@@ -309,6 +316,7 @@ constexpr Riga_Funzione funzioni[] = {
     {"clic", "clic(elemento)", "un clic; un pulsante resta premuto 100 ms", Aziona<&Collaudo::Clic, clic>},
     {"doppio_clic", "doppio_clic(elemento)", "un doppio clic", Aziona<&Collaudo::Doppio_Clic, doppio_clic>},
     {"regola", "regola(nome, valore)", "muove un cursore o un regolatore dell'impianto", Fa_Regola},
+    {"guasto", "guasto(nome, [attivo])", "provoca un guasto dell'impianto o di un filo, \"ImgTer\" o \"filo(I0.3)\" o \"incollato(I0.3)\"; con falso lo ripara; falso se ora non si può", Fa_Guasto},
     {"ingresso", "ingresso(\"I0.3\", 1)", "accende o spegne un ingresso", Fa_Ingresso},
     {"analogico", "analogico(canale, volt)", "tensione dell'ingresso analogico 0, 1 o 2 (AIW0, AIW2, AIW4)", Fa_Analogico},
     {"leggi", "leggi(indirizzo)", "valore di un indirizzo: \"Q0.0\", \"VW10\", \"T37.Val\"; i bit valgono 0 o 1", Fa_Leggi},

@@ -295,6 +295,16 @@ void Collaudo::Regola(std::string_view nome, double valore) {
   Proteggi([&] { Esegui_Gesto(gesto, *filo_); });
 }
 
+bool Collaudo::Guasta(std::string_view nome, bool attivo) {
+  Impianto& macchina = Macchina();
+  const Gesto gesto{0, Azione::Guasto, std::string(nome), attivo ? 1.0 : 0.0};
+  const std::string errore = Controlla_Mani({&gesto, 1}, filo_->Tabella(), macchina);
+  if (!errore.empty()) throw Errore_Script("guasto: " + errore);
+  bool riuscito = false;
+  Proteggi([&] { riuscito = Esegui_Gesto(gesto, *filo_); });
+  return riuscito;
+}
+
 void Collaudo::Scrivi(const Indirizzo& indirizzo, double valore, const char* funzione) {
   bool scritto = true;
   Proteggi([&] { scritto = Scrivi_Cella(plc_, indirizzo, valore); });

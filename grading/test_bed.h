@@ -64,6 +64,9 @@ class Collaudo {
   bool Doppio_Clic(std::string_view nome);
   /// A value that no hand could set throws `Errore_Script`.
   void Regola(std::string_view nome, double valore);
+  /// A fault of the plant or of its wires (see `Guasti_Di`). False when it cannot come or go now;
+  /// an unknown one throws `Errore_Script`.
+  bool Guasta(std::string_view nome, bool attivo);
 
   /// Throws `Errore_Script` for a value that the cell cannot hold.
   void Scrivi(const Indirizzo& indirizzo, double valore, const char* funzione);

@@ -34,12 +34,14 @@ constexpr Opzione_Manuale esegui[] = {
       "\"3000:clic:ImgTer\"      un relè termico, un commutatore\n"
       "\"4000:doppio:imgKM\"     un contattore forzato\n"
       "\"5000:regola:UpD1=3\"    un regolatore o un cursore\n"
+      "\"7000:guasto:filo(I0.3)=1\"    un guasto, e con 0 la riparazione\n"
       "Un nome sbagliato fa elencare quelli che ci sono.",
       "what a hand does to the plant, by the names of the figures:\n"
       "\"500:premi:imgStart,700:rilascia:imgStart\"  a push button\n"
       "\"3000:clic:ImgTer\"      a thermal relay, a selector\n"
       "\"4000:doppio:imgKM\"     a contactor that is forced\n"
-      "\"5000:regola:UpD1=3\"    a knob or a slider.\n"
+      "\"5000:regola:UpD1=3\"    a knob or a slider\n"
+      "\"7000:guasto:filo(I0.3)=1\"    a fault, and with 0 its repair.\n"
       "A wrong name makes it list those that there are."}},
     {{"--vcd FILE"},
      {"ingressi e uscite nel tempo, per GTKWave", "inputs and outputs over time, for GTKWave"}},

@@ -18,6 +18,7 @@ Collegamento::Collegamento(Plc& plc, Stato_Impianto& stato, const Esercizio& ese
   stato_.Impianto_Aperto = -1;
 
   macchina_ = esercizio_.Crea(plc_);
+  a_riposo_ = macchina_->Stato_I();
   for (std::size_t n = 0; n < 2; ++n) {
     ascolto_uscite_[n] = plc_.SQ[n].Change.Ascolta([this] { Uscite_Cambiate(); });
   }
@@ -67,15 +68,37 @@ void Collegamento::Scrivi_Cursori() {
 
 void Collegamento::Ingressi_Cambiati() {
   if (chkSim_) return;
-  const std::string ingressi = macchina_->Stato_I();
+  const std::string ingressi = guasti_.Ai_Morsetti(macchina_->Stato_I());
   plc_.SI[0].Stato_I(ingressi.substr(0, 8));
   plc_.SI[1].Stato_I(ingressi.substr(8));
   if (!esercizio_.Analogici) return;
   const std::optional<float> volt[] = {macchina_->ME_AIW0, macchina_->ME_AIW2, macchina_->ME_AIW4};
-  for (int canale = 0; const std::optional<float>& valore : volt) {
-    if (valore) plc_.Volt_AI[canale] = *valore;
+  for (std::size_t canale = 0; const std::optional<float>& valore : volt) {
+    if (valore) plc_.Volt_AI[static_cast<int>(canale)] = guasti_.Al_Morsetto(canale, *valore);
     ++canale;
   }
+}
+
+std::optional<Nome_Filo> Collegamento::Filo(std::string_view nome) const {
+  const std::optional<Nome_Filo> filo = Leggi_Nome_Filo(nome);
+  if (!filo || (filo->Analogico && !esercizio_.Analogici)) return {};
+  const bool suo = std::ranges::any_of(esercizio_.Righe_IO, [&](const Riga_IO& riga) {
+    return Nome_Guasto(filo->Cosa, riga.Indirizzo) == nome;
+  });
+  return suo ? filo : std::nullopt;
+}
+
+bool Collegamento::Guasta(std::string_view nome, bool attivo) {
+  const std::optional<Nome_Filo> filo = Filo(nome);
+  if (!filo) return false;
+  guasti_.Metti(*filo, attivo);
+  if (aperto_) Ingressi_Cambiati();
+  return true;
+}
+
+bool Collegamento::Guastato(std::string_view nome) const {
+  const std::optional<Nome_Filo> filo = Filo(nome);
+  return filo && guasti_.Attivo(*filo);
 }
 
 void Collegamento::Uscite_Cambiate() {

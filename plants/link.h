@@ -6,10 +6,14 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "plants/cover_mode.h"
 #include "plants/exercises.h"
+#include "plants/wire_faults.h"
 
 namespace tavorno {
 
@@ -45,6 +49,8 @@ class Collegamento {
 
   Impianto& Macchina() { return *macchina_; }
   const Esercizio& Tabella() const { return esercizio_; }
+  /// The plant's inputs as it was made, before any hand or output.
+  const std::string& Ingressi_A_Riposo() const { return a_riposo_; }
 
   /// "Usa Simulatore PLC per gli Ingressi": while ticked the switches drive the inputs, and the
   /// plant goes on unheard.
@@ -56,10 +62,18 @@ class Collegamento {
   void Muovi(std::size_t numero, int valore);
   int Valore(std::size_t numero) const { return valori_.at(numero); }
 
+  /// Breaks or mends the wire of an input, by a name such as "filo(I0.3)" (see `Guasto_Filo`). The
+  /// plant does not know; what its contact says reaches the terminal as the wire lets it. False for
+  /// an input that the exercise does not have, or whose analog value takes another way.
+  bool Guasta(std::string_view nome, bool attivo);
+  /// The wire has that fault now.
+  bool Guastato(std::string_view nome) const;
+
  private:
   void Ingressi_Cambiati();
   void Uscite_Cambiate();
   void Scrivi_Cursori();
+  std::optional<Nome_Filo> Filo(std::string_view nome) const;
   void LED_Reset();
 
   Plc& plc_;
@@ -72,6 +86,8 @@ class Collegamento {
   bool aperto_ = true;
   bool chkSim_ = false;
   std::vector<int> valori_;  // of the sliders
+  Guasti_Fili guasti_;
+  std::string a_riposo_;
 };
 
 }  // namespace tavorno

@@ -6,6 +6,7 @@
 #include <set>
 #include <sstream>
 
+#include "plants/faults.h"
 #include "recorder/entry_reader.h"
 
 namespace tavorno {
@@ -21,8 +22,12 @@ struct Riga_Azione {
 constexpr Riga_Azione azioni[] = {
     {Azione::Premi, "premi", "da premere"},    {Azione::Rilascia, "rilascia", "da rilasciare"},
     {Azione::Clic, "clic", "per un clic"},     {Azione::Doppio, "doppio", "per un doppio clic"},
-    {Azione::Regola, "regola", "da regolare"},
+    {Azione::Regola, "regola", "da regolare"}, {Azione::Guasto, "guasto", "da guastare"},
 };
+
+bool Con_Valore(Azione cosa) {
+  return cosa == Azione::Regola || cosa == Azione::Guasto;
+}
 
 const Riga_Azione& Riga_Di(Azione cosa) {
   return *std::ranges::find(azioni, cosa, &Riga_Azione::Cosa);
@@ -46,7 +51,7 @@ std::optional<Gesto> Leggi_Gesto(std::string_view testo) {
   gesto.Cosa = azione->Cosa;
   voce.Vuole(":");
   gesto.Nome = voce.Nome_Fino_A('=');
-  if (gesto.Cosa == Azione::Regola) {
+  if (Con_Valore(gesto.Cosa)) {
     voce.Vuole("=");
     gesto.Valore = voce.Numero(-1'000'000.0, 1'000'000.0);
   }
@@ -90,6 +95,7 @@ bool Sente(const Figura& figura, Azione cosa) {
     case Azione::Doppio:
       return figura.Doppio_Clic != nullptr;
     case Azione::Regola:
+    case Azione::Guasto:
       break;
   }
   return false;
@@ -98,6 +104,11 @@ bool Sente(const Figura& figura, Azione cosa) {
 /// All names that fit the action, in the order of the picture.
 std::vector<std::string> Nomi_Per(Azione cosa, const Esercizio& esercizio, Impianto& macchina) {
   std::vector<std::string> nomi;
+  if (cosa == Azione::Guasto) {
+    for (const Guasto_Impianto& guasto : Guasti_Di(esercizio, macchina.Stato_I()))
+      nomi.push_back(guasto.Nome);
+    return nomi;
+  }
   if (cosa == Azione::Regola) {
     for (const Cursore& cursore : esercizio.Cursori) nomi.emplace_back(cursore.Nome);
   }
@@ -119,8 +130,9 @@ std::string Controlla_Gesto(const Gesto& gesto, const Esercizio& esercizio, Impi
     for (const std::string& nome : nomi) elenco += (elenco.empty() ? "" : ", ") + nome;
     return impianto + " non ha \"" + gesto.Nome + "\" " + verbo + ", ma ha: " + elenco;
   }
-  if (gesto.Cosa != Azione::Regola) return "";
-  const Campo campo = *Campo_Di(esercizio, macchina, gesto.Nome);
+  if (!Con_Valore(gesto.Cosa)) return "";
+  const Campo campo =
+      gesto.Cosa == Azione::Guasto ? Campo{0, 1, 1} : *Campo_Di(esercizio, macchina, gesto.Nome);
   if (campo.Contiene(gesto.Valore)) return "";
   return gesto.Nome + " va da " + Testo_Di(campo.Minimo) + " a " + Testo_Di(campo.Massimo) +
          " a passi di " + Testo_Di(campo.Passo) + ", e non a " + Testo_Di(gesto.Valore);
@@ -134,11 +146,17 @@ bool Gira(const Gesto& gesto, Collegamento& impianto) {
   return true;
 }
 
+bool Guasta(const Gesto& gesto, Collegamento& impianto) {
+  const auto guasti = Guasti_Di(impianto.Tabella(), impianto.Ingressi_A_Riposo());
+  const auto guasto = std::ranges::find(guasti, gesto.Nome, &Guasto_Impianto::Nome);
+  return guasto != guasti.end() && Metti(*guasto, gesto.Valore != 0, impianto);
+}
+
 }  // namespace
 
 std::string Gesto::Come_Testo() const {
   const std::string testo = std::string(Riga_Di(Cosa).Parola) + ":" + Nome;
-  return Cosa == Azione::Regola ? testo + "=" + Testo_Di(Valore) : testo;
+  return Con_Valore(Cosa) ? testo + "=" + Testo_Di(Valore) : testo;
 }
 
 std::vector<Gesto> Leggi_Mani(const std::string& testo, std::string& errore) {
@@ -147,7 +165,7 @@ std::vector<Gesto> Leggi_Mani(const std::string& testo, std::string& errore) {
   if (errata)
     errore = "gesto non valido \"" + *errata +
              "\": si scrive 500:premi:NOME, oppure rilascia, clic, doppio, oppure "
-             "500:regola:NOME=3";
+             "500:regola:NOME=3, oppure 500:guasto:NOME=1";
   return mani;
 }
 
@@ -187,6 +205,8 @@ bool Esegui_Gesto(const Gesto& gesto, Collegamento& impianto) {
     }
     case Azione::Regola:
       return Gira(gesto, impianto);
+    case Azione::Guasto:
+      return Guasta(gesto, impianto);
   }
   return false;
 }

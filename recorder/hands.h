@@ -17,22 +17,23 @@ enum class Azione {
   Clic,      ///< down and up within one scan
   Doppio,    ///< a click, and a second press on what listens to it
   Regola,    ///< a slider of the host window, or an up/down of the picture
+  Guasto,    ///< a fault of the plant or of its wires, brought about (1) or taken away (0)
 };
 
 /// One movement of the hand.
 struct Gesto {
   std::int64_t Ms = 0;  ///< since Run
   Azione Cosa = Azione::Premi;
-  std::string Nome;   ///< figure, slider or up/down
-  double Valore = 0;  ///< of Regola
+  std::string Nome;   ///< figure, slider, up/down or fault (see `Guasti_Di`)
+  double Valore = 0;  ///< of Regola and Guasto
 
   /// As it is written on the command line, without its time.
   std::string Come_Testo() const;
 };
 
 /// Reads "500:premi:imgStart,700:rilascia:imgStart,3000:clic:ImgTer,4000:doppio:imgKM,
-/// 5000:regola:UpD1=3" into movements sorted by time. On a mistake the list is empty and `errore`
-/// says in Italian what is wrong.
+/// 5000:regola:UpD1=3,6000:guasto:filo(I0.3)=1" into movements sorted by time. On a mistake the
+/// list is empty and `errore` says in Italian what is wrong.
 std::vector<Gesto> Leggi_Mani(const std::string& testo, std::string& errore);
 
 /// Looks whether the plant of an exercise can feel each movement, before anything moves; `mani` is

@@ -56,6 +56,24 @@ TEST_F(PlantRun, AHeldStartClosesTheContactorWhichHoldsItselfAfterTheRelease) {
             "Fine: 400 ms, 400 scansioni.\n");
 }
 
+TEST_F(PlantRun, ABrokenWireOfAStopDropsTheContactor) {
+  EXPECT_TRUE(Esegui("0", "400",
+                     "100:premi:imgStart,150:rilascia:imgStart,200:guasto:filo(I0.0)=1,"
+                     "300:guasto:filo(I0.0)=0",
+                     autoritenuta));
+  EXPECT_EQ(out.substr(out.find("     200")),
+            "     200 ms  I0.0 SB1 = 0\n"
+            "     200 ms  Q0.0 KM = 0\n"
+            "     200 ms  I0.2 KMa = 0\n"
+            "     300 ms  I0.0 SB1 = 1\n"
+            "Fine: 400 ms, 400 scansioni.\n");
+}
+
+TEST_F(PlantRun, AFaultThatCannotComeNowIsTold) {
+  EXPECT_TRUE(Esegui("0", "20", "10:guasto:imgKM=1", {"NOP"}));
+  EXPECT_THAT(out + err, HasSubstr("guasto:imgKM=1"));
+}
+
 TEST_F(PlantRun, AClickTripsTheRelayAndTheNextOneResetsIt) {
   EXPECT_TRUE(Esegui("0", "100", "30:clic:ImgTer,60:clic:ImgTer", {"NOP"}));
   EXPECT_THAT(out, HasSubstr("      30 ms  I0.3 FR = 0\n      60 ms  I0.3 FR = 1\nFine"));

@@ -42,7 +42,9 @@ Mano_Errata Malformata(const char* lista, const char* messaggio) {
   return {{"--impianto", "0", "--mani", lista}, messaggio};
 }
 
-#define FORMA ": si scrive 500:premi:NOME, oppure rilascia, clic, doppio, oppure 500:regola:NOME=3"
+#define FORMA                                                                     \
+  ": si scrive 500:premi:NOME, oppure rilascia, clic, doppio, oppure 500:regola:" \
+  "NOME=3, oppure 500:guasto:NOME=1"
 
 INSTANTIATE_TEST_SUITE_P(
     MalformedHands, WrongPlantUse,
@@ -60,6 +62,7 @@ INSTANTIATE_TEST_SUITE_P(
         Malformata("5:regola:UpD1=alto", "gesto non valido \"5:regola:UpD1=alto\"" FORMA),
         Malformata("5:regola:UpD1=3V", "gesto non valido \"5:regola:UpD1=3V\"" FORMA),
         Malformata("5:regola:UpD1=nan", "gesto non valido \"5:regola:UpD1=nan\"" FORMA),
+        Malformata("5:guasto:filo(I0.0)", "gesto non valido \"5:guasto:filo(I0.0)\"" FORMA),
         Malformata("5:regola:=3", "gesto non valido \"5:regola:=3\"" FORMA),
         Malformata("5:premi:imgStart,", "gesto non valido \"\"" FORMA)));
 
@@ -92,6 +95,11 @@ INSTANTIATE_TEST_SUITE_P(
         Sbagliata("14", "5:regola:UpD1=11", "UpD1 va da 0 a 10 a passi di 1, e non a 11"),
         Sbagliata("14", "5:regola:UpD1=2.5", "UpD1 va da 0 a 10 a passi di 1, e non a 2.5"),
         Sbagliata("4", "5:regola:SlidP=0", "SlidP va da 1 a 10 a passi di 1, e non a 0"),
+        Sbagliata("0", "5:guasto:filo(I1.0)=1",
+                  "l'impianto 0 non ha \"filo(I1.0)\" da guastare, ma ha: ImgTer, imgKM, "
+                  "filo(I0.0), incollato(I0.0), filo(I0.1), incollato(I0.1), filo(I0.2), "
+                  "incollato(I0.2), filo(I0.3), incollato(I0.3), filo(I0.4), incollato(I0.4)"),
+        Sbagliata("0", "5:guasto:ImgTer=2", "ImgTer va da 0 a 1 a passi di 1, e non a 2"),
         Sbagliata("0", "5:rilascia:imgStart", "imgStart non è premuto a 5 ms"),
         Sbagliata("0", "5:premi:imgStart,9:premi:imgStart", "imgStart è già premuto a 9 ms"),
         // Sorted by time, the release comes first.

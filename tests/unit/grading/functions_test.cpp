@@ -203,6 +203,25 @@ TEST_F(ScriptFunctions, SlidersMove) {
               HasSubstr("regola: l'impianto 4 non ha \"Slid\" da regolare, ma ha: SlidP"));
 }
 
+TEST_F(ScriptFunctions, FaultsComeAndGoByName) {
+  EXPECT_EQ(
+      Rilievo_Di("run() verifica(guasto('filo(I0.0)')) attendi(2) "
+                 "verifica(leggi('I0.0') == 0, 'rotto') verifica(guasto('filo(I0.0)', false)) "
+                 "attendi(2) verifica(leggi('I0.0') == 1, 'riparato') "
+                 "verifica(guasto('incollato(I0.1)', 1)) attendi(2) "
+                 "verifica(leggi('I0.1') == 1, 'incollato') "
+                 "verifica(guasto('ImgTer')) verifica(guasto('ImgTer')) attendi(2) "
+                 "verifica(leggi('I0.3') == 0, 'termico') "
+                 "verifica(not guasto('imgKM'), 'il contattore è aperto')",
+                 {"NOP"}, 0),
+      "");
+}
+
+TEST_F(ScriptFunctions, AFaultThatDoesNotExistIsAnErrorOfTheScript) {
+  EXPECT_THAT(Rilievo_Di("guasto('filo(I1.7)')", {"NOP"}, 0),
+              HasSubstr("guasto: l'impianto 0 non ha \"filo(I1.7)\" da guastare, ma ha: ImgTer"));
+}
+
 // ---- the hand is that of the window -------------------------------------------------------------
 
 TEST_F(ScriptFunctions, APressAndAReleaseOverAFigureAreAClick) {
@@ -362,7 +381,7 @@ TEST_F(ScriptFunctions, HelpNamesAllOfThem) {
         "ingresso",     "analogico", "leggi",    "scrivi", "elemento",    "messaggi",
         "verifica",     "serve",     "punti",    "prova",  "usa",         "impianto"})
     EXPECT_THAT(out, HasSubstr(std::string("\n  ") + nome + "(")) << nome;
-  EXPECT_EQ(Funzioni_Script().size(), 25);
+  EXPECT_EQ(Funzioni_Script().size(), 26);
 }
 
 TEST_F(ScriptFunctions, TheManualHasAllOfThem) {
