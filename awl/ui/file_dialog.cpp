@@ -18,7 +18,7 @@ QString Filtro_Qt(const std::string& filtro) {
   const QStringList parti = Q(filtro).split('|');
   if (parti.size() < 2) return Q(filtro);
   QString nome = parti[0];
-  const QString maschera = parti[1];
+  const QString& maschera = parti[1];
   nome.remove(QStringLiteral(" (%1)").arg(maschera));
   return QStringLiteral("%1 (%2 %3)").arg(nome, maschera, maschera.toLower());
 }
