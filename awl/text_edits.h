@@ -14,11 +14,11 @@ namespace tavorno {
 
 /// Lines that take the place of others.
 struct Cambio_Linee {
-  int Prima = 0;                   ///< the first line that goes
-  int Quante = 0;                  ///< how many go; 0 to put lines in before `Prima`
-  std::vector<std::string> Nuove;  ///< without their ends
-  int Scelta = 0;                  ///< the line that the selection begins with afterwards
-  int Scelte = 0;                  ///< how many lines are selected; 0 to put the caret there only
+  int Prima = 0;                        ///< the first line that goes
+  int Quante = 0;                       ///< how many go; 0 to put lines in before `Prima`
+  std::vector<std::string> Nuove = {};  ///< without their ends
+  int Scelta = 0;                       ///< the line that the selection begins with afterwards
+  int Scelte = 0;  ///< how many lines are selected; 0 to put the caret there only
 
   bool Vuoto() const { return Quante == 0 && Nuove.empty(); }
   bool operator==(const Cambio_Linee&) const = default;

@@ -23,6 +23,7 @@ void Prepara(QAction& azione, const Voce_Menu& voce) {
     azione.setChecked(voce.Segno == Spunta::Messa);
   }
   if (*voce.Tasti != '\0') azione.setShortcut(QKeySequence(QString::fromUtf8(voce.Tasti)));
+  if (*voce.Aiuto != '\0') azione.setToolTip(QString::fromUtf8(voce.Aiuto));
   if (voce.Dove != nullptr) *voce.Dove = &azione;
 }
 
@@ -43,6 +44,7 @@ void Crea_Menu(QMainWindow& finestra, std::span<const Voce_Menu> voci) {
       aperto[livello] = menu;
     } else {
       Prepara(*sopra->addAction(testo), voce);
+      sopra->setToolTipsVisible(sopra->toolTipsVisible() || *voce.Aiuto != '\0');
     }
   }
 }

@@ -25,6 +25,7 @@ struct Voce_Menu {
   Spunta Segno = Spunta::Senza;
   const char* Tasti = "";    ///< short cut as QKeySequence reads it, may be empty
   QAction** Dove = nullptr;  ///< where the window keeps the action, if it does
+  const char* Aiuto = "";    ///< tool tip, may be empty: then there is none
 };
 
 /// One button of a tool bar.

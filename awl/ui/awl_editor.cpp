@@ -122,25 +122,38 @@ std::string AwlEditor::Byte() const {
 }
 
 void AwlEditor::Scrivi(const std::string& byte) {
-  const std::string nuovo = A_Utf8(byte);
-  const auto* utf8 = static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
-  const std::string vecchio(utf8, static_cast<std::size_t>(length()));
-  if (nuovo == vecchio) return;
-
-  const std::vector<std::string_view> vecchie = Linee_Intere(vecchio);
-  const std::vector<std::string_view> nuove = Linee_Intere(nuovo);
   scrive_ = true;
   setReadOnly(false);
   SendScintilla(SCI_BEGINUNDOACTION);
-  // From the end, so that the places further up stay what they are.
-  const std::vector<Tratto_Cambiato> tratti = Tratti_Cambiati(vecchie, nuove);
-  for (auto tratto = tratti.rbegin(); tratto != tratti.rend(); ++tratto)
-    Sostituisci(
-        vecchie.empty() ? 0 : static_cast<std::size_t>(tratto->Vecchio.data() - vecchio.data()),
-        tratto->Vecchio, tratto->Nuovo);
+  Sostituisci_Testo(A_Utf8(byte));
   SendScintilla(SCI_ENDUNDOACTION);
   setReadOnly(Di_Sola_Lettura());
   scrive_ = false;
+}
+
+/// Line by line from the first to the last that differs.
+void AwlEditor::Sostituisci_Testo(const std::string& nuovo) {
+  const auto* utf8 = static_cast<const char*>(SendScintillaPtrResult(SCI_GETCHARACTERPOINTER));
+  const std::string vecchio(utf8, static_cast<std::size_t>(length()));
+  if (nuovo == vecchio) return;
+  std::vector<std::string_view> vecchie = Linee_Intere(vecchio);
+  std::vector<std::string_view> nuove = Linee_Intere(nuovo);
+  const auto [fin_qui, qui] = std::ranges::mismatch(vecchie, nuove);
+  const std::size_t inizio = fin_qui == vecchie.end()
+                                 ? vecchio.size()
+                                 : static_cast<std::size_t>(fin_qui->data() - vecchio.data());
+  vecchie.erase(vecchie.begin(), fin_qui);
+  nuove.erase(nuove.begin(), qui);
+  while (!vecchie.empty() && !nuove.empty() && vecchie.back() == nuove.back()) {
+    vecchie.pop_back();
+    nuove.pop_back();
+  }
+  // From the end, so that the places further up stay what they are.
+  const std::vector<Tratto_Cambiato> tratti = Tratti_Cambiati(vecchie, nuove);
+  for (auto tratto = tratti.rbegin(); tratto != tratti.rend(); ++tratto) {
+    const std::ptrdiff_t da = vecchie.empty() ? 0 : tratto->Vecchio.data() - vecchie.front().data();
+    Sostituisci(inizio + static_cast<std::size_t>(da), tratto->Vecchio, tratto->Nuovo);
+  }
 }
 
 void AwlEditor::Sostituisci(std::size_t inizio, std::string_view vecchio, std::string_view nuovo) {

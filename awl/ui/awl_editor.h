@@ -3,10 +3,14 @@
 
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "awl/diagnostic.h"
+#include "awl/find.h"
 #include "awl/ui/awl_lexer.h"
 #include "awl/ui/scintilla.h"
 
@@ -71,12 +75,34 @@ class AwlEditor : public QsciScintilla {
   bool Ha_Errore(int linea) const;
   bool Ha_Avvertimento(int linea) const;
 
+  // awl_editor_places.cpp: columns count characters, from 0
+
+  /// Where the caret is.
+  struct Punto {
+    int Linea = 0;
+    int Colonna = 0;
+  };
+  Punto Cursore() const;
+  /// The lines that the selection touches, or the caret's: the first and the last.
+  std::pair<int, int> Linee_Scelte() const;
+  /// Selects a piece of a line and brings it into sight.
+  void Scegli(const Trovato& pezzo);
+  bool E_Scelto(const Trovato& pezzo) const;
+  /// Frames these pieces, instead of those before.
+  void Evidenzia(const std::vector<Trovato>& pezzi);
+  /// Changes by the user, each one step that can be undone.
+  void Cambia(const Cambio_Linee& cambio);
+  void Ritocca(std::span<const Ritocco> ritocchi);
+
   /// The caret at the beginning of a line, in sight, and the keyboard to this text.
   void Vai_A(int linea);
   void Vai_In_Fondo();
 
   void Offri_Completamenti();  ///< a list, when the caret stands at the end of the first word
   void Mostra_Suggerimento();  ///< a tip, when the caret's line begins with an instruction
+
+  /// Leaves a key to a command of the window.
+  void Cedi_Tasti(const QKeySequence& tasti);
 
   /// What the right button offers.
   std::unique_ptr<QMenu> Menu_Modifica();
@@ -87,6 +113,8 @@ class AwlEditor : public QsciScintilla {
 
  private:
   void Prepara_Documento();
+  std::pair<long, long> Posizioni(const Trovato& pezzo) const;
+  void Sostituisci_Testo(const std::string& nuovo);
   void Batti(QKeyEvent& evento);
   void Raccogli(const std::function<void()>& modifiche);
   void Sostituisci(std::size_t inizio, std::string_view vecchio, std::string_view nuovo);

@@ -61,6 +61,15 @@ void AwlEditor::Batti(QKeyEvent& evento) {
   evento.setAccepted(senza_lettera.isAccepted());
 }
 
+void AwlEditor::Cedi_Tasti(const QKeySequence& tasti) {
+  if (tasti.isEmpty()) return;
+  const int codice = tasti[0].toCombined();
+  for (QsciCommand* comando : standardCommands()->commands()) {
+    if (comando->key() == codice) comando->setKey(0);
+    if (comando->alternateKey() == codice) comando->setAlternateKey(0);
+  }
+}
+
 std::unique_ptr<QMenu> AwlEditor::Menu_Modifica() {
   auto menu = std::make_unique<QMenu>();
   for (const Comando_Modifica& comando : comandi_modifica) {

@@ -61,10 +61,8 @@ void AwlEditor::Suggerisci(std::vector<Diagnosi> suggerimenti) {
   SendScintilla(SCI_SETINDICATORCURRENT, Indicatore_Suggerimento);
   SendScintilla(SCI_INDICATORCLEARRANGE, 0L, static_cast<long>(length()));
   for (const Diagnosi& suggerimento : suggerimenti_) {
-    // Columns count characters, positions count bytes.
-    const long inizio = SendScintilla(SCI_POSITIONFROMLINE, suggerimento.Posto.Linea);
-    const long da = SendScintilla(SCI_POSITIONRELATIVE, inizio, suggerimento.Colonna);
-    const long a = SendScintilla(SCI_POSITIONRELATIVE, da, suggerimento.Lunghezza);
+    const auto [da, a] =
+        Posizioni({suggerimento.Posto.Linea, suggerimento.Colonna, suggerimento.Lunghezza});
     if (a > da) SendScintilla(SCI_INDICATORFILLRANGE, da, a - da);
   }
 }

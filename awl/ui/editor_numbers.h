@@ -12,7 +12,9 @@ enum Segno_Riga : int {
   Segno_Avvertimento = 3,
 };
 
-// The first indicator that is free.
+// The first indicators that are free.
 inline constexpr int Indicatore_Suggerimento = 8;
+inline constexpr int Indicatore_Trovato = 9;
+inline constexpr int Indicatore_Eccedenza = 10;
 
 }  // namespace tavorno

@@ -39,14 +39,23 @@ void Segni_Errori::Metti(AwlEditor& editor, int chiave) {
   }
 }
 
+std::vector<int> Segni_Errori::Segnate() const {
+  std::vector<int> segnate;
+  for (std::size_t i = 0; i < righe_.size(); ++i) {
+    if (righe_[i].Grado) segnate.push_back(static_cast<int>(i));
+  }
+  return segnate;
+}
+
 int Segni_Errori::Chiave(int riga) const {
   return Nota(riga) ? righe_[static_cast<std::size_t>(riga)].Chiave : -1;
 }
 
-int Segni_Errori::Linea(const AwlEditor& editor, int riga) const {
+int Segni_Errori::Linea(const AwlEditor* editor, int riga) const {
   if (!Nota(riga)) return 0;
   const Riga& nota = righe_[static_cast<std::size_t>(riga)];
-  const int ora = nota.Segno < 0 ? -1 : editor.Linea_Seguita(nota.Segno);
+  const bool segue = editor != nullptr && nota.Segno >= 0;
+  const int ora = segue ? editor->Linea_Seguita(nota.Segno) : -1;
   return ora < 0 ? nota.Linea : ora;
 }
 

@@ -25,10 +25,13 @@ class Segni_Errori {
   /// Marks the text that the editor shows, once for each compile.
   void Metti(AwlEditor& editor, int chiave);
 
+  /// The rows that have a mark, from the top.
+  std::vector<int> Segnate() const;
   /// The key of the text that a row stands in; -1 for a row that no compile has seen.
   int Chiave(int riga) const;
-  /// The line of a row in its text, which the editor must show.
-  int Linea(const AwlEditor& editor, int riga) const;
+  /// The line of a row in its text, which the editor must show; as it was at the compile for a text
+  /// that none shows.
+  int Linea(const AwlEditor* editor, int riga) const;
 
  private:
   struct Riga {

@@ -12,6 +12,8 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
+#include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "awl/ui/file_dialog.h"
@@ -53,6 +55,19 @@ FrmMain::FrmMain(Progetto& progetto, Plc& plc, Legami_Editor legami)
   Collega_Comandi();
   Collega_Testi();
   Collega_Storia();
+  for (const QAction* voce : findChildren<QAction*>()) {
+    for (AwlEditor* testo : {txtList, txtP, txtLst}) testo->Cedi_Tasti(voce->shortcut());
+  }
+  comandi_ = new Comandi_Testi(
+      *this, a_.Testi,
+      {.Dati = p_,
+       .Main = txtList,
+       .Procedura = txtP,
+       .Listato = txtLst,
+       .Mostra = [this](Posto_Riga posto) { Vai_A(posto); },
+       .Errore = [this](int verso) { Errore_Vicino(verso); },
+       .Insieme = [this](const std::function<void()>& comando) { Insieme(comando); }},
+      *static_cast<QVBoxLayout*>(picF->layout()));
   storia_.Ricomincia(p_.Testi());
   Specchia();
   txtList->Dimentica_Annulla();
@@ -245,6 +260,16 @@ void FrmMain::Compila(bool carica) {
   }
   if (carica) p_.Consegna();
   Specchia();
+  if (pronta && p_.Errori > 0) Al_Primo_Errore();
+}
+
+/// The caret of the listing, and that of the text, where the way back leads.
+void FrmMain::Al_Primo_Errore() {
+  const std::vector<int> segnate = segni_.Segnate();
+  if (segnate.empty()) return;
+  txtLst->setCursorPosition(segnate.front(), 0);
+  if (segni_.Chiave(segnate.front()) == Segni_Errori::Chiave_Main)
+    txtList->setCursorPosition(segni_.Linea(txtList, segnate.front()), 0);
 }
 
 /// A command that may add a procedure.
@@ -281,6 +306,14 @@ void FrmMain::Network(int indice) {
   (indice == 0 ? txtList : txtP)->Vai_In_Fondo();
 }
 
+/// A command that changes several texts, with one way back.
+void FrmMain::Insieme(const std::function<void()>& comando) {
+  Vista prima = Come_Sta();
+  comando();
+  Sostituito(std::move(prima));
+  Specchia();
+}
+
 void FrmMain::Scegli_Procedura(int scheda) {
   if (specchia_) return;
   p_.Scegli_Procedura(scheda);
@@ -294,6 +327,7 @@ void FrmMain::Cambia_Pagina(int pagina) {
   }
   p_.Pagina = pagina;
   if (!specchia_) Specchia();
+  comandi_->Aggiorna();
   if (SSTb2->tabBar()->hasFocus()) return;  // the arrow keys are at work
   const std::array<AwlEditor*, 3> testi = {txtList, txtP, txtLst};
   testi.at(static_cast<std::size_t>(pagina))->setFocus(Qt::OtherFocusReason);
@@ -309,7 +343,26 @@ void FrmMain::Vai_A_Riga(int numero) {
     testo = txtP;
   }
   SSTb2->setCurrentIndex(testo == txtList ? 0 : 1);
-  testo->Vai_A(segni_.Linea(*testo, numero));
+  testo->Vai_A(segni_.Linea(testo, numero));
+}
+
+/// The marked row behind the caret or before it, around the ends. From the listing: the first.
+void FrmMain::Errore_Vicino(int verso) {
+  const std::vector<int> segnate = segni_.Segnate();
+  if (segnate.empty()) return;
+  if (p_.Pagina == Pagina_Listato) return Vai_A_Riga(verso > 0 ? segnate.front() : segnate.back());
+  const AwlEditor& davanti = p_.Pagina == 0 ? *txtList : *txtP;
+  const std::pair qui(p_.Pagina == 0 ? 0 : p_.Scheda, davanti.Cursore().Linea);
+  const auto dove = [&](int riga) {
+    const int testo = documenti_.Riga(segni_.Chiave(riga));  // 0 for the Main
+    const bool in_vista = testo == 0 || testo == p_.Scheda;
+    const AwlEditor& suo = testo == 0 ? *txtList : *txtP;
+    return std::pair(testo, segni_.Linea(in_vista ? &suo : nullptr, riga));
+  };
+  const auto dopo = std::ranges::find_if(
+      segnate, [&](int riga) { return verso > 0 ? dove(riga) > qui : dove(riga) >= qui; });
+  if (verso > 0) return Vai_A_Riga(dopo == segnate.end() ? segnate.front() : *dopo);
+  Vai_A_Riga(dopo == segnate.begin() ? segnate.back() : *(dopo - 1));
 }
 
 /// The editor of a block, with that block in it; nullptr: there is no such block.

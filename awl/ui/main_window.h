@@ -15,6 +15,7 @@
 #include "awl/ui/procedure_documents.h"
 #include "awl/ui/project_history.h"
 #include "awl/ui/start_mode.h"
+#include "awl/ui/text_commands.h"
 #include "plc/plc.h"
 
 class QCheckBox;
@@ -52,6 +53,7 @@ class FrmMain : public QMainWindow {
   // For who shows the project in another way.
   /// Where the caret stands, of the text in front; none on the listing.
   std::optional<Posto_Riga> Posto_Cursore() const;
+  /// Goes to a line of a text; nothing for a procedure that is not there.
   void Vai_A(Posto_Riga posto);
   /// Makes the text of a block (0 the Main, else a procedure's row) this one, in one step that can
   /// be undone.
@@ -86,10 +88,13 @@ class FrmMain : public QMainWindow {
   void Compila(bool carica);
   void Inserimento(const std::function<void()>& comando);
   void Rimozione();
+  void Insieme(const std::function<void()>& comando);
   void Network(int indice);
   void Scegli_Procedura(int scheda);
   void Cambia_Pagina(int pagina);
   AwlEditor* Testo_Di(int testo);
+  void Errore_Vicino(int verso);
+  void Al_Primo_Errore();
 
   // main_window_history.cpp: undo beyond the texts
   /// The project with the texts that show it, their histories and marks.
@@ -143,7 +148,8 @@ class FrmMain : public QMainWindow {
 
   Documenti_Procedure documenti_;
   Segni_Errori segni_;
-  QsciDocument residuo_;      // what `txtP` shows while no procedure is selected
+  QsciDocument residuo_;  // what `txtP` shows while no procedure is selected
+  Comandi_Testi* comandi_ = nullptr;
   QTimer suggerisci_;         // a moment after the last change
   bool testi_nuovi_ = false;  // the texts on screen have no history yet
   Storia_Comandi<Vista> storia_;

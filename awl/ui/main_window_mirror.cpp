@@ -126,6 +126,7 @@ void FrmMain::Testo_Cambiato(AwlEditor& editor) {
   }
   Specchia_Voci();
   Specchia_Numeri();
+  comandi_->Aggiorna();
 }
 
 }  // namespace tavorno

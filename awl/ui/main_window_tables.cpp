@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "awl/ui/main_window_tables.h"
 
+#include <algorithm>
+#include <string_view>
+
 namespace tavorno {
 
 std::vector<Voce_Menu> Menu_Editor(Azioni_Editor& azioni) {
-  return {
+  std::vector<Voce_Menu> voci = {
       {.Livello = 0, .Nome = "mnuFile", .Testo = "&File"},
       {.Livello = 1,
        .Nome = "mnuFileNew",
@@ -107,6 +110,10 @@ std::vector<Voce_Menu> Menu_Editor(Azioni_Editor& azioni) {
       {.Livello = 1, .Nome = "", .Testo = ""},
       {.Livello = 1, .Nome = "MnuHLPInfo", .Testo = "&About", .Dove = &azioni.MnuHLPInfo},
   };
+  const std::vector<Voce_Menu> dei_testi = Menu_Testi(azioni.Testi);
+  voci.insert(std::ranges::find(voci, std::string_view("MnuHLP"), &Voce_Menu::Nome),
+              dei_testi.begin(), dei_testi.end());
+  return voci;
 }
 
 std::vector<Tasto_Barra> Barra_Editor(Azioni_Editor& azioni) {

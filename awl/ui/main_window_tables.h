@@ -4,6 +4,7 @@
 #include <array>
 #include <vector>
 
+#include "awl/ui/text_tables.h"
 #include "widgets/command_tables.h"
 
 // The editor window's captions, in the order of the screen.
@@ -16,6 +17,7 @@ struct Azioni_Editor {
       *mnuViewKOP;
   std::array<QAction*, 3> mnuViewC;
   QAction *MnuHLPIndex, *MnuHlpList, *MnuHLPInfo;
+  Azioni_Testi Testi;
 
   /// The buttons of the tool bar `tB1`, by their keys.
   struct Tasti {

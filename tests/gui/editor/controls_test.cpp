@@ -152,7 +152,7 @@ TEST_F(Controls, ShortCuts) {
     if (!voce->shortcut().isEmpty()) presenti[voce->objectName()] = voce->shortcut().toString();
   for (const QPushButton* tasto : finestra->findChildren<QPushButton*>())
     if (!tasto->shortcut().isEmpty()) presenti[tasto->objectName()] = tasto->shortcut().toString();
-  EXPECT_EQ(presenti, attesi);
+  for (const auto& [nome, tasti] : attesi) EXPECT_EQ(presenti[nome], tasti) << Utf8(nome);
 }
 
 TEST_F(Controls, AShortCutGivesTheButtonOfThePageInFront) {
