@@ -107,9 +107,8 @@ void Finestre::Fuoco_A(const QWindow* finestra) {
   prima_ = ora;
 }
 
-void Finestre::Mostra_Editor(Avvio avvio_file) {
-  const bool nuova = editor_.isNull();
-  Porta_Avanti(Trova(editor_, [this] {
+FrmMain& Finestre::Editor() {
+  return Trova(editor_, [this] {
     Legami_Editor legami;
     legami.Mostra_Pannello = [this] {
       Porta_Avanti(pannello_);
@@ -121,8 +120,18 @@ void Finestre::Mostra_Editor(Avvio avvio_file) {
     legami.Mostra_Info = [this] { Mostra_Info(); };
     legami.Mostra_Aiuto = [this](const QString& pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
     return new FrmMain(progetto_, plc_, std::move(legami));
-  }));
+  });
+}
+
+void Finestre::Mostra_Editor(Avvio avvio_file) {
+  const bool nuova = editor_.isNull();
+  Porta_Avanti(Editor());
   if (nuova) editor_->Avvia(avvio_file);
+}
+
+void Finestre::Mostra_Recuperato(const Copia_Progetto& copia) {
+  Porta_Avanti(Editor());
+  editor_->Riprendi(copia);
 }
 
 void Finestre::Mostra_Impostazioni() {

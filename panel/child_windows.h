@@ -19,6 +19,7 @@ class QWindow;
 namespace tavorno {
 
 class Finestra_Impianto;
+struct Copia_Progetto;
 class FrmDebug;
 class FrmMain;
 class FrmScala;
@@ -37,6 +38,8 @@ class Finestre {
   Finestre& operator=(const Finestre&) = delete;
 
   void Mostra_Editor(Avvio avvio_file);
+  /// The editor with a project that an earlier program has left unsaved.
+  void Mostra_Recuperato(const Copia_Progetto& copia);
   void Mostra_Impostazioni();
   void Mostra_Analogici();
   void Mostra_Stati();
@@ -59,6 +62,7 @@ class Finestre {
   template <class Finestra, class Crea>
   Finestra& Trova(QPointer<Finestra>& finestra, Crea crea);
   void Prepara(QWidget& finestra, const char* pagina);
+  FrmMain& Editor();
   FrmStatiL& Stati();
   void Apri_Esercizio(const Esercizio* esercizio);
   const Esercizio* Impianto_Aperto() const;

@@ -4,8 +4,10 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QStyleFactory>
+#include <QTimer>
 #include <QTranslator>
 #include <cstdio>
+#include <cstdlib>
 #include <iostream>
 
 #include "assets/resources.h"
@@ -13,6 +15,7 @@
 #include "panel/child_windows.h"
 #include "panel/command_line.h"
 #include "panel/run_driver.h"
+#include "panel/safekeeping.h"
 #include "widgets/message_box.h"
 
 using namespace tavorno;
@@ -31,7 +34,10 @@ void Apri_Progetto(const std::string& file, Progetto& progetto, Finestre& finest
 
 int main(int argc, char** argv) {
   const std::vector<std::string> tutte(argv + 1, argv + argc);
-  if (Solo_Domande(tutte)) return *Leggi_Riga_Di_Comando(tutte, std::cout, std::cerr).Stato;
+  if (Solo_Domande(tutte)) {
+    const int stato = *Leggi_Riga_Di_Comando(tutte, std::cout, std::cerr).Stato;
+    return std::cout.flush() ? stato : EXIT_FAILURE;  // an answer that is lost is none
+  }
   Applicazione applicazione(argc, argv);
   std::vector<std::string> parole;
   for (const QString& parola : Applicazione::arguments().sliced(1))
@@ -60,9 +66,11 @@ int main(int argc, char** argv) {
   FrmPLC pannello(plc, progetto);
   Guida_Corsa corsa(plc, [&pannello] { pannello.Aggiorna(); });
   Finestre finestre(pannello, plc, progetto, guida);
+  Salvaguardia salvaguardia(progetto, pannello, finestre, Cartella_Copie());
 
   applicazione.Fine_Fatale = [&](const Fatale& fatale) {
     corsa.Ferma();
+    salvaguardia.Scrivi_Ora();
     const std::string rapporto = Rapporto_Fine(fatale, plc);
     std::fprintf(stderr, "%s\n", rapporto.c_str());
     Mostra_Avviso(&pannello, {"Errore!", rapporto, Icona::Critica, Tasti::Ok, {}});
@@ -70,5 +78,8 @@ int main(int argc, char** argv) {
   };
   pannello.show();
   if (!comando.File.empty()) Apri_Progetto(comando.File, progetto, finestre);
-  return Applicazione::exec();
+  QTimer::singleShot(0, &salvaguardia, [&salvaguardia] { salvaguardia.Offri(); });
+  const int stato = Applicazione::exec();
+  salvaguardia.Congeda();
+  return stato;
 }

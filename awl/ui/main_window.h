@@ -28,6 +28,8 @@ class QToolBar;
 
 namespace tavorno {
 
+struct Copia_Progetto;
+
 /// The windows that the editor can ask for. An empty one switches its command off.
 struct Legami_Editor {
   std::function<void()> Mostra_Pannello;  ///< called once, when the window closes
@@ -46,6 +48,9 @@ class FrmMain : public QMainWindow {
 
   /// What the window opens for.
   void Avvia(Avvio Avvio_File);
+
+  /// Takes up a project that an earlier program has left unsaved.
+  void Riprendi(const Copia_Progetto& copia);
 
   /// Goes to the line that row `numero` of the last compile came from.
   void Vai_A_Riga(int numero);

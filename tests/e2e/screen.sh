@@ -16,7 +16,12 @@ editor='Editor AWL'
 open_screen() {
   work=$(mktemp -d)
   trap close_screen EXIT
-  export HOME=$work XDG_RUNTIME_DIR=$work XDG_CONFIG_HOME=$work QT_QPA_PLATFORM=xcb NO_AT_BRIDGE=1
+  export HOME=$work XDG_RUNTIME_DIR=$work XDG_CONFIG_HOME=$work XDG_STATE_HOME=$work/state
+  export QT_QPA_PLATFORM=xcb NO_AT_BRIDGE=1
+  start_screen "$@"
+}
+
+start_screen() {
   coproc xvfb { exec Xvfb -displayfd 1 -screen 0 "${1:-1280x800}x24" -nolisten tcp 2>"$work/Xvfb.log"; }
   helpers[Xvfb]=$xvfb_PID
   read -r -t "$limit" number <&"${xvfb[0]}" || { alive; fail "the screen has no number"; }
