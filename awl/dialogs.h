@@ -14,6 +14,7 @@ struct Richiesta_File {
   bool Salva = false;    ///< for writing, with a prompt before overwriting; else an existing file
   std::string Proposta;  ///< name offered, may be empty
   std::string Filtro;    ///< "File AWL (*.AWL)|*.AWL"
+  std::string Ultimo = {};  ///< full path that can be taken instead, may be empty
 };
 
 struct File_Scelto {

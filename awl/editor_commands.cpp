@@ -55,6 +55,27 @@ std::optional<File_Scelto> Progetto::Scegli_File(const Richiesta_File& richiesta
   return scelto;
 }
 
+/// A file that somebody else has changed is not replaced unasked.
+std::optional<File_Scelto> Progetto::Scegli_Dove_Scrivere(Richiesta_File richiesta) {
+  while (auto scelto = Scegli_File(richiesta)) {
+    const std::optional<Cambiamento> cambiato = Visti.Cambiato(scelto->Percorso);
+    if (!cambiato || cambiato->Tolto) return scelto;
+    const Avviso domanda{.Titolo = "Attenzione!",
+                         .Testo = "Il file \"" + scelto->Titolo +
+                                  "\" è stato cambiato da un altro programma " +
+                                  Momento_Italiano(cambiato->Ora) +
+                                  ", dopo che qui era stato letto o salvato.\n\nSalvare con un "
+                                  "altro nome? Con No il file viene sostituito.",
+                         .Simbolo = Icona::Domanda,
+                         .Scelte = Tasti::Si_No,
+                         .Dettagli = scelto->Percorso};
+    if (Avvisa(domanda) != Risposta::Si) return scelto;
+    const std::string estensione = scelto->Titolo.substr(Testo_Base(scelto->Titolo).size());
+    richiesta.Proposta = Testo_Base(scelto->Titolo) + "-copia" + estensione;
+  }
+  return std::nullopt;
+}
+
 // ---- texts --------------------------------------------------------------------------------------
 
 void Progetto::Scrivi_Main(std::string testo) {
@@ -153,7 +174,8 @@ void Progetto::mnuFileSave() {
     Annulla = -1;
     return;
   }
-  const auto scelto = Scegli_File({true, Proposta(File_Titolo, ".AWL"), filtro_awl});
+  const auto scelto =
+      Scegli_Dove_Scrivere({true, Proposta(File_Titolo, ".AWL"), filtro_awl, File_Salvato});
   if (!scelto) return;
   File_Salva = scelto->Percorso;
   stB[0] = "File: " + scelto->Titolo;
@@ -194,7 +216,8 @@ void Progetto::mnuFileTxtImp() {
 
 /// Asks for a name and writes one text there.
 void Progetto::Esporta(const std::string& testo) {
-  const auto scelto = Scegli_File({true, Proposta(File_Titolo, ".TXT"), filtro_txt_scrivi});
+  const auto scelto =
+      Scegli_Dove_Scrivere({true, Proposta(File_Titolo, ".TXT"), filtro_txt_scrivi});
   if (!scelto) return;
   File_Salva = scelto->Percorso;
   Annulla = Scrivi_Testo(testo) ? 0 : -1;

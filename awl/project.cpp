@@ -35,6 +35,11 @@ std::string Testo_Base(const std::string& testo) {
   return testo.substr(0, testo.find('.'));
 }
 
+std::string Titolo_Di(const std::string& percorso) {
+  const std::u8string nome = Percorso_Disco(percorso).filename().u8string();
+  return {nome.begin(), nome.end()};
+}
+
 Risposta Progetto::Avvisa(const Avviso& avviso) const {
   const auto& mostra = Chiedi.Mostra ? Chiedi.Mostra : Riserva.Mostra;
   return mostra ? mostra(avviso) : Risposta::Ok;
@@ -62,9 +67,10 @@ void Progetto::LeggiTxt() {
   Mostra_Rilievi_Lettura();
 }
 
-Contenuto_File Progetto::Contenuto(const std::string& percorso) const {
+Contenuto_File Progetto::Contenuto(const std::string& percorso) {
   Contenuto_File file = Leggi_File(percorso);
   if (!file.Errore.empty()) return file;
+  Visti.Nota(percorso, file.Byte);
   Testo_Letto letto = Riconosci(file.Byte);
   if (letto.Era == Codifica::Forse_Utf8) {
     const std::string parola = Parola_Accentata(file.Byte);
@@ -203,7 +209,10 @@ bool Progetto::SalvaFile() {
 
 bool Progetto::Scrivi_Testo(const std::string& testo) {
   const std::string errore = Scrivi_File(File_Salva, testo);
-  if (errore.empty()) return true;
+  if (errore.empty()) {
+    Visti.Nota(File_Salva, testo);
+    return true;
+  }
   Avvisa({.Titolo = "Errore!",
           .Testo = "Impossibile scrivere il file \"" + File_Salva + "\": " + errore +
                    "!\nIl file precedente non è stato toccato.",

@@ -14,6 +14,7 @@
 #include "awl/listing.h"
 #include "awl/program.h"
 #include "awl/reader.h"
+#include "awl/seen_files.h"
 #include "plc/memory.h"
 #include "plc/table.h"
 
@@ -85,6 +86,7 @@ struct Progetto : Stato_Progetto {
   Tabella<std::string, Righe_File_Massime - 1> Righe_Prog{"Righe_Prog"};  ///< the file as lines
   std::int16_t NRighe_Prog = 0;  ///< last used entry of `Righe_Prog`
   std::string File_Salva;        ///< path that the next write goes to
+  File_Visti Visti;              ///< files as they were last read or written here
 
   // ---- results
   // -----------------------------------------------------------------------------------
@@ -107,7 +109,7 @@ struct Progetto : Stato_Progetto {
   void Mostra_Rilievi_Lettura() const;
   /// What a file of text holds, in the code page. A file that may be UTF-8 and has no mark is asked
   /// about, or told about and left as it is when `Nessuno_Risponde`.
-  Contenuto_File Contenuto(const std::string& percorso) const;
+  Contenuto_File Contenuto(const std::string& percorso);
   /// The same from the bytes of a file.
   void Leggi_Byte(std::string_view byte);
   /// What every caller of a failed read says.
@@ -176,9 +178,13 @@ struct Progetto : Stato_Progetto {
   int Inserisci_Procedura();
   void Esporta(const std::string& testo);
   std::optional<File_Scelto> Scegli_File(const Richiesta_File& richiesta);
+  std::optional<File_Scelto> Scegli_Dove_Scrivere(Richiesta_File richiesta);
   void Sistemati() const;
   bool Scrivi_Testo(const std::string& testo);
 };
+
+/// The name of a file without its folders.
+std::string Titolo_Di(const std::string& percorso);
 
 /// The text before the first ".", or all of it.
 std::string Testo_Base(const std::string& testo);

@@ -4,9 +4,13 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
 
 #include "widgets/message_box.h"
+#include "widgets/naming.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -21,6 +25,31 @@ QString Filtro_Qt(const std::string& filtro) {
   const QString& maschera = parti[1];
   nome.remove(QStringLiteral(" (%1)").arg(maschera));
   return QStringLiteral("%1 (%2 %3)").arg(nome, maschera, maschera.toLower());
+}
+
+/// Offers the name last saved beside the one that is proposed. Called when all else is set.
+void Offri_Ultimo(QFileDialog& dialogo, const QString& ultimo) {
+  auto* nome = dialogo.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  auto* griglia = qobject_cast<QGridLayout*>(dialogo.layout());
+  if (ultimo.isEmpty() || nome == nullptr || griglia == nullptr ||
+      QDir::cleanPath(dialogo.directory().absoluteFilePath(nome->text())) ==
+          QDir::cleanPath(ultimo))
+    return;
+  auto* usa = Chiama(QStringLiteral("cmdUltimo"), new QPushButton);
+  QString titolo = QFileInfo(ultimo).fileName();
+  constexpr int larghezza = 420;
+  titolo = usa->fontMetrics().elidedText(titolo, Qt::ElideMiddle, larghezza);
+  usa->setText(QStringLiteral("&Ultimo nome usato: %1 (F2)").arg(titolo.replace('&', "&&")));
+  usa->setToolTip(ultimo);
+  usa->setAutoDefault(false);
+  const auto prendi = [nome, ultimo] {
+    nome->setText(QDir::toNativeSeparators(ultimo));
+    nome->setFocus();
+  };
+  QObject::connect(usa, &QPushButton::clicked, nome, prendi);
+  auto* tasto = new QShortcut(QKeySequence(Qt::Key_F2), &dialogo);
+  QObject::connect(tasto, &QShortcut::activated, nome, prendi);
+  griglia->addWidget(usa, griglia->rowCount(), 0, 1, griglia->columnCount(), Qt::AlignLeft);
 }
 
 /// Saves under the extension of its filter. The library leaves a name that has a dot as it is, and
@@ -60,6 +89,7 @@ std::optional<File_Scelto> Scegli_File(QWidget* sopra, const Richiesta_File& ric
   static QString cartella = QDir::homePath();
   dialogo.setDirectory(cartella);
   if (!richiesta.Proposta.empty()) dialogo.selectFile(Q(richiesta.Proposta));
+  Offri_Ultimo(dialogo, Q(richiesta.Ultimo));
   if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return std::nullopt;
   const QFileInfo scelto(dialogo.selectedFiles().constFirst());
   cartella = scelto.absolutePath();

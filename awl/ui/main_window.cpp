@@ -420,6 +420,8 @@ void FrmMain::resizeEvent(QResizeEvent* evento) {
 void FrmMain::changeEvent(QEvent* evento) {
   QMainWindow::changeEvent(evento);
   if (evento->type() == QEvent::WindowStateChange && tB1 != nullptr) Regola_Altezza();
+  if (evento->type() == QEvent::ActivationChange && isActiveWindow())
+    QTimer::singleShot(0, this, [this] { Guarda_Il_Disco(); });
 }
 
 void FrmMain::showEvent(QShowEvent* evento) {

@@ -100,6 +100,7 @@ class FrmMain : public QMainWindow {
   AwlEditor* Testo_Di(int testo);
   void Errore_Vicino(int verso);
   void Al_Primo_Errore();
+  void Guarda_Il_Disco();
 
   // main_window_history.cpp: undo beyond the texts
   /// The project with the texts that show it, their histories and marks.

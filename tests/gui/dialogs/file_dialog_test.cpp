@@ -7,7 +7,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTemporaryDir>
+#include <QtTest>
 
 #include "support/modal.h"
 #include "widgets/text.h"
@@ -116,6 +118,50 @@ TEST_F(FileChoice, ComesBackToTheFolderOfTheLastChoice) {
     dialogo.reject();
   });
   EXPECT_FALSE(scelta);
+}
+
+// The offer after a save is the title again, "NoName.AWL" for a new project; the name that was used
+// is one key away.
+TEST_F(FileChoice, ShowsTheNameLastUsedBesideTheOffer) {
+  Richiesta_File richiesta = salva;
+  richiesta.Ultimo = Utf8(Percorso("esercizio 1.2 & 3.AWL"));
+  for (const bool col_tasto : {true, false}) {
+    const Scelta scelta = Chiedi(richiesta, [&](QFileDialog& dialogo) {
+      auto* nome = dialogo.findChild<QLineEdit*>("fileNameEdit");
+      auto* usa = dialogo.findChild<QPushButton*>("cmdUltimo");
+      ASSERT_NE(usa, nullptr);
+      EXPECT_EQ(usa->text(), "&Ultimo nome usato: esercizio 1.2 && 3.AWL (F2)");
+      EXPECT_EQ(usa->toolTip(), Q(richiesta.Ultimo));
+      EXPECT_EQ(nome->text(), "NoName.AWL");
+      if (col_tasto) {
+        dialogo.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialogo));
+        QTest::keyClick(nome, Qt::Key_F2);
+      } else {
+        usa->click();
+      }
+      QMetaObject::invokeMethod(&dialogo, "accept");
+    });
+    ASSERT_TRUE(scelta) << col_tasto;
+    EXPECT_EQ(scelta->Percorso, richiesta.Ultimo);
+    EXPECT_EQ(scelta->Titolo, "esercizio 1.2 & 3.AWL");
+  }
+}
+
+TEST_F(FileChoice, ShowsNoNameThatIsOfferedAlready) {
+  const auto mostrato = [this](const std::string& ultimo) {
+    bool c_e = false;
+    Richiesta_File richiesta{true, "mio.AWL", salva.Filtro, ultimo};
+    Chiedi(richiesta, [&](QFileDialog& dialogo) {
+      c_e = dialogo.findChild<QPushButton*>("cmdUltimo") != nullptr;
+      dialogo.reject();
+    });
+    return c_e;
+  };
+  Chiedi(salva, [this](QFileDialog& dialogo) { Scrivi(dialogo, Percorso("mio.AWL")); });
+  EXPECT_FALSE(mostrato(""));
+  EXPECT_FALSE(mostrato(Utf8(Percorso("mio.AWL"))));
+  EXPECT_TRUE(mostrato("/altrove/mio.AWL"));
 }
 
 }  // namespace
