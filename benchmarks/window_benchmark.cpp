@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Lines per second of a program of 300 lines, flat out, with and without the windows that look on;
-// and what a run that waits at the top of its scan takes of a processor.
-// Usage: window_benchmark [SECONDS] [ROUNDS]
+// what a run that waits at the top of its scan takes of a processor, and how long the ladder of
+// such a program takes to be drawn anew. Usage: window_benchmark [SECONDS] [ROUNDS]
 #include <sys/resource.h>
 
 #include <QApplication>
@@ -19,6 +19,7 @@
 #include "assets/resources.h"
 #include "awl/project.h"
 #include "benchmarks/programs.h"
+#include "ladder/ui/ladder_window.h"
 #include "panel/panel_window.h"
 #include "panel/run_driver.h"
 #include "panel/windows/status_window.h"
@@ -61,7 +62,31 @@ double Senza_Finestre(double secondi) {
   return Righe_Al_Secondo(cpu.plc, secondi, [&] { cpu.plc.mnuPlcRun(); });
 }
 
+/// 300 lines in networks as exercises have them, all of which can be drawn.
+std::string Progetto_A_Reti() {
+  std::string testo = "ORGANIZATION_BLOCK MAIN:OB1\r\nTITLE=Misura\r\nBEGIN\r\n";
+  int righe = 0;
+  for (int n = 1; righe + 17 < 300; ++n) {
+    const std::string bit = std::to_string(n % 8);
+    testo += "NETWORK " + std::to_string(n) + " //Rete di misura\r\nLD I0." + bit + "\r\nO Q0." +
+             bit + "\r\nAN I1." + bit + "\r\nAW> VW" + bit + " +3\r\nLPS\r\nA M0." + bit +
+             "\r\n= Q0." + bit + "\r\nLPP\r\nTON T" + std::to_string(n) + " +50\r\nLD T" +
+             std::to_string(n) + "\r\nEU\r\nINCW VW" + bit + "\r\nLD SM0.5\r\nLD I1.7\r\nCTU C" +
+             bit + " +9\r\nLD C" + bit + "\r\nS M0." + bit + " 1\r\n";
+    righe += 18;
+  }
+  return testo + "END_ORGANIZATION_BLOCK\r\n";
+}
+
+void Leggi_Reti(Cpu& cpu) {
+  cpu.progetto.Leggi_Byte(Progetto_A_Reti());
+  cpu.progetto.Compila();
+  if (!cpu.progetto.Compilato) std::exit(3);
+}
+
 struct Sguardi {
+  bool Reti = false;      // the program in networks in place of the other one
+  bool Scala = false;     // its ladder is open, and larger than a screen
   bool Stati = false;     // the status window is open
   bool Spunte = false;    // stack and images are ticked
   bool Attesa = false;    // the run waits at the top of its scan
@@ -88,6 +113,7 @@ std::unique_ptr<Finestra_Impianto> Apri_Cilindri(Cpu& cpu, Stato_Impianto& stato
 
 double Con_Pannello(double secondi, Sguardi sguardi) {
   Cpu cpu;
+  if (sguardi.Reti) Leggi_Reti(cpu);
   FrmPLC pannello(cpu.plc, cpu.progetto);
   Guida_Corsa corsa(cpu.plc, [&] { pannello.Aggiorna(); });
   corsa.Attesa = sguardi.Attesa;
@@ -96,6 +122,9 @@ double Con_Pannello(double secondi, Sguardi sguardi) {
   pannello.Controlli().chkVs->setChecked(sguardi.Spunte);
   FrmStatiL finestra_stati(cpu.plc, nullptr);
   if (sguardi.Stati) finestra_stati.show();
+  FrmScala scala(cpu.plc, cpu.progetto, {}, {});
+  scala.resize(1366, 768);
+  if (sguardi.Scala) scala.show();
   Stato_Impianto stato;
   std::unique_ptr<Finestra_Impianto> impianto;
   if (sguardi.Impianto) impianto = Apri_Cilindri(cpu, stato);
@@ -108,6 +137,39 @@ double Con_Pannello(double secondi, Sguardi sguardi) {
   QApplication::processEvents();
   QTimer::singleShot(static_cast<int>(secondi * 1000), &pannello, [&] { cpu.plc.mnuPlcStop(); });
   return Righe_Al_Secondo(cpu.plc, secondi, [&] { cpu.plc.mnuPlcRun(); });
+}
+
+/// Milliseconds of a full redraw of the ladder, live, and of a look at the CPU: medians.
+void Misura_Scala(double zoom) {
+  Cpu cpu;
+  Leggi_Reti(cpu);
+  FrmScala scala(cpu.plc, cpu.progetto, {}, {});
+  scala.resize(1366, 768);
+  scala.show();
+  cpu.plc.mnuPlcStep();
+  cpu.plc.mnuPlcRun();
+  scala.Vista().Ingrandisci(zoom);
+  const auto mediana = [](const std::function<void()>& cosa) {
+    std::vector<double> tempi;
+    for (int n = 0; n < 41; ++n) {
+      const auto inizio = Orario::now();
+      cosa();
+      tempi.push_back(std::chrono::duration<double, std::milli>(Orario::now() - inizio).count());
+    }
+    std::sort(tempi.begin(), tempi.end());
+    return tempi[tempi.size() / 2];
+  };
+  QImage immagine(scala.Vista().viewport()->size(), QImage::Format_RGB32);
+  const double disegno = mediana([&] { scala.Vista().viewport()->render(&immagine); });
+  const double sguardo = mediana([&] { scala.Aggiorna(); });
+  const double da_capo = mediana([&] {
+    cpu.progetto.Scrivi_Main(cpu.progetto.txtList + "\r\n");
+    scala.Aggiorna();
+  });
+  std::printf(
+      "ladder of 300 lines at %3.0f %%: full redraw %5.2f ms, look at the CPU %5.2f ms, "
+      "text changed %5.2f ms\n",
+      zoom * 100, disegno, sguardo, da_capo);
 }
 
 double Secondi_Di_Processore() {
@@ -133,7 +195,11 @@ int main(int argc, char** argv) {
       {"panel, stack and images", [&] { return Con_Pannello(secondi, {.Spunte = true}); }},
       {"panel and status window", [&] { return Con_Pannello(secondi, {.Stati = true}); }},
       {"panel and open plant", [&] { return Con_Pannello(secondi, {.Motore = true}); }},
+      {"in networks, panel", [&] { return Con_Pannello(secondi, {.Reti = true}); }},
+      {"in networks, and ladder",
+       [&] { return Con_Pannello(secondi, {.Reti = true, .Scala = true}); }},
   };
+  for (const double zoom : {1.0, 0.5, 0.25, 2.0}) Misura_Scala(zoom);
   // Round by round, so that a noisy moment of the machine meets every case.
   std::map<const char*, std::vector<double>> misure;
   for (int giro = 0; giro < giri; ++giro) {

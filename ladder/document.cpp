@@ -4,6 +4,7 @@
 
 #include "ladder/layout.h"
 #include "ladder/project_ladder.h"
+#include "ladder/symbols.h"
 #include "ladder/to_list.h"
 #include "plc/codepage.h"
 #include "trace/markup.h"
@@ -80,7 +81,52 @@ class Documento {
   double larghezza_ = larghezza_minima;
 };
 
+/// A stretch of a drawing, `da` and on, as a document.
+Figura_Svg Ritaglia(const Tratteggio_Rete& forme, double da, double larghezza, double altezza) {
+  Figura_Svg figura;
+  figura.Larghezza = static_cast<int>(larghezza);
+  figura.Altezza = static_cast<int>(altezza);
+  const std::string misura =
+      std::to_string(figura.Larghezza) + "\" height=\"" + std::to_string(figura.Altezza) + "\"";
+  figura.Svg =
+      "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + misura + " viewBox=\"0 0 " +
+      std::to_string(figura.Larghezza) + " " + std::to_string(figura.Altezza) + "\">\n" + stile +
+      "<rect width=\"" + misura + " class=\"foglio\"/>\n<g transform=\"translate(" +
+      std::to_string(-static_cast<int>(da)) + " 0)\">\n" + Come_Svg(forme, {}) + "</g>\n</svg>\n";
+  return figura;
+}
+
 }  // namespace
+
+Figura_Svg Rete_Svg(const Diagramma& diagramma) {
+  const Tratteggio_Rete forme = Traccia_Forme(Impagina(diagramma), {});
+  return Ritaglia(forme, 0, forme.Larghezza, forme.Altezza);
+}
+
+Figura_Svg Simbolo_Svg(const Passo_Scala& passo) {
+  const Simbolo simbolo = Simbolo_Di(passo.Istr);
+  if (simbolo.Cosa == Ruolo::Pila) return {};
+  const bool contatto = simbolo.Cosa == Ruolo::Contatto || simbolo.Cosa == Ruolo::Trasforma;
+  Piolo piolo;
+  for (int n = 0; n < simbolo.Ingressi && simbolo.Cosa != Ruolo::Da_Solo; ++n)
+    piolo.Ingressi.emplace_back();
+  if (contatto) {
+    piolo.Ingressi.front().push_back({passo, {}});
+    piolo.Ingressi.front().front().Passo.Istr =
+        simbolo.Cosa == Ruolo::Contatto ? simbolo.Base : passo.Istr;
+  } else {
+    piolo.Seguito.push_back({{}, passo, {}});
+  }
+  const Disegno disegno = Impagina({piolo});
+  Tratteggio_Rete forme = Traccia_Forme(disegno, {});
+  // The rail and the wire to a coil are no part of it.
+  std::erase_if(forme.Tratti, [](const Asta& asta) { return asta.Riquadro < 0; });
+  const Riquadro& riquadro = disegno.Riquadri.front();
+  const bool da_solo = simbolo.Cosa == Ruolo::Da_Solo;
+  const double larghezza = larghezza_cella * (da_solo ? 2 : riquadro.Larghezza);
+  return Ritaglia(forme, margine_forme + riquadro.Colonna * larghezza_cella, larghezza,
+                  riquadro.Altezza * altezza_cella);
+}
 
 std::string Documento_Svg(std::span<const Blocco_Scala> blocchi, const std::string& titolo,
                           const Nome_Simbolico& nome) {

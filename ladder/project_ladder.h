@@ -33,6 +33,16 @@ struct Blocco_Scala {
 /// The networks of a project that was read, row by row. Empty networks are kept.
 std::vector<Blocco_Scala> Scala_Di(std::span<const Riga_Src> righe);
 
+/// A network alone as a document, with its size in pixels.
+struct Figura_Svg {
+  std::string Svg;
+  int Larghezza = 0, Altezza = 0;
+};
+Figura_Svg Rete_Svg(const Diagramma& diagramma);
+/// The symbol of an instruction, as it stands in a diagram; an empty text for what has none, as
+/// LPS.
+Figura_Svg Simbolo_Svg(const Passo_Scala& passo);
+
 /// All of it as a document for paper and screen.
 std::string Documento_Svg(std::span<const Blocco_Scala> blocchi, const std::string& titolo,
                           const Nome_Simbolico& nome);

@@ -34,7 +34,7 @@ double Lama_Al_Centro(bool chiuso) {
   return chiuso ? 2.9 : -4.5;
 }
 
-void Contatto_Lama(Disegno& d, bool chiuso, double x, double y) {
+void Contatto_Lama(Tavola& d, bool chiuso, double x, double y) {
   d.Linea(x, y, x, y + fisso);
   d.Linea(x, y + perno, x, y + altezza_simbolo);
   if (chiuso) {
@@ -46,7 +46,7 @@ void Contatto_Lama(Disegno& d, bool chiuso, double x, double y) {
 }
 
 /// The roller's triangle of a position switch lies on the blade.
-void Triangolo_Fine_Corsa(Disegno& d, bool chiuso, double x, double y) {
+void Triangolo_Fine_Corsa(Tavola& d, bool chiuso, double x, double y) {
   if (chiuso)
     d.Tracciato(Percorso("M", x + 1.9, y + 19, "L", x + 4.2, y + 10, "L", x + 8.5, y + 18, "Z"));
   else
@@ -54,7 +54,7 @@ void Triangolo_Fine_Corsa(Disegno& d, bool chiuso, double x, double y) {
 }
 
 /// The operator of a contact, around (x, y); its link leaves to the right.
-void Comando(Disegno& d, Apparecchio tipo, double x, double y) {
+void Comando(Tavola& d, Apparecchio tipo, double x, double y) {
   switch (tipo) {
     case Pulsante:
       d.Tracciato(Percorso("M", x + 2, y - 6, "h", -5, "v", 12, "h", 5));
@@ -88,7 +88,7 @@ void Comando(Disegno& d, Apparecchio tipo, double x, double y) {
       break;
     case Termostato:
       d.Rettangolo(x - 6, y - 7, 11, 14);
-      d.Testo(x - 0.5, y + 4, "θ", 11, Disegno::Ancora::Mezzo);
+      d.Testo(x - 0.5, y + 4, "θ", 11, Tavola::Ancora::Mezzo);
       break;
     default:
       break;
@@ -99,7 +99,7 @@ bool Ha_Comando(Apparecchio tipo) {
   return tipo != Contatto && tipo != Ausiliario && tipo != Fine_Corsa;
 }
 
-void Contatto_Comandato(Disegno& d, const Dispositivo& dispositivo, double x, double y) {
+void Contatto_Comandato(Tavola& d, const Dispositivo& dispositivo, double x, double y) {
   const bool chiuso = dispositivo.Chiuso_A_Riposo;
   constexpr double mezzo = 14;
   constexpr double posto_comando = -14;
@@ -116,18 +116,18 @@ void Contatto_Comandato(Disegno& d, const Dispositivo& dispositivo, double x, do
 }
 
 /// A box in the wire, with its leads.
-void Scatola(Disegno& d, double x, double y, double larghezza, double altezza) {
+void Scatola(Tavola& d, double x, double y, double larghezza, double altezza) {
   const double margine = (altezza_simbolo - altezza) / 2;
   d.Linea(x, y, x, y + margine);
   d.Linea(x, y + margine + altezza, x, y + altezza_simbolo);
   d.Rettangolo(x - larghezza / 2, y + margine, larghezza, altezza);
 }
 
-void Testo_Al_Centro(Disegno& d, double x, double y, const char* testo, double altezza) {
-  d.Testo(x, y + altezza_simbolo / 2 + altezza * 0.36, testo, altezza, Disegno::Ancora::Mezzo);
+void Testo_Al_Centro(Tavola& d, double x, double y, const char* testo, double altezza) {
+  d.Testo(x, y + altezza_simbolo / 2 + altezza * 0.36, testo, altezza, Tavola::Ancora::Mezzo);
 }
 
-void Simbolo_Lampada(Disegno& d, double x, double y) {
+void Simbolo_Lampada(Tavola& d, double x, double y) {
   constexpr double raggio = 8;
   constexpr double croce = raggio * 0.7071;
   const double centro = y + altezza_simbolo / 2;
@@ -139,7 +139,7 @@ void Simbolo_Lampada(Disegno& d, double x, double y) {
 }
 
 /// A coil that works a valve.
-void Simbolo_Elettrovalvola(Disegno& d, double x, double y) {
+void Simbolo_Elettrovalvola(Tavola& d, double x, double y) {
   Scatola(d, x, y, 12, 12);
   const double centro = y + altezza_simbolo / 2;
   d.Linea(x - 6, centro + 6, x + 6, centro - 6);
@@ -149,7 +149,7 @@ void Simbolo_Elettrovalvola(Disegno& d, double x, double y) {
 
 }  // namespace
 
-void Disegna_Simbolo(Disegno& disegno, const Dispositivo& dispositivo, double x, double y) {
+void Disegna_Simbolo(Tavola& disegno, const Dispositivo& dispositivo, double x, double y) {
   switch (dispositivo.Tipo) {
     case Bobina:
       Scatola(disegno, x, y, 20, 12);

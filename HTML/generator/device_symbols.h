@@ -10,6 +10,6 @@ namespace tavorno {
 inline constexpr double altezza_simbolo = 28;
 
 /// Draws the symbol of IEC 60617 in the vertical wire at `x`, its operator on the left.
-void Disegna_Simbolo(Disegno& disegno, const Dispositivo& dispositivo, double x, double y);
+void Disegna_Simbolo(Tavola& disegno, const Dispositivo& dispositivo, double x, double y);
 
 }  // namespace tavorno

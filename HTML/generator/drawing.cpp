@@ -29,35 +29,35 @@ std::string Numero_Svg(double valore) {
   return testo;
 }
 
-void Disegno::Linea(double x1, double y1, double x2, double y2) {
+void Tavola::Linea(double x1, double y1, double x2, double y2) {
   elementi_ += "<line" + Estremi(x1, y1, x2, y2) + "/>\n";
 }
 
-void Disegno::Tratteggio(double x1, double y1, double x2, double y2) {
+void Tavola::Tratteggio(double x1, double y1, double x2, double y2) {
   elementi_ += "<line" + Estremi(x1, y1, x2, y2) + " stroke-dasharray=\"2 2\"/>\n";
 }
 
-void Disegno::Tracciato(std::string_view dati) {
+void Tavola::Tracciato(std::string_view dati) {
   elementi_ += "<path d=\"" + std::string(dati) + "\"/>\n";
 }
 
-void Disegno::Rettangolo(double x, double y, double larghezza, double altezza) {
+void Tavola::Rettangolo(double x, double y, double larghezza, double altezza) {
   elementi_ += "<rect" + Attributo("x", x) + Attributo("y", y) + Attributo("width", larghezza) +
                Attributo("height", altezza) + "/>\n";
 }
 
-void Disegno::Cerchio(double x, double y, double raggio) {
+void Tavola::Cerchio(double x, double y, double raggio) {
   elementi_ +=
       "<circle" + Attributo("cx", x) + Attributo("cy", y) + Attributo("r", raggio) + "/>\n";
 }
 
-void Disegno::Punto(double x, double y) {
+void Tavola::Punto(double x, double y) {
   elementi_ += "<circle" + Attributo("cx", x) + Attributo("cy", y) +
                " r=\"2\" fill=\"#000\" stroke=\"none\"/>\n";
 }
 
-void Disegno::Testo(double x, double y, std::string_view testo, double altezza, Ancora ancora,
-                    bool neretto) {
+void Tavola::Testo(double x, double y, std::string_view testo, double altezza, Ancora ancora,
+                   bool neretto) {
   elementi_ += "<text" + Attributo("x", x) + Attributo("y", y) + Attributo("font-size", altezza);
   if (ancora != Ancora::Inizio)
     elementi_ += ancora == Ancora::Mezzo ? " text-anchor=\"middle\"" : " text-anchor=\"end\"";
@@ -65,7 +65,7 @@ void Disegno::Testo(double x, double y, std::string_view testo, double altezza, 
   elementi_ += " fill=\"#000\" stroke=\"none\">" + Html(testo) + "</text>\n";
 }
 
-std::string Disegno::Svg(double larghezza, double altezza, std::string_view titolo) const {
+std::string Tavola::Svg(double larghezza, double altezza, std::string_view titolo) const {
   const std::string misure = Numero_Svg(larghezza) + " " + Numero_Svg(altezza);
   return "<svg xmlns=\"http://www.w3.org/2000/svg\"" + Attributo("width", larghezza) +
          Attributo("height", altezza) + " viewBox=\"0 0 " + misure + "\">\n<title>" + Html(titolo) +

@@ -7,7 +7,7 @@
 namespace tavorno {
 
 /// Writes a picture in black lines on white, element by element. Lengths in pixels at 100 %.
-class Disegno {
+class Tavola {
  public:
   enum class Ancora { Inizio, Mezzo, Fine };
 

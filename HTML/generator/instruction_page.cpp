@@ -8,6 +8,7 @@
 
 #include "HTML/generator/html_text.h"
 #include "HTML/generator/instruction_notes.h"
+#include "HTML/generator/ladder_pictures.h"
 #include "HTML/generator/operand_words.h"
 #include "plc/instructions.h"
 
@@ -91,7 +92,8 @@ std::string Riga(const Istruzione& istruzione) {
                       Scrittura(istruzione, nota) + "</td><td>" + Html(istruzione.Aiuto) + ".";
   if (nota != nullptr && *nota->Testo != '\0')
     testo += "<br><i>" + std::string(nota->Testo) + "</i>";
-  return testo + "</td></tr>\n";
+  const std::string simbolo = Richiamo_Simbolo(istruzione);
+  return testo + "</td><td>" + (simbolo.empty() ? "–" : simbolo) + "</td></tr>\n";
 }
 
 std::string Operandi(const Regola* regola) {
@@ -109,7 +111,8 @@ std::string Operandi(const Regola* regola) {
 
 std::string Tabella(const Elenco& righe) {
   std::string testo =
-      "<table>\n<tr><th>Istruzione</th><th>Si scrive</th><th>Che cosa fa</th></tr>\n";
+      "<table>\n<tr><th>Istruzione</th><th>Si scrive</th><th>Che cosa fa</th>"
+      "<th>Simbolo</th></tr>\n";
   for (const Istruzione* istruzione : righe) testo += Riga(*istruzione);
   return testo + "</table>\n" + Operandi(righe.front()->Operandi);
 }
@@ -169,10 +172,12 @@ constexpr const char* testa =
 <link rel="stylesheet" type="text/css" href="style.css">
 </head>
 <body>
-<p class="nav"><a href="Index.htm">Indice</a> | <a href="Index-AWL.htm">AWL</a> | <b>Istruzioni</b></p>
+<p class="nav"><a href="Index.htm">Indice</a> | <a href="Index-AWL.htm">AWL</a> | <a href="SCALA.htm">Schema a contatti</a> | <b>Istruzioni</b></p>
 <h1>Istruzioni supportate</h1>
 <p>Ogni istruzione che il simulatore conosce, famiglia per famiglia: come si scrive, quali operandi
-accetta, che cosa fa. Per imparare a usarle c'è la <a href="Index-AWL.htm">guida al linguaggio AWL</a>.</p>
+accetta, che cosa fa, e con quale simbolo sta nello schema a contatti. Per imparare a usarle c'è la
+<a href="Index-AWL.htm">guida al linguaggio AWL</a>, e la guida allo
+<a href="SCALA.htm">schema a contatti</a>.</p>
 )";
 
 constexpr const char* dopo_indice =

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "HTML/generator/pages.h"
 
+#include <algorithm>
+#include <cctype>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -8,6 +10,7 @@
 #include "HTML/generator/html_text.h"
 #include "HTML/generator/instruction_page.h"
 #include "HTML/generator/io_table.h"
+#include "HTML/generator/ladder_pictures.h"
 #include "HTML/generator/wiring_diagram.h"
 
 namespace tavorno {
@@ -40,14 +43,24 @@ void Scrivi(const fs::path& file, const std::string& testo) {
   if (!flusso.flush()) throw std::runtime_error("non si può scrivere " + file.string());
 }
 
-/// The files of one folder that belong to the help; folders below it are not looked at.
-void Copia_File(const fs::path& da, const fs::path& a) {
+/// The name that the drawings of a page begin with: "SCALA.htm" has "scala-1.svg".
+std::string Nome_Figure(const fs::path& pagina) {
+  std::string nome = pagina.stem().string();
+  std::ranges::transform(nome, nome.begin(), [](unsigned char c) { return std::tolower(c); });
+  return nome;
+}
+
+/// The files of one folder that belong to the help; folders below it are not looked at. Drawings
+/// of what pages tell as lists are added to `figure`.
+void Copia_File(const fs::path& da, const fs::path& a, Figure_Scala& figure) {
   if (!fs::is_directory(da)) return;
   for (const fs::directory_entry& voce : fs::directory_iterator(da)) {
     const std::string tipo = voce.path().extension().string();
     const bool della_guida = tipo == ".htm" || tipo == ".css" || tipo == ".svg";
-    if (voce.is_regular_file() && della_guida && voce.path().filename() != modello)
-      Scrivi(a / voce.path().filename(), Per_Il_Visore(Leggi(voce.path())));
+    if (!voce.is_regular_file() || !della_guida || voce.path().filename() == modello) continue;
+    std::string testo = Leggi(voce.path());
+    if (tipo == ".htm") testo = Affianca_Scala(testo, Nome_Figure(voce.path()), figure);
+    Scrivi(a / voce.path().filename(), Per_Il_Visore(testo));
   }
 }
 
@@ -67,8 +80,10 @@ std::string Completa_Pagina(const std::string& pagina, const Pagina_Esercizio& e
 
 void Scrivi_Guida(const fs::path& sorgente, const fs::path& destinazione,
                   std::span<const Pagina_Esercizio> esercizi) {
+  Figure_Scala figure = Figure_Simboli();
   for (const char* cartella : {".", "pictures", "Panel", "Panel/pictures"})
-    Copia_File(sorgente / cartella, destinazione / cartella);
+    Copia_File(sorgente / cartella, destinazione / cartella, figure);
+  for (const auto& [file, svg] : figure) Scrivi(destinazione / "pictures" / file, svg);
   Scrivi(destinazione / "SET_IST.htm", Pagina_Istruzioni());
   for (const Pagina_Esercizio& esercizio : esercizi) {
     const fs::path pannello = destinazione / "Panel";

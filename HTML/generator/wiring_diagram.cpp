@@ -80,21 +80,21 @@ double Disponi(std::vector<Filo>& fili, double passo) {
 }
 
 /// A circle on the edge of the PLC, and its address inside.
-void Disegna_Morsetto(Disegno& d, const Filo& filo, double y, double y_testo) {
+void Disegna_Morsetto(Tavola& d, const Filo& filo, double y, double y_testo) {
   d.Cerchio(filo.X, y, 2.5);
-  d.Testo(filo.X, y_testo, filo.Riga->Indirizzo, 9, Disegno::Ancora::Mezzo);
+  d.Testo(filo.X, y_testo, filo.Riga->Indirizzo, 9, Tavola::Ancora::Mezzo);
 }
 
-void Disegna_Sigla(Disegno& d, const Filo& filo, double y) {
-  d.Testo(filo.X + 3, y, filo.Riga->Simbolo, 9, Disegno::Ancora::Inizio, true);
+void Disegna_Sigla(Tavola& d, const Filo& filo, double y) {
+  d.Testo(filo.X + 3, y, filo.Riga->Simbolo, 9, Tavola::Ancora::Inizio, true);
 }
 
-void Disegna_Ingresso(Disegno& d, const Filo& filo) {
+void Disegna_Ingresso(Tavola& d, const Filo& filo) {
   if (Analogico(filo)) {
     d.Linea(filo.X - 6, y_contatti - 6, filo.X + 6, y_contatti - 6);
     d.Linea(filo.X, y_contatti - 6, filo.X, y_contatti);
     d.Testo(filo.X + 9, y_contatti - 3, "M", 8);
-    d.Testo(filo.X, y_sigla - 8, filo.Riga->Simbolo, 9, Disegno::Ancora::Mezzo, true);
+    d.Testo(filo.X, y_sigla - 8, filo.Riga->Simbolo, 9, Tavola::Ancora::Mezzo, true);
   } else {
     d.Punto(filo.X, y_piu);
     d.Linea(filo.X, y_piu, filo.X, y_contatti);
@@ -105,7 +105,7 @@ void Disegna_Ingresso(Disegno& d, const Filo& filo) {
   Disegna_Morsetto(d, filo, y_plc, y_plc + 14);
 }
 
-void Disegna_Uscita(Disegno& d, const Filo& filo) {
+void Disegna_Uscita(Tavola& d, const Filo& filo) {
   Disegna_Morsetto(d, filo, y_plc_fine, y_plc_fine - 8);
   d.Linea(filo.X, y_plc_fine + 2.5, filo.X, y_carichi);
   Disegna_Simbolo(d, filo.Cosa, filo.X, y_carichi);
@@ -125,15 +125,15 @@ double Ultimo(const std::vector<Filo>& fili, bool anche_analogici) {
 }
 
 /// The rails with the supply of the PLC, and the PLC itself.
-void Disegna_Alimentazione(Disegno& d, double fine_piu, double fine_meno, double fine_plc) {
+void Disegna_Alimentazione(Tavola& d, double fine_piu, double fine_meno, double fine_plc) {
   const double y_lp = y_plc + 30;
   const double y_m = y_plc_fine - 26;
   d.Linea(x_alimentazione, y_piu, fine_piu, y_piu);
-  d.Testo(x_alimentazione - 6, y_piu - 8, "L+  24 V", 9.5, Disegno::Ancora::Inizio, true);
+  d.Testo(x_alimentazione - 6, y_piu - 8, "L+  24 V", 9.5, Tavola::Ancora::Inizio, true);
   d.Linea(x_alimentazione, y_piu, x_alimentazione, y_lp);
   d.Linea(x_alimentazione, y_lp, x_plc - 2.5, y_lp);
   d.Linea(x_alimentazione, y_meno, fine_meno, y_meno);
-  d.Testo(x_alimentazione - 6, y_meno + 16, "M  0 V", 9.5, Disegno::Ancora::Inizio, true);
+  d.Testo(x_alimentazione - 6, y_meno + 16, "M  0 V", 9.5, Tavola::Ancora::Inizio, true);
   d.Linea(x_alimentazione, y_meno, x_alimentazione, y_m);
   d.Linea(x_alimentazione, y_m, x_plc - 2.5, y_m);
 
@@ -142,7 +142,7 @@ void Disegna_Alimentazione(Disegno& d, double fine_piu, double fine_meno, double
   d.Testo(x_plc + 6, y_lp + 3.5, "L+", 9);
   d.Cerchio(x_plc, y_m, 2.5);
   d.Testo(x_plc + 6, y_m + 3.5, "M", 9);
-  d.Testo((x_plc + fine_plc) / 2, (y_plc + y_plc_fine) / 2 + 5, "PLC", 14, Disegno::Ancora::Mezzo,
+  d.Testo((x_plc + fine_plc) / 2, (y_plc + y_plc_fine) / 2 + 5, "PLC", 14, Tavola::Ancora::Mezzo,
           true);
 }
 
@@ -160,7 +160,7 @@ std::vector<Dispositivo> Voci(const std::vector<Filo>& ingressi, const std::vect
 }
 
 /// Returns where the legend ends.
-double Disegna_Legenda(Disegno& d, const std::vector<Dispositivo>& voci, double larghezza) {
+double Disegna_Legenda(Tavola& d, const std::vector<Dispositivo>& voci, double larghezza) {
   const int colonne = std::max(1, static_cast<int>((larghezza - margine) / larghezza_voce));
   int posto = 0;
   for (const Dispositivo& voce : voci) {
@@ -188,7 +188,7 @@ std::string Schema_Collegamenti(std::span<const Riga_IO> righe, const std::strin
   // Room for the legend, however small the exercise.
   const double larghezza = std::max(fine_plc + margine, 2.6 * larghezza_voce + margine);
 
-  Disegno d;
+  Tavola d;
   Disegna_Alimentazione(d, Ultimo(ingressi, false), Ultimo(uscite, true), fine_plc);
   for (const Filo& filo : ingressi) Disegna_Ingresso(d, filo);
   for (const Filo& filo : uscite) Disegna_Uscita(d, filo);

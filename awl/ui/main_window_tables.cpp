@@ -94,7 +94,7 @@ std::vector<Voce_Menu> Menu_Editor(Azioni_Editor& azioni) {
       {.Livello = 1,
        .Nome = "mnuViewKOP",
        .Testo = "Finestra S&calaro",
-       .Tasti = "F9",
+       .Tasti = "Ctrl+4",
        .Dove = &azioni.mnuViewKOP},
       {.Livello = 0, .Nome = "MnuHLP", .Testo = "&Help"},
       {.Livello = 1,

@@ -94,9 +94,11 @@ class Pittura {
   QRectF Posto(int simbolo) const {
     const auto indice = static_cast<std::size_t>(simbolo);
     QRectF posto = rete_.Cuori[indice];
-    // With its address, and wide enough for a stroke to be seen.
-    posto.setTop(std::max(posto.top() - 17, rete_.Celle[indice].top() + 2));
-    const double manca = std::max(0.0, 56 - posto.width());
+    // With its address and the plant's name, and wide enough for a stroke to be seen.
+    const QRectF& cella = rete_.Celle[indice];
+    posto.setTop(cella.top() + sporge + 1);
+    posto.setBottom(std::max(posto.bottom(), std::min(cella.bottom(), posto.bottom() + 12)));
+    const double manca = std::max(0.0, 64 - posto.width());
     return posto.adjusted(-manca / 2, 0, manca / 2, 0);
   }
   void Segna(int simbolo, const QColor& tinta) {

@@ -15,7 +15,7 @@ namespace tavorno {
 
 namespace {
 
-constexpr int larga = 34, alta = 26;  // of an icon, pixels
+constexpr int larga = 40, alta = 26;  // of an icon, pixels
 constexpr std::array tasti = {
     Simbolo_Barra{"mnuScNA", "Contatto aperto", "A "},
     Simbolo_Barra{"mnuScNC", "Contatto chiuso", "AN "},
@@ -43,12 +43,12 @@ void Disegna(QPainter& p, const std::string& istr) {
   const bool negato = segno.startsWith('/');
   if (negato) segno.remove(0, 1);
   if (scatola) {
-    p.drawRect(QRectF(4, 3, larga - 8, alta - 6));
-    p.drawLine(QPointF(0, y), QPointF(4, y));
-    p.drawText(QRectF(0, 0, larga, alta), Qt::AlignCenter, segno.left(4));
+    p.drawRect(QRectF(3, 3, larga - 6, alta - 6));
+    p.drawLine(QPointF(0, y), QPointF(3, y));
+    p.drawText(QRectF(0, 0, larga, alta), Qt::AlignCenter, segno);
     return;
   }
-  const double mezzo = segno.size() > 1 ? 10 : 6;
+  const double mezzo = segno.size() > 1 ? 13 : 6;
   p.drawLine(QPointF(1, y), QPointF(m - mezzo, y));
   p.drawLine(QPointF(m + mezzo, y), QPointF(larga - 1, y));
   if (accanto) {
@@ -86,7 +86,7 @@ QIcon Icona_Simbolo(const std::string& istr) {
     pittore.setRenderHint(QPainter::Antialiasing);
     pittore.setPen(QPen(colori::Scala_Testo.Testo, 1.6));
     QFont font = Carattere_Scala(Stile_Scritta::Nome);
-    font.setPixelSize(10);
+    font.setPixelSize(istr.size() > 3 ? 9 : 10);
     pittore.setFont(font);
     Disegna(pittore, istr);
     pittore.end();

@@ -2,6 +2,7 @@
 // What the view shows and where.
 #include "ladder/ui/ladder_view.h"
 
+#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QMouseEvent>
@@ -12,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ladder/ui/ladder_access.h"
 #include "ladder/ui/ladder_entry.h"
 #include "widgets/colours.h"
 #include "widgets/text.h"
@@ -33,6 +35,7 @@ Vista_Scala::Vista_Scala(const Plc& plc, const Stato_Progetto& progetto, Legami_
       progetto_(progetto),
       legami_(std::move(legami)),
       campo_(new Campo_Scala(viewport())) {
+  Offri_Schemi_Ai_Lettori();
   setObjectName(QStringLiteral("Vista_Scala"));
   setAccessibleName(QStringLiteral("Schema a contatti"));
   setFocusPolicy(Qt::StrongFocus);
@@ -237,8 +240,9 @@ void Vista_Scala::Scegli(int rete, int simbolo) {
   scelto_ = fino_ = std::min(simbolo, Rete(rete).Simboli() - 1);
   Ridipingi(rete_);
   Mostra(rete_, scelto_);
-  const QString detto = Descrizione();
-  setAccessibleDescription(detto);
+  setAccessibleDescription(Descrizione());
+  QAccessibleEvent qui(this, QAccessible::Focus);
+  QAccessible::updateAccessibility(&qui);
   if (Scelta_Cambiata) Scelta_Cambiata();
 }
 

@@ -52,6 +52,8 @@ class Vista_Scala : public QAbstractScrollArea {
   void Scegli(int rete, int simbolo);
   /// What there is to say of the chosen symbol, for a status bar or a screen reader.
   QString Descrizione() const;
+  /// The same of any symbol; -1: of its network.
+  QString In_Parole_Di(int rete, int simbolo) const;
   /// Its place in the view, pixels.
   QRect Posto(int rete, int simbolo) const;
 

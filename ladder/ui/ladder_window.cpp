@@ -122,7 +122,7 @@ void FrmScala::Racconta() {
 void FrmScala::Crea_Barre() {
   auto* barra = Chiama(QStringLiteral("tbScala"), new QToolBar(QStringLiteral("Simboli")));
   barra->setMovable(false);
-  barra->setIconSize(QSize(34, 26));
+  barra->setIconSize(QSize(40, 26));
   barra->setContextMenuPolicy(Qt::PreventContextMenu);
   addToolBar(barra);
   auto* simboli = new QMenu(this);

@@ -60,19 +60,22 @@ QString In_Parole(const Rete_Foglio& rete, int simbolo, const Stato_Rete& stato,
   return parole;
 }
 
+QString Vista_Scala::In_Parole_Di(int rete, int simbolo) const {
+  const Rete_Foglio& questa = Rete(rete);
+  if (simbolo >= 0)
+    return In_Parole(questa, simbolo, stati_[static_cast<std::size_t>(rete)], legami_.Nome);
+  QString parole = questa.Titolo.simplified();
+  if (!questa.Commento.isEmpty()) parole += ' ' + questa.Commento;
+  if (!questa.Disegnata()) return parole + ": " + questa.Lista.value(0);
+  return questa.Simboli() == 0 ? parole + QStringLiteral(": vuoto") : parole;
+}
+
 QString Vista_Scala::Descrizione() const {
   if (rete_ < 0) return QStringLiteral("Nessun segmento");
-  const Rete_Foglio& rete = Rete(rete_);
-  const QString dove =
-      rete.Titolo.simplified() + (rete.Commento.isEmpty() ? QString() : " " + rete.Commento);
-  if (!rete.Disegnata()) return dove + ": " + rete.Lista.value(0);
-  if (scelto_ < 0 || scelto_ >= rete.Simboli())
-    return dove + (rete.Simboli() == 0 ? QStringLiteral(": vuoto") : QString());
-  const int riga = rete.Come.Riquadri[static_cast<std::size_t>(scelto_)].Passo.Riga;
-  return QStringLiteral("%1, riga %2: %3")
-      .arg(dove)
-      .arg(riga)
-      .arg(In_Parole(rete, scelto_, stati_[static_cast<std::size_t>(rete_)], legami_.Nome));
+  const QString dove = In_Parole_Di(rete_, -1);
+  if (scelto_ < 0 || scelto_ >= Rete(rete_).Simboli()) return dove;
+  const int riga = Rete(rete_).Come.Riquadri[static_cast<std::size_t>(scelto_)].Passo.Riga;
+  return QStringLiteral("%1, riga %2: %3").arg(dove).arg(riga).arg(In_Parole_Di(rete_, scelto_));
 }
 
 }  // namespace tavorno

@@ -47,7 +47,7 @@ std::vector<Example> Examples(const char* name) {
 
 std::vector<Example> AllExamples() {
   std::vector<Example> all;
-  for (const char* name : {"Index.htm", "Index-AWL.htm", "SET_IST.htm"}) {
+  for (const char* name : {"Index.htm", "Index-AWL.htm", "SCALA.htm", "SET_IST.htm"}) {
     const std::vector<Example> examples = Examples(name);
     all.insert(all.end(), examples.begin(), examples.end());
   }
@@ -102,6 +102,7 @@ INSTANTIATE_TEST_SUITE_P(All, HelpExample, ::testing::ValuesIn(AllExamples()));
 TEST(HelpExamples, AreAsManyAsTheLanguageHasChapters) {
   EXPECT_GE(Examples("Index.htm").size(), 1U);
   EXPECT_GE(Examples("Index-AWL.htm").size(), 25U);
+  EXPECT_GE(Examples("SCALA.htm").size(), 14U);
   EXPECT_GE(Examples("SET_IST.htm").size(), 100U);
 }
 

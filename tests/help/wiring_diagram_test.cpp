@@ -131,7 +131,7 @@ TEST(Drawing, WritesLengthsWithAtMostTwoDecimals) {
 }
 
 TEST(Drawing, TextsMayHoldAnyCharacter) {
-  Disegno drawing;
+  Tavola drawing;
   drawing.Testo(0, 0, "a<b & \"c\"");
   const std::string picture = drawing.Svg(10, 10, "x > y");
   EXPECT_NE(picture.find(">a&lt;b &amp; &quot;c&quot;</text>"), std::string::npos);

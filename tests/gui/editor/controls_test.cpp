@@ -52,6 +52,7 @@ INSTANTIATE_TEST_SUITE_P(
         Caso_Voce{"mnuViewCode", 0, "mnuViewC(0)", "&Main"},
         Caso_Voce{"mnuViewCode", 1, "mnuViewC(1)", "&Procedure"},
         Caso_Voce{"mnuViewCode", 2, "mnuViewC(2)", "&Lista Errori Compilazione"},
+        Caso_Voce{"mnuView", 4, "", ""}, Caso_Voce{"mnuView", 5, "mnuViewKOP", "Finestra S&calaro"},
         Caso_Voce{"MnuHLP", 0, "MnuHLPIndex", "&Indice"},
         Caso_Voce{"MnuHLP", 1, "MnuHlpList", "&Lista istruzioni Supportate"},
         Caso_Voce{"MnuHLP", 2, "", ""}, Caso_Voce{"MnuHLP", 3, "MnuHLPInfo", "&About"}));
@@ -141,12 +142,13 @@ TEST_F(Controls, TheShortCutsReachTheirCommandsFromTheText) {
 TEST_F(Controls, ShortCuts) {
   Avvia(Avvio::Nuovo);
   const std::map<QString, QString> attesi = {
-      {"mnuFileNew", "Ctrl+N"},     {"mnuFileOpen", "Ctrl+O"},   {"mnuFileSave", "Ctrl+S"},
-      {"mnuFileTxtImp", "Ctrl+I"},  {"mnuFileTxtExp", "Ctrl+E"}, {"mnuFileStp", "Ctrl+P"},
-      {"mnuFileEnd", "Ctrl+Q"},     {"mnuPlcCompile", "F7"},     {"mnuPlcCarica", "F8"},
-      {"mnuViewC(0)", "Ctrl+1"},    {"mnuViewC(1)", "Ctrl+2"},   {"mnuViewC(2)", "Ctrl+3"},
-      {"MnuHLPIndex", "F1"},        {"MnuHlpList", "Shift+F1"},  {"CmdNet(0)", "Ctrl+Return"},
-      {"CmdNet(1)", "Ctrl+Return"}, {"cmdTest", "F9"},           {"cmdSub", "Ctrl+Shift+Return"}};
+      {"mnuFileNew", "Ctrl+N"},       {"mnuFileOpen", "Ctrl+O"},    {"mnuFileSave", "Ctrl+S"},
+      {"mnuFileTxtImp", "Ctrl+I"},    {"mnuFileTxtExp", "Ctrl+E"},  {"mnuFileStp", "Ctrl+P"},
+      {"mnuFileEnd", "Ctrl+Q"},       {"mnuPlcCompile", "F7"},      {"mnuPlcCarica", "F8"},
+      {"mnuViewC(0)", "Ctrl+1"},      {"mnuViewC(1)", "Ctrl+2"},    {"mnuViewC(2)", "Ctrl+3"},
+      {"mnuViewKOP", "Ctrl+4"},       {"MnuHLPIndex", "F1"},        {"MnuHlpList", "Shift+F1"},
+      {"CmdNet(0)", "Ctrl+Return"},   {"CmdNet(1)", "Ctrl+Return"}, {"cmdTest", "F9"},
+      {"cmdSub", "Ctrl+Shift+Return"}};
   std::map<QString, QString> presenti;
   for (const QAction* voce : finestra->findChildren<QAction*>())
     if (!voce->shortcut().isEmpty()) presenti[voce->objectName()] = voce->shortcut().toString();

@@ -26,6 +26,7 @@ class Banco_Editor : public ::testing::Test {
     legami.Mostra_Debug = [this] { chiamati += "debug "; };
     legami.Mostra_Stampe = [this] { chiamati += "stampe "; };
     legami.Mostra_Info = [this] { chiamati += "info "; };
+    legami.Mostra_Scala = [this] { chiamati += "scala "; };
     legami.Mostra_Aiuto = [this](const QString& pagina) { chiamati += Utf8(pagina) + " "; };
   }
 

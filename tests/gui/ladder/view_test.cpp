@@ -214,6 +214,32 @@ TEST_F(Scala, TheChosenSymbolIsToldInWords) {
   EXPECT_TRUE(Stato().endsWith("riquadro TON T37, +20")) << Utf8(Stato());
 }
 
+TEST_F(Scala, AScreenReaderFindsNetworksAndSymbols) {
+  nome_i00 = "SB2";
+  Apri(due_reti);
+  QAccessibleInterface* schema = QAccessible::queryAccessibleInterface(&Vista());
+  ASSERT_NE(schema, nullptr);
+  EXPECT_EQ(schema->text(QAccessible::Name), QString("Schema a contatti"));
+  ASSERT_EQ(schema->childCount(), 3);
+  QAccessibleInterface* rete = schema->child(0);
+  EXPECT_EQ(rete->text(QAccessible::Name), QString("NETWORK 1 Marcia"));
+  ASSERT_EQ(rete->childCount(), 4);
+  QAccessibleInterface* contatto = rete->child(0);
+  EXPECT_EQ(contatto->text(QAccessible::Name), QString("contatto aperto I0.0 (SB2)"));
+  EXPECT_EQ(contatto->parent(), rete);
+  EXPECT_EQ(rete->parent(), schema);
+  Vista().Scegli(0, 2);
+  EXPECT_EQ(schema->focusChild(), rete->child(2));
+  EXPECT_TRUE(rete->child(2)->state().focused);
+  EXPECT_EQ(rete->child(2)->rect().topLeft(),
+            Vista().viewport()->mapToGlobal(Vista().Posto(0, 2).topLeft()));
+  EXPECT_TRUE(schema->child(2)->text(QAccessible::Name).contains("Resta in lista"));
+  editor->Scrivi_Testo(0, "NETWORK 1\r\nLD I0.0\r\n= Q0.0\r\n");
+  scala->Aggiorna();
+  EXPECT_FALSE(rete->child(1) == nullptr);
+  EXPECT_EQ(rete->childCount(), 2);
+}
+
 TEST_F(Scala, TheWheelZoomsWithCtrlAndScrollsWithout) {
   std::string lungo;
   for (int n = 1; n <= 30; ++n) lungo += "NETWORK " + std::to_string(n) + "\nLD I0.0\n= M0.0\n";

@@ -5,6 +5,8 @@
 #include <QComboBox>
 #include <QLabel>
 
+#include "awl/ui/main_window.h"
+#include "ladder/ui/ladder_window.h"
 #include "panel/application.h"
 #include "panel/child_windows.h"
 #include "panel/panel_bed.h"
@@ -52,6 +54,52 @@ TEST_F(Esercizi_Dal_Menu, EachOpensAndClosesWithItsWindows) {
     EXPECT_TRUE(c.Fronte->Sim_I(0).isVisibleTo(&pannello));
     EXPECT_FALSE(c.Fronte->Sim_C().isVisibleTo(&pannello));
   }
+}
+
+TEST_F(Esercizi_Dal_Menu, TheLadderIsOursWhereNoOtherIsInstalledAndNamesThePlantsParts) {
+  const QByteArray percorsi = qgetenv("PATH");
+  qputenv("PATH", "");
+  Azione(pannello, "mnuViewKOP").trigger();
+  qputenv("PATH", percorsi);
+  EXPECT_TRUE(seduta.Avvisi.empty());
+  auto* scala = dynamic_cast<FrmScala*>(Finestra("frmScala"));
+  ASSERT_NE(scala, nullptr);
+  progetto.Scrivi_Main("NETWORK 1\r\nLD I0.0\r\n= Q0.0\r\n");
+  const auto nomi = [&] {
+    scala->Aggiorna();
+    QStringList nomi;
+    for (const Scritta_Pronta& scritta : scala->Vista().Foglio().Reti().at(0).Scritte)
+      if (scritta.Stile == Stile_Scritta::Simbolo) nomi << scritta.Testo;
+    return nomi;
+  };
+  EXPECT_EQ(nomi(), QStringList());
+  Azione(pannello, Voce(0)).trigger();
+  EXPECT_EQ(nomi(), (QStringList{"SB1", "KM"}));
+  Finestra("frmMA")->close();
+  EXPECT_EQ(nomi(), QStringList());
+  scala->close();
+}
+
+TEST_F(Esercizi_Dal_Menu, TheLadderWritesToTheEditorWhileThatIsOpen) {
+  finestre.Mostra_Scala();
+  auto* scala = dynamic_cast<FrmScala*>(Finestra("frmScala"));
+  EXPECT_FALSE(scala->Vista().Modificabile());
+  finestre.Mostra_Editor(Avvio::Nuovo);
+  scala->Aggiorna();
+  ASSERT_TRUE(scala->Vista().Modificabile());
+  scala->Vista().Scegli(0, -1);
+  scala->Vista().Metti(QStringLiteral("LD I0.3"));
+  EXPECT_NE(progetto.txtList.find("LD     I0.3"), std::string::npos);
+  scala->Vista().Vai_Al_Testo();
+  auto* editor = dynamic_cast<FrmMain*>(Finestra("frmMain"));
+  const auto posto = editor->Posto_Cursore();
+  ASSERT_TRUE(posto);
+  scala->Vista().Annulla(false);
+  EXPECT_EQ(progetto.txtList.find("LD     I0.3"), std::string::npos);
+  progetto.Testi_Salvati = progetto.Testi();
+  editor->close();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_FALSE(scala->Vista().Modificabile());
 }
 
 TEST_F(Esercizi_Dal_Menu, TheDefaultsOfAPlantReachTheInputsAtOnce) {

@@ -213,10 +213,11 @@ TEST_F(Schermi, EveryOtherWindowOpensWithinTheScreen) {
   finestre.Mostra_Impostazioni();
   finestre.Mostra_Analogici();
   finestre.Mostra_Debug();
+  finestre.Mostra_Scala();
   finestre.Mostra_Aiuto("/guida/Index.htm");
   finestre.Mostra_Editor(Avvio::Nuovo);
   Aspetta_Posa();
-  EXPECT_EQ(Mostrate().size(), 6U);
+  EXPECT_EQ(Mostrate().size(), 7U);
   for (QWidget* finestra : Mostrate()) Intera(*finestra);
 }
 

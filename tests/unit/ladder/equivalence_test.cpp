@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
 #include <random>
 #include <set>
@@ -180,8 +181,20 @@ bool Compila(Seduta& seduta, const std::string& testo) {
 
 }  // namespace
 
+/// A number of the environment, for longer runs than those of every day:
+/// TAVORNO_RANDOM_NETWORKS=1000000 TAVORNO_RANDOM_SEED=7 ladder_test --gtest_filter=Equivalenza.*
+long long Da_Fuori(const char* nome, long long senza) {
+  const char* testo = std::getenv(nome);
+  return testo == nullptr ? senza : std::atoll(testo);
+}
+
 TEST(Equivalenza, ADrawnProgramComputesWhatTheListComputes) {
-  std::mt19937 generatore(20261122);
+  std::mt19937 generatore(static_cast<std::uint32_t>(Da_Fuori("TAVORNO_RANDOM_SEED", 20261122)));
+  // A program has two procedures and one to six networks beside them.
+  constexpr int reti_per_programma = 5;
+  const long long quante =
+      Da_Fuori("TAVORNO_RANDOM_NETWORKS", TAVORNO_RANDOM_PROGRAMS * reti_per_programma);
+  long long reti = 0;
   const Caso caso = [&](unsigned massimo) {
     return static_cast<unsigned>(generatore() % (std::uint64_t{massimo} + 1));
   };
@@ -190,13 +203,13 @@ TEST(Equivalenza, ADrawnProgramComputesWhatTheListComputes) {
                                                     "00011110"};
   int disegnate = 0;
   int cambiate = 0;
-  for (int programmi = 0; programmi < TAVORNO_RANDOM_PROGRAMS;) {
+  while (reti < quante) {
     const std::string testo = autore.Programma();
     Seduta lista;
     if (!Compila(lista, testo)) continue;
-    ++programmi;
     const auto blocchi = Scala_Di(std::span(lista.progetto.Righe_Src.begin(),
                                             static_cast<std::size_t>(lista.plc.NRighe) + 1));
+    for (const Blocco_Scala& blocco : blocchi) reti += std::ssize(blocco.Reti);
     const std::string riscritto = Riscritto(blocchi, disegnate, cambiate);
     Seduta scala;
     ASSERT_TRUE(Compila(scala, riscritto)) << testo << "-->\n" << riscritto;
@@ -226,8 +239,11 @@ TEST(Equivalenza, ADrawnProgramComputesWhatTheListComputes) {
       if (!lista.plc.PLC_Acceso) break;
     }
   }
-  EXPECT_GT(disegnate, TAVORNO_RANDOM_PROGRAMS);
-  EXPECT_GT(cambiate, TAVORNO_RANDOM_PROGRAMS / 20);
+  RecordProperty("networks", std::to_string(reti));
+  RecordProperty("drawn", disegnate);
+  RecordProperty("rewritten", cambiate);
+  EXPECT_GT(disegnate, reti / reti_per_programma);
+  EXPECT_GT(cambiate, reti / reti_per_programma / 20);
 }
 
 }  // namespace tavorno::prova
