@@ -30,7 +30,7 @@ struct Controlli_Pannello {
   Lista_Programma* listSrc;
 
   QTabWidget *SSTb3, *SSTb4;
-  QCheckBox *chkList, *chkStop, *chkSol, *chkIP, *chkVs;
+  QCheckBox *chkList, *chkStop, *chkSol, *chkIP, *chkVs, *chkVal;
   QLabel *etTime, *etPc;
   QGroupBox* frSP;
   QPushButton *CmdStep, *cmdRest;

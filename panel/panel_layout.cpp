@@ -261,6 +261,17 @@ QWidget* Potenziometri(Controlli_Pannello& c) {
   return gruppo;
 }
 
+QLayout* Testata_Lista(Controlli_Pannello& c) {
+  c.chkVal = Spunta("chkVal", "Valori",
+                    "Accanto a ogni riga lo stato dei suoi operandi, e una barra dove passa "
+                    "corrente; una freccia segna la riga che sarà eseguita");
+  auto* testata = new QHBoxLayout;
+  testata->addWidget(Intestazione(QStringLiteral("Programma nella CPU")));
+  testata->addStretch();
+  testata->addWidget(c.chkVal);
+  return testata;
+}
+
 /// Everything below the tool bar. A narrow panel has one column, with the program list below the
 /// CPU; what has no room in the height scrolls.
 class Area_Pannello : public Area_Scorrevole {
@@ -357,7 +368,7 @@ Controlli_Pannello Crea_Controlli(QMainWindow& finestra, Plc& plc, Azioni_Pannel
   in_colonna->setContentsMargins(0, 0, 0, 0);
   c.listSrc = Chiama(QStringLiteral("listSrc"), new Lista_Programma);
   c.listSrc->setMinimumSize(260, 130);
-  in_colonna->addWidget(Intestazione(QStringLiteral("Programma nella CPU")));
+  in_colonna->addLayout(Testata_Lista(c));
   in_colonna->addWidget(c.listSrc, 1);
   in_colonna->addWidget(Potenziometri(c));
 

@@ -43,6 +43,39 @@ void FrmPLC::Aggiorna() {
   if (segni & Segno_Immagini) Mostra_Immagini();
   if (segni & Segno_Analogici) Mostra_Analogici();
   if (c_.chkVs->isChecked()) Mostra_Pila();
+  if (c_.chkVal->isChecked()) Mostra_Valori();
+}
+
+void FrmPLC::Guarda_Valori(bool accesi) {
+  flusso_.Dimentica();
+  passo_visto_ = {plc_.Lista_Scelta, plc_.PC, plc_.N_Cicli};
+  if (!accesi) return c_.listSrc->Mostra_Stati({});
+  c_.listSrc->Mostra_Stati([this](int riga) {
+    if (riga > plc_.NRighe) return Stato_Riga{};
+    const Stato_Operandi operandi = Leggi_Operandi(plc_, plc_.Prog[riga]);
+    return Stato_Riga{Q(operandi.Testo), operandi.Acceso,
+                      static_cast<Stato_Riga::Flusso>(flusso_.Di(riga))};
+  });
+  Mostra_Valori();
+}
+
+/// In a run the flow of one scan in so many is watched; a CPU that waits is watched at each step.
+void FrmPLC::Mostra_Valori() {
+  constexpr int giri_fra_due = 5;
+  const bool aspetta = plc_.PLC_Acceso && plc_.Attivi.CmdStep;
+  const Posto_CPU adesso{plc_.Lista_Scelta, plc_.PC, plc_.N_Cicli};
+  if (!plc_.PLC_Acceso) {
+    flusso_.Dimentica();
+  } else if (aspetta) {
+    flusso_.Fermo();
+    // Where nothing was executed yet, the line in the list is the one that is next.
+    if (adesso != passo_visto_ && plc_.Lista_Scelta != plc_.PC) flusso_.Passo();
+  } else if (++giri_di_valori_ >= giri_fra_due) {
+    giri_di_valori_ = 0;
+    flusso_.Chiedi();
+  }
+  passo_visto_ = adesso;
+  c_.listSrc->Aggiorna_Stati(aspetta ? plc_.PC : -1);
 }
 
 void FrmPLC::Mostra_Comandi() {

@@ -254,6 +254,8 @@ void FrmPLC::Collega_Controlli() {
   });
   connect(c_.chkVs, &QCheckBox::toggled, this, &FrmPLC::Mostra_Pila);
 
+  connect(c_.chkVal, &QCheckBox::toggled, this, &FrmPLC::Guarda_Valori);
+
   // The two stop conditions exclude each other.
   connect(c_.chkStop, &QCheckBox::toggled, this, [this](bool acceso) {
     plc_.Scelte.chkStop = acceso;
@@ -314,6 +316,7 @@ void FrmPLC::Attivata() {
   Abilita_Programma(caricata);
   plc_.Attivi.cmdRest = false;
   c_.cmdRest->setEnabled(false);
+  flusso_.Dimentica();
 }
 
 }  // namespace tavorno

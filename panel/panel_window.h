@@ -10,6 +10,7 @@
 #include "panel/panel_controls.h"
 #include "plants/cover_mode.h"
 #include "plc/plc.h"
+#include "trace/line_state.h"
 
 namespace tavorno {
 
@@ -86,6 +87,8 @@ class FrmPLC : public QMainWindow {
   void Mostra_Analogici();
   void Mostra_Modo();
   void Mostra_Tempo_Acceso();
+  void Mostra_Valori();
+  void Guarda_Valori(bool accesi);
 
   Plc& plc_;
   Progetto& progetto_;
@@ -93,6 +96,15 @@ class FrmPLC : public QMainWindow {
   Azioni_Pannello a_;
   Controlli_Pannello c_;
   std::int16_t acceso_mostrato_ = 0;
+
+  struct Posto_CPU {
+    int Eseguita = -1, Prossima = -1;
+    std::int32_t Scansione = -1;
+    bool operator==(const Posto_CPU&) const = default;
+  };
+  Flusso_Righe flusso_{plc_};
+  Posto_CPU passo_visto_;
+  int giri_di_valori_ = 0;  // refreshes since the flow was last asked for
 };
 
 }  // namespace tavorno

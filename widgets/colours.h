@@ -40,6 +40,12 @@ inline constexpr Coppia Scala_Aiuto{"help to an operand", Scala_Testo.Testo, {0x
 inline constexpr QColor Scala_Passa(0xff, 0xc9, 0xc2);    ///< inside a contact that lets power pass
 inline constexpr QColor Scala_Cursore(0x2f, 0x6f, 0xb5);  ///< beside the network of the caret
 inline constexpr QColor Scala_Bordo(0xb8, 0xbe, 0xc6);    ///< between networks
+inline constexpr Coppia Valore_Riga{"value beside a line", {0x1b, 0x1f, 0x24}, {0xe2, 0xe7, 0xed}};
+inline constexpr QColor Corrente(0x1f, 0x9d, 0x45);        ///< power flows behind a line
+inline constexpr QColor Senza_Corrente(0xb4, 0xbc, 0xc6);  ///< none does
+inline constexpr QColor Prossima_Riga(0x1f, 0x6f, 0x9e);   ///< mark of the next line
+inline constexpr Coppia Cella_Cambiata{"watched cell, changed", Nero, {0xff, 0xe9, 0x8a}};
+inline constexpr Coppia Cella_Forzata{"watched cell, forced", Bianco, {0xa8, 0x4a, 0x12}};
 
 /// The timing diagram, in the order of its list of what a colour stands for.
 inline constexpr QColor Tempi[] = {
@@ -85,6 +91,7 @@ inline constexpr Coppia Tutte[] = {
     In_Run,         In_Stop,        Bit_Uno,      Scala_Testo,    Scala_Commento, Scala_Simbolo,
     Scala_Vivo,     Scala_Valore,   Scala_Scelta, Scala_Presente, Scala_Errore,   Scala_Aiuto,
     Tempi_Nomi,     Tempi_Scelta,   Tempi_Asse,   Tempi_Gruppo,   Tempi_A,        Tempi_B,
-    Tempi_Valore_A, Tempi_Valore_B, Tempi_Segno,  Tempi_Trovato};
+    Tempi_Valore_A, Tempi_Valore_B, Tempi_Segno,  Tempi_Trovato,  Valore_Riga,    Cella_Cambiata,
+    Cella_Forzata};
 
 }  // namespace tavorno::colori

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "recorder/force.h"
+
+namespace tavorno {
+
+bool Si_Puo_Forzare(const Plc& plc) {
+  return !plc.PLC_Acceso || plc.Attivi.CmdStep;
+}
+
+std::string Forza(Plc& plc, const Indirizzo& indirizzo, double valore) {
+  if (!Si_Puo_Forzare(plc))
+    return "Mentre il programma gira non si può forzare: passa in Step, o fermalo.";
+  if (!Scrivi_Cella(plc, indirizzo, valore))
+    return "Il valore non sta in " + Testo_Indirizzo(indirizzo) + ".";
+  return {};
+}
+
+}  // namespace tavorno
