@@ -24,6 +24,7 @@
 #include "panel/run_driver.h"
 #include "panel/windows/status_window.h"
 #include "plants/host/host_window.h"
+#include "recorder/ui/diagram_window.h"
 
 using namespace tavorno;
 using Orario = std::chrono::steady_clock;
@@ -90,6 +91,8 @@ struct Sguardi {
   bool Stati = false;     // the status window is open
   bool Spunte = false;    // stack and images are ticked
   bool Attesa = false;    // the run waits at the top of its scan
+  bool Tempi = false;     // the timing diagram is open, live
+  bool Valori = false;    // the lines of the list show their values
   bool Motore = false;    // the first exercise is open and wired to the measured program
   bool Impianto = false;  // four cylinders at work, with the solved project of that exercise
 };
@@ -125,6 +128,12 @@ double Con_Pannello(double secondi, Sguardi sguardi) {
   FrmScala scala(cpu.plc, cpu.progetto, {}, {});
   scala.resize(1366, 768);
   if (sguardi.Scala) scala.show();
+  pannello.Controlli().chkVal->setChecked(sguardi.Valori);
+  std::unique_ptr<FrmTempi> tempi;
+  if (sguardi.Tempi) {
+    tempi = std::make_unique<FrmTempi>(cpu.plc);
+    tempi->show();
+  }
   Stato_Impianto stato;
   std::unique_ptr<Finestra_Impianto> impianto;
   if (sguardi.Impianto) impianto = Apri_Cilindri(cpu, stato);
@@ -194,6 +203,8 @@ int main(int argc, char** argv) {
       {"panel", [&] { return Con_Pannello(secondi, {}); }},
       {"panel, stack and images", [&] { return Con_Pannello(secondi, {.Spunte = true}); }},
       {"panel and status window", [&] { return Con_Pannello(secondi, {.Stati = true}); }},
+      {"panel and live diagram", [&] { return Con_Pannello(secondi, {.Tempi = true}); }},
+      {"panel, values in the list", [&] { return Con_Pannello(secondi, {.Valori = true}); }},
       {"panel and open plant", [&] { return Con_Pannello(secondi, {.Motore = true}); }},
       {"in networks, panel", [&] { return Con_Pannello(secondi, {.Reti = true}); }},
       {"in networks, and ladder",
@@ -225,5 +236,6 @@ int main(int argc, char** argv) {
   di_un_processore("panel", {});
   di_un_processore("panel, stack and images", {.Spunte = true});
   di_un_processore("panel and status window", {.Stati = true});
+  di_un_processore("panel and live diagram", {.Tempi = true});
   di_un_processore("panel and four cylinders at work", {.Impianto = true});
 }

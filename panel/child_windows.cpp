@@ -17,6 +17,7 @@
 #include "panel/windows/status_window.h"
 #include "plants/host/host_window.h"
 #include "recorder/ui/diagram_window.h"
+#include "recorder/ui/watch_window.h"
 #include "widgets/twips.h"
 
 namespace tavorno {
@@ -68,6 +69,7 @@ Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
   legami.Mostra_Analogici = [this] { Mostra_Analogici(); };
   legami.Mostra_Stati = [this] { Mostra_Stati(); };
   legami.Mostra_Scala = [this] { Mostra_Scala(); };
+  legami.Mostra_Osserva = [this] { Mostra_Osserva(); };
   legami.Mostra_Tempi = [this] { Mostra_Tempi(); };
   legami.Mostra_Info = [this] { Mostra_Info(); };
   legami.Mostra_Impianto = [this](int indice) { Apri_Impianto(indice); };
@@ -88,7 +90,7 @@ std::vector<QWidget*> Finestre::Tutte() const {
   std::vector<QWidget*> tutte;
   for (QWidget* finestra :
        std::initializer_list<QWidget*>{&pannello_, impianto_, editor_, impostazioni_, analogici_,
-                                       stati_, tempi_, debug_, scala_, aiuto_}) {
+                                       stati_, tempi_, osserva_, debug_, scala_, aiuto_}) {
     if (finestra != nullptr) tutte.push_back(finestra);
   }
   return tutte;
@@ -171,14 +173,10 @@ FrmStatiL& Finestre::Stati() {
   });
 }
 
-const Esercizio* Finestre::Impianto_Aperto() const {
-  return impianto_ ? &impianto_->Fili().Tabella() : nullptr;
-}
-
 void Finestre::Mostra_Tempi() {
   const bool nuova = tempi_.isNull();
   FrmTempi& finestra = Trova(tempi_, [this] {
-    auto* nuovo = new FrmTempi(plc_, Impianto_Aperto());
+    auto* nuovo = new FrmTempi(plc_, esercizio_);
     nuovo->setToolTip(QString::fromUtf8(tasti_ovunque));
     nuovo->Mostra_Aiuto = [this] { Mostra_Aiuto(guida_.Dir_Help + "Tempi.htm"); };
     return nuovo;
@@ -189,6 +187,22 @@ void Finestre::Mostra_Tempi() {
   Porta_Avanti(finestra);
 }
 
+void Finestre::Mostra_Osserva() {
+  Porta_Avanti(Trova(osserva_, [this] {
+    auto* finestra = new FrmOsserva(plc_, esercizio_);
+    Prepara(*finestra, "Tempi.htm#osservazione");
+    return finestra;
+  }));
+}
+
+/// The windows that show a plant's symbols.
+void Finestre::Cambia_Simboli(const Esercizio* impianto) {
+  esercizio_ = impianto;
+  if (tempi_) tempi_->Riparti(impianto);
+  if (osserva_) osserva_->Riparti(impianto);
+  if (scala_) scala_->Vista().Nomi_Cambiati();
+}
+
 void Finestre::Apri_Impianto(int indice) {
   pannello_.setCursor(Qt::WaitCursor);
   auto collegamento = std::make_unique<Collegamento>(
@@ -196,7 +210,6 @@ void Finestre::Apri_Impianto(int indice) {
       [this](Modo_Sportello modo) { pannello_.PLC_Sportello(modo); });
   Collegamento& fili = *collegamento;
   pannello_.Segna_Impianto(indice);
-  Apri_Esercizio(&Tabella_Esercizi()[static_cast<std::size_t>(indice)]);
   ordine_.Sta_Per_Aprire();
   Finestra_Impianto& finestra =
       Trova(impianto_, [&] { return new Finestra_Impianto(std::move(collegamento)); });
@@ -204,11 +217,10 @@ void Finestre::Apri_Impianto(int indice) {
   finestra.setToolTip(QString::fromUtf8(tasti_ovunque));
   finestra.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Panel + pagina); };
   finestra.Mostra_Tempi = [this] { Mostra_Tempi(); };
-  if (tempi_) tempi_->Riparti(&finestra.Fili().Tabella());
+  Cambia_Simboli(&finestra.Fili().Tabella());
   finestra.Chiusa = [this] {
     pannello_.Segna_Impianto(-1);
-    Apri_Esercizio(nullptr);
-    if (tempi_) tempi_->Riparti(nullptr);
+    Cambia_Simboli(nullptr);
     if (stati_) stati_->close();
     ordine_.Chiuse();
   };
@@ -233,11 +245,6 @@ void Finestre::Mostra_Debug() {
 }
 
 /// The ladder names its operands as the plant does.
-void Finestre::Apri_Esercizio(const Esercizio* esercizio) {
-  esercizio_ = esercizio;
-  if (scala_) scala_->Vista().Nomi_Cambiati();
-}
-
 void Finestre::Mostra_Scala() {
   Porta_Avanti(Trova(scala_, [this] {
     Legami_Scala legami;

@@ -22,6 +22,7 @@ class Finestra_Impianto;
 struct Copia_Progetto;
 class FrmDebug;
 class FrmMain;
+class FrmOsserva;
 class FrmScala;
 class FrmSetPLC;
 class FrmSimAI;
@@ -45,6 +46,8 @@ class Finestre {
   void Mostra_Stati();
   /// The timing diagram, of the open plant and the loaded program.
   void Mostra_Tempi();
+  /// Cells of the user's choice.
+  void Mostra_Osserva();
   void Mostra_Debug();
   void Mostra_Scala();
   void Mostra_Stampe();
@@ -64,8 +67,7 @@ class Finestre {
   void Prepara(QWidget& finestra, const char* pagina);
   FrmMain& Editor();
   FrmStatiL& Stati();
-  void Apri_Esercizio(const Esercizio* esercizio);
-  const Esercizio* Impianto_Aperto() const;
+  void Cambia_Simboli(const Esercizio* impianto);
   void Mostra_Modale(QDialog& dialogo);
   std::vector<QWidget*> Tutte() const;
   void Fuoco_A(const QWindow* finestra);
@@ -82,6 +84,7 @@ class Finestre {
   QPointer<FrmSimAI> analogici_;
   QPointer<FrmStatiL> stati_;
   QPointer<FrmTempi> tempi_;
+  QPointer<FrmOsserva> osserva_;
   QPointer<FrmDebug> debug_;
   QPointer<FrmScala> scala_;
   const Esercizio* esercizio_ = nullptr;  // that is open

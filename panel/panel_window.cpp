@@ -71,6 +71,7 @@ void FrmPLC::Collega_Finestre(Legami_Pannello legami) {
       {a_.mnuViewIO, legami_.Mostra_Analogici, bool(legami_.Mostra_Analogici)},
       {a_.mnuViewStati, legami_.Mostra_Stati, bool(legami_.Mostra_Stati)},
       {a_.mnuViewTempi, legami_.Mostra_Tempi, bool(legami_.Mostra_Tempi)},
+      {a_.mnuViewOsserva, legami_.Mostra_Osserva, bool(legami_.Mostra_Osserva)},
       {a_.mnuViewDisponi, legami_.Disponi_Finestre, bool(legami_.Disponi_Finestre)},
       {a_.mnuInfAb, legami_.Mostra_Info, bool(legami_.Mostra_Info)},
       {a_.mnuHlpGen, [this] { legami_.Mostra_Aiuto("Index.htm"); }, bool(legami_.Mostra_Aiuto)},

@@ -22,6 +22,7 @@ struct Legami_Pannello {
   std::function<void()> Mostra_Stati;
   std::function<void()> Mostra_Scala;
   std::function<void()> Mostra_Tempi;
+  std::function<void()> Mostra_Osserva;
   std::function<void()> Mostra_Info;
   std::function<void(int indice)> Mostra_Impianto;  ///< an exercise of the table
   std::function<void(const char* pagina)> Mostra_Aiuto;

@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QTableWidget>
 
 #include "awl/ui/main_window.h"
 #include "ladder/ui/ladder_window.h"
@@ -11,6 +12,8 @@
 #include "panel/child_windows.h"
 #include "panel/panel_bed.h"
 #include "panel/windows/status_window.h"
+#include "recorder/ui/diagram_window.h"
+#include "recorder/ui/watch_window.h"
 
 namespace tavorno {
 namespace {
@@ -157,6 +160,31 @@ TEST_F(Esercizi_Dal_Menu, ThePanelAndTheEditorOpenEveryOtherWindow) {
   EXPECT_TRUE(pannello.isVisible()) << "the editor leads back to the panel";
 }
 
+TEST_F(Esercizi_Dal_Menu, DiagramAndWatchWindowHaveTheSymbolsOfTheOpenPlant) {
+  Azione(pannello, "mnuViewTempi").trigger();
+  Azione(pannello, "mnuViewOsserva").trigger();
+  auto& tempi = dynamic_cast<FrmTempi&>(*Finestra("frmTempi"));
+  auto& osserva = dynamic_cast<FrmOsserva&>(*Finestra("frmOsserva"));
+  ASSERT_TRUE(osserva.Aggiungi("Q0.0"));
+  const auto cella = [&] {
+    return osserva.findChild<QTableWidget*>("tabOsserva")->item(0, 0)->text();
+  };
+  EXPECT_TRUE(tempi.Dati().Mostrati().empty()) << "no program names any";
+  Azione(pannello, Voce(0)).trigger();
+  EXPECT_EQ(tempi.Dati().Mostrati().size(), Tabella_Esercizi()[0].Righe_IO.size());
+  EXPECT_EQ(cella(), "KM  Q0.0");
+  tempi.close();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  Finestra("frmMA")->findChild<QAbstractButton*>("cmdTempi")->click();
+  ASSERT_NE(Finestra("frmTempi"), nullptr);
+  EXPECT_EQ(dynamic_cast<FrmTempi&>(*Finestra("frmTempi")).Dati().Mostrati().front().Nome,
+            Tabella_Esercizi()[0].Righe_IO[0].Simbolo);
+  Finestra("frmMA")->close();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(cella(), "Q0.0");
+  EXPECT_NE(Finestra("frmTempi"), nullptr) << "it shows the CPU, and stays";
+}
+
 TEST_F(Esercizi_Dal_Menu, EveryHelpCommandOpensItsPage) {
   guida.Dir_Help = "/guida/";
   guida.Dir_Panel = "/guida/Panel/";
@@ -223,10 +251,12 @@ TEST_F(Esercizi_Dal_Menu, RunStopAndStepWorkByTheirKeysFromEveryWindow) {
   finestre.Mostra_Impostazioni();
   finestre.Mostra_Analogici();
   finestre.Mostra_Debug();
+  finestre.Mostra_Tempi();
+  finestre.Mostra_Osserva();
   finestre.Mostra_Aiuto("/guida/Index.htm");
   const auto& etRun = *Finestra("frmMA")->findChild<QLabel*>("etRun");
-  for (const char* nome :
-       {"frmMA", "frmStatiL", "frmSetPLC", "frmSimAI", "frmDebug", "frmBrowser", "frmPLC"}) {
+  for (const char* nome : {"frmMA", "frmStatiL", "frmSetPLC", "frmSimAI", "frmDebug", "frmTempi",
+                           "frmOsserva", "frmBrowser", "frmPLC"}) {
     SCOPED_TRACE(nome);
     QWidget& finestra = *Finestra(nome);
     finestra.activateWindow();
@@ -265,9 +295,14 @@ TEST_F(Esercizi_Dal_Menu, F1OpensThePageOfTheWindow) {
   guida.Dir_Panel = "/guida/Panel/";
   Azione(pannello, Voce(9)).trigger();
   finestre.Mostra_Analogici();
-  const std::pair<const char*, const char*> pagine[] = {{"frmCancello", "/guida/Panel/US-09.htm"},
-                                                        {"frmStatiL", "/guida/Index.htm#stati"},
-                                                        {"frmSimAI", "/guida/Index.htm#pannello"}};
+  finestre.Mostra_Tempi();
+  finestre.Mostra_Osserva();
+  const std::pair<const char*, const char*> pagine[] = {
+      {"frmCancello", "/guida/Panel/US-09.htm"},
+      {"frmStatiL", "/guida/Index.htm#stati"},
+      {"frmSimAI", "/guida/Index.htm#pannello"},
+      {"frmTempi", "/guida/Tempi.htm"},
+      {"frmOsserva", "/guida/Tempi.htm#osservazione"}};
   for (const auto& [nome, pagina] : pagine) {
     QWidget& finestra = *Finestra(nome);
     finestra.activateWindow();

@@ -24,6 +24,7 @@ struct Finestre_Pannello : Banco_Pannello {
     legami.Mostra_Impostazioni = [this] { aperte.push_back("frmSetPLC"); };
     legami.Mostra_Analogici = [this] { aperte.push_back("frmSimAI"); };
     legami.Mostra_Stati = [this] { aperte.push_back("frmStatiL"); };
+    legami.Mostra_Osserva = [this] { aperte.push_back("frmOsserva"); };
     legami.Mostra_Tempi = [this] { aperte.push_back("frmTempi"); };
     legami.Mostra_Info = [this] { aperte.push_back("frmAbaut"); };
     legami.Mostra_Aiuto = [this](const char* pagina) { aperte.push_back(pagina); };
@@ -33,11 +34,14 @@ struct Finestre_Pannello : Banco_Pannello {
 
 TEST_F(Finestre_Pannello, EveryCommandOpensItsWindow) {
   const std::vector<std::pair<const char*, const char*>> comandi = {
-      {"mnuFileNew", "editor 2"},     {"mnuFileOpen", "editor 3"},   {"mnuViewSet", "frmSetPLC"},
-      {"mnuViewIO", "frmSimAI"},      {"mnuViewStati", "frmStatiL"}, {"mnuViewTempi", "frmTempi"},
-      {"mnuInfAb", "frmAbaut"},       {"mnuHlpGen", "Index.htm"},    {"mnuHlpSet", "SET_IST.htm"},
-      {"tB1(New)", "editor 2"},       {"tB1(Open)", "editor 3"},     {"tB1(SetPLC)", "frmSetPLC"},
-      {"tB1(SetIst)", "SET_IST.htm"}, {"tB1(Debug)", "frmStatiL"},   {"tB1(Info)", "frmAbaut"}};
+      {"mnuFileNew", "editor 2"},       {"mnuFileOpen", "editor 3"},
+      {"mnuViewSet", "frmSetPLC"},      {"mnuViewIO", "frmSimAI"},
+      {"mnuViewStati", "frmStatiL"},    {"mnuViewTempi", "frmTempi"},
+      {"mnuViewOsserva", "frmOsserva"}, {"mnuInfAb", "frmAbaut"},
+      {"mnuHlpGen", "Index.htm"},       {"mnuHlpSet", "SET_IST.htm"},
+      {"tB1(New)", "editor 2"},         {"tB1(Open)", "editor 3"},
+      {"tB1(SetPLC)", "frmSetPLC"},     {"tB1(SetIst)", "SET_IST.htm"},
+      {"tB1(Debug)", "frmStatiL"},      {"tB1(Info)", "frmAbaut"}};
   for (const auto& [comando, finestra] : comandi) {
     aperte.clear();
     Azione(pannello, comando).trigger();

@@ -214,10 +214,12 @@ TEST_F(Schermi, EveryOtherWindowOpensWithinTheScreen) {
   finestre.Mostra_Analogici();
   finestre.Mostra_Debug();
   finestre.Mostra_Scala();
+  finestre.Mostra_Tempi();
+  finestre.Mostra_Osserva();
   finestre.Mostra_Aiuto("/guida/Index.htm");
   finestre.Mostra_Editor(Avvio::Nuovo);
   Aspetta_Posa();
-  EXPECT_EQ(Mostrate().size(), 7U);
+  EXPECT_EQ(Mostrate().size(), 9U);
   for (QWidget* finestra : Mostrate()) Intera(*finestra);
 }
 
