@@ -12,9 +12,9 @@ namespace tavorno {
 std::optional<Posto_Riga> Meta(const Sorgente& testi, Posto_Riga da) {
   const std::vector<Riferimento> tutti = Riferimenti(testi);
   const auto qui = std::ranges::find(tutti, da, &Riferimento::Posto);
-  if (qui == tutti.end() || qui->Di.Genere == Cosa::Operando) return std::nullopt;
+  if (qui == tutti.end() || qui->Di.Genere == Genere_Nome::Operando) return std::nullopt;
   std::optional<Posto_Riga> meta;
-  if (qui->Di.Genere == Cosa::Procedura) {
+  if (qui->Di.Genere == Genere_Nome::Procedura) {
     for (std::size_t i = 0; i < testi.Procedure.size(); ++i) {
       if (Maiuscole(testi.Procedure[i].Nome) == qui->Di.Nome)
         meta = Posto_Riga{static_cast<int>(i) + 1, 0};

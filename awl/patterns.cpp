@@ -166,7 +166,7 @@ class Scelta {
     };
     const auto usato = [&](const std::string& nome) {
       return std::ranges::any_of(usati_, [&](const Riferimento& uso) {
-        return Tocca(uso, {Cosa::Operando, nome});
+        return Tocca(uso, {Genere_Nome::Operando, nome});
       });
     };
     for (const std::string& nome : candidati)

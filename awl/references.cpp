@@ -116,20 +116,21 @@ void Aggiungi_Linea(std::string_view linea, Posto_Riga posto, std::vector<Riferi
     if (operandi.empty()) return;
     const auto numero = Numero(operandi[0].Di(linea));
     if (numero)
-      aggiungi({Cosa::Etichetta, std::to_string(*numero)},
+      aggiungi({Genere_Nome::Etichetta, std::to_string(*numero)},
                compito == Compito::Salto ? Uso::Lettura : Uso::Definizione, operandi[0]);
     return;
   }
   if (Nomina_Procedura(compito)) {
     if (compito == Compito::Chiamata && !operandi.empty())
-      aggiungi({Cosa::Procedura, Maiuscole(operandi[0].Di(linea))}, Uso::Lettura, operandi[0]);
+      aggiungi({Genere_Nome::Procedura, Maiuscole(operandi[0].Di(linea))}, Uso::Lettura,
+               operandi[0]);
     return;
   }
   const Usi_Operandi usi = Usi_Istruzione(*istruzione);
   for (std::size_t i = 0; i < std::min<std::size_t>(operandi.size(), 2); ++i) {
     const std::string nome = Nome_Operando(operandi[i].Di(linea));
     if (nome.empty()) continue;
-    aggiungi({Cosa::Operando, nome}, i == 0 ? usi.Primo : usi.Secondo, operandi[i],
+    aggiungi({Genere_Nome::Operando, nome}, i == 0 ? usi.Primo : usi.Secondo, operandi[i],
              i == 0 ? Quanti_Scritti(*istruzione, linea, operandi) : 1);
   }
 }
@@ -176,7 +177,8 @@ std::optional<Nominato> Nominato_In(std::string_view linea, int colonna) {
 
 bool Tocca(const Riferimento& riferimento, const Nominato& quale) {
   if (riferimento.Di == quale) return true;
-  if (riferimento.Di.Genere != Cosa::Operando || quale.Genere != Cosa::Operando) return false;
+  if (riferimento.Di.Genere != Genere_Nome::Operando || quale.Genere != Genere_Nome::Operando)
+    return false;
   const Tratto suo = Tratto_Di(riferimento.Di.Nome, riferimento.Quanti);
   const Tratto cercato = Tratto_Di(quale.Nome, 1);
   return suo.Celle == cercato.Celle && suo.Prima < cercato.Prima + cercato.Quante &&

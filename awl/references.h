@@ -13,13 +13,13 @@
 // Where the texts of a project name operands, labels and procedures, as they stand in the editor.
 namespace tavorno {
 
-enum class Cosa : std::uint8_t { Operando, Etichetta, Procedura };
+enum class Genere_Nome : std::uint8_t { Operando, Etichetta, Procedura };
 
 /// What is named. `Nome` is its one form: an operand in capitals without leading zeros ("I0.3",
 /// "T37", "VW10"), the number of a label, the name of a procedure in capitals; bytes of the code
 /// page.
 struct Nominato {
-  Cosa Genere = Cosa::Operando;
+  Genere_Nome Genere = Genere_Nome::Operando;
   std::string Nome;
 
   bool operator==(const Nominato&) const = default;

@@ -78,14 +78,14 @@ std::string Rifiuto_Etichetta(const std::string& scritto) {
 Cambio_Nome Rinomina(const Sorgente& testi, const Nominato& vecchio, const std::string& nuovo) {
   Cambio_Nome cambio;
   const std::string scritto = Trim(nuovo);
-  const bool operando = vecchio.Genere == Cosa::Operando;
-  const bool procedura = vecchio.Genere == Cosa::Procedura;
+  const bool operando = vecchio.Genere == Genere_Nome::Operando;
+  const bool procedura = vecchio.Genere == Genere_Nome::Procedura;
   cambio.Nome = operando ? Nome_Operando(scritto) : scritto;
   cambio.Errore = operando    ? Rifiuto_Operando(vecchio.Nome, cambio.Nome, scritto)
                   : procedura ? Rifiuto_Procedura(scritto)
                               : Rifiuto_Etichetta(scritto);
   if (!cambio.Errore.empty()) return cambio;
-  if (vecchio.Genere == Cosa::Etichetta) cambio.Nome = std::to_string(std::stoi(scritto));
+  if (vecchio.Genere == Genere_Nome::Etichetta) cambio.Nome = std::to_string(std::stoi(scritto));
 
   const Nominato come{vecchio.Genere, procedura ? Maiuscole(cambio.Nome) : cambio.Nome};
   for (std::size_t i = 0; procedura && i < testi.Procedure.size(); ++i) {
@@ -102,7 +102,7 @@ Cambio_Nome Rinomina(const Sorgente& testi, const Nominato& vecchio, const std::
     else if (Tocca(uso, vecchio))
       ++cambio.Di_Gruppo;
   }
-  if (vecchio.Genere == Cosa::Etichetta && cambio.Gia_Usato > 0)
+  if (vecchio.Genere == Genere_Nome::Etichetta && cambio.Gia_Usato > 0)
     cambio.Errore = "L'etichetta " + cambio.Nome + " è già usata.";
   if (!cambio.Errore.empty()) cambio.Ritocchi.clear();
   return cambio;

@@ -48,7 +48,7 @@ double Alta(Forma forma) {
 
 // ---- signals ------------------------------------------------------------------------------------
 
-void Diagramma::Aggiungi(const Segnale& segnale) {
+void Diagramma_Tempi::Aggiungi(const Segnale& segnale) {
   const std::size_t numero = registrazione_.Aggiungi(segnale);
   const std::size_t area = Gruppo_Di(segnale.Dove);
   const std::string nome = Gruppi_Di_Aree()[area].Nome;
@@ -72,7 +72,7 @@ void Diagramma::Aggiungi(const Segnale& segnale) {
   }
 }
 
-void Diagramma::Mostra_Solo(const std::vector<Segnale>& segnali) {
+void Diagramma_Tempi::Mostra_Solo(const std::vector<Segnale>& segnali) {
   const std::vector<Segnale> prima = Mostrati();
   for (const Segnale& vecchio : prima) {
     const bool resta = std::ranges::any_of(
@@ -85,7 +85,7 @@ void Diagramma::Mostra_Solo(const std::vector<Segnale>& segnali) {
   scelta_.reset();
 }
 
-std::vector<Segnale> Diagramma::Mostrati() const {
+std::vector<Segnale> Diagramma_Tempi::Mostrati() const {
   std::vector<Segnale> tutti;
   for (const Gruppo_Diagramma& gruppo : gruppi_) {
     for (const Voce_Diagramma& voce : gruppo.Voci)
@@ -96,7 +96,7 @@ std::vector<Segnale> Diagramma::Mostrati() const {
 
 // ---- rows ---------------------------------------------------------------------------------------
 
-std::vector<Riga_Diagramma> Diagramma::Righe() const {
+std::vector<Riga_Diagramma> Diagramma_Tempi::Righe() const {
   std::vector<Riga_Diagramma> righe;
   double y = 0;
   for (std::size_t g = 0; g < gruppi_.size(); ++g) {
@@ -112,52 +112,52 @@ std::vector<Riga_Diagramma> Diagramma::Righe() const {
   return righe;
 }
 
-double Diagramma::Alto() const {
+double Diagramma_Tempi::Alto() const {
   const auto righe = Righe();
   return righe.empty() ? 0 : righe.back().Y + righe.back().Alta;
 }
 
-std::optional<Riga_Diagramma> Diagramma::Riga_A(double y) const {
+std::optional<Riga_Diagramma> Diagramma_Tempi::Riga_A(double y) const {
   for (const Riga_Diagramma& riga : Righe()) {
     if (y >= riga.Y && y < riga.Y + riga.Alta) return riga;
   }
   return {};
 }
 
-const Voce_Diagramma* Diagramma::Voce(const Riga_Diagramma& riga) const {
+const Voce_Diagramma* Diagramma_Tempi::Voce(const Riga_Diagramma& riga) const {
   return riga.Voce ? &gruppi_[riga.Gruppo].Voci[*riga.Voce] : nullptr;
 }
 
-const Segnale* Diagramma::Segnale_Di(const Riga_Diagramma& riga) const {
+const Segnale* Diagramma_Tempi::Segnale_Di(const Riga_Diagramma& riga) const {
   const Voce_Diagramma* voce = Voce(riga);
   return voce ? &registrazione_.Chi(voce->Segnale) : nullptr;
 }
 
-const Onda* Diagramma::Onda_Di(const Riga_Diagramma& riga) const {
+const Onda* Diagramma_Tempi::Onda_Di(const Riga_Diagramma& riga) const {
   const Voce_Diagramma* voce = Voce(riga);
   return voce ? &registrazione_.Quando(voce->Segnale) : nullptr;
 }
 
 // ---- the selected row ---------------------------------------------------------------------------
 
-std::optional<Riga_Diagramma> Diagramma::Riga_Scelta() const {
+std::optional<Riga_Diagramma> Diagramma_Tempi::Riga_Scelta() const {
   const auto righe = Righe();
   if (!scelta_ || *scelta_ >= righe.size()) return {};
   return righe[*scelta_];
 }
 
-void Diagramma::Scegli(std::optional<std::size_t> riga) {
+void Diagramma_Tempi::Scegli(std::optional<std::size_t> riga) {
   scelta_ = riga && *riga < Righe().size() ? riga : std::nullopt;
 }
 
-void Diagramma::Scegli_Accanto(int passi) {
+void Diagramma_Tempi::Scegli_Accanto(int passi) {
   const auto quante = static_cast<int>(Righe().size());
   if (quante == 0) return;
   const int ora = scelta_ ? static_cast<int>(*scelta_) + passi : passi > 0 ? 0 : quante - 1;
   scelta_ = static_cast<std::size_t>(std::clamp(ora, 0, quante - 1));
 }
 
-void Diagramma::Sposta_Scelta(int passi) {
+void Diagramma_Tempi::Sposta_Scelta(int passi) {
   const auto riga = Riga_Scelta();
   if (!riga) return;
   const auto sposta = [passi](auto& dove, std::size_t posto) {
@@ -180,7 +180,7 @@ void Diagramma::Sposta_Scelta(int passi) {
   }
 }
 
-void Diagramma::Togli_Scelta() {
+void Diagramma_Tempi::Togli_Scelta() {
   const auto riga = Riga_Scelta();
   if (!riga) return;
   Gruppo_Diagramma& gruppo = gruppi_[riga->Gruppo];
@@ -200,7 +200,7 @@ void Diagramma::Togli_Scelta() {
     scelta_ = std::min(*scelta_, restano - 1);
 }
 
-void Diagramma::Cambia_Forma() {
+void Diagramma_Tempi::Cambia_Forma() {
   const auto riga = Riga_Scelta();
   const Segnale* segnale = riga ? Segnale_Di(*riga) : nullptr;
   if (segnale == nullptr || segnale->Di_Bit()) return;
@@ -208,7 +208,7 @@ void Diagramma::Cambia_Forma() {
   come = come == Forma::Curva ? Forma::Valori : Forma::Curva;
 }
 
-void Diagramma::Piega() {
+void Diagramma_Tempi::Piega() {
   const auto riga = Riga_Scelta();
   if (!riga) return;
   gruppi_[riga->Gruppo].Chiuso = !gruppi_[riga->Gruppo].Chiuso;
@@ -218,7 +218,7 @@ void Diagramma::Piega() {
   }
 }
 
-std::vector<std::size_t> Diagramma::Visti() const {
+std::vector<std::size_t> Diagramma_Tempi::Visti() const {
   std::vector<std::size_t> numeri;
   for (const Gruppo_Diagramma& gruppo : gruppi_) {
     if (gruppo.Chiuso) continue;

@@ -46,9 +46,9 @@ struct Riga_Diagramma {
 /// A timing diagram: which signals of a recording, in which groups, through which window of time,
 /// with what marks. Everything that a user does to one is a member here; a window gives the
 /// commands and paints what `Disegna` makes of it.
-class Diagramma {
+class Diagramma_Tempi {
  public:
-  explicit Diagramma(Registrazione& registrazione) : registrazione_(registrazione) {}
+  explicit Diagramma_Tempi(Registrazione& registrazione) : registrazione_(registrazione) {}
 
   const Registrazione& Dati() const { return registrazione_; }
   const std::vector<Gruppo_Diagramma>& Gruppi() const { return gruppi_; }

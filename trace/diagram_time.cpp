@@ -12,7 +12,7 @@ constexpr double posto_presente = 0.96;  // of the width: where the present stan
 constexpr double posto_trigger = 0.5;
 }  // namespace
 
-void Diagramma::Segui() {
+void Diagramma_Tempi::Segui() {
   if (trigger_) {
     if (const auto quando = Cerca_Avanti(registrazione_, trigger_->Cosa, trigger_->Da)) {
       trigger_.reset();
@@ -31,17 +31,17 @@ void Diagramma::Segui() {
                       inizio - Vista.Larga * 0.02 * Vista.Per_Punto);
 }
 
-void Diagramma::Larga(double punti) {
+void Diagramma_Tempi::Larga(double punti) {
   Vista.Larga = std::max(punti, 1.0);
   Segui();
 }
 
-void Diagramma::Zoom(double fattore, double x) {
+void Diagramma_Tempi::Zoom(double fattore, double x) {
   Vista.Zoom(fattore, x);
   Segui();
 }
 
-void Diagramma::Zoom(double fattore) {
+void Diagramma_Tempi::Zoom(double fattore) {
   const auto& cursore = Posto(Attivo);
   double x = Vista.Larga / 2;
   if (In_Diretta)
@@ -52,7 +52,7 @@ void Diagramma::Zoom(double fattore) {
   Zoom(fattore, x);
 }
 
-void Diagramma::Sposta(double punti) {
+void Diagramma_Tempi::Sposta(double punti) {
   In_Diretta = false;
   Vista.Da += punti * Vista.Per_Punto;
   // Some of what was recorded stays in sight.
@@ -61,7 +61,7 @@ void Diagramma::Sposta(double punti) {
   Vista.Da = std::clamp(Vista.Da, da, std::max(a, da));
 }
 
-void Diagramma::Mostra_Tutto() {
+void Diagramma_Tempi::Mostra_Tutto() {
   In_Diretta = false;
   Vista.Mostra(static_cast<double>(registrazione_.Inizio()),
                static_cast<double>(std::max(registrazione_.Fine(), registrazione_.Inizio() + 10)));
@@ -69,17 +69,17 @@ void Diagramma::Mostra_Tutto() {
 
 // ---- cursors ------------------------------------------------------------------------------------
 
-void Diagramma::Metti(Cursore quale, std::int64_t ms) {
+void Diagramma_Tempi::Metti(Cursore quale, std::int64_t ms) {
   (quale == Cursore::A ? A : B) = std::clamp(
       ms, registrazione_.Inizio(), std::max(registrazione_.Inizio(), registrazione_.Fine()));
   Attivo = quale;
 }
 
-void Diagramma::Metti_In_Mezzo(Cursore quale) {
+void Diagramma_Tempi::Metti_In_Mezzo(Cursore quale) {
   Metti(quale, static_cast<std::int64_t>(std::llround(Vista.Ms(Vista.Larga / 2))));
 }
 
-void Diagramma::Togli_Cursori() {
+void Diagramma_Tempi::Togli_Cursori() {
   A.reset();
   B.reset();
   Trovato.reset();
@@ -87,8 +87,8 @@ void Diagramma::Togli_Cursori() {
   Attivo = Cursore::A;
 }
 
-std::int64_t Diagramma::Aggancia(double x, const std::optional<Riga_Diagramma>& riga,
-                                 double punti) const {
+std::int64_t Diagramma_Tempi::Aggancia(double x, const std::optional<Riga_Diagramma>& riga,
+                                       double punti) const {
   const double qui = Vista.Ms(x);
   const auto ms = static_cast<std::int64_t>(std::llround(qui));
   const Onda* onda = riga ? Onda_Di(*riga) : nullptr;
@@ -99,19 +99,19 @@ std::int64_t Diagramma::Aggancia(double x, const std::optional<Riga_Diagramma>& 
 }
 
 /// Where a search begins: the active cursor, else the border of the window.
-std::int64_t Diagramma::Punto_Di_Partenza() const {
+std::int64_t Diagramma_Tempi::Punto_Di_Partenza() const {
   if (const auto& cursore = Posto(Attivo)) return *cursore;
   return In_Diretta ? registrazione_.Fine() + 1
                     : static_cast<std::int64_t>(std::floor(Vista.Da + (Vista.A() - Vista.Da) / 2));
 }
 
-void Diagramma::Porta_A(std::int64_t ms) {
+void Diagramma_Tempi::Porta_A(std::int64_t ms) {
   In_Diretta = false;
   Metti(Attivo, ms);
   Vista.Porta_In_Vista(static_cast<double>(ms));
 }
 
-bool Diagramma::Al_Fronte(int verso) {
+bool Diagramma_Tempi::Al_Fronte(int verso) {
   const auto riga = Riga_Scelta();
   const Onda* sola = riga ? Onda_Di(*riga) : nullptr;
   const std::int64_t da = Punto_Di_Partenza();
@@ -133,11 +133,11 @@ bool Diagramma::Al_Fronte(int verso) {
   return true;
 }
 
-void Diagramma::Passo_Cursore(std::int64_t ms) {
+void Diagramma_Tempi::Passo_Cursore(std::int64_t ms) {
   Porta_A(std::min(Punto_Di_Partenza(), registrazione_.Fine()) + ms);
 }
 
-std::string Diagramma::Valore_A(const Riga_Diagramma& riga, Cursore quale) const {
+std::string Diagramma_Tempi::Valore_A(const Riga_Diagramma& riga, Cursore quale) const {
   const Onda* onda = Onda_Di(riga);
   if (onda == nullptr) return {};
   const auto valore = onda->A(Posto(quale).value_or(registrazione_.Fine()));
@@ -146,7 +146,7 @@ std::string Diagramma::Valore_A(const Riga_Diagramma& riga, Cursore quale) const
 
 // ---- search and trigger -------------------------------------------------------------------------
 
-bool Diagramma::Cerca(const Condizione& condizione, int verso) {
+bool Diagramma_Tempi::Cerca(const Condizione& condizione, int verso) {
   for (const Termine& termine : condizione) {
     if (!registrazione_.Cerca(termine.Chi.Indirizzo)) Aggiungi(termine.Chi);
   }
@@ -159,7 +159,7 @@ bool Diagramma::Cerca(const Condizione& condizione, int verso) {
   return true;
 }
 
-void Diagramma::Arma(Condizione condizione) {
+void Diagramma_Tempi::Arma(Condizione condizione) {
   for (const Termine& termine : condizione) {
     if (!registrazione_.Cerca(termine.Chi.Indirizzo)) Aggiungi(termine.Chi);
   }

@@ -14,7 +14,7 @@ namespace {
 
 using Tipo = Pezzo_Disegno::Tipo;
 using Ancora = Pezzo_Disegno::Ancora;
-using Cursore = Diagramma::Cursore;
+using Cursore = Diagramma_Tempi::Cursore;
 
 constexpr double asse = Misura_Disegno::Asse;
 constexpr double alta_bandiera = 17;
@@ -22,7 +22,7 @@ constexpr double corpo_piccolo = 12;
 
 class Pittore_Tempi {
  public:
-  Pittore_Tempi(const Diagramma& diagramma, const Misura_Disegno& misura)
+  Pittore_Tempi(const Diagramma_Tempi& diagramma, const Misura_Disegno& misura)
       : d_(diagramma),
         misura_(misura),
         righe_(diagramma.Righe()),
@@ -303,7 +303,7 @@ class Pittore_Tempi {
     }
   }
 
-  const Diagramma& d_;
+  const Diagramma_Tempi& d_;
   const Misura_Disegno& misura_;
   std::vector<Riga_Diagramma> righe_;
   std::int64_t inizio_;
@@ -313,7 +313,7 @@ class Pittore_Tempi {
 
 }  // namespace
 
-Disegno_Tempi Disegna(const Diagramma& diagramma, const Misura_Disegno& misura) {
+Disegno_Tempi Disegna(const Diagramma_Tempi& diagramma, const Misura_Disegno& misura) {
   return Pittore_Tempi(diagramma, misura).Disegna();
 }
 

@@ -22,7 +22,7 @@ struct Misura_Disegno {
 
 /// `diagramma.Vista.Larga` is that of the waves. Only what is seen is looked at: the time it takes
 /// depends on the pixels, and not on how much was recorded.
-Disegno_Tempi Disegna(const Diagramma& diagramma, const Misura_Disegno& misura);
+Disegno_Tempi Disegna(const Diagramma_Tempi& diagramma, const Misura_Disegno& misura);
 
 /// The drawing as a file, `titolo` above it.
 std::string Come_Svg(const Disegno_Tempi& disegno, const Misura_Disegno& misura,

@@ -210,7 +210,7 @@ void Comandi_Testi::Riempi_Usi() {
 std::string Comandi_Testi::Dai_Nome(const std::string& nuovo) {
   const Cambio_Nome cambio = Rinomina(Testi(), nominato_, Da_Utf8(nuovo));
   if (!cambio.Errore.empty()) return cambio.Errore;
-  const bool procedura = nominato_.Genere == Cosa::Procedura;
+  const bool procedura = nominato_.Genere == Genere_Nome::Procedura;
   const std::string nome = procedura ? Maiuscole(cambio.Nome) : cambio.Nome;
   if (nome == nominato_.Nome && !procedura) return {};
   Scrivi_Nome(cambio);

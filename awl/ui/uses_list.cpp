@@ -21,7 +21,7 @@ constexpr int ruolo_testo = Qt::UserRole;
 constexpr int ruolo_linea = Qt::UserRole + 1;
 
 /// How a group is headed, by what is named and what the lines do with it.
-QString Gruppo_Di(Cosa cosa, Uso uso) {
+QString Gruppo_Di(Genere_Nome cosa, Uso uso) {
   static constexpr std::array<std::array<const char*, 4>, 3> nomi = {{
       {"Letto", "Scritto", "Letto e scritto", ""},
       {"Salti", "", "", "Etichetta"},

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "awl/line_numbers.h"
+#include "awl/line_words.h"
 #include "awl/screen_rows.h"
 #include "awl/templates.h"
 #include "ladder/edit_walk.h"
@@ -27,7 +28,7 @@ QString Frase(const std::string& motivo) {
 /// The networks that a text begins.
 int Quante_Reti(const std::string& testo) {
   return static_cast<int>(std::ranges::count_if(
-      Linee_A_Schermo(testo), [](std::string_view linea) { return linea.starts_with("NETWORK"); }));
+      Linee(testo), [](std::string_view linea) { return linea.starts_with("NETWORK"); }));
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ namespace tavorno {
 
 namespace {
 
-using Quale = Diagramma::Cursore;
+using Quale = Diagramma_Tempi::Cursore;
 using Tipo = Pezzo_Disegno::Tipo;
 
 constexpr double presa = 6;  // pixels within which a cursor is caught, and an edge
@@ -91,7 +91,7 @@ void Dipingi(QPainter& pittore, const Disegno_Tempi& disegno) {
   }
 }
 
-Tela_Tempi::Tela_Tempi(Diagramma& diagramma) : d_(diagramma) {
+Tela_Tempi::Tela_Tempi(Diagramma_Tempi& diagramma) : d_(diagramma) {
   setObjectName(QStringLiteral("picTempi"));
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);

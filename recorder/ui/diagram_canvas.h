@@ -17,7 +17,7 @@ void Dipingi(QPainter& pittore, const Disegno_Tempi& disegno);
 /// keys are the window's.
 class Tela_Tempi : public QWidget {
  public:
-  explicit Tela_Tempi(Diagramma& diagramma);
+  explicit Tela_Tempi(Diagramma_Tempi& diagramma);
 
   std::function<void()> Mossa;          ///< time, a cursor, the selection or the rows changed
   std::function<void()> Vuole_Segnali;  ///< a double click where there is nothing
@@ -47,11 +47,11 @@ class Tela_Tempi : public QWidget {
   enum class Trascina : std::uint8_t { Niente, Cursore, Tempo, Colonna };
 
   std::optional<Riga_Diagramma> Riga_Sotto(double y) const;
-  std::optional<Diagramma::Cursore> Cursore_Sotto(double x) const;
+  std::optional<Diagramma_Tempi::Cursore> Cursore_Sotto(double x) const;
   void Porta_Cursore(const QPointF& punto, bool libero);
   void Di_Mossa();
 
-  Diagramma& d_;
+  Diagramma_Tempi& d_;
   double scorrimento_ = 0, nomi_ = 290;
   double costo_ = 0;
   Trascina trascina_ = Trascina::Niente;

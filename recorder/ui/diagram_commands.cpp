@@ -12,7 +12,7 @@
 namespace tavorno {
 
 namespace {
-using Quale = Diagramma::Cursore;
+using Quale = Diagramma_Tempi::Cursore;
 constexpr double zoom_di_un_tasto = 1.5;
 constexpr double parte_di_pagina = 10;  // of the width, that an arrow moves
 }  // namespace

@@ -52,7 +52,7 @@ class FrmTempi : public QWidget {
   /// Records the present and shows what changed; its timer does it 20 times a second.
   void Aggiorna();
 
-  Diagramma& Dati() { return diagramma_; }
+  Diagramma_Tempi& Dati() { return diagramma_; }
   Registrazione& Registrati() { return registrazione_; }
   Sonda& Orecchio() { return sonda_; }
 
@@ -120,7 +120,7 @@ class FrmTempi : public QWidget {
   Plc& plc_;
   const Esercizio* impianto_;
   Registrazione registrazione_;
-  Diagramma diagramma_{registrazione_};
+  Diagramma_Tempi diagramma_{registrazione_};
   Sonda sonda_{plc_, registrazione_};
 
   Tela_Tempi* tela_;

@@ -54,7 +54,7 @@ struct Banco_Diagramma : ::testing::Test {
     finestra->Aggiorna();
   }
 
-  Diagramma& D() { return finestra->Dati(); }
+  Diagramma_Tempi& D() { return finestra->Dati(); }
   Tela_Tempi& Tela() { return *finestra->findChild<Tela_Tempi*>("picTempi"); }
   QString Stato() { return finestra->findChild<QLabel*>("etCursori")->text(); }
   QLineEdit& Cerca() { return *finestra->findChild<QLineEdit*>("txtCerca"); }

@@ -92,7 +92,7 @@ TEST_F(Diagram_Window, TheArrowsGoFromEdgeToEdge) {
   EXPECT_EQ(*D().A, primo + 101);
   Premi(Qt::Key_B);
   ASSERT_TRUE(D().B);
-  D().Metti(Diagramma::Cursore::B, primo + 351);
+  D().Metti(Diagramma_Tempi::Cursore::B, primo + 351);
   Premi(Qt::Key_Left, Qt::ControlModifier);
   EXPECT_TRUE(Stato().contains("B − A = 249 ms (4,016 Hz)")) << Stato().toStdString();
   Premi(Qt::Key_Backspace);
@@ -156,7 +156,7 @@ TEST_F(Diagram_Window, SearchesForACondition) {
   Corri(1000);
   Premi(Qt::Key_Home);
   Premi(Qt::Key_A);
-  D().Metti(Diagramma::Cursore::A, 0);
+  D().Metti(Diagramma_Tempi::Cursore::A, 0);
   Premi(Qt::Key_F, Qt::ControlModifier);
   QTest::keyClicks(&Cerca(), "VW0 > 150 e Q0.0 sale");
   QTest::keyClick(&Cerca(), Qt::Key_Return);

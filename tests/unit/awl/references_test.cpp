@@ -108,7 +108,7 @@ struct Caso_Tocca {
 class Touch : public testing::TestWithParam<Caso_Tocca> {};
 
 TEST_P(Touch, CountsTheCells) {
-  const auto usi = Usi_Di(Testi(GetParam().Linea), {Cosa::Operando, GetParam().Nome});
+  const auto usi = Usi_Di(Testi(GetParam().Linea), {Genere_Nome::Operando, GetParam().Nome});
   EXPECT_EQ(!usi.empty(), GetParam().Tocca) << GetParam().Linea << " " << GetParam().Nome;
 }
 

@@ -141,34 +141,43 @@ TEST_P(NewName, IsGivenEverywhereOrRefused) {
 INSTANTIATE_TEST_SUITE_P(
     Names, NewName,
     testing::Values(
-        Caso_Nome_Nuovo{"Bit", {Cosa::Operando, "I0.0"}, " i1.02 ", "", "LD I1.2 //I0.0"},
+        Caso_Nome_Nuovo{"Bit", {Genere_Nome::Operando, "I0.0"}, " i1.02 ", "", "LD I1.2 //I0.0"},
+        Caso_Nome_Nuovo{"BitByWord",
+                        {Genere_Nome::Operando, "I0.0"},
+                        "VW0",
+                        "Al posto di I0.0 ci vuole un bit",
+                        ""},
+        Caso_Nome_Nuovo{"NoOperand",
+                        {Genere_Nome::Operando, "I0.0"},
+                        "marcia",
+                        "\"marcia\" non è un operando",
+                        ""},
         Caso_Nome_Nuovo{
-            "BitByWord", {Cosa::Operando, "I0.0"}, "VW0", "Al posto di I0.0 ci vuole un bit", ""},
+            "NotThere", {Genere_Nome::Operando, "I0.0"}, "I7.0", "La CPU non ha I7.0", ""},
         Caso_Nome_Nuovo{
-            "NoOperand", {Cosa::Operando, "I0.0"}, "marcia", "\"marcia\" non è un operando", ""},
-        Caso_Nome_Nuovo{"NotThere", {Cosa::Operando, "I0.0"}, "I7.0", "La CPU non ha I7.0", ""},
-        Caso_Nome_Nuovo{"NoSuchBit", {Cosa::Operando, "I0.0"}, "I0.8", "La CPU non ha I0.8", ""},
-        Caso_Nome_Nuovo{"Timer", {Cosa::Operando, "T37"}, "C5", "", "TON C5, +5"},
-        Caso_Nome_Nuovo{"Word", {Cosa::Operando, "VW2"}, "AQW0", "", "MOVW VW0, AQW0"},
-        Caso_Nome_Nuovo{"WordByByte", {Cosa::Operando, "VW2"}, "VB2", "Al posto di VW2", ""},
-        Caso_Nome_Nuovo{"Empty", {Cosa::Operando, "VW2"}, "", "\"\" non è", ""},
-        Caso_Nome_Nuovo{"Label", {Cosa::Etichetta, "1"}, "07", "", "JMP 7\r\nLBL 7"},
-        Caso_Nome_Nuovo{"LabelTaken", {Cosa::Etichetta, "1"}, "2", "L'etichetta 2 è già usata", ""},
+            "NoSuchBit", {Genere_Nome::Operando, "I0.0"}, "I0.8", "La CPU non ha I0.8", ""},
+        Caso_Nome_Nuovo{"Timer", {Genere_Nome::Operando, "T37"}, "C5", "", "TON C5, +5"},
+        Caso_Nome_Nuovo{"Word", {Genere_Nome::Operando, "VW2"}, "AQW0", "", "MOVW VW0, AQW0"},
+        Caso_Nome_Nuovo{"WordByByte", {Genere_Nome::Operando, "VW2"}, "VB2", "Al posto di VW2", ""},
+        Caso_Nome_Nuovo{"Empty", {Genere_Nome::Operando, "VW2"}, "", "\"\" non è", ""},
+        Caso_Nome_Nuovo{"Label", {Genere_Nome::Etichetta, "1"}, "07", "", "JMP 7\r\nLBL 7"},
         Caso_Nome_Nuovo{
-            "LabelWithLetters", {Cosa::Etichetta, "1"}, "a", "Un'etichetta è un numero", ""},
-        Caso_Nome_Nuovo{"Procedure", {Cosa::Procedura, "SBR_0"}, "Pompa", "", "CALL Pompa"},
+            "LabelTaken", {Genere_Nome::Etichetta, "1"}, "2", "L'etichetta 2 è già usata", ""},
+        Caso_Nome_Nuovo{
+            "LabelWithLetters", {Genere_Nome::Etichetta, "1"}, "a", "Un'etichetta è un numero", ""},
+        Caso_Nome_Nuovo{"Procedure", {Genere_Nome::Procedura, "SBR_0"}, "Pompa", "", "CALL Pompa"},
         Caso_Nome_Nuovo{"ProcedureTaken",
-                        {Cosa::Procedura, "SBR_0"},
+                        {Genere_Nome::Procedura, "SBR_0"},
                         "altra",
                         "Una procedura ALTRA c'è già",
                         ""},
         Caso_Nome_Nuovo{"ProcedureWithBlank",
-                        {Cosa::Procedura, "SBR_0"},
+                        {Genere_Nome::Procedura, "SBR_0"},
                         "A B",
                         "Il nome di una procedura ha soltanto",
                         ""},
         Caso_Nome_Nuovo{"ProcedureTooLong",
-                        {Cosa::Procedura, "SBR_0"},
+                        {Genere_Nome::Procedura, "SBR_0"},
                         "ABCDEFGHIJKLMNOP",
                         "Il nome di una procedura ha al massimo 15",
                         ""}),
@@ -176,16 +185,16 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Rename, ReachesTheProcedures) {
   const Sorgente testi = Progetto_Prova();
-  const Cambio_Nome cambio = Rinomina(testi, {Cosa::Operando, "I0.0"}, "M0.0");
+  const Cambio_Nome cambio = Rinomina(testi, {Genere_Nome::Operando, "I0.0"}, "M0.0");
   EXPECT_EQ(cambio.Ritocchi.size(), 2U);
   EXPECT_EQ(Con_Ritocchi(testi.Procedure[0].Testo, 1, cambio.Ritocchi), "ld M0.0\r\n= Q0.1");
   EXPECT_EQ(cambio.Procedura, 0);
-  EXPECT_EQ(Rinomina(testi, {Cosa::Procedura, "SBR_0"}, "pompa").Procedura, 1);
+  EXPECT_EQ(Rinomina(testi, {Genere_Nome::Procedura, "SBR_0"}, "pompa").Procedura, 1);
 }
 
 TEST(Rename, TellsOfTheSameNameAndOfGroups) {
   const Sorgente testi = Progetto_Prova();
-  const Cambio_Nome cambio = Rinomina(testi, {Cosa::Operando, "Q0.1"}, "Q0.0");
+  const Cambio_Nome cambio = Rinomina(testi, {Genere_Nome::Operando, "Q0.1"}, "Q0.0");
   EXPECT_EQ(cambio.Gia_Usato, 1);
   EXPECT_EQ(cambio.Di_Gruppo, 1) << "S Q0.0, 2 writes it too";
   EXPECT_EQ(cambio.Ritocchi.size(), 1U);

@@ -8,7 +8,7 @@
 namespace tavorno::prova {
 namespace {
 
-using Cursore = Diagramma::Cursore;
+using Cursore = Diagramma_Tempi::Cursore;
 
 class Diagram : public Banco_Tracce {
  public:
@@ -43,7 +43,7 @@ class Diagram : public Banco_Tracce {
     return x >= 0 && x <= diagramma.Vista.Larga;
   }
 
-  Diagramma diagramma{registrazione};
+  Diagramma_Tempi diagramma{registrazione};
 };
 
 using Testi = std::vector<std::string>;
