@@ -218,6 +218,9 @@ void Finestre::Apri_Impianto(int indice) {
   finestra.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Panel + pagina); };
   finestra.Mostra_Tempi = [this] { Mostra_Tempi(); };
   Cambia_Simboli(&finestra.Fili().Tabella());
+  finestra.Indica_Morsetti = [this](const QStringList& morsetti) {
+    pannello_.Controlli().Fronte->Indica(morsetti);
+  };
   finestra.Chiusa = [this] {
     pannello_.Segna_Impianto(-1);
     Cambia_Simboli(nullptr);

@@ -48,6 +48,7 @@ class Collegamento {
   void Chiudi();
 
   Impianto& Macchina() { return *macchina_; }
+  Plc& Cpu() { return plc_; }
   const Esercizio& Tabella() const { return esercizio_; }
   /// The plant's inputs as it was made, before any hand or output.
   const std::string& Ingressi_A_Riposo() const { return a_riposo_; }

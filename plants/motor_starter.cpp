@@ -9,8 +9,8 @@ namespace {
 constexpr Riga_Figura figure[] = {
     // name, left, top, width, height, picture at first, tool tip
     {"linKM",    1245, 1010,  390,  590},
-    {"imgKM",     720,  720,  930,  360, "imgKMOF", "DbClick per forzare apertura"},
-    {"ImgTer",   1140, 1170,  600,  300, "ImgRTOF", "Click per simulare intervento"},
+    {"imgKM",     720,  720,  930,  360, "imgKMOF", "DbClick per forzare apertura", "Q0.0"},
+    {"ImgTer",   1140, 1170,  600,  300, "ImgRTOF", "Click per simulare intervento", "I0.3"},
     {"imgM",      810, 1590, 1320,  780, "imgMOF"},
     {"etM",      1725, 1605,  760,  210},
     {"imgKMa",   6000,  405,  300,  360, "imgAuxA", "Contatto ausiliario, I0.2"},

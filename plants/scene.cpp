@@ -8,6 +8,7 @@ namespace tavorno {
 
 Figura::Figura(Scena& scena, const Riga_Figura& riga)
     : Nome(riga.Nome),
+      Morsetti(riga.Morsetti),
       Left(*this, riga.Left),
       Top(*this, riga.Top),
       Width(*this, riga.Width),

@@ -50,6 +50,9 @@ struct Riga_Figura {
   float Left, Top, Width, Height;
   const char* Picture = "";
   const char* ToolTip = "";
+  /// Addresses of the inputs and outputs that it stands for, with blanks between them, where its
+  /// tool tip does not say.
+  const char* Morsetti = "";
 };
 
 /// A named piece of a plant's picture. The plant writes its looks; whoever draws it reads them.
@@ -60,6 +63,7 @@ class Figura {
   Figura& operator=(const Figura&) = delete;
 
   const std::string Nome;
+  const std::string Morsetti;                 ///< as its row has them: "I0.3 Q0.2"
   Proprieta<float> Left, Top, Width, Height;  ///< twips; vertical positions grow downwards
   Proprieta<bool> Visible;
   Proprieta<std::string> Picture;  ///< which of its alternative pictures shows; may be empty

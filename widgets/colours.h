@@ -27,6 +27,17 @@ inline constexpr Coppia In_Run{"the CPU runs", Bianco, {0x1b, 0x7a, 0x33}};
 inline constexpr Coppia In_Stop{"the CPU stands", Bianco, {0x59, 0x60, 0x68}};
 inline constexpr Coppia Bit_Uno{"a bit that is 1", Bianco, {0x1f, 0x7a, 0x34}};
 
+// What the window of a plant marks.
+inline constexpr Coppia Indicata{"row whose part is pointed at", Nero, {0xff, 0xe0, 0x8a}};
+inline constexpr Coppia Guasto{"a fault that is there", {0x8f, 0x15, 0x15}, {0xfd, 0xe4, 0xdc}};
+inline constexpr Coppia Striscia{
+    "strip of the last minute", {0x2b, 0x30, 0x36}, {0xfb, 0xfa, 0xf6}};
+inline constexpr QColor Segno_Indicata(0xe0, 0x8a, 0x00);  ///< around a part; carries no text
+inline constexpr QColor Griglia(0xdd, 0xd9, 0xce);         ///< carries no text
+/// Curves of the strip, each on a lane of its own with its name.
+inline constexpr QColor Curve[] = {
+    {0x1f, 0x5f, 0xa8}, {0xa8, 0x4a, 0x12}, {0x1b, 0x7a, 0x53}, {0x7a, 0x3f, 0x9d}};
+
 // The sheet of a ladder diagram, on screen and on paper.
 inline constexpr Coppia Scala_Testo{"ladder", {0x1a, 0x1a, 0x1a}, Bianco};
 inline constexpr Coppia Scala_Commento{"comment of a ladder", {0x4a, 0x4a, 0x4a}, Bianco};
@@ -92,6 +103,6 @@ inline constexpr Coppia Tutte[] = {
     Scala_Vivo,     Scala_Valore,   Scala_Scelta, Scala_Presente, Scala_Errore,   Scala_Aiuto,
     Tempi_Nomi,     Tempi_Scelta,   Tempi_Asse,   Tempi_Gruppo,   Tempi_A,        Tempi_B,
     Tempi_Valore_A, Tempi_Valore_B, Tempi_Segno,  Tempi_Trovato,  Valore_Riga,    Cella_Cambiata,
-    Cella_Forzata};
+    Cella_Forzata,  Indicata,       Guasto,       Striscia};
 
 }  // namespace tavorno::colori

@@ -3,12 +3,14 @@
 
 #include <QLinearGradient>
 #include <QPainter>
+#include <QRegularExpression>
 #include <algorithm>
 #include <initializer_list>
 
 #include "panel/controls/compartment.h"
 #include "panel/controls/element.h"
 #include "plc/plc.h"
+#include "widgets/colours.h"
 
 namespace tavorno {
 
@@ -33,6 +35,18 @@ constexpr QRectF Posto_Lampada(const QPointF& centro) {
 
 QRectF Posto(double x, double y, const QSize& misura) {
   return {QPointF(x, y), QSizeF(misura)};
+}
+
+/// Around the LED of a point and the terminal beside it; null where there is none.
+QRectF Posto_Morsetto(const QString& morsetto) {
+  static const QRegularExpression punto(QStringLiteral("^([IQ])([01])\\.([0-7])$"));
+  const QRegularExpressionMatch trovato = punto.match(morsetto);
+  if (!trovato.hasMatch()) return {};
+  constexpr double primo_led = 65, passo_led = 26, largo = 25;
+  const double x =
+      x_byte[trovato.captured(2).toInt()] + primo_led + passo_led * trovato.captured(3).toInt();
+  const bool uscita = trovato.captured(1) == u"Q";
+  return {x - largo / 2, uscita ? 10.0 : 180.0, largo, uscita ? 76.0 : 68.0};
 }
 
 // The mounting plate and the rail reach from side to side, however wide the window is.
@@ -88,6 +102,16 @@ Fronte_CPU::Fronte_CPU(Plc& plc, QWidget* sopra)
   });
   imgN_->setAttribute(Qt::WA_TransparentForMouseEvents, false);  // it covers the switches
 
+  segno_ = new Parte(this, QStringLiteral("segno"), QRectF(QPointF(0, 0), QSizeF(Misura)),
+                     [this](QPainter& pennello) {
+                       QColor velo = colori::Segno_Indicata;
+                       velo.setAlphaF(0.18F);
+                       pennello.setBrush(velo);
+                       pennello.setPen(QPen(colori::Segno_Indicata, 2));
+                       for (const QRectF& posto : indicati_) pennello.drawRoundedRect(posto, 5, 5);
+                     });
+  segno_->setVisible(false);
+
   pic1_->Clic = [this] { sportello_.Timer1.Enabled(true); };
   sportello_.Mosso = [this] { pic1_->Muovi(sportello_.Top); };
   PLC_Sportello(Modo_Sportello::Interruttori);
@@ -127,6 +151,17 @@ void Fronte_CPU::PLC_Sportello(Modo_Sportello modo) {
   imgN_->setVisible(impianto);
 }
 
+void Fronte_CPU::Indica(const QStringList& morsetti) {
+  indicati_.clear();
+  for (const QString& morsetto : morsetti) {
+    const QRectF posto = Posto_Morsetto(morsetto);
+    if (!posto.isNull()) indicati_.push_back(posto);
+  }
+  segno_->setVisible(!indicati_.empty());
+  segno_->raise();
+  segno_->update();
+}
+
 void Fronte_CPU::Aggiorna_Vano() {
   pic1_->update();
 }
@@ -155,7 +190,8 @@ void Fronte_CPU::resizeEvent(QResizeEvent*) {
   }
   disponi(*SimC_, Posto(x_byte[1], y_simulatori, SimC::Misura));
   disponi(*pic1_, Vano::Disegno);
-  for (Parte* elemento : {imgPL1_, imgPL2_, imgPS_, imgN_}) disponi(*elemento, elemento->Disegno());
+  for (Parte* elemento : {imgPL1_, imgPL2_, imgPS_, imgN_, segno_})
+    disponi(*elemento, elemento->Disegno());
   imgN_->resize(width() - imgN_->x(), imgN_->height());  // the cable runs on to the edge
 }
 

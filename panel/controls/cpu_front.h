@@ -44,6 +44,10 @@ class Fronte_CPU : public QWidget {
   std::int16_t Sportello_Aperto() const { return sportello_.Sportello_Aperto; }  ///< -1 when open
   const Sportello& Cover() const { return sportello_; }
 
+  /// Marks the LEDs and terminals of these points, "I0.3" or "Q1.0"; an empty list marks none, and
+  /// what has no LED is passed over.
+  void Indica(const QStringList& morsetti);
+
   /// Shows potentiometers, analog ranges and mode selector as the CPU has them now.
   void Aggiorna_Vano();
 
@@ -67,6 +71,8 @@ class Fronte_CPU : public QWidget {
   std::array<SimI*, 2> SimI_{};
   SimC* SimC_;
   Parte* imgN_;
+  Parte* segno_;  // over LEDs and terminals that are pointed at elsewhere
+  std::vector<QRectF> indicati_;
   Sportello sportello_;
   QPixmap fondo_;  // what never changes, drawn for the size and the screen that it is on
 };

@@ -3,21 +3,20 @@
 
 #include <QCheckBox>
 #include <QCloseEvent>
-#include <QGroupBox>
-#include <QHeaderView>
-#include <QLabel>
+#include <QGridLayout>
+#include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
-#include <QSlider>
 #include <QTabWidget>
-#include <QTableWidget>
-#include <QVBoxLayout>
 #include <algorithm>
-#include <array>
+#include <initializer_list>
 
+#include "plants/host/command_row.h"
+#include "plants/host/fault_panel.h"
+#include "plants/host/io_table.h"
 #include "plants/host/picture_widget.h"
-#include "plc/number_text.h"
-#include "widgets/colours.h"
+#include "plants/host/settings_page.h"
+#include "plants/host/strip.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
 #include "widgets/twips.h"
@@ -26,219 +25,141 @@ namespace tavorno {
 
 namespace {
 
-/// Two groups of controls side by side, or one above the other where the window is narrow.
-class Riga_Comandi : public QWidget {
- public:
-  Riga_Comandi() : posti_(new QBoxLayout(QBoxLayout::LeftToRight, this)) {
-    posti_->setContentsMargins(10, 6, 10, 6);
-    for (QHBoxLayout* gruppo : {Sinistra, Destra}) posti_->addLayout(gruppo);
-  }
+constexpr int larga_accanto = 520;    // pixels of the table beside the picture
+constexpr int periodo_sguardo = 100;  // ms
 
-  QHBoxLayout* Sinistra = new QHBoxLayout;
-  QHBoxLayout* Destra = new QHBoxLayout;
-
-  QSize minimumSizeHint() const override {
-    const QSize sinistra = Sinistra->minimumSize();
-    const QSize destra = Destra->minimumSize();
-    const QMargins bordi = posti_->contentsMargins();
-    const bool due_righe = posti_->direction() == QBoxLayout::TopToBottom;
-    const int alta = due_righe ? sinistra.height() + destra.height() + posti_->spacing()
-                               : std::max(sinistra.height(), destra.height());
-    return QSize(std::max(sinistra.width(), destra.width()), alta).grownBy(bordi);
-  }
-  QSize sizeHint() const override { return minimumSizeHint(); }
-
- protected:
-  void resizeEvent(QResizeEvent*) override {
-    const QMargins bordi = posti_->contentsMargins();
-    const int in_fila = Sinistra->minimumSize().width() + Destra->minimumSize().width() +
-                        posti_->spacing() + bordi.left() + bordi.right();
-    posti_->setDirection(width() < in_fila ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-    updateGeometry();
-  }
-
- private:
-  QBoxLayout* posti_;
-};
-
-bool Uscita(const Riga_IO& riga) {
-  return riga.Indirizzo[0] == 'Q' || (riga.Indirizzo[0] == 'A' && riga.Indirizzo[1] == 'Q');
-}
+enum Righe { Riga_Del_Quadro, Riga_Della_Striscia, Riga_Dei_Comandi, Riga_Delle_Schede };
 
 }  // namespace
 
 Finestra_Impianto::Finestra_Impianto(std::unique_ptr<Collegamento> collegamento)
-    : collegamento_(std::move(collegamento)), altezza_(collegamento_->Tabella().Altezza_Chiusa) {
+    : collegamento_(std::move(collegamento)),
+      storia_(*collegamento_),
+      altezza_(collegamento_->Tabella().Altezza_Chiusa) {
   const Esercizio& esercizio = collegamento_->Tabella();
   setObjectName(Q(esercizio.Host));
   setWindowTitle(Q(esercizio.Titolo));
   const QString disegni =
       QStringLiteral(":/plants/US-%1.svg").arg(esercizio.Indice, 2, 10, QChar('0'));
   quadro_ = Chiama(Q(esercizio.Nome), new Quadro(collegamento_->Macchina(), disegni));
+  striscia_ = new Striscia(storia_);
+  tabella_ = new Tabella_IO(*collegamento_, storia_);
+  guasti_ = new Pannello_Guasti(*collegamento_);
+  comandi_ = new Riga_Comandi(Q(esercizio.Voce_IO));
 
-  auto* righe = new QVBoxLayout(this);
-  righe->setContentsMargins(0, 0, 0, 0);
-  righe->setSpacing(0);
-  righe->addWidget(quadro_, 1);
-  righe->addWidget(Crea_Comandi());
-  righe->addWidget(schede_ = qobject_cast<QTabWidget*>(Crea_Schede()));
+  posti_ = new QGridLayout(this);
+  posti_->setContentsMargins(0, 0, 0, 0);
+  posti_->setSpacing(0);
+  posti_->addWidget(quadro_, Riga_Del_Quadro, 0);
+  posti_->addWidget(striscia_, Riga_Della_Striscia, 0);
+  posti_->addWidget(comandi_, Riga_Dei_Comandi, 0);
+  posti_->addWidget(schede_ = Crea_Schede(), Riga_Delle_Schede, 0);
+  posti_->setRowStretch(Riga_Del_Quadro, 1);
+  posti_->setColumnStretch(0, 1);
   schede_->setVisible(false);
+  striscia_->setVisible(false);
+  Disponi(size());
 
-  Mostra_Corsa(false);
+  Collega_Comandi();
+  Collega_Indicazioni();
+  sguardo_.setInterval(periodo_sguardo);
+  sguardo_.callOnTimeout(this, [this] { Aggiorna(); });
+  sguardo_.start();
 
   move(0, 0);
   resize(Voluta());
   quadro_->setFocus();
 }
 
-// The picture looks at the plant, so it goes first.
+// What looks at the plant goes first.
 Finestra_Impianto::~Finestra_Impianto() {
-  delete quadro_;
+  for (QWidget* vista : std::initializer_list<QWidget*>{quadro_, striscia_, tabella_, guasti_})
+    delete vista;
 }
 
 void Finestra_Impianto::closeEvent(QCloseEvent* evento) {
   evento->accept();
+  sguardo_.stop();
+  if (Indica_Morsetti) Indica_Morsetti({});
   collegamento_->Chiudi();
   if (Chiusa) Chiusa();
 }
 
-QWidget* Finestra_Impianto::Crea_Comandi() {
-  auto* riga = new Riga_Comandi;
-
-  auto* chkSim = Chiama(QStringLiteral("chkSim"),
-                        new QCheckBox(QStringLiteral("Usa Simulatore PLC per gli Ingressi")));
-  chkSim->setToolTip(
-      QStringLiteral("Gli ingressi arrivano dagli interruttori del PLC e non "
-                     "dall'impianto"));
-  connect(chkSim, &QCheckBox::clicked, this,
+void Finestra_Impianto::Collega_Comandi() {
+  connect(comandi_->chkSim, &QCheckBox::clicked, this,
           [this](bool spuntato) { collegamento_->chkSim(spuntato); });
-  auto* chkIO = Chiama(QStringLiteral("chkIO"), new QCheckBox(Q(collegamento_->Tabella().Voce_IO)));
-  chkIO->setToolTip(QStringLiteral("Mostra la tabella degli ingressi e delle uscite"));
-  connect(chkIO, &QCheckBox::toggled, this, &Finestra_Impianto::Apri_Tabella);
-  auto* cmdSch = Chiama(QStringLiteral("cmdSch"), new QPushButton(QStringLiteral("Info")));
-  cmdSch->setToolTip(QStringLiteral("Schema Elettrico"));
+  connect(comandi_->chkIO, &QCheckBox::toggled, this, &Finestra_Impianto::Apri_Tabella);
+  connect(comandi_->chkStriscia, &QCheckBox::toggled, this, &Finestra_Impianto::Apri_Striscia);
   const auto guida = [this] {
     if (Mostra_Aiuto) Mostra_Aiuto(collegamento_->Tabella().Pagina);
   };
-  connect(cmdSch, &QPushButton::clicked, this, guida);
+  connect(comandi_->cmdSch, &QPushButton::clicked, this, guida);
   connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, guida);
-  auto* cmdTempi = Chiama(QStringLiteral("cmdTempi"), new QPushButton(QStringLiteral("Tempi")));
-  cmdTempi->setToolTip(QStringLiteral("Diagramma dei tempi di ingressi e uscite (Ctrl+D)"));
   const auto tempi = [this] {
     if (Mostra_Tempi) Mostra_Tempi();
   };
-  connect(cmdTempi, &QPushButton::clicked, this, tempi);
+  connect(comandi_->cmdTempi, &QPushButton::clicked, this, tempi);
   connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_D), this), &QShortcut::activated, this,
           tempi);
-  auto* cmdEnd = Chiama(QStringLiteral("cmdEnd"), new QPushButton(QStringLiteral("Chiudi")));
-  cmdEnd->setToolTip(QStringLiteral("Termina"));
-  connect(cmdEnd, &QPushButton::clicked, this, &QWidget::close);
+  connect(comandi_->cmdEnd, &QPushButton::clicked, this, &QWidget::close);
 
-  etRun_ = Chiama(QStringLiteral("etRun"), new QLabel);
-  etRun_->setFont(Grassetto(etRun_->font()));
-  etRun_->setAlignment(Qt::AlignCenter);
-  etRun_->setAutoFillBackground(true);
-  etRun_->setMinimumWidth(etRun_->fontMetrics().horizontalAdvance(QStringLiteral("CPU in STOP")) +
-                          12);
-
-  riga->Sinistra->addWidget(chkSim);
-  riga->Sinistra->addSpacing(16);
-  riga->Sinistra->addWidget(chkIO);
-  riga->Sinistra->addStretch();
-  riga->Destra->addStretch();
-  riga->Destra->addWidget(etRun_);
-  riga->Destra->addWidget(cmdTempi);
-  riga->Destra->addWidget(cmdSch);
-  riga->Destra->addWidget(cmdEnd);
-  return riga;
+  QMenu* menu = comandi_->mnuGuasti;
+  connect(menu, &QMenu::aboutToShow, this, [this, menu] {
+    menu->clear();
+    guasti_->Riempi(*menu);
+    QAction* pannello = menu->addAction(QStringLiteral("Pannello dei guasti…"));
+    pannello->setObjectName(QStringLiteral("mnuPannelloGuasti"));
+    connect(pannello, &QAction::triggered, this, [this] {
+      comandi_->chkIO->setChecked(true);
+      schede_->setCurrentWidget(guasti_);
+    });
+  });
+  guasti_->Cambiati = [this] { comandi_->Mostra_Guasti(guasti_->Attivi(), guasti_->Elenco()); };
 }
 
-QWidget* Finestra_Impianto::Crea_Schede() {
+QTabWidget* Finestra_Impianto::Crea_Schede() {
   auto* schede = Chiama(QStringLiteral("SSTab1"), new QTabWidget);
-  schede->addTab(Assegna_IO(), Q(Scheda_1));
-  schede->addTab(Impostazioni(), Q(collegamento_->Tabella().Scheda_2));
-  const Esercizio& esercizio = collegamento_->Tabella();
-  schede->setFixedHeight(Px(esercizio.Altezza_Aperta - esercizio.Altezza_Chiusa));
+  schede->addTab(tabella_, Q(Scheda_1));
+  schede->addTab(new Pagina_Impostazioni(*collegamento_), Q(collegamento_->Tabella().Scheda_2));
+  schede->addTab(guasti_, QStringLiteral("Guasti"));
   return schede;
 }
 
-QWidget* Finestra_Impianto::Assegna_IO() {
-  const auto righe = collegamento_->Tabella().Righe_IO;
-  auto* FGr = Chiama(QStringLiteral("FGr"), new QTableWidget(static_cast<int>(righe.size()), 4));
-  FGr->setHorizontalHeaderLabels({QString(), QStringLiteral("Simbolo"), QStringLiteral("Indirizzo"),
-                                  QStringLiteral("Commento")});
-  FGr->verticalHeader()->hide();
-  FGr->verticalHeader()->setDefaultSectionSize(FGr->fontMetrics().height() + 4);
-  FGr->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  FGr->setSelectionBehavior(QAbstractItemView::SelectRows);
-  constexpr std::array larghezze{400, 700, 700, 3300};
-  for (int colonna = 0; colonna < 4; ++colonna)
-    FGr->setColumnWidth(colonna, Px(larghezze[static_cast<std::size_t>(colonna)]));
-  FGr->horizontalHeader()->setStretchLastSection(true);
-
-  for (int n = 0; n < static_cast<int>(righe.size()); ++n) {
-    const Riga_IO& riga = righe[static_cast<std::size_t>(n)];
-    const std::array testi{Q(Numero_Con_Spazio(n + 1)), Q(riga.Simbolo), Q(riga.Indirizzo),
-                           Q(riga.Commento)};
-    for (int colonna = 0; colonna < 4; ++colonna) {
-      auto* cella = new QTableWidgetItem(testi[static_cast<std::size_t>(colonna)]);
-      if (colonna == 1 || colonna == 2) {
-        // Our shades of the two numbered colours of the table, light enough to read on.
-        const colori::Coppia& tinta = Uscita(riga) ? colori::Uscite : colori::Ingressi;
-        cella->setBackground(tinta.Fondo);
-        cella->setForeground(tinta.Testo);
-      }
-      if (colonna == 3) cella->setForeground(FGr->palette().buttonText());
-      FGr->setItem(n, colonna, cella);
+// A part that is pointed at anywhere lights up everywhere: in the picture, in the table and,
+// through the panel, its LED and its terminal.
+void Finestra_Impianto::Collega_Indicazioni() {
+  tabella_->Indicata = [this](int riga) {
+    QStringList morsetti;
+    if (riga >= 0)
+      morsetti << Q(storia_.Tabella().Righe_IO[static_cast<std::size_t>(riga)].Indirizzo);
+    quadro_->Indica(morsetti);
+    if (Indica_Morsetti) Indica_Morsetti(morsetti);
+  };
+  quadro_->Indicata = [this](const QStringList& morsetti) {
+    std::vector<int> righe;
+    const auto tutte = storia_.Tabella().Righe_IO;
+    for (std::size_t n = 0; n < tutte.size(); ++n) {
+      if (morsetti.contains(Q(tutte[n].Indirizzo))) righe.push_back(static_cast<int>(n));
     }
-  }
-  return FGr;
+    tabella_->Evidenzia(righe);
+    if (Indica_Morsetti) Indica_Morsetti(morsetti);
+  };
 }
 
-QWidget* Finestra_Impianto::Impostazioni() {
-  auto* pagina = new QWidget;
-  auto* righe = new QVBoxLayout(pagina);
-  const auto cursori = collegamento_->Tabella().Cursori;
-  if (cursori.empty())
-    righe->addWidget(new QLabel(QStringLiteral("Questo impianto non ha impostazioni.")));
-  for (std::size_t n = 0; n < cursori.size(); ++n) {
-    const Cursore& cursore = cursori[n];
-    auto* cornice = Chiama(QStringLiteral("Frame%1").arg(n + 1), new QGroupBox(Q(cursore.Cornice)));
-    auto* posti = new QHBoxLayout(cornice);
-    auto* slider = Chiama(Q(cursore.Nome), new QSlider(Qt::Horizontal));
-    slider->setRange(cursore.Minimo, cursore.Massimo);
-    slider->setSingleStep(cursore.Passo_Piccolo);
-    slider->setPageStep(cursore.Passo_Grande);
-    slider->setValue(collegamento_->Valore(n));
-    slider->setTickPosition(QSlider::TicksBelow);
-    // So that the last tick falls on the end.
-    const bool esatto = (cursore.Massimo - cursore.Minimo) % cursore.Passo_Grande == 0;
-    slider->setTickInterval(esatto ? cursore.Passo_Grande : cursore.Passo_Piccolo);
-    auto* valore = new QLabel(QString::number(slider->value()));
-    valore->setMinimumWidth(valore->fontMetrics().horizontalAdvance(QStringLiteral("000")));
-    connect(slider, &QSlider::valueChanged, this, [this, n, valore](int nuovo) {
-      valore->setText(QString::number(nuovo));
-      collegamento_->Muovi(n, nuovo);
-    });
-    posti->addWidget(slider);
-    posti->addWidget(valore);
-    righe->addWidget(cornice);
-  }
-  righe->addStretch();
-  return pagina;
+void Finestra_Impianto::Aggiorna() {
+  storia_.Guarda();
+  guasti_->Aggiorna();
+  if (tabella_->isVisible()) tabella_->Aggiorna();
+  if (striscia_->isVisible()) striscia_->update();
 }
 
 QSize Finestra_Impianto::Voluta() const {
-  return {quadro_->sizeHint().width(), Px(altezza_)};
+  const int striscia = striscia_->isHidden() ? 0 : striscia_->sizeHint().height();
+  return {quadro_->sizeHint().width(), Px(altezza_) + striscia};
 }
 
 void Finestra_Impianto::Mostra_Corsa(bool acceso) {
-  etRun_->setText(acceso ? QStringLiteral("CPU in RUN") : QStringLiteral("CPU in STOP"));
-  const colori::Coppia& tinta = acceso ? colori::In_Run : colori::In_Stop;
-  QPalette tinte = etRun_->palette();
-  tinte.setColor(QPalette::Window, tinta.Fondo);
-  tinte.setColor(QPalette::WindowText, tinta.Testo);
-  etRun_->setPalette(tinte);
+  comandi_->Mostra_Corsa(acceso);
 }
 
 /// The height shows or hides the table. What the user has made the window larger by stays.
@@ -246,12 +167,59 @@ void Finestra_Impianto::Apri_Tabella(bool aperta) {
   const Esercizio& esercizio = collegamento_->Tabella();
   const int prima = altezza_;
   altezza_ = aperta ? esercizio.Altezza_Aperta : esercizio.Altezza_Chiusa;
-  const int voluta = height() + Px(altezza_) - Px(prima);
-  schede_->setVisible(aperta);
+  Mostra(*schede_, aperta, Px(altezza_) - Px(prima));
+}
+
+void Finestra_Impianto::Apri_Striscia(bool aperta) {
+  Mostra(*striscia_, aperta, (aperta ? 1 : -1) * striscia_->sizeHint().height());
+}
+
+void Finestra_Impianto::Mostra(QWidget& vista, bool aperta, int pixel) {
+  const bool ferma = isMaximized() || isFullScreen();
+  // What appears may make the window grow at once.
+  const QSize voluta(width(), height() + (ferma ? 0 : pixel));
+  vista.setVisible(aperta);
+  Disponi(voluta);
   layout()->activate();  // else the window may not shrink yet
-  if (isMaximized() || isFullScreen()) return;
-  resize(width(), voluta);
+  if (ferma) return;
+  resize(voluta);
   if (Tabella_Mossa) Tabella_Mossa();
+}
+
+/// Whether the picture is larger with the table at its side than with the table below.
+bool Finestra_Impianto::Meglio_Accanto(const QSize& finestra) const {
+  if (schede_->isHidden()) return false;
+  if (finestra.width() < larga_accanto + quadro_->minimumSizeHint().width()) return false;
+  const QSizeF disegno = quadro_->sizeHint();
+  const int sotto =
+      comandi_->sizeHint().height() + (striscia_->isHidden() ? 0 : striscia_->sizeHint().height());
+  const auto scala = [&](int largo, int alto) {
+    return std::min(largo / disegno.width(), alto / disegno.height());
+  };
+  const int con_tabella = Px(storia_.Tabella().Altezza_Aperta - storia_.Tabella().Altezza_Chiusa);
+  return scala(finestra.width() - larga_accanto, finestra.height() - sotto) >
+         scala(finestra.width(), finestra.height() - sotto - con_tabella);
+}
+
+void Finestra_Impianto::Disponi(const QSize& finestra) {
+  const bool accanto = Meglio_Accanto(finestra);
+  const int alta = Px(storia_.Tabella().Altezza_Aperta - storia_.Tabella().Altezza_Chiusa);
+  if (accanto != accanto_) {
+    accanto_ = accanto;
+    posti_->removeWidget(schede_);
+    if (accanto)
+      posti_->addWidget(schede_, Riga_Del_Quadro, 1, Riga_Delle_Schede, 1);
+    else
+      posti_->addWidget(schede_, Riga_Delle_Schede, 0);
+  }
+  schede_->setMinimumSize(accanto ? QSize(larga_accanto, 0) : QSize(0, alta));
+  schede_->setMaximumSize(accanto ? QSize(larga_accanto, QWIDGETSIZE_MAX)
+                                  : QSize(QWIDGETSIZE_MAX, alta));
+}
+
+void Finestra_Impianto::resizeEvent(QResizeEvent* evento) {
+  QWidget::resizeEvent(evento);
+  Disponi(size());
 }
 
 }  // namespace tavorno

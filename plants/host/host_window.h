@@ -1,21 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <memory>
 
+#include "plants/host/io_history.h"
 #include "plants/link.h"
 
-class QLabel;
+class QGridLayout;
 class QTabWidget;
 
 namespace tavorno {
 
+class Pannello_Guasti;
 class Quadro;
+class Riga_Comandi;
+class Striscia;
+class Tabella_IO;
 
-/// The one host window of all plants: picture, ticks and buttons, table of inputs and outputs,
-/// settings. Everything that differs comes from the table of exercises.
+/// The one host window of all plants: picture, strip of the last minute, ticks and buttons, table
+/// of inputs and outputs, settings, faults. Everything that differs comes from the table of
+/// exercises. The table stands below the picture, or beside it where that leaves the picture
+/// larger.
 class Finestra_Impianto : public QWidget {
  public:
   /// An open plant that has not spoken yet. It lives as long as the window.
@@ -25,7 +33,9 @@ class Finestra_Impianto : public QWidget {
   std::function<void(const char* pagina)> Mostra_Aiuto;  ///< "Info": a page of the exercises
   std::function<void()> Mostra_Tempi;                    ///< the timing diagram
   std::function<void()> Chiusa;                          ///< the plant was closed
-  std::function<void()> Tabella_Mossa;                   ///< the table appeared or went
+  std::function<void()> Tabella_Mossa;                   ///< table or strip appeared or went
+  /// Addresses such as "I0.3" whose LED and terminal are to light up; none for an empty list.
+  std::function<void(const QStringList& morsetti)> Indica_Morsetti;
 
   Quadro& Disegno() { return *quadro_; }
   Collegamento& Fili() { return *collegamento_; }
@@ -37,21 +47,35 @@ class Finestra_Impianto : public QWidget {
   /// Shows whether the CPU runs.
   void Mostra_Corsa(bool acceso);
 
+  /// Looks at the terminals now, and shows what changed: it does so by itself ten times a second.
+  void Aggiorna();
+
  protected:
   void closeEvent(QCloseEvent* evento) override;
+  void resizeEvent(QResizeEvent* evento) override;
 
  private:
-  QWidget* Crea_Comandi();
-  QWidget* Crea_Schede();
-  QWidget* Assegna_IO();
-  QWidget* Impostazioni();
+  QTabWidget* Crea_Schede();
   void Apri_Tabella(bool aperta);
+  void Apri_Striscia(bool aperta);
+  void Mostra(QWidget& vista, bool aperta, int pixel);
+  bool Meglio_Accanto(const QSize& finestra) const;
+  void Disponi(const QSize& finestra);
+  void Collega_Comandi();
+  void Collega_Indicazioni();
 
   std::unique_ptr<Collegamento> collegamento_;
+  Storia_IO storia_;
   Quadro* quadro_;
+  Striscia* striscia_;
+  Tabella_IO* tabella_;
+  Pannello_Guasti* guasti_;
+  Riga_Comandi* comandi_;
+  QGridLayout* posti_;
   QTabWidget* schede_ = nullptr;
-  QLabel* etRun_ = nullptr;
+  QTimer sguardo_;
   int altezza_;
+  bool accanto_ = false;  // the table stands beside the picture
 };
 
 }  // namespace tavorno

@@ -87,6 +87,7 @@ void Quadro::Passa_Sopra(Figura* figura) {
 
 void Quadro::leaveEvent(QEvent* evento) {
   Passa_Sopra(nullptr);
+  Punta(nullptr);
   QWidget::leaveEvent(evento);
 }
 
@@ -114,6 +115,9 @@ void Quadro::mouseDoubleClickEvent(QMouseEvent* evento) {
 
 void Quadro::mouseMoveEvent(QMouseEvent* evento) {
   Passa_Sopra(Figura_A(evento->position()));
+  Punta(In_Cima(evento->position(), [this](const Figura& figura) {
+    return figura.Visible() && !Morsetti_Di(figura).isEmpty();
+  }));
 }
 
 void Quadro::wheelEvent(QWheelEvent* evento) {
@@ -150,6 +154,7 @@ void Quadro::Metti_Fuoco(const Figura& figura, bool in_vista) {
   if (nome == fuoco_ && in_vista == fuoco_in_vista_) return;
   fuoco_ = nome;
   fuoco_in_vista_ = in_vista;
+  if (in_vista) Punta(&figura);
   update();
 }
 

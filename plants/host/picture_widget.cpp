@@ -37,6 +37,7 @@ Quadro::Quadro(Impianto& impianto, const QString& file, QWidget* sopra)
     vista.Di = &figura;
     vista.A_Riposo = vista.Ora = Rettangolo(figura);
     vista.Gruppo_Ora = Gruppo(figura);
+    vista.Morsetti = Leggi_Morsetti(figura);
     viste_.push_back(vista);
   }
 
@@ -125,6 +126,7 @@ void Quadro::paintEvent(QPaintEvent* evento) {
   for (Vista& vista : viste_) vista.Ultimo = Occupato(vista);
   Disegna_Tutto(pittore, Scala(), evento->region());
   pittore.translate(-Origine());
+  Disegna_Indicate(pittore);
   Disegna_Mano(pittore);
 }
 

@@ -49,6 +49,13 @@ class Quadro : public QWidget {
   /// What the user has chosen, or else what the desktop asks for.
   static bool Preferite_Ridotte();
 
+  /// The addresses of the inputs and outputs that a figure stands for: "I0.3", "AIW0".
+  QStringList Morsetti_Di(const Figura& figura) const;
+  /// Marks the visible figures that stand for one of these addresses; an empty list marks none.
+  void Indica(const QStringList& morsetti);
+  /// The pointer or the keys are on a part with these addresses now; an empty list is none.
+  std::function<void(const QStringList& morsetti)> Indicata;
+
   /// Asks for the file to save to, "svg" or "png"; an empty name is none.
   std::function<QString(const QString& tipo)> Chiedi_File = [this](const QString& tipo) {
     return Chiedi_Con_Finestra(tipo);
@@ -87,6 +94,7 @@ class Quadro : public QWidget {
     qint64 Mossa = -10000;
     int Fase = 0;
     QString Gruppo_Ora;
+    QStringList Morsetti;  ///< addresses that it stands for
   };
 
   bool Tocca(const Vista& vista, const QPointF& punto) const;
@@ -111,6 +119,9 @@ class Quadro : public QWidget {
   void Premi(Figura*& mano, Figura& figura);
   void Rilascia(Figura*& mano, bool sopra);
   void Passa_Sopra(Figura* figura);
+  void Punta(const Figura* figura);
+  static QStringList Leggi_Morsetti(const Figura& figura);
+  void Disegna_Indicate(QPainter& pittore);
   template <class Quali>
   Figura* In_Cima(const QPointF& punto, Quali quali) const;
   std::vector<Vista*> Operabili();
@@ -127,6 +138,8 @@ class Quadro : public QWidget {
   QString fuoco_;                // name of the figure that the keyboard operates
   bool fuoco_in_vista_ = false;  // its frame would cross labels, so it waits for a key
   Figura* sopra_ = nullptr;      // under the pointer
+  QStringList indicati_;         // addresses whose parts are marked
+  QStringList puntati_;          // addresses that `Indicata` was told last
   bool senza_effetto_ = false;   // since the last press nothing has changed
   // Held down. There are two, so that a hand on each can hold two buttons at once.
   Figura* mouse_ = nullptr;

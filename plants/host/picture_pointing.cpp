@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Which part of a picture stands for which terminal, and the mark around a part that is pointed at
+// elsewhere.
+#include <QPainter>
+#include <QRegularExpression>
+#include <algorithm>
+
+#include "plants/host/picture_widget.h"
+#include "widgets/colours.h"
+#include "widgets/text.h"
+
+namespace tavorno {
+
+QStringList Quadro::Leggi_Morsetti(const Figura& figura) {
+  static const QRegularExpression indirizzo(
+      QStringLiteral("\\b(?:[IQ][01]\\.[0-7]|AIW[024]|AQW[02])\\b"));
+  QStringList morsetti = Q(figura.Morsetti).split(' ', Qt::SkipEmptyParts);
+  for (auto trovati = indirizzo.globalMatch(Q(figura.ToolTip())); trovati.hasNext();)
+    morsetti << trovati.next().captured(0);
+  morsetti.removeDuplicates();
+  return morsetti;
+}
+
+QStringList Quadro::Morsetti_Di(const Figura& figura) const {
+  const Vista* vista = Vista_Di(Q(figura.Nome));
+  return vista == nullptr ? QStringList() : vista->Morsetti;
+}
+
+void Quadro::Indica(const QStringList& morsetti) {
+  if (morsetti == indicati_) return;
+  indicati_ = morsetti;
+  update();
+}
+
+void Quadro::Punta(const Figura* figura) {
+  const QStringList morsetti = figura == nullptr ? QStringList() : Morsetti_Di(*figura);
+  if (morsetti == puntati_) return;
+  puntati_ = morsetti;
+  if (Indicata) Indicata(morsetti);
+}
+
+void Quadro::Disegna_Indicate(QPainter& pittore) {
+  if (indicati_.isEmpty()) return;
+  QColor velo = colori::Segno_Indicata;
+  velo.setAlphaF(0.14F);
+  pittore.setBrush(velo);
+  pittore.setPen(QPen(colori::Segno_Indicata, 2.5));
+  for (const Vista& vista : viste_) {
+    if (!vista.Di->Visible()) continue;
+    const bool indicata = std::ranges::any_of(
+        vista.Morsetti, [this](const QString& morsetto) { return indicati_.contains(morsetto); });
+    if (!indicata) continue;
+    // What is small gets a mark that can be seen all the same.
+    QRectF posto = Posto_Mostrato(*vista.Di);
+    const double manca = std::max(0.0, 14 - std::min(posto.width(), posto.height())) / 2;
+    posto.adjust(-3 - manca, -3 - manca, 3 + manca, 3 + manca);
+    pittore.drawRoundedRect(posto, 6, 6);
+  }
+}
+
+}  // namespace tavorno
