@@ -63,7 +63,7 @@ void Allunga(std::vector<Punto_Disegno>& rettangoli, double x1, double x2,
   if (!rettangoli.empty() && rettangoli.back().X == x1)
     rettangoli.back().X = x2;
   else
-    rettangoli.insert(rettangoli.end(), {{x1, posto.Alto}, {x2, posto.Basso}});
+    rettangoli.insert(rettangoli.end(), {{x1, posto.Alto}, {x2, posto.Basso + 0.5}});
 }
 
 }  // namespace

@@ -75,7 +75,7 @@ void Dipingi(QPainter& pittore, const Disegno_Tempi& disegno) {
         pittore.setRenderHint(QPainter::Antialiasing);
         pittore.setPen(QPen(Colore_Di(pezzo.Tinta), pezzo.Spessore,
                             pezzo.Tratteggio ? Qt::DashLine : Qt::SolidLine, Qt::FlatCap,
-                            Qt::MiterJoin));
+                            Qt::RoundJoin));
         pittore.drawPolyline(Netti(pezzo.Punti));
         break;
       case Tipo::Area:

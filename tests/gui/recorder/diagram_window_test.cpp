@@ -74,6 +74,14 @@ TEST_F(Diagram_Window, EveryCommandHasKeysOfItsOwnThatItsTipTells) {
   }
 }
 
+TEST_F(Diagram_Window, TheHelpPageTellsEveryCommand) {
+  QFile pagina(QStringLiteral(TAVORNO_HELP_SOURCE "/Tempi.htm"));
+  ASSERT_TRUE(pagina.open(QIODevice::ReadOnly));
+  const QString testo = QString::fromUtf8(pagina.readAll()).replace(QChar(0x2019), '\'');
+  for (const Comando_Tempi& comando : FrmTempi::Comandi())
+    EXPECT_TRUE(testo.contains(QString::fromUtf8(comando.Cosa))) << comando.Cosa;
+}
+
 TEST_F(Diagram_Window, TheArrowsGoFromEdgeToEdge) {
   Corri(1000);
   Scegli("Q0.0");

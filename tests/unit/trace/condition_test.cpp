@@ -97,5 +97,14 @@ TEST(Condition_Of_A_Plant, KnowsTheSymbols) {
   EXPECT_EQ((*condizione)[1].Numero, 0);
 }
 
+TEST(Condition_Of_A_Plant, TheExamplesOfTheGuideCanBeRead) {
+  const Esercizio& cancello = Tabella_Esercizi()[9];
+  for (const char* testo : {"Q0.1 sale", "KM1 scende", "SQ1 cambia", "VW10 > 300", "T37.Val >= 20",
+                            "C5.PV <> 3", "KM1 e KM2", "SB2 sale e SQ1 = 0"}) {
+    std::string errore;
+    EXPECT_TRUE(Leggi_Condizione(testo, &cancello, errore)) << testo << ": " << errore;
+  }
+}
+
 }  // namespace
 }  // namespace tavorno::prova
