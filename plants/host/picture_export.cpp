@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The present picture for a sheet of work: as vectors or as points, and the menu that offers both.
 #include <QAction>
-#include <QFile>
+#include <QBuffer>
 #include <QFileDialog>
 #include <QImage>
 #include <QMessageBox>
 #include <QPainter>
-#include <QSaveFile>
 #include <QSettings>
 #include <QStyle>
 #include <cmath>
 
+#include "awl/file_io.h"
 #include "plants/host/picture_widget.h"
 #include "widgets/text.h"
 #include "widgets/twips.h"
@@ -102,15 +102,19 @@ void Quadro::Salva(const QString& tipo) {
   if (scelto.isEmpty()) return;
   const QString file =
       scelto.endsWith('.' + tipo, Qt::CaseInsensitive) ? scelto : scelto + '.' + tipo;
-  QSaveFile aperto(file);
-  bool riuscito = aperto.open(QIODevice::WriteOnly);
-  if (riuscito && tipo == u"svg")
-    riuscito = aperto.write(Come_Svg().toUtf8()) >= 0;
-  else if (riuscito)
-    riuscito = Come_Immagine(finezza).save(&aperto, "PNG");
-  if (!riuscito || !aperto.commit())
+  QByteArray byte;
+  if (tipo == u"svg") {
+    byte = Come_Svg().toUtf8();
+  } else {
+    QBuffer dentro(&byte);
+    dentro.open(QIODevice::WriteOnly);
+    Come_Immagine(finezza).save(&dentro, "PNG");
+  }
+  const std::string errore =
+      Scrivi_File(Utf8(file), {byte.constData(), static_cast<std::size_t>(byte.size())});
+  if (!errore.empty())
     QMessageBox::warning(this, QStringLiteral("Errore!"),
-                         "La figura non si può salvare in\n" + file + '\n' + aperto.errorString());
+                         "La figura non si può salvare in\n" + file + '\n' + Q(errore));
 }
 
 QString Quadro::Chiedi_Con_Finestra(const QString& tipo) {
