@@ -24,6 +24,9 @@ struct Modo_Scrittura {
 std::error_code Sostituisci(const std::filesystem::path& file, std::string_view byte,
                             Modo_Scrittura modo);
 
+/// Whether the name is that of a device, a pipe or a terminal: written to, never replaced.
+bool Di_Sistema(const std::filesystem::path& file);
+
 /// A lock on a file, among programs and within one; it goes with its owner, or with the process,
 /// however that ends.
 class Serratura {

@@ -168,6 +168,12 @@ std::error_code Sostituisci(const fs::path& file, std::string_view byte, Modo_Sc
   return {};
 }
 
+bool Di_Sistema(const fs::path& file) {
+  std::error_code nessuno;
+  const fs::file_status stato = fs::status(file, nessuno);
+  return fs::exists(stato) && !fs::is_regular_file(stato) && !fs::is_directory(stato);
+}
+
 // ---- locks --------------------------------------------------------------------------------------
 
 std::optional<Serratura> Serratura::Prendi(const fs::path& file) {

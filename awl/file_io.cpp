@@ -34,6 +34,11 @@ fs::path Percorso_Disco(std::string_view utf8) {
   return std::u8string(utf8.begin(), utf8.end());
 }
 
+std::string Testo_Percorso(const fs::path& percorso) {
+  const std::u8string utf8 = percorso.generic_u8string();
+  return {utf8.begin(), utf8.end()};
+}
+
 std::string Causa_Disco(std::error_code errore) {
   static const struct {
     std::errc quale;
@@ -49,6 +54,8 @@ std::string Causa_Disco(std::error_code errore) {
       {std::errc::not_a_directory, "una parte del percorso non è una cartella"},
       {std::errc::filename_too_long, "il nome del file è troppo lungo"},
       {std::errc::too_many_symbolic_link_levels, "i collegamenti girano in tondo"},
+      {std::errc::text_file_busy, "il file è aperto in un altro programma"},
+      {std::errc::invalid_argument, "il nome del file non è ammesso"},
       {std::errc::device_or_resource_busy, "un altro programma sta scrivendo lo stesso file"},
       {std::errc::io_error, "errore del disco"},
   };

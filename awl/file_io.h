@@ -18,6 +18,8 @@ struct Contenuto_File {
 
 /// Paths inside the program are UTF-8.
 std::filesystem::path Percorso_Disco(std::string_view utf8);
+/// The way back, with "/" between folders on every system.
+std::string Testo_Percorso(const std::filesystem::path& percorso);
 
 /// The cause of a failure in Italian, UTF-8, without a full stop.
 std::string Causa_Disco(std::error_code errore);

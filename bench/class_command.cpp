@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/class_command.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <atomic>
 #include <filesystem>
@@ -14,6 +12,7 @@
 #include "bench/commands.h"
 #include "bench/interruption.h"
 #include "bench/plant_options.h"
+#include "bench/process.h"
 #include "bench/program_folder.h"
 #include "bench/report_files.h"
 #include "grading/class_hand_ins.h"
@@ -33,11 +32,7 @@ namespace fs = std::filesystem;
 /// A folder for what comes out of an archive; it goes with its owner.
 class Appoggio {
  public:
-  Appoggio() {
-    std::string nome = (fs::temp_directory_path() / "tavorno-classe-XXXXXX").string();
-    if (!::mkdtemp(nome.data())) throw std::runtime_error("impossibile scrivere \"" + nome + "\"");
-    cartella_ = nome;
-  }
+  Appoggio() : cartella_(Cartella_Di_Appoggio()) {}
   ~Appoggio() {
     std::error_code nessuno;
     fs::remove_all(cartella_, nessuno);
@@ -87,7 +82,7 @@ Voto Esamina_Consegna(const Consegna& consegna, const Verifiche& verifiche) {
 std::vector<Voto> Esamina_Classe(const std::vector<Consegna>& consegne, const Verifiche& verifiche,
                                  unsigned processi, std::ostream& err) {
   const Interruzione interruzione;
-  const bool terminale = &err == &std::cerr && ::isatty(STDERR_FILENO) == 1;
+  const bool terminale = &err == &std::cerr && Errori_Su_Terminale();
   std::vector<Voto> voti(consegne.size());
   std::atomic<std::size_t> prossima = 0, fatte = 0;
   std::vector<std::jthread> operai;
@@ -108,13 +103,14 @@ std::vector<Voto> Esamina_Classe(const std::vector<Consegna>& consegne, const Ve
   return voti;
 }
 
-void Prepara_Uscita(const std::string& cartella) {
+void Prepara_Uscita(const std::string& nome) {
   std::error_code errore;
+  const fs::path cartella = Percorso_Disco(nome);
   fs::create_directories(cartella, errore);
   if (errore || !fs::is_directory(cartella, errore))
-    throw std::runtime_error("impossibile scrivere \"" + cartella + "\": non è una cartella");
+    throw std::runtime_error("impossibile scrivere \"" + nome + "\": non è una cartella");
   if (!fs::is_empty(cartella, errore) || errore)
-    throw Uso_Errato("la cartella \"" + cartella +
+    throw Uso_Errato("la cartella \"" + nome +
                      "\" non è vuota: i rapporti non prendono il posto di altri file");
 }
 
@@ -123,13 +119,13 @@ void Scrivi_Rapporti(const fs::path& cartella, const std::vector<Voto>& voti,
   std::vector<Esito_Progetto> esiti;
   esiti.reserve(voti.size());
   for (const Voto& voto : voti) esiti.push_back(voto.Esito);
-  Scrivi_Rapporto((cartella / "indice.html").string(), Pagina_Docente(voti, testata));
+  Scrivi_Rapporto(Testo_Percorso(cartella / "indice.html"), Pagina_Docente(voti, testata));
   for (std::size_t n = 0; n < voti.size(); ++n)
-    Scrivi_Rapporto((cartella / Nome_Pagina(n)).string(), Pagina_Studente(voti[n], testata));
-  Scrivi_Rapporto((cartella / Nome_Pagina_Simili).string(), Pagina_Simili(voti, testata));
-  Scrivi_Rapporto((cartella / "punti.csv").string(), Tabella_Csv(voti));
-  Scrivi_Rapporto((cartella / "junit.xml").string(), Rapporto_Junit(esiti, testata));
-  Scrivi_Rapporto((cartella / "esiti.json").string(), Rapporto_Json(esiti, testata) + "\n");
+    Scrivi_Rapporto(Testo_Percorso(cartella / Nome_Pagina(n)), Pagina_Studente(voti[n], testata));
+  Scrivi_Rapporto(Testo_Percorso(cartella / Nome_Pagina_Simili), Pagina_Simili(voti, testata));
+  Scrivi_Rapporto(Testo_Percorso(cartella / "punti.csv"), Tabella_Csv(voti));
+  Scrivi_Rapporto(Testo_Percorso(cartella / "junit.xml"), Rapporto_Junit(esiti, testata));
+  Scrivi_Rapporto(Testo_Percorso(cartella / "esiti.json"), Rapporto_Json(esiti, testata) + "\n");
 }
 
 /// What a class is graded with: a script of its own, or an exercise with the one that comes with
@@ -148,7 +144,7 @@ Compito Compito_Di(const Argomenti& argomenti) {
   const auto esercizi = Tabella_Esercizi();
   const long long numero =
       argomenti.Numero("--esercizio", 0, 0, static_cast<long long>(esercizi.size()) - 1);
-  return {File_Esercizio(Cartella_Programma(), static_cast<int>(numero)).string(),
+  return {Testo_Percorso(File_Esercizio(Cartella_Programma(), static_cast<int>(numero))),
           &Scegli_Impianto(esercizi, static_cast<std::size_t>(numero))};
 }
 
@@ -181,7 +177,7 @@ int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
   }
   Prepara_Uscita(uscita);
   const std::vector<Voto> voti = Esamina_Classe(consegne, verifiche, processi, err);
-  Scrivi_Rapporti(uscita, voti, testata);
+  Scrivi_Rapporti(Percorso_Disco(uscita), voti, testata);
 
   bool errati = false, superati = true;
   for (const Voto& voto : voti) {

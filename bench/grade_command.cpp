@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/grade_command.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
 #include <thread>
 
+#include "awl/file_io.h"
 #include "bench/arguments.h"
 #include "bench/commands.h"
 #include "bench/interruption.h"
 #include "bench/plant_options.h"
+#include "bench/process.h"
 #include "bench/report_files.h"
 #include "bench/trace_options.h"
 #include "grading/grader.h"
@@ -44,7 +44,7 @@ Sorgente_Script Leggi_Script(const std::string& file) {
 
 bool Cartella(const std::string& percorso) {
   std::error_code errore;  // an impossible path is no folder
-  return fs::is_directory(percorso, errore);
+  return fs::is_directory(Percorso_Disco(percorso), errore);
 }
 
 /// What the command line names.
@@ -99,7 +99,7 @@ std::vector<Esito_Progetto> Esamina_Molti(const Incarico& incarico, unsigned pro
                                           std::ostream& out, std::ostream& err) {
   std::vector<Esito_Progetto> esiti;
   // Nobody wants the progress in a file.
-  const bool terminale = &err == &std::cerr && ::isatty(STDERR_FILENO) == 1;
+  const bool terminale = &err == &std::cerr && Errori_Su_Terminale();
   const std::size_t tutti = incarico.Progetti.size();
   const Interruzione interruzione;
   Esamina_Tutti(

@@ -3,7 +3,7 @@
 
 namespace tavorno {
 
-/// While one lives, the first SIGINT or SIGTERM is a wish to stop that `Chiesta` tells of; a second
+/// While one lives, the first SIGINT or SIGTERM (on Windows, Ctrl+C) is a wish to stop that `Chiesta` tells of; a second
 /// one ends the process at once.
 class Interruzione {
  public:

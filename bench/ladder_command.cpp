@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/ladder_command.h"
 
-#include <filesystem>
-
+#include "awl/file_io.h"
 #include "bench/exit_status.h"
 #include "bench/plant_options.h"
 #include "bench/report_files.h"
@@ -47,7 +46,7 @@ int Comando_Scala(const Argomenti& argomenti, std::ostream& out, std::ostream& e
   const auto righe = static_cast<std::size_t>(seduta.plc.NRighe) + 1;
   const auto blocchi = Scala_Di({seduta.progetto.Righe_Src.begin(), righe});
   const std::string svg = Documento_Svg(
-      blocchi, std::filesystem::path(file).filename().string(),
+      blocchi, Testo_Percorso(Percorso_Disco(file).filename()),
       [esercizio](const std::string& operando) { return Simbolo_Impianto(operando, esercizio); });
   if (!argomenti.Ha("--svg")) {
     out << svg;

@@ -15,18 +15,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A pipe, a terminal or /dev/null: written to, never replaced, and good for several reports.
+/// Good for several reports.
 bool Di_Passaggio(const std::string& file) {
-  std::error_code nessuno;
-  const fs::file_status stato = fs::status(file, nessuno);
-  return fs::exists(stato) && !fs::is_regular_file(stato) && !fs::is_directory(stato);
+  return Di_Sistema(Percorso_Disco(file));
 }
 
 /// Two names of one file, also of one that is not there yet.
 bool Stesso_File(const std::string& uno, const std::string& altro) {
   std::error_code errore;
-  if (fs::equivalent(uno, altro, errore)) return true;
-  const fs::path a = fs::weakly_canonical(uno, errore), b = fs::weakly_canonical(altro, errore);
+  const fs::path primo = Percorso_Disco(uno), secondo = Percorso_Disco(altro);
+  if (fs::equivalent(primo, secondo, errore)) return true;
+  const fs::path a = fs::weakly_canonical(primo, errore), b = fs::weakly_canonical(secondo, errore);
   return !a.empty() && a == b;
 }
 
@@ -53,7 +52,7 @@ void Controlla_Rapporti(const Argomenti& argomenti, const std::vector<std::strin
 void Scrivi_Rapporto(const std::string& file, const std::string& testo) {
   std::string errore;
   if (Di_Passaggio(file)) {
-    std::ofstream uscita(file, std::ios::binary);
+    std::ofstream uscita(Percorso_Disco(file), std::ios::binary);
     if (!(uscita << testo << std::flush)) errore = "la scrittura non è riuscita";
   } else {
     errore = Scrivi_File(file, testo);

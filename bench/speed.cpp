@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/speed.h"
 
-#include <ctime>
+#include <chrono>
 
+#include "grading/processor_time.h"
 #include "recorder/driven_run.h"
 
 namespace tavorno {
@@ -12,7 +13,7 @@ Velocita Misura(Plc& plc, std::chrono::milliseconds durata) {
   constexpr int righe_per_sguardo = 96;  // as the run in the window
   Velocita velocita;
   const auto inizio = Orario::now();
-  const std::clock_t processore = std::clock();
+  const std::chrono::nanoseconds processore = Tempo_Del_Processo();
   plc.mnuPlcCont();
   Avvia_Guidata(plc, &Plc::mnuPlcRun);
   velocita.Righe = 1;
@@ -23,7 +24,8 @@ Velocita Misura(Plc& plc, std::chrono::milliseconds durata) {
     plc.Tempo.Porta_A(std::chrono::duration_cast<std::chrono::milliseconds>(passato).count());
   }
   velocita.Scansioni = plc.N_Cicli;
-  velocita.Secondi_Processore = static_cast<double>(std::clock() - processore) / CLOCKS_PER_SEC;
+  velocita.Secondi_Processore =
+      std::chrono::duration<double>(Tempo_Del_Processo() - processore).count();
   velocita.Secondi = std::chrono::duration<double>(passato).count();
   return velocita;
 }

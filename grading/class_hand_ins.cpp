@@ -3,16 +3,16 @@
 
 #include <archive.h>
 #include <archive_entry.h>
-#include <fcntl.h>
-#include <sys/stat.h>
 
 #include <algorithm>
+#include <chrono>
 #include <fstream>
 #include <memory>
 #include <set>
 #include <stdexcept>
 #include <tuple>
 
+#include "awl/file_io.h"
 #include "grading/hand_in_search.h"
 #include "trace/markup.h"
 
@@ -25,6 +25,26 @@ namespace fs = std::filesystem;
 struct Chiudi {
   void operator()(archive* zip) const { archive_read_free(zip); }
 };
+
+// Windows' own names are wide; elsewhere a name is whatever bytes it is.
+constexpr bool nomi_larghi = fs::path::preferred_separator == '\\';
+
+int Apri(archive* zip, const fs::path& file) {
+  constexpr std::size_t blocco = 65'536;
+  if constexpr (nomi_larghi)
+    return archive_read_open_filename_w(zip, file.wstring().c_str(), blocco);
+  return archive_read_open_filename(zip, file.string().c_str(), blocco);
+}
+
+/// The path of an entry, "" for one without.
+std::string Nome_Della_Voce(archive_entry* voce) {
+  if constexpr (nomi_larghi) {
+    const wchar_t* largo = archive_entry_pathname_w(voce);
+    return largo ? Testo_Percorso(fs::path(largo)) : "";
+  }
+  const char* testo = archive_entry_pathname(voce);
+  return testo ? testo : "";
+}
 
 /// No project in it may be larger; false beyond that, or when the data is broken.
 bool Estrai(archive* zip, const fs::path& file) {
@@ -42,12 +62,12 @@ bool Estrai(archive* zip, const fs::path& file) {
 
 /// A path that stays inside its folder.
 bool Sta_Dentro(const fs::path& percorso) {
-  return percorso.is_relative() &&
+  return percorso.root_path().empty() &&
          std::ranges::none_of(percorso, [](const fs::path& parte) { return parte == ".."; });
 }
 
 std::string Motivo_Della_Voce(const std::string& nome, archive_entry* voce) {
-  if (!Sta_Dentro(nome)) return "il percorso esce dalla cartella";
+  if (!Sta_Dentro(Percorso_Disco(nome))) return "il percorso esce dalla cartella";
   if (archive_entry_filetype(voce) != AE_IFREG || archive_entry_hardlink(voce))
     return "non è un file";
   return Motivo_Del_Nome(nome);
@@ -56,7 +76,7 @@ std::string Motivo_Della_Voce(const std::string& nome, archive_entry* voce) {
 std::vector<Consegna> Leggi_Zip(const std::string& file, const fs::path& scratch) {
   const std::unique_ptr<archive, Chiudi> zip(archive_read_new());
   archive_read_support_format_zip(zip.get());
-  if (archive_read_open_filename(zip.get(), file.c_str(), 65'536) != ARCHIVE_OK)
+  if (Apri(zip.get(), Percorso_Disco(file)) != ARCHIVE_OK)
     throw std::runtime_error(file + ": non è una cartella e non è un archivio zip");
   std::vector<Consegna> consegne;
   archive_entry* voce = nullptr;
@@ -68,8 +88,7 @@ std::vector<Consegna> Leggi_Zip(const std::string& file, const fs::path& scratch
           {"", Utf8_Valido(file), "", "l'archivio ha più di 10000 voci: le altre non si leggono"});
       break;
     }
-    const char* testo = archive_entry_pathname(voce);
-    const std::string nome = testo ? testo : "";
+    const std::string nome = Nome_Della_Voce(voce);
     if (archive_entry_filetype(voce) == AE_IFDIR || nome.empty()) continue;
     const bool progetto = Estensione(nome) == ".awl";
     Consegna consegna{Nome_Studente(Utf8_Valido(nome)), Utf8_Valido(nome), "",
@@ -78,10 +97,12 @@ std::vector<Consegna> Leggi_Zip(const std::string& file, const fs::path& scratch
     if (consegna.Motivo.empty()) {
       const fs::path estratto = scratch / (std::to_string(numero) + ".AWL");
       if (Estrai(zip.get(), estratto)) {
-        const timespec data{archive_entry_mtime(voce), 0};
-        const timespec date[2] = {data, data};
-        ::utimensat(AT_FDCWD, estratto.c_str(), date, 0);
-        consegna.Percorso = estratto.string();
+        std::error_code nessuno;
+        fs::last_write_time(estratto,
+                            std::chrono::file_clock::from_sys(std::chrono::sys_seconds(
+                                std::chrono::seconds(archive_entry_mtime(voce)))),
+                            nessuno);
+        consegna.Percorso = Testo_Percorso(estratto);
       } else {
         consegna.Motivo = "è troppo grande, o l'archivio è rovinato";
       }
@@ -98,7 +119,8 @@ std::vector<Consegna> Leggi_Zip(const std::string& file, const fs::path& scratch
 std::vector<Consegna> Leggi_Cartella(const std::string& cartella) {
   std::vector<Consegna> consegne;
   const auto Aggiungi = [&](const std::string& percorso, const std::string& motivo) {
-    const std::string nome = Utf8_Valido(fs::path(percorso).lexically_relative(cartella).string());
+    const std::string nome = Utf8_Valido(
+        Testo_Percorso(Percorso_Disco(percorso).lexically_relative(Percorso_Disco(cartella))));
     consegne.push_back({Nome_Studente(nome), nome, motivo.empty() ? percorso : "", motivo});
   };
   const Consegne_Trovate trovate = Cerca_Consegne(cartella);
@@ -108,10 +130,10 @@ std::vector<Consegna> Leggi_Cartella(const std::string& cartella) {
   std::set<std::string> presenti;
   for (const Consegna& consegna : consegne) presenti.insert(consegna.Studente);
   std::error_code errore;
-  for (fs::directory_iterator voce(cartella, errore), fine; !errore && voce != fine;
+  for (fs::directory_iterator voce(Percorso_Disco(cartella), errore), fine; !errore && voce != fine;
        voce.increment(errore)) {
     std::error_code ignoto;
-    const std::string nome = Utf8_Valido(voce->path().filename().string());
+    const std::string nome = Utf8_Valido(Testo_Percorso(voce->path().filename()));
     if (voce->symlink_status(ignoto).type() == fs::file_type::directory &&
         !presenti.contains(Nome_Studente(nome + "/")))
       consegne.push_back(
@@ -132,13 +154,14 @@ std::string Nome_Studente(const std::string& percorso) {
                                            [](char c) { return c >= '0' && c <= '9'; });
     if (cifre && numero > 0) return prima.substr(0, numero);
   }
-  return barra == std::string::npos ? fs::path(prima).stem().string() : prima;
+  return barra == std::string::npos ? Testo_Percorso(Percorso_Disco(prima).stem()) : prima;
 }
 
 std::vector<Consegna> Leggi_Classe(const std::string& origine, const fs::path& scratch) {
   std::error_code errore;
-  std::vector<Consegna> consegne =
-      fs::is_directory(origine, errore) ? Leggi_Cartella(origine) : Leggi_Zip(origine, scratch);
+  std::vector<Consegna> consegne = fs::is_directory(Percorso_Disco(origine), errore)
+                                       ? Leggi_Cartella(origine)
+                                       : Leggi_Zip(origine, scratch);
   std::ranges::stable_sort(consegne, {}, [](const Consegna& consegna) {
     return std::tie(consegna.Studente, consegna.File);
   });

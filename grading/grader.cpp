@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "grading/grader.h"
 
-#include <sys/stat.h>
-
-#include <ctime>
+#include <chrono>
+#include <cstdio>
 #include <exception>
+#include <filesystem>
 
+#include "awl/file_io.h"
 #include "plc/codepage.h"
 #include "recorder/session.h"
 
@@ -21,11 +22,21 @@ std::string Senza_CR(std::string testo) {
 /// In universal time, so that a report does not depend on where it was written; empty for what is
 /// not there.
 std::string Ultima_Modifica(const std::string& percorso) {
-  struct stat stato {};
-  tm data{};
-  if (::stat(percorso.c_str(), &stato) != 0 || !::gmtime_r(&stato.st_mtime, &data)) return "";
-  char testo[32];
-  return {testo, std::strftime(testo, sizeof testo, "%Y-%m-%dT%H:%M:%SZ", &data)};
+  namespace tempo = std::chrono;
+  std::error_code errore;
+  const auto scritto = std::filesystem::last_write_time(Percorso_Disco(percorso), errore);
+  if (errore) return "";
+  const auto istante = tempo::floor<tempo::seconds>(tempo::file_clock::to_sys(scritto));
+  const auto giorno = tempo::floor<tempo::days>(istante);
+  const tempo::year_month_day data(giorno);
+  const tempo::hh_mm_ss ora(istante - giorno);
+  char testo[64];
+  const int n = std::snprintf(
+      testo, sizeof testo, "%04d-%02u-%02uT%02d:%02d:%02dZ", static_cast<int>(data.year()),
+      static_cast<unsigned>(data.month()), static_cast<unsigned>(data.day()),
+      static_cast<int>(ora.hours().count()), static_cast<int>(ora.minutes().count()),
+      static_cast<int>(ora.seconds().count()));
+  return {testo, static_cast<std::size_t>(n)};
 }
 
 /// Reads and compiles into `ambiente`.

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "awl/file_io.h"
+
 namespace tavorno {
 
 namespace {
@@ -25,9 +27,10 @@ void Cerca(const fs::path& cartella, Consegne_Trovate& trovate) {
   for (fs::directory_iterator voce(cartella, errore), fine; !errore && voce != fine;
        voce.increment(errore))
     voci.push_back(*voce);
-  if (errore) trovate.Scartate.push_back({cartella.string(), "la cartella non si può leggere"});
+  if (errore)
+    trovate.Scartate.push_back({Testo_Percorso(cartella), "la cartella non si può leggere"});
   for (const fs::directory_entry& voce : voci) {
-    const std::string percorso = voce.path().string();
+    const std::string percorso = Testo_Percorso(voce.path());
     std::error_code ignoto;
     const fs::file_type tipo = voce.symlink_status(ignoto).type();
     const bool progetto = Estensione(percorso) == ".awl";
@@ -40,7 +43,7 @@ void Cerca(const fs::path& cartella, Consegne_Trovate& trovate) {
       trovate.Progetti.push_back(percorso);
     } else if (progetto) {
       trovate.Scartate.push_back({percorso, "non è un file"});
-    } else if (const std::string motivo = Motivo_Del_Nome(voce.path().filename().string());
+    } else if (const std::string motivo = Motivo_Del_Nome(Testo_Percorso(voce.path().filename()));
                !motivo.empty()) {
       trovate.Scartate.push_back({percorso, motivo});
     }
@@ -50,7 +53,7 @@ void Cerca(const fs::path& cartella, Consegne_Trovate& trovate) {
 }  // namespace
 
 std::string Estensione(const std::string& file) {
-  return Minuscole(fs::path(file).extension().string());
+  return Minuscole(Testo_Percorso(Percorso_Disco(file).extension()));
 }
 
 std::string Motivo_Del_Nome(const std::string& nome) {
@@ -63,7 +66,7 @@ std::string Motivo_Del_Nome(const std::string& nome) {
 
 Consegne_Trovate Cerca_Consegne(const std::string& cartella) {
   Consegne_Trovate trovate;
-  Cerca(cartella, trovate);
+  Cerca(Percorso_Disco(cartella), trovate);
   std::ranges::sort(trovate.Progetti);
   std::ranges::sort(trovate.Scartate, {}, &Scartata::Percorso);
   return trovate;

@@ -5,10 +5,11 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
-#include <ctime>
 #include <lua5.4/lua.hpp>
 #include <new>
 #include <string_view>
+
+#include "grading/processor_time.h"
 
 namespace tavorno {
 
@@ -139,12 +140,6 @@ int Prepara(lua_State* stato) {
   return 0;
 }
 
-std::chrono::nanoseconds Tempo_Processore() {
-  timespec t{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &t);
-  return std::chrono::seconds(t.tv_sec) + std::chrono::nanoseconds(t.tv_nsec);
-}
-
 }  // namespace
 
 void* Accesso_Recinto::Alloca(void* recinto, void* blocco, std::size_t vecchio, std::size_t nuovo) {
@@ -169,7 +164,7 @@ void Accesso_Recinto::Controlla(lua_State* stato, lua_Debug*) {
   if (recinto.istruzioni_ < 0) luaL_error(stato, "%s", Recinto::troppe_istruzioni);
   const auto adesso = std::chrono::steady_clock::now();
   if (adesso < recinto.scadenza_) return;
-  const auto resto = recinto.processore_ - Tempo_Processore();
+  const auto resto = recinto.processore_ - Tempo_Del_Filo();
   recinto.tempo_scaduto_ = resto.count() < 0;
   if (recinto.tempo_scaduto_) luaL_error(stato, "%s", Recinto::troppo_tempo);
   recinto.scadenza_ = adesso + resto;
@@ -178,7 +173,7 @@ void Accesso_Recinto::Controlla(lua_State* stato, lua_Debug*) {
 Recinto::Recinto(const Limiti_Script& limiti)
     : memoria_(limiti.Memoria),
       istruzioni_(limiti.Istruzioni),
-      processore_(limiti.Processore + std::chrono::ceil<std::chrono::seconds>(Tempo_Processore())),
+      processore_(limiti.Processore + std::chrono::ceil<std::chrono::seconds>(Tempo_Del_Filo())),
       scadenza_(std::chrono::steady_clock::now() + limiti.Processore),
       stato_(lua_newstate(Accesso_Recinto::Alloca, this)) {
   if (!stato_) throw std::bad_alloc();

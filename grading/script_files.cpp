@@ -28,15 +28,15 @@ bool Nome_Semplice(const std::string& nome) {
 
 Sorgente_Script Leggi_Sorgente(const std::string& file) {
   std::error_code errore;
-  if (fs::file_size(file, errore) > script_massimo && !errore)
+  if (fs::file_size(Percorso_Disco(file), errore) > script_massimo && !errore)
     throw std::runtime_error("lo script è troppo grande");
   Contenuto_File contenuto = Leggi_File(file);
   if (!contenuto.Errore.empty())
     throw std::runtime_error("impossibile leggere lo script: " + contenuto.Errore);
-  const fs::path percorso(file);
+  const fs::path percorso = Percorso_Disco(file);
   const std::string impronta = Sha256(contenuto.Byte);
-  Sorgente_Script script{percorso.filename().string(), std::move(contenuto.Byte),
-                         percorso.has_parent_path() ? percorso.parent_path().string() : ".",
+  Sorgente_Script script{Testo_Percorso(percorso.filename()), std::move(contenuto.Byte),
+                         percorso.has_parent_path() ? Testo_Percorso(percorso.parent_path()) : ".",
                          impronta};
   std::ranges::replace(script.Nome, ':', '_');  // ends the name in the messages of the language
   if (script.Testo.starts_with("\xEF\xBB\xBF")) script.Testo.erase(0, 3);
@@ -53,11 +53,11 @@ std::filesystem::path File_Esercizio(const std::filesystem::path& cartella_progr
 Sorgente_Script Leggi_Vicino(const Sorgente_Script& script, const std::string& nome) {
   if (!Nome_Semplice(nome))
     throw std::runtime_error("serve il nome di un file .lua, senza cartelle");
-  const fs::path file = fs::path(script.Cartella) / nome;
+  const fs::path file = Percorso_Disco(script.Cartella) / Percorso_Disco(nome);
   std::error_code errore;
   if (script.Cartella.empty() || !fs::is_regular_file(fs::symlink_status(file, errore)))
     throw std::runtime_error("accanto allo script non c'è un file \"" + nome + "\"");
-  return Leggi_Sorgente(file.string());
+  return Leggi_Sorgente(Testo_Percorso(file));
 }
 
 }  // namespace tavorno

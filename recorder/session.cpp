@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "recorder/session.h"
 
-#include <filesystem>
+#include "awl/file_io.h"
 
 namespace tavorno {
 
@@ -16,7 +16,7 @@ Seduta::Seduta() : plc(orologio), progetto(plc, {}) {
 
 bool Seduta::Apri(const std::string& percorso) {
   progetto.File_Progetto = percorso;
-  progetto.File_Titolo = std::filesystem::path(percorso).filename().string();
+  progetto.File_Titolo = Testo_Percorso(Percorso_Disco(percorso).filename());
   progetto.LeggiTxt();
   return progetto.Err_Lettura == 0;
 }

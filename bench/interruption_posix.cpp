@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "bench/interruption.h"
-
 #include <atomic>
 #include <csignal>
+
+#include "bench/interruption.h"
 
 namespace tavorno {
 
