@@ -63,6 +63,7 @@ void Progetto::Compila_Righe_Lette() {
   const std::span righe(Righe_Src.begin(), static_cast<std::size_t>(CPU.NRighe) + 1);
   Compilazione esito = Compila_Righe(righe);
   Carica(esito.Prodotto, CPU);
+  Programma_Cambiato();
   Righe_Listato = Listato(righe, esito.Rilievi);
   Lista_Comp = Testo_Listato(Righe_Listato);
   Rilievi = Rilievi_Lettura;

@@ -138,6 +138,7 @@ void Progetto::Prendi(Lettura lettura) {
   txtP = Num_SBR > 0 ? Tab_SBR[1].Testo : "";
   CPU.NRighe = static_cast<std::int16_t>(letta.Righe.size() - 1);
   CPU.Prog.Ridimensiona(CPU.NRighe + 1);
+  Programma_Cambiato();
   etNR[2] = std::to_string(letta.Righe_Lette - 1);
   stB[1] = "List:" + Numero_Con_Spazio(CPU.NRighe) + "  SBR:" + Numero_Con_Spazio(Num_SBR);
   Modificato = 0;
@@ -148,6 +149,7 @@ void Progetto::Lettura_Fallita() {
   Err_Lettura = -1;
   Num_SBR = 0;
   CPU.NRighe = 0;
+  Programma_Cambiato();
   TabSP.assign(1, "");
   Scheda = 0;
   File_Progetto.clear();

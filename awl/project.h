@@ -16,6 +16,7 @@
 #include "awl/reader.h"
 #include "awl/seen_files.h"
 #include "plc/memory.h"
+#include "plc/subscription.h"
 #include "plc/table.h"
 
 namespace tavorno {
@@ -87,6 +88,9 @@ struct Progetto : Stato_Progetto {
   std::int16_t NRighe_Prog = 0;  ///< last used entry of `Righe_Prog`
   std::string File_Salva;        ///< path that the next write goes to
   File_Visti Visti;              ///< files as they were last read or written here
+
+  /// The CPU's table of lines is another one: after a read, and after each compile.
+  Annuncio<> Programma_Cambiato;
 
   // ---- results
   // -----------------------------------------------------------------------------------

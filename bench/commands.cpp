@@ -13,6 +13,7 @@
 #include "bench/ladder_command.h"
 #include "bench/plant_options.h"
 #include "bench/report_files.h"
+#include "bench/session_command.h"
 #include "bench/speed.h"
 #include "bench/trace_options.h"
 #include "grading/reports.h"
@@ -20,6 +21,7 @@
 #include "plants/link.h"
 #include "plc/codepage.h"
 #include "recorder/session.h"
+#include "recorder/session_file.h"
 #include "recorder/virtual_run.h"
 
 namespace tavorno {
@@ -84,6 +86,7 @@ std::unique_ptr<Seduta> Apri_Per_Eseguire(const std::string& file, std::ostream&
   return seduta;
 }
 
+/// With `--uscita` what entered is written to that file as a session.
 int Comando_Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
   Limiti limiti;
   limiti.Durata = argomenti.Numero("--ms", limiti.Durata, 1, 86'400'000);
@@ -95,10 +98,15 @@ int Comando_Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& 
 
   Stato_Uscita illeggibile{};
   const std::string& file = argomenti.Un_File();
-  Controlla_Rapporti(argomenti, {"--vcd", "--svg"}, {file});
+  Controlla_Rapporti(argomenti, {"--vcd", "--svg", "--uscita"}, {file});
   const auto seduta = Apri_Per_Eseguire(file, err, illeggibile);
   if (!seduta) return illeggibile;
 
+  std::optional<Registratore> registratore;
+  if (argomenti.Ha("--uscita")) {
+    registratore.emplace(seduta->plc);
+    registratore->Ms_Tra_Tappe = registratore->Righe_Tra_Tappe = Momento::Mai;  // nobody goes back
+  }
   Stato_Impianto stato;
   std::optional<Collegamento> impianto;
   if (esercizio) impianto.emplace(seduta->plc, stato, *esercizio);
@@ -119,6 +127,10 @@ int Comando_Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& 
   if (Vuole_Traccia(argomenti)) corsa.Registra = &traccia;
   const Fine_Corsa fine = corsa.Esegui();
   Scrivi_Traccia(argomenti, traccia, file);
+  if (registratore) {
+    registratore->Titolo = seduta->progetto.File_Titolo;
+    Scrivi_Rapporto(argomenti.Testo("--uscita", ""), Byte_Di(registratore->Registrata()));
+  }
 
   for (const Avviso& avviso : seduta->Avvisi) {
     out << std::setw(8) << corsa.Tempo() << " ms  ";
@@ -203,6 +215,17 @@ int Banco(const std::vector<std::string>& argomenti, std::ostream& out, std::ost
                     {"--ms", "--scansione", "--ingressi", "--impianto", "--mani", "--vcd", "--svg"},
                     {"--ogni-scansione"}),
           out, err);
+    if (comando == "registra") {
+      const Argomenti letti(resto,
+                            {"--ms", "--scansione", "--ingressi", "--impianto", "--mani", "--vcd",
+                             "--svg", "--uscita"},
+                            {"--ogni-scansione"});
+      if (!letti.Ha("--uscita")) throw Uso_Errato("manca --uscita, il file della seduta");
+      return Comando_Esegui(letti, out, err);
+    }
+    if (comando == "rivivi")
+      return Comando_Rivivi(
+          Argomenti(resto, {"--fino-a", "--vcd", "--svg", "--confronta", "--script"}, {}), out);
     if (comando == "scala")
       return Comando_Scala(Argomenti(resto, {"--svg", "--impianto"}, {}), out, err);
     if (comando == "misura") return Comando_Misura(Argomenti(resto, {"--ms"}, {}), out, err);

@@ -51,6 +51,28 @@ constexpr Opzione_Manuale esegui[] = {
       "runs the scans that change nothing, too: the same\nresults, more slowly"}},
 };
 
+constexpr Opzione_Manuale registra[] = {
+    {{"--uscita SEDUTA", "--uscita SESSION"},
+     {"il file della seduta; le altre opzioni sono quelle di esegui",
+      "the file of the session; the other options are those of esegui"}},
+};
+
+constexpr Opzione_Manuale rivivi[] = {
+    {{"--fino-a MS"},
+     {"si ferma a quel momento, in millisecondi dall'inizio",
+      "stops at that moment, in milliseconds from the beginning"}},
+    {{"--vcd FILE"},
+     {"ingressi e uscite nel tempo, per GTKWave", "inputs and outputs over time, for GTKWave"}},
+    {{"--svg FILE"}, {"diagramma dei tempi", "timing diagram"}},
+    {{"--confronta ALTRA", "--confronta OTHER"},
+     {"confronta due sedute e dice la prima differenza: memoria,\norologi, figure dell'impianto",
+      "compares two sessions and tells the first difference: memory,\nclocks, figures of the "
+      "plant"}},
+    {{"--script FILE"},
+     {"le mani della seduta come caso di prova in Lua",
+      "the hands of the session as a test case in Lua"}},
+};
+
 constexpr Opzione_Manuale scala[] = {
     {{"--svg FILE"},
      {"il disegno va in un file e si stampa che cosa resta in lista;\nsenza, il disegno si stampa",
@@ -76,6 +98,19 @@ constexpr Comando_Manuale banco[] = {
      {"Compila, esegue e stampa ogni cambiamento di ingressi e uscite.",
       "Compiles, runs, and prints each change of an input or output."},
      esegui},
+    {{"tavorno-banco registra FILE.AWL --uscita SEDUTA [opzioni]",
+      "tavorno-banco registra FILE.AWL --uscita SESSION [options]"},
+     {"Esegue e stampa come esegui, e scrive in un file tutto ciò che è entrato nella\n"
+      "seduta: i tempi, gli ingressi, le mani, i comandi.",
+      "Runs and prints as esegui does, and writes everything that entered the session\n"
+      "into a file: times, inputs, hands, commands."},
+     registra},
+    {{"tavorno-banco rivivi SEDUTA [opzioni]", "tavorno-banco rivivi SESSION [options]"},
+     {"Rifà una seduta registrata, dal banco o dalla finestra, riga per riga, e stampa\n"
+      "gli stessi cambiamenti.",
+      "Plays a recorded session again, from the bench or the window, line by line, and\n"
+      "prints the same changes."},
+     rivivi},
     {{"tavorno-banco scala FILE.AWL [--svg FILE] [--impianto N]"},
      {"Disegna il progetto a contatti (KOP), un segmento sotto l'altro. Ciò che uno\n"
       "schema a contatti non può dire resta in lista, con il motivo.",
@@ -93,7 +128,7 @@ constexpr Comando_Manuale banco[] = {
       "funzioni degli script sono in \"tavorno-banco prova --help\"."},
      {},
      true},
-    {{"tavorno-banco classe CARTELLA|ZIP SCRIPT.lua --uscita DIR [opzioni]"},
+    {{"tavorno-banco classe CARTELLA|ZIP SCRIPT.lua|--esercizio N [opzioni]"},
      {"Esamina una classe e scrive una pagina per studente, quella del docente e\n"
       "le tabelle dei punti; vedi \"tavorno-banco classe --help\"."},
      {},

@@ -10,6 +10,17 @@ Collegamento::Collegamento(Plc& plc, Stato_Impianto& stato, const Esercizio& ese
                            std::function<void(Modo_Sportello)> sportello)
     : plc_(plc), stato_(stato), esercizio_(esercizio), sportello_(std::move(sportello)) {
   if (!esercizio_.Crea) throw std::invalid_argument(std::string("no plant ") + esercizio_.Classe);
+  Apri();
+}
+
+void Collegamento::Apri() {
+  plc_.Hook.Entra({.Che = Cosa::Apri, .Indice = esercizio_.Indice});
+  ascolto_macchina_.Termina();
+  for (Iscrizione& ascolto : ascolto_uscite_) ascolto.Termina();
+  macchina_.reset();
+  aperto_ = true;
+  chkSim_ = false;
+  valori_.clear();
   for (const Cursore& cursore : esercizio_.Cursori) valori_.push_back(cursore.Inizio);
 
   stato_.Impianto_Nr = static_cast<std::uint8_t>(esercizio_.Indice);
@@ -29,6 +40,7 @@ Collegamento::~Collegamento() {
 }
 
 void Collegamento::Carica() {
+  plc_.Hook.Entra({.Che = Cosa::Carica});
   ascolto_macchina_ = macchina_->Change.Ascolta([this] { Ingressi_Cambiati(); });
   if (esercizio_.Attivare) macchina_->Regola(esercizio_.Attivare, 1);
   if (std::ranges::any_of(esercizio_.Cursori, &Cursore::Al_Caricamento)) Scrivi_Cursori();
@@ -37,12 +49,38 @@ void Collegamento::Carica() {
 
 void Collegamento::Chiudi() {
   if (!aperto_) return;
+  plc_.Hook.Entra({.Che = Cosa::Chiudi});
   aperto_ = false;
   LED_Reset();
   if (sportello_) sportello_(Modo_Sportello::Interruttori);
   stato_ = {};
   ascolto_macchina_.Termina();
   for (Iscrizione& ascolto : ascolto_uscite_) ascolto.Termina();
+}
+
+bool Collegamento::Entra(const Atto& entrata) {
+  if (plc_.Hook.Adesso == Vissuto::Passato) return false;
+  plc_.Hook.Entra(entrata);
+  switch (entrata.Che) {
+    case Cosa::Usa_Interruttori:
+      chkSim(entrata.Numero != 0);
+      return true;
+    case Cosa::Cursore:
+      Muovi(static_cast<std::size_t>(entrata.Indice), static_cast<int>(entrata.Numero));
+      return true;
+    case Cosa::Premi:
+      return macchina_->Premi(entrata.Testo);
+    case Cosa::Rilascia:
+      return macchina_->Rilascia(entrata.Testo);
+    case Cosa::Clic:
+      return macchina_->Clic(entrata.Testo);
+    case Cosa::Doppio_Clic:
+      return macchina_->Doppio_Clic(entrata.Testo);
+    case Cosa::Regola:
+      return macchina_->Regola(entrata.Testo, entrata.Valore);
+    default:
+      return false;
+  }
 }
 
 void Collegamento::chkSim(bool spuntato) {

@@ -39,6 +39,14 @@ class Collegamento {
   Collegamento(const Collegamento&) = delete;
   Collegamento& operator=(const Collegamento&) = delete;
 
+  /// As the constructor does, once more: the machine is a new one, which has not spoken yet. What
+  /// held the old one must have let go of it.
+  void Apri();
+
+  /// Announces an entry of the user's hand on the plant or on its window, and lets it in. False
+  /// when nothing feels it, and for an entry of another kind.
+  bool Entra(const Atto& entrata);
+
   /// Lets the plant speak: it gets the settings that the host makes on load, and its inputs as they
   /// are reach the PLC.
   void Carica();

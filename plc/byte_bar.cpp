@@ -48,6 +48,38 @@ void Barra::Mostra(std::uint8_t accesi) {
   Aspetto();
 }
 
+Barra::Stato Barra::Fotografa() const {
+  return {.Testo = stato_,
+          .Lettura = lettura_,
+          .Passato = passato_,
+          .Byte = byte_,
+          .Accesi = accesi_,
+          .Tipo = tipo_,
+          .Forma = forma_,
+          .Posizione = posizione_,
+          .Derivati = derivati_,
+          .Scorri = scorri_,
+          .INT_ON = INT_ON,
+          .Intervallo = passo_.Interval(),
+          .Scadenza = passo_.Scadenza()};
+}
+
+void Barra::Ripristina(const Stato& stato) {
+  stato_ = stato.Testo;
+  lettura_ = stato.Lettura;
+  passato_ = stato.Passato;
+  byte_ = stato.Byte;
+  accesi_ = stato.Accesi;
+  tipo_ = stato.Tipo;
+  forma_ = stato.Forma;
+  posizione_ = stato.Posizione;
+  derivati_ = stato.Derivati;
+  scorri_ = stato.Scorri;
+  INT_ON = stato.INT_ON;
+  passo_.Rimetti(stato.Intervallo, stato.Scadenza);
+  Aspetto();
+}
+
 void Barra::LED_Tipo(std::uint8_t tipo, std::uint8_t forma) {
   tipo_ = tipo;
   forma_ = forma;

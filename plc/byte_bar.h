@@ -42,6 +42,20 @@ class Barra {
   /// True when the text that stands could be assigned once more and nothing would follow.
   bool In_Pari() const { return derivati_ && (!INT_ON || passato_ == stato_); }
 
+  /// All that a bar holds.
+  struct Stato {
+    std::string Testo, Lettura, Passato;
+    std::uint8_t Byte = 0, Accesi = 0, Tipo = 0, Forma = 0, Posizione = 0;
+    bool Derivati = true, Scorri = false, INT_ON = true;
+    int Intervallo = 80;
+    std::int64_t Scadenza = Orologio::Mai;
+
+    bool operator==(const Stato&) const = default;
+  };
+  Stato Fotografa() const;
+  /// As it was then; the LEDs are drawn again, and `Change` stays silent.
+  void Ripristina(const Stato& stato);
+
   int Interval() const { return passo_.Interval(); }
   void Interval(int millisecondi) { passo_.Interval(millisecondi); }
 

@@ -72,6 +72,22 @@ void Orologio::Porta_A(std::int64_t istante) {
   Ricalcola();
 }
 
+std::vector<std::int64_t> Orologio::Scadenze() const {
+  std::vector<std::int64_t> scadenze;
+  for (const Temporizzatore* timer : timer_) {
+    if (timer->Enabled()) scadenze.push_back(timer->Scadenza());
+  }
+  return scadenze;
+}
+
+void Orologio::Rimetti(std::int64_t istante) {
+  for (Temporizzatore* timer : timer_) {
+    if (timer->Enabled()) timer->scadenza_ += istante - adesso_;
+  }
+  adesso_ = istante;
+  Ricalcola();
+}
+
 /// A tick may switch, add or remove timers, itself included, so nothing is remembered across it.
 void Orologio::Esegui(const Temporizzatore& timer) {
   const std::function<void()> tick = timer.tick_;
@@ -94,6 +110,12 @@ void Temporizzatore::Interval(int millisecondi) {
   intervallo_ = millisecondi;
   if (!Enabled()) return;
   scadenza_ = orologio_.Adesso() + intervallo_;
+  orologio_.Ricalcola();
+}
+
+void Temporizzatore::Rimetti(int intervallo, std::int64_t scadenza) {
+  intervallo_ = std::max(1, intervallo);
+  scadenza_ = scadenza;
   orologio_.Ricalcola();
 }
 

@@ -21,6 +21,9 @@ class Orologio {
   /// When the next timer is due; `Mai` when none runs.
   std::int64_t Prossimo() const { return prossimo_; }
 
+  /// When each timer that runs is due, in the order of their making.
+  std::vector<std::int64_t> Scadenze() const;
+
   /// Virtual time: lets `millisecondi` pass and runs every tick on its way, in order of time.
   /// Inside a tick it does nothing, since no tick runs inside another.
   void Avanza(std::int64_t millisecondi) {
@@ -30,6 +33,10 @@ class Orologio {
     else
       Avanza_Con_Tick(adesso_ + millisecondi);
   }
+
+  /// Puts the clock at `istante`, back too, without a tick: each timer keeps what is left to it.
+  /// Not inside a tick.
+  void Rimetti(std::int64_t istante);
 
   /// Real time: moves to `istante`, and every tick runs there. A timer that slept through several
   /// periods ticks once; an instant in the past changes nothing.
@@ -63,6 +70,11 @@ class Temporizzatore {
 
   int Interval() const { return intervallo_; }
   bool Enabled() const { return scadenza_ != Orologio::Mai; }
+
+  /// When the next tick is due; `Orologio::Mai` while it is off.
+  std::int64_t Scadenza() const { return scadenza_; }
+  /// As it stood at another time, without a new period.
+  void Rimetti(int intervallo, std::int64_t scadenza);
 
   /// A different interval starts a new period; the same one changes nothing.
   void Interval(int millisecondi);

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <algorithm>
+#include <cstdint>
 #include <functional>
 #include <limits>
 #include <string>
 #include <utility>
 
+#include "plc/entries.h"
 #include "plc/subscription.h"
 
 namespace tavorno {
@@ -24,6 +26,11 @@ struct Avviso {
   std::string Dettagli;  ///< what a box offers on request; may be empty
 };
 
+/// What the CPU shows: the present, or a moment that has been. In the past nothing enters; while it
+/// is played again only what entered then does, and nobody writes it down, answers it or adds to
+/// it.
+enum class Vissuto : std::uint8_t { Presente, Passato, Replica };
+
 /// The only way from the CPU to a window. Nobody has to listen.
 struct Ganci {
   /// The yield of a run: `fai` is called before its first line, at the top of each scan, otherwise
@@ -35,6 +42,10 @@ struct Ganci {
       fai();
     });
   }
+  /// The same, where `fai` says at each yield how many lines may follow.
+  Iscrizione Ascolta_Cedi_Righe(std::function<int()> fai) {
+    return cedi_.Ascolta([fai = std::move(fai)](int& fino_a) { fino_a = std::min(fino_a, fai()); });
+  }
   /// Gives way, and returns how many lines may follow: 1 when nobody listens.
   int Cedi() {
     int righe = std::numeric_limits<int>::max();
@@ -44,6 +55,9 @@ struct Ganci {
   bool Cedi_Ascoltato() const { return cedi_.Ascoltato(); }
 
   Annuncio<const Avviso&> Mostra;  ///< a message box; a round ends when it is closed
+  Annuncio<const Atto&> Entra;  ///< something is about to enter
+
+  Vissuto Adesso = Vissuto::Presente;
 
  private:
   Annuncio<int&> cedi_;

@@ -12,6 +12,7 @@
 #include "plc/memory.h"
 #include "plc/panel_view.h"
 #include "plc/run_state.h"
+#include "plc/snapshot.h"
 
 // The simulated CPU. It has three faces: the memory with the program and the interpreter, the run
 // control, and what a panel shows of it.
@@ -89,18 +90,51 @@ struct Plc : Memoria, Stato_Corsa, Vista_Pannello {
   void Cicla();
   void Cicla_Ciclo();
 
+  // ---- what enters (entries.cpp) ---------------------------------------------------------------
+
+  /// Announces an entry and lets it in; a command that enters a run loop comes back with its end.
+  /// Entries of a plant, of the program and of forced cells are let in by others (`Collegamento`,
+  /// the recorder) and do nothing here. Time that would not move is no entry, and in the past
+  /// nothing enters.
+  void Entra(const Atto& entrata);
+  void Entra(Comando_Corsa comando) { Entra(Di_Comando(comando)); }
+
+  /// Leaves the run loop as it stands, at its yield and before the next line; outside of a loop
+  /// nothing happens. Any other run command but the choice of Ciclo ends the pause for good.
+  void Sospendi() {
+    if (giro_ != Giro::Nessuno) sospeso_ = giro_;
+  }
+  bool In_Pausa() const { return sospeso_ != Giro::Nessuno; }
+  /// Enters the loop again that a pause left; without a pause nothing happens.
+  void Continua();
+  /// The loop that is at work further up the call stack.
+  Giro In_Giro() const { return giro_; }
+  /// Counts scans that would have left everything as it is, the last of them now.
+  void Salta_Scansioni(std::int64_t scansioni);
+
+  // ---- the whole state (snapshot.cpp) ----------------------------------------------------------
+
+  /// A full copy, but for the program's text. Between two lines only.
+  Istantanea Fotografa() const;
+  /// Everything as it was then, the clock too. A run loop that was at work counts as suspended.
+  /// The program must be that of the copy, and no run loop may be at work.
+  void Ripristina(const Istantanea& stato);
+
  private:
   Esito Esegui_Ramo(int numero);
   Esito Fine_Diversa(Esito esito);
   void Mostra_Riga();
   void Mostra_Tempo();
   void Scegli_Modo(Modo modo);
+  void Fine_Giro();
 
   void Tick_T100m();
   void Tick_timIO();
 
   std::int32_t tempo_mostrato_ = -1;  // the number that `etTime` shows, -1 for another text
-  bool in_ciclo_ = false;             // a run loop is at work further up the call stack
+  Giro giro_ = Giro::Nessuno;         // the run loop at work further up the call stack
+  Giro sospeso_ = Giro::Nessuno;      // the one that a pause left
+  bool tempo_alla_fine_ = false;      // it was Run that entered it
   std::uint8_t stato_tim1_ = 0, stato_tim2_ = 0;
   std::array<Iscrizione, 2> ascolto_ingressi_;
 };

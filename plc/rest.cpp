@@ -112,12 +112,8 @@ bool Riposo::Scansione_Fatta(std::int64_t righe) {
 }
 
 void Riposo::Salta(std::int64_t scansioni) {
-  plc_.N_Cicli += static_cast<std::int32_t>(scansioni);
-  if (scansioni % 2 != 0) {
-    SM06(plc_) ^= 1U;
-    SM06(foto_[0].Memoria) ^= 1U;
-  }
-  plc_.StartTimer();
+  plc_.Entra({.Che = Cosa::Salta, .Numero = scansioni});
+  if (scansioni % 2 != 0) SM06(foto_[0].Memoria) ^= 1U;
   saltate_ += scansioni;
 }
 

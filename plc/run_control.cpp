@@ -2,6 +2,7 @@
 // Run, Stop, the three modes and the system clocks.
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "plc/byte_text.h"
 #include "plc/checked.h"
@@ -41,6 +42,7 @@ Plc::Plc(Orologio& orologio)
 // ---- run commands -------------------------------------------------------------------------------
 
 void Plc::mnuPlcRun() {
+  sospeso_ = Giro::Nessuno;
   N_Cicli = 0;
   PLC_Acceso = -1;
   for (Riga_Timer& timer : Mem_T) timer = {};
@@ -73,6 +75,7 @@ void Plc::mnuPlcRun() {
     Attivi.CmdStep = true;
     return;
   }
+  tempo_alla_fine_ = true;
   Tempo_Ciclo = 0;
   PC = 0;
   Primo_Ciclo = -1;
@@ -87,10 +90,16 @@ void Plc::mnuPlcRun() {
     Attivi.mnuPlcCont = false;
     Cicla_Ciclo();
   }
-  Mostra_Tempo();
+  Fine_Giro();
+}
+
+/// A loop has been left; one that Run began shows the scan time when it ends for good.
+void Plc::Fine_Giro() {
+  if (!In_Pausa() && std::exchange(tempo_alla_fine_, false)) Mostra_Tempo();
 }
 
 void Plc::mnuPlcStop() {
+  sospeso_ = Giro::Nessuno;
   PLC_Acceso = 0;
   Attivi.mnuPlcStop = false;
   Attivi.mnuPlcRun = true;
@@ -117,6 +126,7 @@ void Plc::Scegli_Modo(Modo modo) {
 }
 
 void Plc::mnuPlcStep() {
+  sospeso_ = Giro::Nessuno;
   Scegli_Modo(Modo::Step);
   if (PLC_Acceso) Attivi.CmdStep = true;
   etPc = PC;  // a run that stands at a stop line executes no line on the way here
@@ -129,19 +139,23 @@ void Plc::mnuPlcCiclo() {
 }
 
 void Plc::mnuPlcCont() {
+  sospeso_ = Giro::Nessuno;
   Scegli_Modo(Modo::Cont);
   Attivi.CmdStep = false;
   Scelte.chkList = true;
   if (!PLC_Acceso) return;
   Ferma = 0;
+  if (giro_ == Giro::Nessuno) tempo_alla_fine_ = false;
   Cicla();
 }
 
 void Plc::cmdRest() {
+  sospeso_ = Giro::Nessuno;
   Ferma = 0;
   Attivi.CmdStep = false;
   Segna(Segno_Comandi);
   N_Cicli = 0;
+  if (giro_ == Giro::Nessuno) tempo_alla_fine_ = false;
   Cicla_Ciclo();
 }
 
@@ -157,30 +171,33 @@ namespace {
 /// Marks that a run loop is at work, so that a command given in one of its yields starts no second.
 class In_Corso {
  public:
-  explicit In_Corso(bool& segno) : segno_(segno) { segno_ = true; }
-  ~In_Corso() { segno_ = false; }
+  In_Corso(Giro& segno, Giro quale) : segno_(segno) { segno_ = quale; }
+  ~In_Corso() { segno_ = Giro::Nessuno; }
   In_Corso(const In_Corso&) = delete;
   In_Corso& operator=(const In_Corso&) = delete;
 
  private:
-  bool& segno_;
+  Giro& segno_;
 };
 }  // namespace
 
 void Plc::Cicla() {
-  if (in_ciclo_) return;
-  const In_Corso in_corso(in_ciclo_);
+  if (giro_ != Giro::Nessuno) return;
+  const In_Corso in_corso(giro_, Giro::Cont);
   do {
-    Esegui_Righe(Hook.Cedi());
+    const int righe = Hook.Cedi();
+    if (In_Pausa()) return;
+    Esegui_Righe(righe);
   } while (!Ferma);
 }
 
 void Plc::Cicla_Ciclo() {
-  if (in_ciclo_) return;
-  const In_Corso in_corso(in_ciclo_);
+  if (giro_ != Giro::Nessuno) return;
+  const In_Corso in_corso(giro_, Giro::Ciclo);
   const auto cicli_fatti = [this] { return Scelte.chkSol && Scelte.txtNC == N_Cicli; };
   for (;;) {
     const int righe = Hook.Cedi();
+    if (In_Pausa()) return;
     // `N_Cicli` moves at the end of a scan only, which is where many lines end as well.
     const bool a_ogni_riga = Scelte.chkStop || cicli_fatti();
     Esegui_Righe(a_ogni_riga ? 1 : righe);
@@ -193,6 +210,19 @@ void Plc::Cicla_Ciclo() {
     Segna(Segno_Lista | Segno_Comandi);
     return;
   }
+}
+
+void Plc::Continua() {
+  const Giro giro = std::exchange(sospeso_, Giro::Nessuno);
+  if (giro == Giro::Cont) Cicla();
+  if (giro == Giro::Ciclo) Cicla_Ciclo();
+  Fine_Giro();
+}
+
+void Plc::Salta_Scansioni(std::int64_t scansioni) {
+  N_Cicli += static_cast<std::int32_t>(scansioni);
+  if (scansioni % 2 != 0) Mem_SM[0].Bit[6] ^= 1U;
+  StartTimer();
 }
 
 // ---- system clocks ------------------------------------------------------------------------------

@@ -33,19 +33,31 @@ int Plc::Esegui_Righe(int massimo) {
   // The number stays in a register: read back from `PC`, each line would wait for the last one's
   // write. Only a line that ends otherwise moves `PC` itself.
   std::int16_t riga = PC;
-  for (int fatte = 1;; ++fatte) {
-    const Esito esito = Esegui_Ramo(riga);
-    if (esito != Esito::Avanti) [[unlikely]] {
-      if (Fine_Diversa(esito) == Esito::Fine || Ferma || fatte >= massimo) return fatte;
-      riga = PC;
-      continue;
+  int fatte = 1, contate = 0;
+  const auto Conta = [&] {
+    Righe_Fatte += fatte - contate;
+    contate = fatte;
+  };
+  try {
+    for (;; ++fatte) {
+      const Esito esito = Esegui_Ramo(riga);
+      if (esito != Esito::Avanti) [[unlikely]] {
+        Conta();  // whoever hears of the end may look at it
+        if (Fine_Diversa(esito) == Esito::Fine || Ferma || fatte >= massimo) return fatte;
+        riga = PC;
+        continue;
+      }
+      riga = A_16(riga + 1, "PC");
+      PC = riga;
+      if (Ferma || fatte >= massimo) {
+        Conta();
+        Mostra_Riga();
+        return fatte;
+      }
     }
-    riga = A_16(riga + 1, "PC");
-    PC = riga;
-    if (Ferma || fatte >= massimo) {
-      Mostra_Riga();
-      return fatte;
-    }
+  } catch (...) {
+    Conta();
+    throw;
   }
 }
 

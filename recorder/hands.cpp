@@ -140,10 +140,11 @@ std::string Controlla_Gesto(const Gesto& gesto, const Esercizio& esercizio, Impi
 
 bool Gira(const Gesto& gesto, Collegamento& impianto) {
   const Cursore* cursore = Trova_Cursore(impianto.Tabella(), gesto.Nome);
-  if (!cursore) return impianto.Macchina().Regola(gesto.Nome, gesto.Valore);
-  impianto.Muovi(static_cast<std::size_t>(cursore - impianto.Tabella().Cursori.data()),
-                 static_cast<int>(gesto.Valore));
-  return true;
+  if (!cursore)
+    return impianto.Entra({.Che = Cosa::Regola, .Valore = gesto.Valore, .Testo = gesto.Nome});
+  return impianto.Entra({.Che = Cosa::Cursore,
+                         .Indice = static_cast<int>(cursore - impianto.Tabella().Cursori.data()),
+                         .Numero = static_cast<int>(gesto.Valore)});
 }
 
 bool Guasta(const Gesto& gesto, Collegamento& impianto) {
@@ -184,24 +185,24 @@ std::string Controlla_Mani(std::span<const Gesto> mani, const Esercizio& eserciz
 }
 
 bool Esegui_Gesto(const Gesto& gesto, Collegamento& impianto) {
-  Impianto& macchina = impianto.Macchina();
+  const auto Fai = [&](Cosa che) { return impianto.Entra({.Che = che, .Testo = gesto.Nome}); };
   const auto Su = [&] {
-    const bool rilasciato = macchina.Rilascia(gesto.Nome);
-    return macchina.Clic(gesto.Nome) || rilasciato;
+    const bool rilasciato = Fai(Cosa::Rilascia);
+    return Fai(Cosa::Clic) || rilasciato;
   };
   switch (gesto.Cosa) {
     case Azione::Premi:
-      return macchina.Premi(gesto.Nome);
+      return Fai(Cosa::Premi);
     case Azione::Rilascia:
       return Su();
     case Azione::Clic:
     case Azione::Doppio: {
       // A hidden figure never got the press, so it must not get the release either.
-      const Figura* figura = macchina.Disegno.Trova(gesto.Nome);
+      const Figura* figura = impianto.Macchina().Disegno.Trova(gesto.Nome);
       if (!figura || !figura->Visible) return false;
-      macchina.Premi(gesto.Nome);
+      Fai(Cosa::Premi);
       Su();
-      return gesto.Cosa == Azione::Clic || macchina.Doppio_Clic(gesto.Nome);
+      return gesto.Cosa == Azione::Clic || Fai(Cosa::Doppio_Clic);
     }
     case Azione::Regola:
       return Gira(gesto, impianto);

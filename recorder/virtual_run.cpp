@@ -50,13 +50,12 @@ void Corsa::Applica_Eventi() {
   while (prossimo_ingresso_ < Ingressi.size() && Ingressi[prossimo_ingresso_].Ms <= Tempo()) {
     const Evento_Ingresso& evento = Ingressi[prossimo_ingresso_++];
     if (evento.Analogico) {
-      plc_.Volt_AI[evento.Canale] = evento.Valore;
+      plc_.Entra({.Che = Cosa::Volt_AI, .Indice = evento.Canale, .Valore = evento.Valore});
       continue;
     }
-    LedI& barra = plc_.SI[static_cast<std::size_t>(evento.Byte)];
-    std::string stato = barra.Stato_I();
+    std::string stato = plc_.SI[static_cast<std::size_t>(evento.Byte)].Stato_I();
     stato[static_cast<std::size_t>(evento.Bit)] = evento.Acceso ? '1' : '0';
-    barra.Stato_I(stato);
+    plc_.Entra(Di_Ingresso(evento.Byte, stato));
   }
   while (Impianto_Collegato && prossimo_gesto_ < Mani.size() &&
          Mani[prossimo_gesto_].Ms <= Tempo()) {
@@ -72,11 +71,11 @@ void Corsa::Campiona() {
 /// Time passes for so many scans, with what is due at the last one. False when it is over.
 bool Corsa::Fa_Passare(std::int64_t scansioni) {
   Campiona();
-  plc_.Tempo.Avanza(scansioni * limiti_.Scansione);
+  plc_.Entra({.Che = Cosa::Passano, .Numero = scansioni * limiti_.Scansione});
   Applica_Eventi();
   Campiona();
   if (Tempo() < limiti_.Durata) return true;
-  plc_.Ferma = -1;
+  plc_.Entra(Comando_Corsa::Fine);
   return false;
 }
 
@@ -97,7 +96,7 @@ void Corsa::Prima_Della_Scansione() {
   const bool prima = scansioni_viste_ < 0;
   if (plc_.N_Cicli == scansioni_viste_) {
     senza_mend_ = true;
-    plc_.Ferma = -1;
+    plc_.Entra(Comando_Corsa::Fine);
     return;
   }
   scansioni_viste_ = plc_.N_Cicli;
@@ -148,8 +147,8 @@ Fine_Corsa Corsa::Esegui() {
     if (Impianto_Collegato) Impianto_Collegato->Carica();
     Applica_Eventi();
     Campiona();
-    plc_.mnuPlcCont();
-    plc_.mnuPlcRun();
+    plc_.Entra(Comando_Corsa::Cont);
+    plc_.Entra(Comando_Corsa::Run);
     if (senza_mend_)
       fine = Fine_Corsa::Senza_MEND;
     else if (!plc_.PLC_Acceso)

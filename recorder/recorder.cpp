@@ -1,0 +1,308 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "recorder/recorder.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "recorder/door.h"
+
+namespace tavorno {
+
+namespace {
+
+/// What the outputs alone do not tell: it reads analog words of the CPU.
+bool Legge_Analogiche(int indice) {
+  const auto righe = Tabella_Esercizi()[static_cast<std::size_t>(indice)].Righe_IO;
+  return std::ranges::any_of(righe, [](const Riga_IO& riga) {
+    return std::string_view(riga.Indirizzo).starts_with("AQ");
+  });
+}
+
+/// How many lines back the beginning of a scan is looked for at first.
+constexpr std::int64_t ricerca_scansione = 4000;
+
+}  // namespace
+
+Registratore::Registratore(Plc& plc)
+    : plc_(plc), programma_(std::make_shared<const Stesura>(Copia_Programma(plc))) {
+  ascolti_.push_back(plc.Hook.Entra.Ascolta([this](const Atto& entrata) { Annota(entrata); }));
+  ascolti_.push_back(plc.Hook.Mostra.Ascolta_Per_Primo([this](const Avviso&) {
+    if (plc_.Hook.Adesso == Vissuto::Presente) in_avviso_ = true;
+  }));
+  Ascolta_Chiusura();
+  for (std::size_t n = 0; n < 2; ++n) {
+    // Before the plant hears of it.
+    ascolti_.push_back(plc.SQ[n].Change.Ascolta_Per_Primo([this, n] {
+      if (apertura_ >= 0)
+        Annota(
+            {.Che = Cosa::Uscita, .Indice = static_cast<int>(n), .Numero = plc_.SQ[n].Stato_QB()});
+    }));
+  }
+  Ricomincia();
+}
+
+void Registratore::Ascolta_Chiusura() {
+  avviso_chiuso_ = plc_.Hook.Mostra.Ascolta([this](const Avviso&) {
+    if (plc_.Hook.Adesso != Vissuto::Presente) return;
+    Annota({.Che = Cosa::Avviso_Chiuso});
+    in_avviso_ = false;
+  });
+}
+
+void Registratore::Ricomincia() {
+  giornale_ = Giornale(plc_.Righe_Fatte, plc_.Tempo.Adesso());
+  tappe_.clear();
+  apertura_ = -1;
+  senza_tappe_ = false;
+  primo_ = Adesso();
+  Metti_Tappa();
+}
+
+void Registratore::Metti_Tappa() {
+  tappe_.push_back({programma_, plc_.Fotografa(), giornale_.Segna(), apertura_});
+}
+
+void Registratore::Programma_Nuovo() {
+  if (plc_.Hook.Adesso != Vissuto::Presente) return;
+  programma_ = std::make_shared<const Stesura>(Copia_Programma(plc_));
+  giornale_.Scrivi(plc_.Righe_Fatte, {.Che = Cosa::Programma}, programma_);
+  primo_ = Adesso();
+  if (!in_avviso_) Metti_Tappa();
+}
+
+void Registratore::Annota(const Atto& entrata) {
+  if (plc_.Hook.Adesso != Vissuto::Presente) return;
+  const Istantanea& ultima = tappe_.back().Stato;
+  const bool lontana = plc_.Tempo.Adesso() - ultima.Adesso >= Ms_Tra_Tappe ||
+                       plc_.Righe_Fatte - ultima.Corsa.Righe_Fatte >= Righe_Tra_Tappe;
+  // An output changes within a line, a box stands within one.
+  const bool fra_due_righe = entrata.Che != Cosa::Uscita && !in_avviso_;
+  if (fra_due_righe && (entrata.Che == Cosa::Apri || chiuso_ || (lontana && !senza_tappe_))) {
+    if (apertura_ < 0 && Occupata() > Limite) Dimentica();
+    Metti_Tappa();
+    chiuso_ = false;
+  }
+  giornale_.Scrivi(plc_.Righe_Fatte, entrata);
+  if (entrata.Che == Cosa::Apri) {
+    apertura_ = static_cast<int>(std::ssize(tappe_)) - 1;
+    senza_tappe_ = Legge_Analogiche(entrata.Indice);
+    primo_ = Adesso();
+  } else if (entrata.Che == Cosa::Chiudi) {
+    apertura_ = -1;
+    senza_tappe_ = false;
+    chiuso_ = true;
+    primo_ = Adesso();
+  }
+}
+
+/// The older half goes, up to a place where no plant was open.
+void Registratore::Dimentica() {
+  const auto meta = tappe_.begin() + std::ssize(tappe_) / 2;
+  const auto prima =
+      std::find_if(meta, tappe_.end(), [](const Tappa& tappa) { return tappa.Apertura < 0; });
+  if (prima == tappe_.end()) return Ricomincia();
+  const int tolte = static_cast<int>(prima - tappe_.begin());
+  const std::size_t byte = prima->Dove.Byte;
+  tappe_.erase(tappe_.begin(), prima);
+  for (Tappa& tappa : tappe_) {
+    tappa.Dove.Byte -= byte;
+    tappa.Dove.Ultima -= std::min(tappa.Dove.Ultima, byte);
+    if (tappa.Apertura >= 0) tappa.Apertura -= tolte;
+  }
+  giornale_.Dimentica(tappe_.front().Dove, byte);
+  const Istantanea& stato = tappe_.front().Stato;
+  primo_.Righe = std::max(primo_.Righe, stato.Corsa.Righe_Fatte);
+  primo_.Ms = std::max(primo_.Ms, stato.Adesso);
+}
+
+std::size_t Registratore::Occupata() const {
+  const std::size_t una = sizeof(Tappa) + programma_->Righe.size() * sizeof(Istantanea::Riga);
+  return giornale_.Byte().size() + tappe_.size() * una;
+}
+
+Registrazione Registratore::Registrata() {
+  giornale_.Ultima_Riga = Presente().Righe;
+  return {Titolo, tappe_.front().Programma, tappe_.front().Stato, giornale_};
+}
+
+// ---- the past -----------------------------------------------------------------------------------
+
+const Tappa& Registratore::Tappa_Prima(Momento momento) const {
+  const auto dopo = std::ranges::find_if(tappe_, [&](const Tappa& tappa) {
+    return tappa.Stato.Corsa.Righe_Fatte > momento.Righe || tappa.Stato.Adesso > momento.Ms;
+  });
+  return dopo == tappe_.begin() ? *dopo : *(dopo - 1);
+}
+
+/// The replay, its CPU and its plant stand at this place afterwards.
+void Registratore::Parti(Replica& replica, Plc& plc, const Tappa& tappa) const {
+  if (tappa.Apertura >= 0) {
+    const Tappa& apertura = tappe_[static_cast<std::size_t>(tappa.Apertura)];
+    Metti_Stato(plc, *apertura.Programma, apertura.Stato);
+    replica.Solo_Impianto(tappa.Dove);
+  }
+  Metti_Stato(plc, *tappa.Programma, tappa.Stato);
+  replica.In_Giro = tappa.Stato.In_Giro != Giro::Nessuno;
+}
+
+bool Registratore::Vai(Momento momento) {
+  if (plc_.In_Giro() != Giro::Nessuno || momento.Righe < primo_.Righe || momento.Ms < primo_.Ms)
+    return false;
+  if (!Nel_Passato()) {
+    presente_ = Adesso();
+    giornale_.Ultima_Riga = plc_.Righe_Fatte;
+  }
+  plc_.Hook.Adesso = Vissuto::Passato;
+  const Tappa& tappa = Tappa_Prima(momento);
+  const Tappa& inizio =
+      tappa.Apertura >= 0 ? tappe_[static_cast<std::size_t>(tappa.Apertura)] : tappa;
+  Replica replica(plc_, giornale_, inizio.Dove);
+  if (Apri && apertura_ >= 0) replica.Apri = Apri;  // no replay goes back behind its opening
+  Parti(replica, plc_, tappa);
+  Segui(replica, plc_.Righe_Fatte, std::min(momento.Righe, presente_.Righe));
+  replica.Vai(momento);
+  qui_ = replica.Dove();
+  in_giro_ = replica.In_Giro;
+  return true;
+}
+
+/// Lets the progress be shown.
+void Registratore::Segui(Replica& replica, std::int64_t da, std::int64_t a) const {
+  if (!Avanzamento) return;
+  replica.Guarda = [this, da, a, volta = 0]() mutable {
+    constexpr int ogni = 4096;
+    if (++volta % ogni != 0 || a <= da) return true;
+    return Avanzamento(static_cast<double>(plc_.Righe_Fatte - da) / static_cast<double>(a - da));
+  };
+}
+
+void Registratore::Torna_Al_Presente() {
+  if (!Nel_Passato()) return;
+  const auto avanzamento = std::exchange(Avanzamento, nullptr);  // there is no way to stop half way
+  Vai({});
+  Avanzamento = avanzamento;
+  plc_.Hook.Adesso = Vissuto::Presente;
+}
+
+void Registratore::Riprendi_Da_Qui() {
+  if (!Nel_Passato()) return;
+  giornale_.Tronca(qui_);
+  std::erase_if(tappe_, [&](const Tappa& tappa) {
+    return tappa.Stato.Corsa.Righe_Fatte > plc_.Righe_Fatte ||
+           tappa.Stato.Adesso > plc_.Tempo.Adesso() || tappa.Dove.Byte > qui_.Byte;
+  });
+  plc_.Hook.Adesso = Vissuto::Presente;
+  if (in_giro_) Annota(Di_Comando(Comando_Corsa::Pausa));
+}
+
+// ---- steps --------------------------------------------------------------------------------------
+
+bool Registratore::Riga_Indietro() {
+  return plc_.Righe_Fatte > primo_.Righe && Vai({.Righe = plc_.Righe_Fatte - 1});
+}
+
+bool Registratore::Riga_Avanti() {
+  return Nel_Passato() && plc_.Righe_Fatte < presente_.Righe &&
+         Vai({.Righe = plc_.Righe_Fatte + 1});
+}
+
+bool Registratore::Tempo_Indietro(std::int64_t ms) {
+  const std::int64_t adesso = plc_.Tempo.Adesso();
+  return adesso > primo_.Ms && Vai({.Ms = std::max(adesso - ms, primo_.Ms)});
+}
+
+bool Registratore::Tempo_Avanti(std::int64_t ms) {
+  const std::int64_t adesso = plc_.Tempo.Adesso();
+  return Nel_Passato() && adesso < presente_.Ms && Vai({.Ms = adesso + ms});
+}
+
+bool Registratore::Scansione_Indietro() {
+  const std::int64_t adesso = plc_.Righe_Fatte;
+  for (std::int64_t lontano = ricerca_scansione; adesso > primo_.Righe; lontano *= 16) {
+    const std::int64_t da = std::max(adesso - lontano, primo_.Righe);
+    std::int64_t trovata = -1;
+    Rivedi({.Righe = da}, {.Righe = adesso}, true, [&](const Plc& plc) {
+      if (plc.PC == 0 && plc.Righe_Fatte >= da && plc.Righe_Fatte < adesso)
+        trovata = plc.Righe_Fatte;
+      return true;
+    });
+    if (trovata >= 0) return Vai({.Righe = trovata});
+    if (da == primo_.Righe) break;
+  }
+  return false;
+}
+
+bool Registratore::Scansione_Avanti() {
+  if (!Nel_Passato()) return false;
+  const std::int64_t adesso = plc_.Righe_Fatte;
+  std::int64_t trovata = -1;
+  Rivedi({.Righe = adesso}, {}, true, [&](const Plc& plc) {
+    if (plc.PC == 0 && plc.Righe_Fatte > adesso) trovata = plc.Righe_Fatte;
+    return trovata < 0;
+  });
+  return trovata >= 0 && Vai({.Righe = trovata});
+}
+
+bool Registratore::Ultimo_Cambio(const std::function<double(const Plc&)>& valore, int& riga) {
+  const Momento adesso = Adesso();
+  struct Trovato {
+    std::int64_t Righe = -1;
+    int Riga = -1;
+  };
+  // Lines that this one looks at are watched one by one; before them only what each entry finds is
+  // compared, and then the lines between the two entries.
+  const auto cerca = [&](std::int64_t da, std::int64_t a, bool ogni_riga, std::int64_t& inizio) {
+    Trovato trovato;
+    std::optional<double> prima;
+    std::int64_t righe_prima = da;
+    int pc_prima = -1;
+    Rivedi({.Righe = da}, {.Righe = a}, ogni_riga, [&](const Plc& plc) {
+      const double ora = valore(plc);
+      if (prima && ora != *prima && plc.Righe_Fatte <= a) {
+        const bool da_una_riga = plc.Righe_Fatte > righe_prima;
+        trovato.Righe = plc.Righe_Fatte;
+        trovato.Riga = !da_una_riga ? -1 : plc.PC > 0 ? plc.PC - 1 : pc_prima;
+        inizio = righe_prima;
+      }
+      prima = ora;
+      righe_prima = plc.Righe_Fatte;
+      pc_prima = plc.PC;
+      return true;
+    });
+    return trovato;
+  };
+  constexpr std::int64_t da_vicino = 200'000;
+  std::int64_t inizio = 0;
+  const std::int64_t vicino = std::max(adesso.Righe - da_vicino, primo_.Righe);
+  Trovato trovato = cerca(vicino, adesso.Righe, true, inizio);
+  std::int64_t fine = vicino;
+  for (std::int64_t lontano = 20 * da_vicino; trovato.Righe < 0 && fine > primo_.Righe;
+       lontano *= 20) {
+    const std::int64_t da = std::max(adesso.Righe - lontano, primo_.Righe);
+    trovato = cerca(da, fine, false, inizio);
+    if (trovato.Righe >= 0) trovato = cerca(inizio, trovato.Righe, true, inizio);
+    fine = da;
+  }
+  riga = trovato.Riga;
+  return trovato.Righe >= 0 && Vai({.Righe = trovato.Righe});
+}
+
+void Registratore::Rivedi(Momento da, Momento a, bool ogni_riga,
+                          const std::function<bool(const Plc&)>& guarda) {
+  if (!Nel_Passato()) giornale_.Ultima_Riga = plc_.Righe_Fatte;
+  Orologio orologio;
+  Plc plc(orologio);
+  const Tappa& tappa = Tappa_Prima(da);
+  const Tappa& inizio =
+      tappa.Apertura >= 0 ? tappe_[static_cast<std::size_t>(tappa.Apertura)] : tappa;
+  Replica replica(plc, giornale_, inizio.Dove);
+  Parti(replica, plc, tappa);
+  if (plc.Righe_Fatte < da.Righe && da.Righe != Momento::Mai) replica.Vai(da);
+  replica.Ogni_Riga = ogni_riga;
+  replica.Guarda = [&] { return guarda(plc); };
+  if (!guarda(plc)) return;
+  replica.Vai(a);
+  if (!replica.Fermata()) guarda(plc);
+}
+
+}  // namespace tavorno

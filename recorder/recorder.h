@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "recorder/journal.h"
+#include "recorder/replay.h"
+
+namespace tavorno {
+
+/// A session as a value: the state that it began in, and what entered since.
+struct Registrazione {
+  std::string Titolo;  ///< of the project, UTF-8
+  std::shared_ptr<const Stesura> Programma;
+  Istantanea Stato;
+  Giornale Voci;
+};
+
+/// A place in a session from which a replay can set out.
+struct Tappa {
+  std::shared_ptr<const Stesura> Programma;
+  Istantanea Stato;
+  Posto_Giornale Dove;
+  int Apertura = -1;  ///< the place right before the open plant was made; -1: none was open
+};
+
+/// Writes down what enters a CPU, and takes it back to any moment of that and forth again.
+///
+/// A full copy of the CPU's state is kept every few seconds, so that a replay is short. Of a plant
+/// there is no copy: it is always played again from its opening, by the outputs alone and so a
+/// thousand times faster than the program runs. When the journal gets too long and no plant is
+/// open, its older half is forgotten.
+class Registratore {
+ public:
+  explicit Registratore(Plc& plc);
+  Registratore(const Registratore&) = delete;
+  Registratore& operator=(const Registratore&) = delete;
+
+  /// A new program stands in the CPU's table.
+  void Programma_Nuovo();
+  /// Begins anew with the state as it stands; no plant is open. Not in the past.
+  void Ricomincia();
+
+  /// To be called when who shows message boxes listens to them: a box is told to be closed by those
+  /// who hear of it last.
+  void Ascolta_Chiusura();
+
+  /// What has been written down, up to now.
+  Registrazione Registrata();
+  std::string Titolo;
+
+  // ---- the past --------------------------------------------------------------------------------
+  // Only while no run loop is at work.
+
+  /// Makes the open plant anew when its past is played, and hands out its wires. Empty: a plant of
+  /// the replay's own is used, and thrown away.
+  std::function<Collegamento*(int indice)> Apri;
+  /// Called now and then during a long replay with its progress, 0 to 1; false ends it early.
+  std::function<bool(double)> Avanzamento;
+
+  bool Nel_Passato() const { return plc_.Hook.Adesso == Vissuto::Passato; }
+  /// The CPU becomes what it was; false when that moment is out of reach, and nothing happens.
+  /// What `Avanzamento` ended early stands somewhere before.
+  bool Vai(Momento momento);
+  /// Goes on to the present, and lets things enter again.
+  void Torna_Al_Presente();
+  /// This moment becomes the present; what came after is forgotten. A run that was under way is in
+  /// a pause.
+  void Riprendi_Da_Qui();
+
+  /// The first moment that can be gone back to: a program or a plant came or went there.
+  Momento Primo() const { return primo_; }
+  Momento Presente() const { return Nel_Passato() ? presente_ : Adesso(); }
+  Momento Adesso() const { return {plc_.Righe_Fatte, plc_.Tempo.Adesso()}; }
+
+  // Steps from the moment at hand; false when there is nothing there, and nothing happens.
+  bool Riga_Indietro();
+  bool Scansione_Indietro();
+  bool Tempo_Indietro(std::int64_t ms);
+  bool Riga_Avanti();
+  bool Scansione_Avanti();
+  bool Tempo_Avanti(std::int64_t ms);
+
+  /// To the last moment before this one at which `valore` changed. False when it did not, as far
+  /// back as can be seen. Returns by `riga` the line of the program that did it, -1 when it was no
+  /// line but something that entered.
+  bool Ultimo_Cambio(const std::function<double(const Plc&)>& valore, int& riga);
+
+  /// Plays the past on a CPU and a plant of its own, from the last place before `da` on up to `a`,
+  /// without touching the one at hand. `guarda` is called between two lines, at each line or at
+  /// each entry; false ends it.
+  void Rivedi(Momento da, Momento a, bool ogni_riga, const std::function<bool(const Plc&)>& guarda);
+
+  /// Bytes that are in use, about.
+  std::size_t Occupata() const;
+
+  std::int64_t Ms_Tra_Tappe = 10'000;
+  std::int64_t Righe_Tra_Tappe = 3'000'000;
+  std::size_t Limite = 12UL * 1024 * 1024;  ///< bytes
+
+ private:
+  void Annota(const Atto& entrata);
+  void Segui(Replica& replica, std::int64_t da, std::int64_t a) const;
+  void Metti_Tappa();
+  void Dimentica();
+  const Tappa& Tappa_Prima(Momento momento) const;
+  void Parti(Replica& replica, Plc& plc, const Tappa& tappa) const;
+
+  Plc& plc_;
+  std::shared_ptr<const Stesura> programma_;
+  std::vector<Tappa> tappe_;
+  Giornale giornale_;
+  Momento primo_;
+  int apertura_ = -1;         // the place before the open plant was made
+  bool senza_tappe_ = false;  // the open plant reads more of the CPU than its outputs
+  bool chiuso_ = false;       // a plant has just gone
+  bool in_avviso_ = false;    // a message box stands open, maybe in the middle of a line
+  Posto_Giornale qui_;        // in the past: what has been read
+  bool in_giro_ = false;      // in the past: a run loop was at work
+  Momento presente_;          // in the past: the moment that was left
+  std::vector<Iscrizione> ascolti_;
+  Iscrizione avviso_chiuso_;
+};
+
+}  // namespace tavorno
