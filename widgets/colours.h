@@ -49,6 +49,7 @@ inline constexpr Coppia Scala_Presente{"present line", Scala_Testo.Testo, {0xff,
 inline constexpr Coppia Scala_Errore{"refused operand", {0xa8, 0x00, 0x14}, {0xfd, 0xec, 0xec}};
 inline constexpr Coppia Scala_Aiuto{"help to an operand", Scala_Testo.Testo, {0xff, 0xfb, 0xe6}};
 inline constexpr QColor Scala_Passa(0xff, 0xc9, 0xc2);    ///< inside a contact that lets power pass
+inline constexpr QColor Scala_Agisce(0xff, 0xee, 0xeb);   ///< inside a box that works
 inline constexpr QColor Scala_Cursore(0x2f, 0x6f, 0xb5);  ///< beside the network of the caret
 inline constexpr QColor Scala_Bordo(0xb8, 0xbe, 0xc6);    ///< between networks
 inline constexpr Coppia Valore_Riga{"value beside a line", {0x1b, 0x1f, 0x24}, {0xe2, 0xe7, 0xed}};

@@ -37,7 +37,10 @@ class Pittura {
       const auto indice = static_cast<std::size_t>(n);
       const Ruolo ruolo = rete_.Come.Riquadri[indice].Come.Cosa;
       if (!stato_.Flusso.Attivi[indice] || ruolo == Ruolo::Da_Solo) continue;
-      p_.fillRect(rete_.Cuori[indice].adjusted(0, 3, 0, -3), colori::Scala_Passa);
+      const bool riquadro = ruolo == Ruolo::Scatola || ruolo == Ruolo::Contatore;
+      const QRectF& cuore = rete_.Cuori[indice];
+      p_.fillRect(riquadro ? cuore : cuore.adjusted(0, 3, 0, -3),
+                  riquadro ? colori::Scala_Agisce : colori::Scala_Passa);
     }
   }
 
@@ -49,18 +52,21 @@ class Pittura {
   }
 
   void Tratti() {
-    QVector<QLineF> fermi;
-    QVector<QLineF> vivi;
-    fermi.reserve(static_cast<int>(rete_.Forme.Tratti.size()));
-    for (const Asta& asta : rete_.Forme.Tratti)
-      (Vivo(asta.Nodo) ? vivi : fermi).append({asta.X1, asta.Y1, asta.X2, asta.Y2});
-    Penna(false);
-    p_.drawLines(fermi);
-    Curve(false);
-    if (vivi.isEmpty()) return;
-    Penna(true);
-    p_.drawLines(vivi);
-    Curve(true);
+    for (const bool viva : {false, true}) {
+      // Along a row one stretch ends where the next begins; at corners the upright one reaches
+      // over.
+      QVector<QLineF> in_riga;
+      QVector<QLineF> altre;
+      for (const Asta& asta : rete_.Forme.Tratti) {
+        if (Vivo(asta.Nodo) != viva) continue;
+        (asta.Y1 == asta.Y2 ? in_riga : altre).append({asta.X1, asta.Y1, asta.X2, asta.Y2});
+      }
+      Penna(viva, Qt::FlatCap);
+      p_.drawLines(in_riga);
+      Penna(viva, Qt::SquareCap);
+      p_.drawLines(altre);
+      Curve(viva);
+    }
   }
 
   void Scritte() {
@@ -105,10 +111,10 @@ class Pittura {
     if (simbolo < rete_.Simboli())
       p_.fillRect(Posto(simbolo).adjusted(-sporge, -sporge, sporge, sporge), tinta);
   }
-  void Penna(bool viva) {
+  void Penna(bool viva, Qt::PenCapStyle fine) {
     p_.setBrush(Qt::NoBrush);
     p_.setPen(QPen(viva ? colori::Scala_Vivo.Testo : colori::Scala_Testo.Testo,
-                   viva ? tratto_vivo : tratto, Qt::SolidLine, Qt::SquareCap));
+                   viva ? tratto_vivo : tratto, Qt::SolidLine, fine));
   }
   void Curve(bool vive) {
     for (const Cornice& cornice : rete_.Forme.Cornici)

@@ -142,6 +142,16 @@ TEST_F(Modifica_Scala, RungsAndNetworksComeAndGo) {
   EXPECT_NE(Main().find("NETWORK 2"), std::string::npos);
 }
 
+TEST_F(Modifica_Scala, AnEmptyProgramSaysHowToBegin) {
+  Apri("");
+  QTest::keyClicks(&Vista(), "a");
+  EXPECT_FALSE(Campo_Aperto());
+  EXPECT_TRUE(Stato().contains("Ctrl+Ins")) << Utf8(Stato());
+  Premi(Qt::Key_Insert, Qt::ControlModifier);
+  Batti("ld i0.0");
+  EXPECT_NE(Main().find("LD     I0.0\n=      ?"), std::string::npos) << Main();
+}
+
 TEST_F(Modifica_Scala, WithoutAnEditorTheDiagramIsForLooking) {
   Apri(marcia, false);
   QTest::keyClicks(&Vista(), "a");

@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Shows the ladder window of a project as a PNG file, for those who work on it: compiled and after
-// some scans with these inputs.
+// some scans with these inputs. A file of another kind, pdf or svg, is what the window saves.
 // Usage: ladder_preview FILE.AWL FILE.png [WIDTH HEIGHT [ZOOM% [PLANT [I0BITS SCANS [NETWORK]]]]]
 #include <QApplication>
 #include <QPixmap>
 #include <cstdlib>
 
 #include "assets/resources.h"
+#include "ladder/ui/ladder_export.h"
 #include "ladder/ui/ladder_window.h"
 #include "plants/exercises.h"
 #include "recorder/session.h"
+#include "widgets/text.h"
 
 using namespace tavorno;
 
@@ -43,8 +45,11 @@ int main(int argc, char** argv) {
       if (seduta.plc.PC == 0) seduta.orologio.Avanza(10);
     }
   }
+  const QString file = QString::fromLocal8Bit(argv[2]);
+  if (!file.endsWith(u".png"))
+    return Salva_Scala(file, finestra.Vista().Foglio(), Q(argv[1]), {}).isEmpty() ? 0 : 1;
   if (argc > 9) finestra.Vista().Scegli(numero(9, 0), 0);
   finestra.Aggiorna();
   QApplication::processEvents();
-  return finestra.grab().save(QString::fromLocal8Bit(argv[2])) ? 0 : 1;
+  return finestra.grab().save(file) ? 0 : 1;
 }
