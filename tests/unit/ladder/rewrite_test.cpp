@@ -3,8 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
+#include <random>
+#include <set>
+
+#include "awl/line_words.h"
 #include "awl/screen_rows.h"
 #include "ladder/edit.h"
+#include "ladder/edit_walk.h"
 #include "ladder/to_list.h"
 #include "ladder/typed.h"
 #include "list_bed.h"
@@ -124,6 +131,96 @@ TEST(Riscrivi_Rete, WhatIsReadAgainIsWhatWasDrawn) {
   const auto blocchi = Scala_Di(Righe_A_Schermo(seduta.progetto));
   EXPECT_EQ(Testo(blocchi[0].Reti[0].Passi), "LD I0.0\nLPS\nA I0.1\n= Q0.0\nLPP\n= Q1.1\n");
 }
+
+// ---- any change of any example ------------------------------------------------------------------
+
+namespace {
+
+std::vector<std::string> Esempi() {
+  std::vector<std::string> file;
+  for (const auto& voce : std::filesystem::directory_iterator(TAVORNO_EXAMPLES))
+    if (voce.path().extension() == ".AWL") file.push_back(voce.path().string());
+  std::ranges::sort(file);
+  return file;
+}
+
+/// The lines of a block but for those of one network's instructions.
+std::vector<std::string> Altre_Linee(const std::string& intero, const Rete_Scala& rete,
+                                     const std::vector<Riga_Src>& righe) {
+  std::set<int> sue;
+  for (const Passo_Scala& passo : rete.Passi)
+    sue.insert(righe[static_cast<std::size_t>(passo.Riga)].Posto.Linea);
+  std::vector<std::string> altre;
+  int n = 0;
+  for (const std::string_view linea : Linee(intero))
+    if (!sue.contains(n++)) altre.emplace_back(linea);
+  return altre;
+}
+
+class Esempi_Cambiati : public testing::TestWithParam<std::string> {};
+
+}  // namespace
+
+TEST_P(Esempi_Cambiati, ReadAsTheyWereDrawnAndKeepEveryOtherLine) {
+  static const std::vector<std::string> battute = {"a i0.0", "on m0.7",   "= m1.7", "ton t40 +5",
+                                                   "eu",     "ctu c9 +3", "lbl 9",  "/q0.0"};
+  std::mt19937 generatore(7);
+  const auto caso = [&](std::size_t quanti) { return static_cast<int>(generatore() % quanti); };
+  Seduta seduta;
+  ASSERT_TRUE(seduta.Apri(GetParam()));
+  Progetto& progetto = seduta.progetto;
+  int fatte = 0;
+  for (int n = 0; n < 60; ++n) {
+    const auto righe = Righe_A_Schermo(progetto);
+    const auto blocchi = Scala_Di(righe);
+    const auto blocco = static_cast<std::size_t>(caso(blocchi.size()));
+    if (blocchi[blocco].Reti.empty()) continue;
+    const auto quale = static_cast<std::size_t>(caso(blocchi[blocco].Reti.size()));
+    const Rete_Scala& rete = blocchi[blocco].Reti[quale];
+    const auto* diagramma = std::get_if<Diagramma>(&rete.Forma);
+    if (!diagramma) continue;
+    const int simboli = Quanti_Simboli(*diagramma);
+    const int simbolo = simboli == 0 ? -1 : caso(static_cast<std::size_t>(simboli));
+    const bool taglia = simbolo >= 0 && caso(3) == 0;
+    const Modifica modifica =
+        taglia ? Cancella(*diagramma, simbolo)
+               : Inserisci(
+                     *diagramma, simbolo, simbolo, static_cast<Verso>(caso(3)),
+                     *Leggi_Battuta(battute[static_cast<std::size_t>(caso(battute.size()))]).Passo);
+    if (!modifica.Fatta()) continue;
+    ++fatte;
+    const int blocco_testo = righe[static_cast<std::size_t>(rete.Riga)].Posto.Testo;
+    const std::string prima = Testo_A_Schermo(progetto, blocco_testo);
+    const std::string dopo = Riscrivi_Rete(prima, rete, righe, *Elenca(modifica.Nuovo));
+    if (blocco_testo == 0) {
+      progetto.Scrivi_Main(dopo);
+    } else {
+      progetto.Scheda = blocco_testo;
+      progetto.Scrivi_Procedura(dopo);
+    }
+    const auto nuove_righe = Righe_A_Schermo(progetto);
+    const auto nuovi = Scala_Di(nuove_righe);
+    ASSERT_EQ(nuovi.size(), blocchi.size());
+    for (std::size_t b = 0; b < blocchi.size(); ++b) {
+      ASSERT_EQ(nuovi[b].Reti.size(), blocchi[b].Reti.size()) << dopo;
+      for (std::size_t r = 0; r < blocchi[b].Reti.size(); ++r) {
+        const auto atteso =
+            b == blocco && r == quale ? *Elenca(modifica.Nuovo) : blocchi[b].Reti[r].Passi;
+        ASSERT_EQ(nuovi[b].Reti[r].Passi, atteso) << dopo;
+      }
+    }
+    std::vector<std::string> rimaste = Altre_Linee(dopo, nuovi[blocco].Reti[quale], nuove_righe);
+    const std::vector<std::string> di_prima = Altre_Linee(prima, rete, righe);
+    // Behind a last line that had no end there is a new, empty one.
+    if (rimaste.size() == di_prima.size() + 1 && rimaste.back().empty()) rimaste.pop_back();
+    ASSERT_EQ(rimaste, di_prima);
+  }
+  EXPECT_GT(fatte, 10);
+}
+
+INSTANTIATE_TEST_SUITE_P(Tutti, Esempi_Cambiati, testing::ValuesIn(Esempi()), [](const auto& caso) {
+  return std::filesystem::path(caso.param).stem().string();
+});
 
 // ---- rows on the screen -------------------------------------------------------------------------
 
