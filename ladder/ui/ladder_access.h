@@ -4,7 +4,8 @@
 namespace tavorno {
 
 /// Lets screen readers find the networks and symbols of every `Vista_Scala`: a list of networks,
-/// each with its symbols as items in words. To be called once or more often.
+/// each with its symbols as items in words. Whoever shows such a view calls it first; once is
+/// enough.
 void Offri_Schemi_Ai_Lettori();
 
 }  // namespace tavorno

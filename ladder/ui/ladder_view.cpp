@@ -13,7 +13,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "ladder/ui/ladder_access.h"
 #include "ladder/ui/ladder_entry.h"
 #include "widgets/colours.h"
 #include "widgets/text.h"
@@ -35,7 +34,6 @@ Vista_Scala::Vista_Scala(const Plc& plc, const Stato_Progetto& progetto, Legami_
       progetto_(progetto),
       legami_(std::move(legami)),
       campo_(new Campo_Scala(viewport())) {
-  Offri_Schemi_Ai_Lettori();
   setObjectName(QStringLiteral("Vista_Scala"));
   setAccessibleName(QStringLiteral("Schema a contatti"));
   setFocusPolicy(Qt::StrongFocus);

@@ -15,6 +15,7 @@
 #include <cmath>
 
 #include "ladder/typed.h"
+#include "ladder/ui/ladder_access.h"
 #include "ladder/ui/ladder_export.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
@@ -73,6 +74,7 @@ FrmScala::FrmScala(const Plc& plc, const Stato_Progetto& progetto, Legami_Scala 
       etScelto_(new QLabel),
       etZoom_(new QLabel),
       timScala_(new QTimer(this)) {
+  Offri_Schemi_Ai_Lettori();
   setObjectName(QStringLiteral("frmScala"));
   setWindowIcon(QIcon(QStringLiteral(":/icons/tavorno.svg")));
   setCentralWidget(vista_);
