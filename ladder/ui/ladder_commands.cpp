@@ -43,8 +43,9 @@ bool Vista_Scala::Posso_Modificare() const {
         "Lo schema si modifica con l'editor aperto: menu File, \"Modifica Progetto\"."));
     return false;
   }
-  if (rete_ < 0) return false;
-  if (!Rete(rete_).Disegnata())
+  if (rete_ < 0)
+    Avvisa(QStringLiteral("Il programma non ha segmenti: Ctrl+Ins comincia il primo."));
+  else if (!Rete(rete_).Disegnata())
     Avvisa(QStringLiteral("Questo segmento resta in lista: si modifica nel testo (Invio)."));
   else if (foglio_.Pila_Contesa())
     Avvisa(
