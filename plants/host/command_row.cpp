@@ -17,7 +17,7 @@ namespace tavorno {
 
 namespace {
 
-constexpr int aria = 12;  // pixels between two ticks
+constexpr int aria = 8;  // pixels between two ticks
 
 template <class Controllo>
 Controllo* Crea(const char* nome, const QString& testo, const QString& nota) {
@@ -61,7 +61,7 @@ Riga_Comandi::Riga_Comandi(const QString& voce_io, QWidget* sopra)
   cmdGuasti_->setMenu(mnuGuasti);
   cmdGuasti_->setFocusPolicy(Qt::StrongFocus);
   cmdGuasti_->setMinimumSize(
-      QFontMetrics(Grassetto(font())).horizontalAdvance(QStringLiteral("Guasti: 00")) + 34,
+      QFontMetrics(Grassetto(font())).horizontalAdvance(QStringLiteral("Guasti: 00")) + 26,
       cmdSch->sizeHint().height());
 
   viste_->addWidget(chkIO);
@@ -76,7 +76,7 @@ Riga_Comandi::Riga_Comandi(const QString& voce_io, QWidget* sopra)
     destra_->addWidget(uno);
   // Short words need no wide buttons, and all stand in one row then.
   for (QPushButton* tasto : {cmdTempi, cmdSch, cmdEnd})
-    tasto->setFixedWidth(tasto->fontMetrics().horizontalAdvance(tasto->text()) + 26);
+    tasto->setFixedWidth(tasto->fontMetrics().horizontalAdvance(tasto->text()) + 20);
   posti_->setContentsMargins(10, 6, 10, 6);
   posti_->addLayout(spunte_);
   posti_->addLayout(destra_);
