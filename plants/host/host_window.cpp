@@ -25,7 +25,8 @@ namespace tavorno {
 
 namespace {
 
-constexpr int larga_accanto = 520;    // pixels of the table beside the picture
+constexpr int larga_accanto = 520;    // pixels of the table beside the picture at least
+constexpr int larga_tabella = 740;    // with its comments in full
 constexpr int periodo_sguardo = 100;  // ms
 
 enum Righe { Riga_Del_Quadro, Riga_Della_Striscia, Riga_Dei_Comandi, Riga_Delle_Schede };
@@ -186,13 +187,18 @@ void Finestra_Impianto::Mostra(QWidget& vista, bool aperta, int pixel) {
   if (Tabella_Mossa) Tabella_Mossa();
 }
 
+/// Pixels that strip and commands take.
+int Finestra_Impianto::Sotto_Il_Quadro() const {
+  return comandi_->sizeHint().height() +
+         (striscia_->isHidden() ? 0 : striscia_->sizeHint().height());
+}
+
 /// Whether the picture is larger with the table at its side than with the table below.
 bool Finestra_Impianto::Meglio_Accanto(const QSize& finestra) const {
   if (schede_->isHidden()) return false;
   if (finestra.width() < larga_accanto + quadro_->minimumSizeHint().width()) return false;
   const QSizeF disegno = quadro_->sizeHint();
-  const int sotto =
-      comandi_->sizeHint().height() + (striscia_->isHidden() ? 0 : striscia_->sizeHint().height());
+  const int sotto = Sotto_Il_Quadro();
   const auto scala = [&](int largo, int alto) {
     return std::min(largo / disegno.width(), alto / disegno.height());
   };
@@ -212,9 +218,14 @@ void Finestra_Impianto::Disponi(const QSize& finestra) {
     else
       posti_->addWidget(schede_, Riga_Delle_Schede, 0);
   }
-  schede_->setMinimumSize(accanto ? QSize(larga_accanto, 0) : QSize(0, alta));
-  schede_->setMaximumSize(accanto ? QSize(larga_accanto, QWIDGETSIZE_MAX)
-                                  : QSize(QWIDGETSIZE_MAX, alta));
+  // Beside the picture it takes what the picture cannot use.
+  const int alto = finestra.height() - Sotto_Il_Quadro();
+  const QSize disegno = quadro_->sizeHint();
+  const int larga = std::clamp(finestra.width() - disegno.width() * alto / disegno.height(),
+                               larga_accanto, larga_tabella);
+  schede_->setMinimumSize(accanto ? QSize(larga, 0) : QSize(0, alta));
+  schede_->setMaximumSize(accanto ? QSize(larga, QWIDGETSIZE_MAX) : QSize(QWIDGETSIZE_MAX, alta));
+  posti_->activate();  // nothing is drawn where it was before
 }
 
 void Finestra_Impianto::resizeEvent(QResizeEvent* evento) {

@@ -59,6 +59,7 @@ class Finestra_Impianto : public QWidget {
   void Apri_Tabella(bool aperta);
   void Apri_Striscia(bool aperta);
   void Mostra(QWidget& vista, bool aperta, int pixel);
+  int Sotto_Il_Quadro() const;
   bool Meglio_Accanto(const QSize& finestra) const;
   void Disponi(const QSize& finestra);
   void Collega_Comandi();

@@ -123,7 +123,7 @@ void Tabella_IO::Aggiungi_Dal_Vivo() {
   vivo_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   vivo_->horizontalHeader()->setStretchLastSection(true);
   const QFontMetrics misure = vivo_->fontMetrics();
-  const int valore = misure.horizontalAdvance(QStringLiteral("0  filo interrotto")) + 14;
+  const int valore = misure.horizontalAdvance(QStringLiteral("00,00 V guasto")) + 12;
   const int cambio = misure.horizontalAdvance(QStringLiteral("Ultimo cambio")) + 20;
   vivo_->setColumnWidth(Valore_Ora, valore);
   vivo_->setFixedWidth(valore + cambio + vivo_->verticalScrollBar()->sizeHint().width() +
@@ -174,7 +174,7 @@ void Tabella_IO::Aggiorna() {
     QString nota;
     const bool rotto = fili_.Guastato(Nome_Guasto(Guasto_Filo::Interrotto, indirizzo));
     if (rotto || fili_.Guastato(Nome_Guasto(Guasto_Filo::Incollato, indirizzo))) {
-      testo += rotto ? QStringLiteral("  filo interrotto") : QStringLiteral("  incollato");
+      testo += QStringLiteral("  guasto");
       nota = rotto ? QStringLiteral("Guasto: il filo di questo ingresso è interrotto")
                    : QStringLiteral("Guasto: il contatto di questo ingresso è incollato");
       tinta = &colori::Guasto;

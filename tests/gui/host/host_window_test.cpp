@@ -59,6 +59,24 @@ TEST_P(Host, TheTickShowsTheTableByTheHeightAlone) {
   EXPECT_EQ(banco.finestra->width(), larghezza);
 }
 
+TEST_P(Host, TheTableStandsBesideThePictureWhereThatLeavesItLarger) {
+  const auto& schede = banco.Trova<QTabWidget>("SSTab1");
+  const auto scala = [this] {
+    const QSizeF disegno = banco.Disegno().sizeHint();
+    return std::min(banco.Disegno().width() / disegno.width(),
+                    banco.Disegno().height() / disegno.height());
+  };
+  banco.Trova<QCheckBox>("chkIO").click();
+  const QSize figura = banco.Disegno().sizeHint();
+  banco.finestra->resize(figura.width() + 600, figura.height() + 60);
+  EXPECT_GT(schede.x(), banco.Disegno().x());
+  EXPECT_EQ(schede.y(), banco.Disegno().y());
+  EXPECT_GE(scala(), 1.0);
+  banco.finestra->resize(900, 1000);
+  EXPECT_GT(schede.y(), banco.Disegno().y());
+  EXPECT_EQ(schede.x(), 0);
+}
+
 TEST_P(Host, TheGridHoldsTheTableOfInputsAndOutputs) {
   const auto& FGr = banco.Trova<QTableWidget>("FGr");
   ASSERT_EQ(FGr.rowCount(), static_cast<int>(esercizio.Righe_IO.size()));

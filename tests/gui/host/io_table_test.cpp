@@ -53,7 +53,8 @@ TEST_F(Vivi, TheColumnsTellTheValueAndHowLongAgoItChanged) {
 TEST_F(Vivi, AFaultOfAWireStandsInItsRow) {
   banco.finestra->Fili().Guasta("filo(I0.0)", true);
   Passa(100);
-  EXPECT_EQ(Cella(0, 0), "0  filo interrotto");
+  EXPECT_EQ(Cella(0, 0), "0  guasto");
+  EXPECT_TRUE(vivo.item(0, 0)->toolTip().contains("filo di questo ingresso"));
   EXPECT_EQ(vivo.item(0, 0)->background().color(), colori::Guasto.Fondo);
   banco.finestra->Fili().Guasta("filo(I0.0)", false);
   Passa(100);
