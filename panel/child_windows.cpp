@@ -115,6 +115,7 @@ FrmMain& Finestre::Editor() {
     legami.Mostra_Pannello = [this] {
       Porta_Avanti(pannello_);
       pannello_.Attivata();
+      if (tempi_) tempi_->Programma_Caricato();
     };
     legami.Mostra_Debug = [this] { Mostra_Debug(); };
     legami.Mostra_Stampe = [this] { Mostra_Stampe(); };

@@ -20,7 +20,7 @@ constexpr std::array<std::uint32_t, static_cast<std::size_t>(Tinta_Tempi::Quante
     0xcfe2f7,            // selected row
     0xe3e7ec,            // between rows
     0xd3d9e0,            // grid
-    0xe4dcf0,            // scans
+    0xd8cdea,            // scans
     0x1b1f24,            // text
     0x566070,            // lesser text
     0x1f6f9e, 0xcfe4f2,  // inputs

@@ -195,8 +195,12 @@ void Scansioni::Aggiungi(std::int64_t ms, std::int32_t numero) {
   ultimo_numero_ = numero;
   if (!serie_.empty() && saltate > 0) {
     const std::int64_t prima = serie_.back().Ultimo();
-    const std::int64_t passo = (ms - prima) / (saltate + 1);
-    if (passo >= 1) serie_.push_back({prima + passo, passo, saltate});
+    // One mark per millisecond at most, like those that were run.
+    const std::int64_t segni = std::min(saltate, ms - prima - 1);
+    if (segni > 0) {
+      const std::int64_t passo = (ms - prima) / (segni + 1);
+      serie_.push_back({prima + passo, passo, segni});
+    }
   }
   Una(ms);
 }

@@ -25,7 +25,7 @@ namespace tavorno {
 namespace {
 
 // A running program shares its thread with the pictures: they take one part in so many of it.
-constexpr double parte_del_tempo = 30;
+constexpr double parte_del_tempo = 50;
 constexpr double secondi_iniziali = 10;
 constexpr double punti_di_barra = 10'000;  // of the scroll bar of time, for the whole recording
 
@@ -114,8 +114,13 @@ FrmTempi::FrmTempi(Plc& plc, const Esercizio* impianto)
 void FrmTempi::Riparti(const Esercizio* impianto) {
   impianto_ = impianto;
   diagramma_.Mostra_Solo(Segnali_Di(impianto_, plc_));
+  iniziali_ = diagramma_.Mostrati();
   sonda_.Guarda();
   Ridisegna();
+}
+
+void FrmTempi::Programma_Caricato() {
+  if (diagramma_.Mostrati() == iniziali_) Riparti(impianto_);
 }
 
 // ---- bar, search --------------------------------------------------------------------------------

@@ -39,8 +39,10 @@ class FrmTempi : public QWidget {
   /// Begins with the signals of the open plant (null: none is) and of the loaded program.
   explicit FrmTempi(Plc& plc, const Esercizio* impianto = nullptr);
 
-  /// Another plant was opened or closed, or another program loaded: its signals, as at first.
+  /// Another plant was opened or closed: its signals, as at first.
   void Riparti(const Esercizio* impianto);
+  /// Another program was loaded: its signals, unless others were chosen meanwhile.
+  void Programma_Caricato();
 
   std::function<void()> Mostra_Aiuto;
   /// Asks where to save a file of a type ("svg", "png", "vcd"); empty: nowhere.
@@ -131,6 +133,7 @@ class FrmTempi : public QWidget {
   std::vector<QAction*> azioni_;  // in the order of the table
   QString messaggio_;             // of the last search, until something else is done
   std::int64_t visti_ = -1, fine_vista_ = -1;
+  std::vector<Segnale> iniziali_;  // as `Riparti` chose them
 };
 
 }  // namespace tavorno

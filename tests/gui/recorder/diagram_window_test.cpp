@@ -54,6 +54,17 @@ TEST_F(Diagram_Window, AnotherPlantBringsItsSymbols) {
   EXPECT_EQ(D().Mostrati().size(), 3U);
 }
 
+TEST_F(Diagram_Window, AnotherProgramBringsItsSignalsUnlessOthersWereChosen) {
+  Carica("LD M0.0\r\n= Q0.3\r\n");
+  finestra->Programma_Caricato();
+  EXPECT_EQ(D().Mostrati().size(), 2U);
+  D().Aggiungi(Fai_Segnale("C1", "C1"));
+  Carica("LD I0.5\r\n= Q0.5\r\n");
+  finestra->Programma_Caricato();
+  EXPECT_EQ(D().Mostrati().size(), 3U);
+  EXPECT_TRUE(finestra->Registrati().Cerca("Q0.3"));
+}
+
 // ---- keys ---------------------------------------------------------------------------------------
 
 TEST_F(Diagram_Window, EveryCommandHasKeysOfItsOwnThatItsTipTells) {

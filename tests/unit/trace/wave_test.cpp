@@ -171,6 +171,9 @@ TEST(Scans, ThoseThatWereOnlyCountedAreThereToo) {
   scansioni.Aggiungi(1, 2);
   scansioni.Aggiungi(7, 8);
   EXPECT_THAT(scansioni.Fra(0, 100, 50), ElementsAre(0, 1, 2, 3, 4, 5, 6, 7));
+  scansioni.Aggiungi(12, 16);  // more of them than milliseconds
+  EXPECT_THAT(scansioni.Fra(7, 100, 50), ElementsAre(7, 8, 9, 10, 11, 12));
+  scansioni.Taglia_Dopo(7);
   scansioni.Aggiungi(9, 1);  // a new run
   EXPECT_THAT(scansioni.Fra(7, 100, 50), ElementsAre(7, 9));
 }
