@@ -62,7 +62,8 @@ void AwlEditor::Prepara_Documento() {
 }
 
 void AwlEditor::Prepara_Vista() {
-  setFrameShape(QFrame::StyledPanel);
+  setFrameShape(QFrame::NoFrame);  // its lines need the height
+  setExtraAscent(-1);              // the type has air above its letters
   setWrapMode(WrapNone);
   setScrollWidth(1);
   setScrollWidthTracking(true);

@@ -110,6 +110,8 @@ class AwlEditor : public QsciScintilla {
  protected:
   void contextMenuEvent(QContextMenuEvent* evento) override;
   void keyPressEvent(QKeyEvent* evento) override;
+  /// Files are the window's.
+  bool canInsertFromMimeData(const QMimeData* dati) const override;
 
  private:
   void Prepara_Documento();

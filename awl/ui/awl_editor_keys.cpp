@@ -3,6 +3,7 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <array>
 
 #include "awl/ui/awl_editor.h"
@@ -104,6 +105,10 @@ std::unique_ptr<QMenu> AwlEditor::Menu_Modifica() {
     }
   }
   return menu;
+}
+
+bool AwlEditor::canInsertFromMimeData(const QMimeData* dati) const {
+  return !dati->hasUrls() && QsciScintilla::canInsertFromMimeData(dati);
 }
 
 void AwlEditor::contextMenuEvent(QContextMenuEvent* evento) {

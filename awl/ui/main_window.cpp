@@ -4,10 +4,14 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDropEvent>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QLayout>
+#include <QMimeData>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
@@ -326,6 +330,7 @@ void FrmMain::Cambia_Pagina(int pagina) {
     return;
   }
   p_.Pagina = pagina;
+  righe_->setCurrentIndex(pagina);
   if (!specchia_) Specchia();
   comandi_->Aggiorna();
   if (SSTb2->tabBar()->hasFocus()) return;  // the arrow keys are at work
@@ -430,6 +435,18 @@ void FrmMain::showEvent(QShowEvent* evento) {
   chiusa_ = false;
   Regola_Altezza();
   txtList->setFocus(Qt::OtherFocusReason);
+}
+
+/// One file at a time is opened where it is dropped.
+void FrmMain::dragEnterEvent(QDragEnterEvent* evento) {
+  const QList<QUrl> file = evento->mimeData()->urls();
+  if (file.size() == 1 && file.front().isLocalFile()) evento->acceptProposedAction();
+}
+
+void FrmMain::dropEvent(QDropEvent* evento) {
+  const QFileInfo file(evento->mimeData()->urls().front().toLocalFile());
+  evento->acceptProposedAction();
+  Apri({Utf8(file.absoluteFilePath()), Utf8(file.fileName())});
 }
 
 }  // namespace tavorno

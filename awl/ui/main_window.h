@@ -22,6 +22,7 @@ class QCheckBox;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class QStackedWidget;
 class QTabBar;
 class QTabWidget;
 class QToolBar;
@@ -70,6 +71,8 @@ class FrmMain : public QMainWindow {
   void resizeEvent(QResizeEvent* evento) override;
   void changeEvent(QEvent* evento) override;
   void showEvent(QShowEvent* evento) override;
+  void dragEnterEvent(QDragEnterEvent* evento) override;
+  void dropEvent(QDropEvent* evento) override;
 
  private:
   // main_window_layout.cpp
@@ -79,6 +82,7 @@ class FrmMain : public QMainWindow {
   QWidget* Crea_Pagina_Listato();
   QWidget* Crea_Spunte();
   void Crea_Stato();
+  QHBoxLayout* Riga_Pulsanti();
   static QPushButton* Aggiungi_Pulsante(QHBoxLayout& riga, const Pulsante& pulsante);
   void Mostra_Data_Ora();
   int Altezza_Normale() const;
@@ -147,7 +151,7 @@ class FrmMain : public QMainWindow {
   QTabBar* TabSP = nullptr;
   QToolBar* tB1 = nullptr;
   QWidget* picF = nullptr;
-  QWidget* opzioni_ = nullptr;
+  QStackedWidget* righe_ = nullptr;  // tabs and buttons of each page
   std::array<QLabel*, 3> etNR{};
   std::array<QLabel*, 5> pannelli_{};
   std::array<QCheckBox*, 2> chkCom{};

@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
@@ -27,25 +28,17 @@ namespace {
 
 constexpr int larghezza_picF = Px(9015);
 constexpr int altezza_picF = Px(4215);
-constexpr int altezza_altro = Px(680);  // the menu bar and the row of ticks share it
-constexpr int larghezza_minima = 700;
+constexpr int altezza_altro = Px(680);  // the menu bar and the row of buttons share it
+constexpr int larghezza_minima = 880;   // pages and ticks side by side
 constexpr int margine = Px(60);
 constexpr int altezza_pulsante = Px(315);
 
 QVBoxLayout* Colonna(QWidget* pagina) {
   auto* colonna = new QVBoxLayout(pagina);
-  colonna->setContentsMargins(margine, margine, margine, margine);
+  // Every pixel of the height is the text's.
+  colonna->setContentsMargins(margine, 0, margine, 0);
   colonna->setSpacing(0);
   return colonna;
-}
-
-/// The row below a text: its tabs hang from the text's edge, the buttons stand clear of it.
-QHBoxLayout* Riga_Pulsanti(QVBoxLayout& colonna) {
-  auto* riga = new QHBoxLayout;
-  riga->setSpacing(margine);
-  riga->addStrut(altezza_pulsante + margine);
-  colonna.addLayout(riga);
-  return riga;
 }
 
 QTabBar* Linguette(const char* nome, const char* descrizione) {
@@ -63,7 +56,7 @@ QTabBar* Linguette(const char* nome, const char* descrizione) {
 
 void FrmMain::Crea_Controlli() {
   setObjectName(QStringLiteral("frmMain"));
-  setWindowTitle(QStringLiteral(" Editor AWL per Tavorno."));
+  setAcceptDrops(true);
   setWindowIcon(QIcon(QStringLiteral(":/icons/tavorno.svg")));
   Crea_Menu(*this, Menu_Editor(a_));
   tB1 = Crea_Barra(*this, "tB1", Barra_Editor(a_));
@@ -82,20 +75,32 @@ void FrmMain::Crea_Controlli() {
   SSTb2->setObjectName(QStringLiteral("SSTb2"));
   SSTb2->setDocumentMode(true);
   riquadro->addWidget(SSTb2);
+  righe_ = new QStackedWidget;
   const std::array<QWidget*, 4> pagine = {Crea_Pagina_Main(), Crea_Pagina_Procedure(),
                                           Crea_Pagina_Listato(), new QWidget};
   for (std::size_t i = 0; i < pagine.size(); ++i)
     SSTb2->addTab(pagine[i], QString::fromUtf8(Pagine_Editor[i]));
   SSTb2->setTabVisible(Pagina_Nascosta, false);
   colonna->addWidget(picF, 1);
-  opzioni_ = Crea_Spunte();
-  colonna->addWidget(opzioni_);
+  righe_->setFixedHeight(altezza_altro - menuBar()->sizeHint().height());
+  colonna->addWidget(righe_);
+  SSTb2->setCornerWidget(Crea_Spunte(), Qt::TopRightCorner);
   setCentralWidget(centro);
 
   Crea_Stato();
   setMinimumWidth(larghezza_minima);
-  opzioni_->setFixedHeight(altezza_altro - menuBar()->sizeHint().height());
   resize(larghezza_picF, Altezza_Normale());
+}
+
+/// The row of a page, below all pages: its tabs hang from the text's edge, its buttons stand in the
+/// middle of what the menu bar leaves of the height.
+QHBoxLayout* FrmMain::Riga_Pulsanti() {
+  auto* striscia = new QWidget;
+  auto* riga = new QHBoxLayout(striscia);
+  riga->setContentsMargins(margine, 0, margine, 0);
+  riga->setSpacing(margine);
+  righe_->addWidget(striscia);
+  return riga;
 }
 
 QPushButton* FrmMain::Aggiungi_Pulsante(QHBoxLayout& riga, const Pulsante& pulsante) {
@@ -110,7 +115,7 @@ QPushButton* FrmMain::Aggiungi_Pulsante(QHBoxLayout& riga, const Pulsante& pulsa
     suggerimento += QStringLiteral(" (%1)").arg(tasti.toString(QKeySequence::NativeText));
   }
   tasto->setToolTip(suggerimento);
-  riga.addWidget(tasto, 0, Qt::AlignBottom);
+  riga.addWidget(tasto);
   return tasto;
 }
 
@@ -120,7 +125,7 @@ QWidget* FrmMain::Crea_Pagina_Main() {
   txtList = new AwlEditor(Genere_Testo::Programma, "txtList", pagina);
   txtList->setAccessibleName(QStringLiteral("Testo del programma principale"));
   colonna->addWidget(txtList, 1);
-  QHBoxLayout* riga = Riga_Pulsanti(*colonna);
+  QHBoxLayout* riga = Riga_Pulsanti();
   QTabBar* TabS1 = Linguette("TabS1", "Programma principale");
   TabS1->addTab(QStringLiteral("MAIN"));
   TabS1->setFocusPolicy(Qt::NoFocus);  // there is nothing to choose
@@ -142,7 +147,7 @@ QWidget* FrmMain::Crea_Pagina_Procedure() {
   etSenza_SBR->hide();
   colonna->addWidget(etSenza_SBR);
   colonna->addWidget(txtP, 1);
-  QHBoxLayout* riga = Riga_Pulsanti(*colonna);
+  QHBoxLayout* riga = Riga_Pulsanti();
   TabSP = Linguette("TabSP", "Procedure");
   TabSP->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   riga->addWidget(TabSP, 1, Qt::AlignTop);
@@ -158,7 +163,7 @@ QWidget* FrmMain::Crea_Pagina_Listato() {
   txtLst = new AwlEditor(Genere_Testo::Listato, "txtLst", pagina);
   txtLst->setAccessibleName(QStringLiteral("Listato della compilazione"));
   colonna->addWidget(txtLst, 1);
-  QHBoxLayout* riga = Riga_Pulsanti(*colonna);
+  QHBoxLayout* riga = Riga_Pulsanti();
   for (std::size_t i = 0; i < Etichette_Listato.size(); ++i) {
     if (i > 0) riga->addStretch(1);
     auto* nome = new QLabel(QString::fromUtf8(Etichette_Listato[i].Testo));
@@ -174,13 +179,14 @@ QWidget* FrmMain::Crea_Pagina_Listato() {
   return pagina;
 }
 
-/// The ticks were made for the hidden page; here they can be reached.
+/// The ticks were made for the hidden page; here, beside the names of the pages, they can be
+/// reached and take no line from the texts.
 QWidget* FrmMain::Crea_Spunte() {
   auto* riquadro = new QFrame;
   riquadro->setObjectName(QStringLiteral("Frame5"));
   auto* riga = new QHBoxLayout(riquadro);
-  riga->setContentsMargins(2 * margine, 0, 2 * margine, 0);
-  riga->setSpacing(4 * margine);
+  riga->setContentsMargins(0, 0, 2 * margine, 0);
+  riga->setSpacing(2 * margine);
   for (std::size_t i = 0; i < chkCom.size(); ++i) {
     chkCom[i] = new QCheckBox(QString::fromUtf8(Spunte_Commenti[i]));
     chkCom[i]->setObjectName(QStringLiteral("chkCom(%1)").arg(i));

@@ -70,6 +70,8 @@ void FrmMain::Specchia_Esiti() {
 }
 
 void FrmMain::Specchia_Voci() {
+  setWindowTitle(p_.Da_Salvare() ? QStringLiteral(" Editor AWL per Tavorno. *")
+                                 : QStringLiteral(" Editor AWL per Tavorno."));
   a_.mnuFileSave->setEnabled(salva_attivo_);
   a_.mnuPlcCompile->setEnabled(p_.Comandi_Attivi);
   a_.mnuPlcCarica->setEnabled(p_.Comandi_Attivi);

@@ -93,7 +93,7 @@ std::vector<Voce_Menu> Menu_Editor(Azioni_Editor& azioni) {
       {.Livello = 1, .Nome = "", .Testo = ""},
       {.Livello = 1,
        .Nome = "mnuViewKOP",
-       .Testo = "Finestra S&calaro",
+       .Testo = "Finestra Sca&laro",
        .Tasti = "Ctrl+4",
        .Dove = &azioni.mnuViewKOP},
       {.Livello = 0, .Nome = "MnuHLP", .Testo = "&Help"},

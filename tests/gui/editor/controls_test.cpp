@@ -52,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(
         Caso_Voce{"mnuViewCode", 0, "mnuViewC(0)", "&Main"},
         Caso_Voce{"mnuViewCode", 1, "mnuViewC(1)", "&Procedure"},
         Caso_Voce{"mnuViewCode", 2, "mnuViewC(2)", "&Lista Errori Compilazione"},
-        Caso_Voce{"mnuView", 4, "", ""}, Caso_Voce{"mnuView", 5, "mnuViewKOP", "Finestra S&calaro"},
+        Caso_Voce{"mnuView", 4, "", ""}, Caso_Voce{"mnuView", 5, "mnuViewKOP", "Finestra Sca&laro"},
         Caso_Voce{"MnuHLP", 0, "MnuHLPIndex", "&Indice"},
         Caso_Voce{"MnuHLP", 1, "MnuHlpList", "&Lista istruzioni Supportate"},
         Caso_Voce{"MnuHLP", 2, "", ""}, Caso_Voce{"MnuHLP", 3, "MnuHLPInfo", "&About"}));
@@ -176,6 +176,43 @@ TEST_F(Controls, TheWindowHasItsNameAndCaption) {
   EXPECT_EQ(finestra->objectName(), "frmMain");
   EXPECT_EQ(finestra->windowTitle(), " Editor AWL per Tavorno.");
   EXPECT_EQ(Trova<QWidget>("picF").width(), 901);
+}
+
+TEST_F(Controls, TheTitleTellsThatSomethingIsSavedNowhere) {
+  Avvia_Con(Blocco_Main({"NETWORK 1"}));
+  EXPECT_EQ(finestra->windowTitle(), " Editor AWL per Tavorno.");
+  Batti_In_Fondo(txtList(), "NOT");
+  EXPECT_EQ(finestra->windowTitle(), " Editor AWL per Tavorno. *");
+  Scegli("altro.AWL");
+  Comanda("mnuFileSave");
+  EXPECT_EQ(finestra->windowTitle(), " Editor AWL per Tavorno.");
+}
+
+TEST_F(Controls, TheTextHasFiveMoreLinesThanTheGivenPlacesLeave) {
+  Avvia(Avvio::Nuovo);
+  QCoreApplication::processEvents();
+  const auto visibili = [](const AwlEditor& testo) {
+    return testo.SendScintilla(QsciScintilla::SCI_LINESONSCREEN);
+  };
+  const auto una = txtList().SendScintilla(QsciScintilla::SCI_TEXTHEIGHT, 0L);
+  EXPECT_GE(visibili(txtList()), 342 / (una + 1) + 5) << "pixels that they once shared";
+  EXPECT_EQ(Trova<QWidget>("picF").height(), 421);
+}
+
+TEST_F(Controls, ADroppedFileOpens) {
+  Avvia(Avvio::Nuovo);
+  Scrivi_File("caduto.AWL", Blocco_Main({"NETWORK 1", "NOP"}));
+  QMimeData dati;
+  dati.setUrls({QUrl::fromLocalFile(Q(Percorso("caduto.AWL")))});
+  dati.setText(Q(Percorso("caduto.AWL")));
+  QDragEnterEvent entra(QPoint(5, 5), Qt::CopyAction, &dati, Qt::LeftButton, Qt::NoModifier);
+  entra.ignore();
+  QApplication::sendEvent(txtList().viewport(), &entra);
+  EXPECT_TRUE(entra.isAccepted()) << "by the window, since the text takes no file's name";
+  QDropEvent cade(QPointF(5, 5), Qt::CopyAction, &dati, Qt::LeftButton, Qt::NoModifier);
+  static_cast<QObject&>(*finestra).event(&cade);  // a drop itself needs the desktop
+  EXPECT_NE(txtList().Byte().find("NOP"), std::string::npos);
+  EXPECT_EQ(Etichetta("stB(1)"), "File: caduto.AWL");
 }
 
 TEST_F(Controls, FourPagesOfWhichTheLastIsHidden) {

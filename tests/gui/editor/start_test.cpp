@@ -262,7 +262,7 @@ TEST_P(HeightRule, HoldsOnEveryResize) {
   EXPECT_EQ(Voce("mnuViewSTB").isChecked(), stato);
   EXPECT_EQ(Trova<QToolBar>("tB1").isVisible(), barra);
   EXPECT_EQ(finestra->statusBar()->isVisible(), stato);
-  for (const QSize chiesta : {QSize(1000, 900), QSize(750, 300), QSize(901, 548)}) {
+  for (const QSize chiesta : {QSize(1000, 900), QSize(890, 300), QSize(901, 548)}) {
     finestra->resize(chiesta);
     QCoreApplication::processEvents();
     EXPECT_EQ(finestra->width(), chiesta.width());
