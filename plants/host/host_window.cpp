@@ -25,7 +25,7 @@ namespace tavorno {
 
 namespace {
 
-constexpr int larga_accanto = 520;    // pixels of the table beside the picture at least
+constexpr int larga_accanto = 600;    // pixels of the table beside the picture at least
 constexpr int larga_tabella = 740;    // with its comments in full
 constexpr int periodo_sguardo = 100;  // ms
 
