@@ -52,7 +52,8 @@ int main(int argc, char** argv) {
   Applicazione::setWindowIcon(QIcon(QStringLiteral(":/icons/tavorno.svg")));
   QTranslator italiano;
   if (italiano.load(QStringLiteral("qtbase_it"),
-                    QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+                    QLibraryInfo::path(QLibraryInfo::TranslationsPath)) ||
+      italiano.load(QStringLiteral(":/translations/qtbase_it")))
     Applicazione::installTranslator(&italiano);
 
   Orologio orologio;

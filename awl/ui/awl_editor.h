@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <span>
@@ -126,7 +127,7 @@ class AwlEditor : public QsciScintilla {
   std::string Linea_Byte(int linea) const;  // UTF-8, without its end
   void Dopo_Carattere(int carattere);
   void Mostra_Suggerimento_A(int posizione, int x, int y);
-  void Mostra_Aiuto(unsigned long posizione, int linea, const std::string& istruzione);
+  void Mostra_Aiuto(std::uintptr_t posizione, int linea, const std::string& istruzione);
   static bool Va_Oltre(const Oltre& oltre) { return oltre.Possibile && oltre.Possibile(); }
 
   Genere_Testo genere_;

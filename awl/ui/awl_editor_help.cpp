@@ -45,7 +45,7 @@ void AwlEditor::Mostra_Suggerimento() {
   const auto colonna = static_cast<std::size_t>(posizione - inizio);
   // Behind a comment there is nothing left to help with.
   const bool muto = istruzione == nullptr || parola.Vuota() || colonna > testo.find("//");
-  Mostra_Aiuto(static_cast<unsigned long>(inizio) + parola.Inizio, linea,
+  Mostra_Aiuto(static_cast<std::uintptr_t>(inizio) + parola.Inizio, linea,
                muto ? "" : Suggerimento(*istruzione));
 }
 
@@ -58,11 +58,11 @@ void AwlEditor::Mostra_Suggerimento_A(int posizione, int, int) {
   const Istruzione* istruzione = Istruzione_Di(testo);
   const auto colonna = static_cast<std::size_t>(posizione - inizio);
   const bool muto = istruzione == nullptr || colonna < parola.Inizio || colonna >= parola.Fine;
-  Mostra_Aiuto(static_cast<unsigned long>(posizione), linea, muto ? "" : Suggerimento(*istruzione));
+  Mostra_Aiuto(static_cast<std::uintptr_t>(posizione), linea, muto ? "" : Suggerimento(*istruzione));
 }
 
 /// What there is to say of an instruction, below what there is to say of its line.
-void AwlEditor::Mostra_Aiuto(unsigned long posizione, int linea, const std::string& istruzione) {
+void AwlEditor::Mostra_Aiuto(std::uintptr_t posizione, int linea, const std::string& istruzione) {
   std::string aiuto = Utf8(Suggerito(linea));
   if (!aiuto.empty() && !istruzione.empty()) aiuto += "\n\n";
   aiuto += istruzione;

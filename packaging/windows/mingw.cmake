@@ -24,3 +24,7 @@ find_program(TAVORNO_WINE wine HINTS /usr/bin NO_CMAKE_FIND_ROOT_PATH)
 if(TAVORNO_WINE)
   set(CMAKE_CROSSCOMPILING_EMULATOR ${TAVORNO_WINE})
 endif()
+
+# Tools of Qt that run while building are those of this machine.
+set(QT_HOST_PATH /usr)
+file(GLOB QT_HOST_PATH_CMAKE_DIR /usr/lib/*-linux-gnu/cmake)
