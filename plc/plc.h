@@ -90,7 +90,7 @@ struct Plc : Memoria, Stato_Corsa, Vista_Pannello {
   void Cicla();
   void Cicla_Ciclo();
 
-  // ---- what enters (entries.cpp) ---------------------------------------------------------------
+  // ---- what enters (plc_entries.cpp) -----------------------------------------------------------
 
   /// Announces an entry and lets it in; a command that enters a run loop comes back with its end.
   /// Entries of a plant, of the program and of forced cells are let in by others (`Collegamento`,
@@ -112,7 +112,7 @@ struct Plc : Memoria, Stato_Corsa, Vista_Pannello {
   /// Counts scans that would have left everything as it is, the last of them now.
   void Salta_Scansioni(std::int64_t scansioni);
 
-  // ---- the whole state (snapshot.cpp) ----------------------------------------------------------
+  // ---- the whole state (plc_snapshot.cpp) ------------------------------------------------------
 
   /// A full copy, but for the program's text. Between two lines only.
   Istantanea Fotografa() const;
