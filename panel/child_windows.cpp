@@ -110,6 +110,7 @@ void Finestre::Fuoco_A(const QWindow* finestra) {
 }
 
 FrmMain& Finestre::Editor() {
+  Al_Presente();
   return Trova(editor_, [this] {
     Legami_Editor legami;
     legami.Mostra_Pannello = [this] {
@@ -205,6 +206,7 @@ void Finestre::Cambia_Simboli(const Esercizio* impianto) {
 }
 
 void Finestre::Apri_Impianto(int indice) {
+  Al_Presente();
   pannello_.setCursor(Qt::WaitCursor);
   auto collegamento = std::make_unique<Collegamento>(
       plc_, impianto_aperto_, Tabella_Esercizi()[static_cast<std::size_t>(indice)],
@@ -222,6 +224,7 @@ void Finestre::Apri_Impianto(int indice) {
   finestra.Indica_Morsetti = [this](const QStringList& morsetti) {
     pannello_.Controlli().Fronte->Indica(morsetti);
   };
+  finestra.Sta_Per_Chiudere = [this] { Al_Presente(); };
   finestra.Chiusa = [this] {
     pannello_.Segna_Impianto(-1);
     Cambia_Simboli(nullptr);

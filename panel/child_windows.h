@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <functional>
 #include <vector>
 
 #include "awl/project.h"
@@ -56,6 +57,11 @@ class Finestre {
   void Apri_Impianto(int indice);
   /// `indirizzo`: the page with its directory.
   void Mostra_Aiuto(const QString& indirizzo);
+
+  /// The host window of the open plant, or nullptr.
+  Finestra_Impianto* Impianto() const { return impianto_; }
+  /// Called before a plant comes or goes and before the editor opens: the past must be over.
+  std::function<void()> Al_Presente = [] {};
 
   const Ordine_Finestre& Ordine() const { return ordine_; }
 

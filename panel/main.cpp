@@ -16,6 +16,8 @@
 #include "panel/command_line.h"
 #include "panel/run_driver.h"
 #include "panel/safekeeping.h"
+#include "panel/session_bar.h"
+#include "recorder/recorder.h"
 #include "widgets/message_box.h"
 
 using namespace tavorno;
@@ -59,8 +61,13 @@ int main(int argc, char** argv) {
   Orologio orologio;
   Plc plc(orologio);
   Progetto progetto(plc, {});  // the editor brings its dialogs along
-  const Iscrizione messaggi =
-      plc.Hook.Mostra.Ascolta([](const Avviso& avviso) { Mostra_Avviso(nullptr, avviso); });
+  const Iscrizione messaggi = plc.Hook.Mostra.Ascolta([&plc](const Avviso& avviso) {
+    // What a past that is played again had to say has been said.
+    if (plc.Hook.Adesso == Vissuto::Presente) Mostra_Avviso(nullptr, avviso);
+  });
+  Registratore registratore(plc);
+  const Iscrizione programmi =
+      progetto.Programma_Cambiato.Ascolta([&registratore] { registratore.Programma_Nuovo(); });
   const QString cartella = Applicazione::applicationDirPath();
   Guida guida{cartella + "/HTML/", cartella + "/HTML/Panel/", {}};
 
@@ -68,6 +75,10 @@ int main(int argc, char** argv) {
   Guida_Corsa corsa(plc, [&pannello] { pannello.Aggiorna(); });
   Finestre finestre(pannello, plc, progetto, guida);
   Salvaguardia salvaguardia(progetto, pannello, finestre, Cartella_Copie());
+  Barra_Seduta seduta(pannello, plc, registratore, corsa);
+  seduta.Impianto = [&finestre] { return finestre.Impianto(); };
+  seduta.Apri_Impianto = [&finestre](int indice) { finestre.Apri_Impianto(indice); };
+  finestre.Al_Presente = [&seduta] { seduta.Al_Presente(); };
 
   applicazione.Fine_Fatale = [&](const Fatale& fatale) {
     corsa.Ferma();

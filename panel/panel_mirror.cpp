@@ -5,8 +5,11 @@
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSignalBlocker>
+#include <QSlider>
 #include <QTabWidget>
 #include <QToolButton>
 
@@ -76,6 +79,38 @@ void FrmPLC::Mostra_Valori() {
   }
   passo_visto_ = adesso;
   c_.listSrc->Aggiorna_Stati(aspetta ? plc_.PC : -1);
+}
+
+void FrmPLC::Specchia_Scelte() {
+  const Opzioni& scelte = plc_.Scelte;
+  const struct {
+    QAbstractButton* tasto;
+    bool acceso;
+  } tasti[] = {{c_.chkList, scelte.chkList},
+               {c_.chkIP, scelte.chkIP},
+               {c_.chkStop, scelte.chkStop},
+               {c_.chkSol, scelte.chkSol},
+               {c_.opzAI[0], scelte.opzAI == Scala::Volt_10},
+               {c_.opzAI[1], scelte.opzAI == Scala::mA_20},
+               {c_.opzAQ[0], scelte.opzAQ == Scala::Volt_10},
+               {c_.opzAQ[1], scelte.opzAQ == Scala::mA_20}};
+  for (const auto& riga : tasti) {
+    const QSignalBlocker zitto(riga.tasto);
+    riga.tasto->setChecked(riga.acceso);
+  }
+  c_.picII->setVisible(scelte.chkIP);
+  c_.chkSol->setEnabled(!scelte.chkStop);
+  c_.chkStop->setEnabled(!scelte.chkSol);
+  const QSignalBlocker zitto_stop(c_.txtStop), zitto_scansioni(c_.txtNC);
+  c_.txtStop->setText(QString::number(scelte.txtStop));
+  c_.txtNC->setText(QString::number(scelte.txtNC));
+  for (std::size_t i = 0; i < 2; ++i) {
+    const QSignalBlocker zitto(c_.SlidP[i]);
+    const int valore = plc_.Mem_SM[28 + static_cast<int>(i)].Val_B;
+    c_.SlidP[i]->setValue(valore);
+    c_.etPa[i]->setText(QString::number(valore));
+  }
+  c_.Fronte->Aggiorna_Vano();
 }
 
 void FrmPLC::Mostra_Comandi() {

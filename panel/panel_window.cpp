@@ -17,6 +17,8 @@
 #include <QSlider>
 #include <QStandardPaths>
 #include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTimer>
 #include <QToolBar>
 
@@ -90,17 +92,17 @@ void FrmPLC::Al_Comando(QAction* voce, std::function<void()> comando) {
 
 void FrmPLC::Collega_Comandi() {
   Al_Comando(a_.mnuFileEnd, [this] { close(); });
-  Comando_Di_Corsa(a_.mnuPlcRun, [this] { plc_.mnuPlcRun(); });
-  Comando_Di_Corsa(a_.mnuPlcStop, [this] { plc_.mnuPlcStop(); });
-  Comando_Di_Corsa(a_.mnuPLCCiclo, [this] { plc_.mnuPlcCiclo(); });
-  Comando_Di_Corsa(a_.mnuPLCPiu, [this] { plc_.CmdStep(); });
+  Comando_Di_Corsa(a_.mnuPlcRun, [this] { plc_.Entra(Comando_Corsa::Run); });
+  Comando_Di_Corsa(a_.mnuPlcStop, [this] { plc_.Entra(Comando_Corsa::Stop); });
+  Comando_Di_Corsa(a_.mnuPLCCiclo, [this] { plc_.Entra(Comando_Corsa::Ciclo); });
+  Comando_Di_Corsa(a_.mnuPLCPiu, [this] { plc_.Entra(Comando_Corsa::Passo); });
   Comando_Di_Corsa(a_.mnuPlcStep, [this] {
     c_.frSP->setVisible(true);
-    plc_.mnuPlcStep();
+    plc_.Entra(Comando_Corsa::Step);
   });
   Comando_Di_Corsa(a_.mnuPlcCont, [this] {
     c_.frSP->setVisible(false);
-    plc_.mnuPlcCont();
+    plc_.Entra(Comando_Corsa::Cont);
   });
   Al_Comando(a_.mnuViewTB, [this] { c_.tB1->setVisible(!c_.tB1->isVisibleTo(this)); });
   Al_Comando(a_.mnuViewSTB, [this] { statusBar()->setVisible(!statusBar()->isVisibleTo(this)); });
@@ -117,7 +119,11 @@ void FrmPLC::Comando_Di_Corsa(QAction* voce, std::function<void()> comando) {
   Al_Comando(voce, [this, voce, comando = std::move(comando)] {
     // A choice ticks its entry by itself; what is ticked follows from the CPU.
     plc_.Segna(Segno_Comandi);
-    if (Si_Puo(*voce)) Piu_Tardi(comando);
+    if (plc_.Hook.Adesso == Vissuto::Passato)
+      statusBar()->showMessage(Q("Si vede il passato: prima Riprendi da qui, o torna al presente."),
+                               5000);
+    else if (Si_Puo(*voce))
+      Piu_Tardi(comando);
   });
 }
 
@@ -132,7 +138,7 @@ void FrmPLC::Piu_Tardi(std::function<void()> comando) {
 }
 
 void FrmPLC::Modifica() {
-  plc_.mnuPlcStop();
+  plc_.Entra(Comando_Corsa::Stop);
   Aggiorna();
   c_.listSrc->clear();
   Abilita_Programma(false);
@@ -166,7 +172,7 @@ bool FrmPLC::Salva_Il_Progetto() {
 void FrmPLC::closeEvent(QCloseEvent* evento) {
   if (!Salva_Il_Progetto()) return evento->ignore();
   // A run in progress sees the flag behind the present line and leaves; the event loops follow.
-  plc_.Ferma = -1;
+  plc_.Entra(Comando_Corsa::Fine);
   evento->accept();
   QCoreApplication::quit();
 }
@@ -234,10 +240,12 @@ void FrmPLC::Premi_Tasto(QAction& voce) {
 void FrmPLC::Collega_Controlli() {
   for (std::size_t i = 0; i < 2; ++i) {
     SimI& interruttori = c_.Fronte->Sim_I(static_cast<int>(i));
-    interruttori.Change = [this, i, &interruttori] { plc_.SI[i].Stato_I(interruttori.Stato_I()); };
+    interruttori.Change = [this, i, &interruttori] {
+      plc_.Entra(Di_Ingresso(static_cast<int>(i), interruttori.Stato_I()));
+    };
   }
   SimC& contraves = c_.Fronte->Sim_C();
-  contraves.Change = [this, &contraves] { plc_.SI[1].Stato_I(contraves.SimC_Stato()); };
+  contraves.Change = [this, &contraves] { plc_.Entra(Di_Ingresso(1, contraves.SimC_Stato())); };
 
   const auto scegli_stop = [this] {
     if (!plc_.PLC_Acceso) c_.txtStop->setText(QString::number(c_.listSrc->currentRow()));
@@ -246,11 +254,11 @@ void FrmPLC::Collega_Controlli() {
   connect(c_.listSrc, &QListWidget::itemActivated, this, scegli_stop);  // the Enter key
 
   connect(c_.chkList, &QCheckBox::toggled, this, [this](bool acceso) {
-    plc_.Scelte.chkList = acceso;
+    plc_.Entra(Di_Scelta(Scelta_Pannello::chkList, acceso));
     Mostra_Tempo_Acceso();
   });
   connect(c_.chkIP, &QCheckBox::toggled, this, [this](bool acceso) {
-    plc_.Scelte.chkIP = acceso;
+    plc_.Entra(Di_Scelta(Scelta_Pannello::chkIP, acceso));
     c_.picII->setVisible(acceso);
   });
   connect(c_.chkVs, &QCheckBox::toggled, this, &FrmPLC::Mostra_Pila);
@@ -259,39 +267,48 @@ void FrmPLC::Collega_Controlli() {
 
   // The two stop conditions exclude each other.
   connect(c_.chkStop, &QCheckBox::toggled, this, [this](bool acceso) {
-    plc_.Scelte.chkStop = acceso;
+    plc_.Entra(Di_Scelta(Scelta_Pannello::chkStop, acceso));
     if (acceso) c_.chkSol->setChecked(false);
     c_.chkSol->setEnabled(!acceso);
   });
   connect(c_.chkSol, &QCheckBox::toggled, this, [this](bool acceso) {
-    plc_.Scelte.chkSol = acceso;
+    plc_.Entra(Di_Scelta(Scelta_Pannello::chkSol, acceso));
     if (acceso) c_.chkStop->setChecked(false);
     c_.chkStop->setEnabled(!acceso);
   });
-  connect(c_.txtStop, &QLineEdit::textChanged, this,
-          [this](const QString& testo) { plc_.Scelte.txtStop = testo.toInt(); });
-  connect(c_.txtNC, &QLineEdit::textChanged, this,
-          [this](const QString& testo) { plc_.Scelte.txtNC = testo.toInt(); });
+  connect(c_.txtStop, &QLineEdit::textChanged, this, [this](const QString& testo) {
+    plc_.Entra(Di_Scelta(Scelta_Pannello::txtStop, testo.toInt()));
+  });
+  connect(c_.txtNC, &QLineEdit::textChanged, this, [this](const QString& testo) {
+    plc_.Entra(Di_Scelta(Scelta_Pannello::txtNC, testo.toInt()));
+  });
+
+  // While the CPU stands a click on a page chooses its mode; a run has the page of its own.
+  connect(c_.SSTb3->tabBar(), &QTabBar::tabBarClicked, this, [this](int pagina) {
+    QAction* const modi[] = {a_.mnuPlcCont, a_.mnuPLCCiclo, a_.mnuPlcStep};
+    if (plc_.PLC_Acceso || pagina < 0 || pagina >= std::ssize(modi)) return;
+    if (QAction* modo = modi[pagina]; Si_Puo(*modo)) modo->trigger();
+  });
 
   connect(c_.CmdStep, &QPushButton::clicked, a_.mnuPLCPiu, &QAction::trigger);
   connect(c_.cmdRest, &QPushButton::clicked, this,
-          [this] { Piu_Tardi([this] { plc_.cmdRest(); }); });
+          [this] { Piu_Tardi([this] { plc_.Entra(Comando_Corsa::Riprendi); }); });
 
   for (std::size_t i = 0; i < 2; ++i) {
     connect(c_.SlidP[i], &QSlider::valueChanged, this, [this, i](int valore) {
       c_.etPa[i]->setText(QString::number(valore));
-      plc_.Mem_SM[28 + static_cast<int>(i)].Val_B = static_cast<std::uint8_t>(valore);
+      plc_.Entra({.Che = Cosa::Potenziometro, .Indice = static_cast<int>(i), .Numero = valore});
       c_.Fronte->Aggiorna_Vano();
     });
     const QString unita = i == 0 ? QStringLiteral("Volt") : QStringLiteral("mA");
     const Scala scala = i == 0 ? Scala::Volt_10 : Scala::mA_20;
     connect(c_.opzAI[i], &QRadioButton::clicked, this, [this, unita, scala] {
-      plc_.Scelte.opzAI = scala;
+      plc_.Entra(Di_Scelta(Scelta_Pannello::opzAI, static_cast<int>(scala)));
       c_.Fronte->Aggiorna_Vano();
       for (QLabel* etichetta : c_.etg1) etichetta->setText(unita);
     });
     connect(c_.opzAQ[i], &QRadioButton::clicked, this, [this, unita, scala] {
-      plc_.Scelte.opzAQ = scala;
+      plc_.Entra(Di_Scelta(Scelta_Pannello::opzAQ, static_cast<int>(scala)));
       c_.Fronte->Aggiorna_Vano();
       for (QLabel* etichetta : c_.etg2) etichetta->setText(unita);
     });
@@ -312,10 +329,9 @@ void FrmPLC::Attivata() {
     c_.listSrc->Riempi(righe);
     c_.listSrc->Scegli(plc_.Lista_Scelta);
     Scrivi_Stato(QStringLiteral("List:"));
-    plc_.Init_PLC();
   }
+  plc_.Entra({.Che = Cosa::Azzera_Elementi, .Numero = caricata});
   Abilita_Programma(caricata);
-  plc_.Attivi.cmdRest = false;
   c_.cmdRest->setEnabled(false);
   flusso_.Dimentica();
 }

@@ -39,6 +39,8 @@ class FrmPLC : public QMainWindow {
   /// Before the window is shown.
   void Collega_Finestre(Legami_Pannello legami);
 
+  /// Shows options and potentiometers as the CPU has them, after another time was put back.
+  void Specchia_Scelte();
   /// Shows what changed in the CPU since the last call.
   void Aggiorna();
 

@@ -3,7 +3,9 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <limits>
 #include <thread>
+#include <utility>
 
 namespace tavorno {
 
@@ -19,12 +21,12 @@ std::int64_t In_Millisecondi(std::chrono::nanoseconds istante) {
 
 Guida_Corsa::Guida_Corsa(Plc& plc, std::function<void()> aggiorna) : plc_(plc) {
   cronometro_.start();
-  cessione_ = plc_.Hook.Ascolta_Cedi([this] { Cedi(); }, Righe_Per_Sguardo);
+  cessione_ = plc_.Hook.Ascolta_Cedi_Righe([this] { return Cedi(); });
 
   // A stopped CPU has a living plant, a cover that slides and blinking lamps: they need the clock.
   clock_a_riposo_.setTimerType(Qt::PreciseTimer);
   clock_a_riposo_.setInterval(A_Riposo);
-  clock_a_riposo_.callOnTimeout([this] { Porta_Al_Presente(Adesso()); });
+  clock_a_riposo_.callOnTimeout([this] { Tick(); });
   clock_a_riposo_.start();
 
   schermo_.setTimerType(Qt::PreciseTimer);
@@ -38,37 +40,154 @@ void Guida_Corsa::Ferma() {
   schermo_.stop();
 }
 
-void Guida_Corsa::Porta_Al_Presente(Istante adesso) {
-  plc_.Tempo.Porta_A(In_Millisecondi(adesso));
+// ---- time ---------------------------------------------------------------------------------------
+
+Guida_Corsa::Istante Guida_Corsa::Adesso() const {
+  if (congelata_ || battito_ != Battito::Nessuno) return base_;
+  const Istante passato = Vero() - base_vera_;
+  if (velocita_ == 1) return base_ + passato;
+  return base_ +
+         Istante{static_cast<std::int64_t>(static_cast<double>(passato.count()) * velocita_)};
 }
 
-void Guida_Corsa::Cedi() {
+void Guida_Corsa::Riparti_Da(Istante adesso) {
+  base_ = adesso;
+  base_vera_ = Vero();
+  scansione_ = std::min(scansione_, adesso);
+}
+
+void Guida_Corsa::Porta_Al_Presente(Istante adesso) {
+  plc_.Entra({.Che = Cosa::Presente, .Numero = In_Millisecondi(adesso)});
+}
+
+void Guida_Corsa::Tick() {
+  if (plc_.Hook.Adesso != Vissuto::Presente) {
+    altrove_ = true;
+    return;
+  }
+  if (std::exchange(altrove_, false)) Riparti_Da(std::chrono::milliseconds{plc_.Tempo.Adesso()});
+  if (congelata_ && sospesa_ && !plc_.In_Pausa()) {  // a command has ended the pause
+    Riparti_Da(base_);
+    congelata_ = false;
+  }
+  // A run at a beat has its time from its scans; a CPU that stands lives on.
+  if (battito_ != Battito::Nessuno && !congelata_ && plc_.In_Giro() == Giro::Nessuno)
+    base_ += A_Riposo;
+  Porta_Al_Presente(Adesso());
+}
+
+void Guida_Corsa::Velocita(double parte) {
+  Riparti_Da(Adesso());
+  velocita_ = std::clamp(parte, 0.001, 1.0);
+  riposo_.Da_Capo();
+}
+
+void Guida_Corsa::Batti(Battito battito, int ms) {
+  Riparti_Da(Adesso());
+  battito_ = battito;
+  passo_battito_ = std::chrono::milliseconds{std::max(ms, 1)};
+  riposo_.Da_Capo();
+}
+
+void Guida_Corsa::Pausa() {
+  if (congelata_) return;
+  if (plc_.In_Giro() != Giro::Nessuno) {
+    pausa_chiesta_ = true;  // granted at the end of the yield, when nothing else enters
+    return;
+  }
+  Riparti_Da(Adesso());
+  sospesa_ = plc_.In_Pausa();
+  congelata_ = true;
+}
+
+void Guida_Corsa::Continua() {
+  // The clock may have gone back, when a moment of the past became the present.
+  Riparti_Da(std::chrono::milliseconds{plc_.Tempo.Adesso()});
+  congelata_ = sospesa_ = altrove_ = false;
+  prima_riga_ = true;
+  plc_.Entra(Comando_Corsa::Continua);
+}
+
+// ---- the yield ----------------------------------------------------------------------------------
+
+void Guida_Corsa::Eventi_Di_Finestra() {
+  QCoreApplication::processEvents();
+  eventi_ = Vero();
+}
+
+bool Guida_Corsa::Si_Batte_Qui() const {
+  switch (battito_) {
+    case Battito::Riga:
+      return true;
+    case Battito::Rete:
+      return plc_.PC == 0 || plc_.Prog[plc_.PC].Istr.starts_with("NETW");
+    case Battito::Scansione:
+      return plc_.PC == 0;
+    case Battito::Nessuno:
+      break;
+  }
+  return false;
+}
+
+void Guida_Corsa::Aspetta_Il_Battito() {
+  if (Al_Battito) Al_Battito(plc_.PC);
+  const Istante fine = Vero() + passo_battito_;
+  while (Vero() < fine && !pausa_chiesta_ && !plc_.Ferma && battito_ != Battito::Nessuno) {
+    std::this_thread::sleep_for(std::min<Istante>(fine - Vero(), Eventi));
+    Eventi_Di_Finestra();
+  }
+}
+
+int Guida_Corsa::Cedi() {
+  if (plc_.Hook.Adesso != Vissuto::Presente) return std::numeric_limits<int>::max();
+  if (congelata_ || altrove_) {
+    Riparti_Da(std::chrono::milliseconds{plc_.Tempo.Adesso()});
+    congelata_ = altrove_ = false;
+  }
   Istante adesso = Adesso();
   if (plc_.PC == 0) {
     adesso = Inizia_Scansione(adesso);
-  } else if (adesso - eventi_ >= Eventi || plc_.Tempo.Prossimo() <= In_Millisecondi(adesso)) {
+  } else if (Vero() - eventi_ >= Eventi || plc_.Tempo.Prossimo() <= In_Millisecondi(adesso)) {
     riposo_.Da_Capo();  // something is about to happen in the middle of a scan
   }
   Porta_Al_Presente(adesso);
-  if (adesso - eventi_ >= Eventi) {
-    QCoreApplication::processEvents();
-    eventi_ = Adesso();
+  if (Vero() - eventi_ >= Eventi) Eventi_Di_Finestra();
+  if (Si_Batte_Qui()) Aspetta_Il_Battito();
+  const bool fermata = Fermati_Qui && !prima_riga_ && Fermati_Qui();
+  prima_riga_ = false;
+  if (fermata || std::exchange(pausa_chiesta_, false)) {
+    Riparti_Da(Adesso());
+    plc_.Entra(Comando_Corsa::Pausa);
+    congelata_ = sospesa_ = true;
   }
   if (plc_.PC == 0) riposo_.Riposa();
+  const bool una = Fermati_Qui || battito_ == Battito::Riga || battito_ == Battito::Rete;
+  return una ? 1 : Righe_Per_Sguardo;
 }
 
 /// The scan before is done and the next one would begin. Returns the present instant.
 Guida_Corsa::Istante Guida_Corsa::Inizia_Scansione(Istante adesso) {
   const bool una_in_piu = plc_.N_Cicli == cicli_visti_ + 1;
   cicli_visti_ = plc_.N_Cicli;
-  if (!Attesa || plc_.Modo_Run != Modo::Cont || !una_in_piu)
+  if (battito_ != Battito::Nessuno) {
+    if (una_in_piu) base_ += una_scansione;
+    riposo_.Da_Capo();
+    return base_;
+  }
+  if (!Attesa || plc_.Modo_Run != Modo::Cont || !una_in_piu || velocita_ != 1 || Fermati_Qui)
     riposo_.Da_Capo();
   else if (riposo_.Scansione_Fatta(0))
     return Riposa(adesso);
   const Istante fine = scansione_ + una_scansione;
-  if (Attesa && adesso < fine) {
+  if (Attesa && velocita_ == 1 && adesso < fine) {
     std::this_thread::sleep_for(fine - adesso);
     adesso = Adesso();
+  }
+  while (velocita_ != 1 && adesso < fine && !pausa_chiesta_ && !plc_.Ferma) {
+    std::this_thread::sleep_for(Eventi);
+    Eventi_Di_Finestra();
+    adesso = Adesso();
+    Porta_Al_Presente(adesso);
   }
   scansione_ = adesso;
   return adesso;
@@ -78,8 +197,9 @@ Guida_Corsa::Istante Guida_Corsa::Inizia_Scansione(Istante adesso) {
 /// changes anything for the program, and counts the scans that would have been run meanwhile.
 Guida_Corsa::Istante Guida_Corsa::Riposa(Istante adesso) {
   do {
-    const Istante evento = std::chrono::milliseconds{
-        std::min(plc_.Tempo.Prossimo(), In_Millisecondi(eventi_ + Eventi) + 1)};
+    const Istante finestre = adesso + (eventi_ + Eventi - Vero());
+    const Istante evento =
+        std::chrono::milliseconds{std::min(plc_.Tempo.Prossimo(), In_Millisecondi(finestre) + 1)};
     const Istante fine = std::max(evento, scansione_ + una_scansione);
     if (adesso < fine) std::this_thread::sleep_for(fine - adesso);
     adesso = Adesso();
@@ -89,11 +209,11 @@ Guida_Corsa::Istante Guida_Corsa::Riposa(Istante adesso) {
     Porta_Al_Presente(adesso);
     riposo_.Salta(scansioni);
     cicli_visti_ = plc_.N_Cicli;
-    if (adesso - eventi_ >= Eventi) {
-      QCoreApplication::processEvents();
-      eventi_ = adesso = Adesso();
+    if (Vero() - eventi_ >= Eventi) {
+      Eventi_Di_Finestra();
+      adesso = Adesso();
     }
-  } while (Attesa && riposo_.Riposa());
+  } while (Attesa && !pausa_chiesta_ && riposo_.Riposa());
   return adesso;
 }
 

@@ -10,9 +10,12 @@
 
 namespace tavorno {
 
+/// What is done at each beat of a run that goes slowly enough to be followed.
+enum class Battito { Nessuno, Riga, Rete, Scansione };
+
 /// Drives the CPU in real time beside the window system, on one thread: it moves the clock to the
 /// present, lets the window system process its events between two lines of a running program, and
-/// has the screen refreshed.
+/// has the screen refreshed. It also lets time go slowly or not at all, for CPU and plant alike.
 class Guida_Corsa {
  public:
   /// Becomes the CPU's yield. `aggiorna` refreshes the screen and runs at most 50 times a second.
@@ -28,6 +31,27 @@ class Guida_Corsa {
   /// No more ticks and refreshes: the process is about to end with a report.
   void Ferma();
 
+  /// Time stands still, and a run is left before its next line. What had been frozen by a pause is
+  /// let go by `Continua`, and by any command that sets the CPU going or stops it.
+  void Pausa();
+  bool In_Pausa() const { return congelata_; }
+  /// Goes on; returns when the run that was left ends.
+  void Continua();
+
+  /// How fast time goes, above 0 and up to 1 of the real one.
+  void Velocita(double parte);
+  double Velocita() const { return velocita_; }
+
+  /// At each beat one line, one network or one scan runs, and the clock moves by a millisecond for
+  /// each scan. `ms` between two beats, of real time.
+  void Batti(Battito battito, int ms = 500);
+  Battito A_Battito() const { return battito_; }
+  /// Called before a beat, with the line that comes.
+  std::function<void(int riga)> Al_Battito;
+
+  /// Asked before each line while there is one; true stops there, in a pause.
+  std::function<bool()> Fermati_Qui;
+
   static constexpr int Righe_Per_Sguardo = 96;             ///< lines between two looks at the time
   static constexpr std::chrono::milliseconds Eventi{3};    ///< between two rounds of window events
   static constexpr std::chrono::milliseconds Schermo{20};  ///< between two refreshes
@@ -36,11 +60,17 @@ class Guida_Corsa {
  private:
   using Istante = std::chrono::nanoseconds;
 
-  void Cedi();
+  int Cedi();
   Istante Inizia_Scansione(Istante adesso);
   Istante Riposa(Istante adesso);
-  Istante Adesso() const { return Istante{cronometro_.nsecsElapsed()}; }
+  Istante Vero() const { return Istante{cronometro_.nsecsElapsed()}; }
+  Istante Adesso() const;
   void Porta_Al_Presente(Istante adesso);
+  void Tick();
+  void Riparti_Da(Istante adesso);
+  void Eventi_Di_Finestra();
+  void Aspetta_Il_Battito();
+  bool Si_Batte_Qui() const;
 
   Plc& plc_;
   Riposo riposo_{plc_};
@@ -48,7 +78,19 @@ class Guida_Corsa {
   Iscrizione cessione_;
   QElapsedTimer cronometro_;
   QTimer clock_a_riposo_, schermo_;
-  Istante scansione_{0}, eventi_{0};
+  Istante scansione_{0};  // of the CPU's time
+  Istante eventi_{0};     // of the real time
+
+  // The CPU's time is `base_` at the real instant `base_vera_`.
+  Istante base_{0}, base_vera_{0};
+  double velocita_ = 1;
+  bool congelata_ = false;
+  bool sospesa_ = false;  // there was a run to leave
+  bool pausa_chiesta_ = false;
+  bool altrove_ = false;  // the CPU has been in its past
+  Battito battito_ = Battito::Nessuno;
+  std::chrono::milliseconds passo_battito_{500};
+  bool prima_riga_ = false;  // of a run that goes on: where it stopped it does not stop again
 };
 
 }  // namespace tavorno

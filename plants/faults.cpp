@@ -175,28 +175,29 @@ bool Attivo(const Guasto_Impianto& guasto, Collegamento& impianto) {
 }
 
 bool Metti(const Guasto_Impianto& guasto, bool attivo, Collegamento& impianto) {
-  if (guasto.Come == Mano_Guasto::Filo) return impianto.Guasta(guasto.Nome, attivo);
+  if (guasto.Come == Mano_Guasto::Filo)
+    return impianto.Entra({.Che = Cosa::Guasto, .Numero = attivo, .Testo = guasto.Nome});
   if (Attivo(guasto, impianto) == attivo) return true;
-  Impianto& macchina = impianto.Macchina();
+  const auto Fai = [&](Cosa che) { return impianto.Entra({.Che = che, .Testo = guasto.Nome}); };
   switch (guasto.Come) {
     case Mano_Guasto::Doppio:
-      macchina.Doppio_Clic(guasto.Nome);
+      Fai(Cosa::Doppio_Clic);
       break;
     case Mano_Guasto::Colpo:
       if (!attivo) return false;
-      if (!macchina.Doppio_Clic(guasto.Nome)) {
-        macchina.Premi(guasto.Nome);
-        macchina.Rilascia(guasto.Nome);
+      if (!Fai(Cosa::Doppio_Clic)) {
+        Fai(Cosa::Premi);
+        Fai(Cosa::Rilascia);
       }
       break;
     case Mano_Guasto::Tieni:
       if (attivo)
-        macchina.Premi(guasto.Nome);
+        Fai(Cosa::Premi);
       else
-        macchina.Rilascia(guasto.Nome);
+        Fai(Cosa::Rilascia);
       break;
     case Mano_Guasto::Clic:
-      macchina.Clic(guasto.Nome);
+      Fai(Cosa::Clic);
       break;
     case Mano_Guasto::Filo:
       break;

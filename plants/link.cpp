@@ -20,6 +20,7 @@ void Collegamento::Apri() {
   macchina_.reset();
   aperto_ = true;
   chkSim_ = false;
+  guasti_ = {};
   valori_.clear();
   for (const Cursore& cursore : esercizio_.Cursori) valori_.push_back(cursore.Inizio);
 
@@ -78,6 +79,8 @@ bool Collegamento::Entra(const Atto& entrata) {
       return macchina_->Doppio_Clic(entrata.Testo);
     case Cosa::Regola:
       return macchina_->Regola(entrata.Testo, entrata.Valore);
+    case Cosa::Guasto:
+      return Guasta(entrata.Testo, entrata.Numero != 0);
     default:
       return false;
   }

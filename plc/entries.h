@@ -42,8 +42,10 @@ enum class Cosa : std::uint8_t {
   /// Nothing that enters: output bar `Indice` told the plant the byte `Numero`, so that a plant can
   /// be played again without the CPU.
   Uscita,
+
+  Guasto,  ///< the wire of an input, "filo(I0.3)" in `Testo`, breaks (`Numero` 1) or is mended
 };
-inline constexpr int Cose = static_cast<int>(Cosa::Uscita) + 1;
+inline constexpr int Cose = static_cast<int>(Cosa::Guasto) + 1;
 
 /// The run commands of the panel.
 enum class Comando_Corsa : std::uint8_t {
@@ -95,7 +97,7 @@ inline Atto Di_Ingresso(int barra, std::string_view testo) {
 
 /// The kinds that a plant takes in, and not the CPU.
 constexpr bool Dell_Impianto(Cosa cosa) {
-  return cosa >= Cosa::Apri && cosa <= Cosa::Regola;
+  return (cosa >= Cosa::Apri && cosa <= Cosa::Regola) || cosa == Cosa::Guasto;
 }
 
 }  // namespace tavorno

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "recorder/force.h"
 
+#include "recorder/door.h"
+
 namespace tavorno {
 
 bool Si_Puo_Forzare(const Plc& plc) {
@@ -10,7 +12,7 @@ bool Si_Puo_Forzare(const Plc& plc) {
 std::string Forza(Plc& plc, const Indirizzo& indirizzo, double valore) {
   if (!Si_Puo_Forzare(plc))
     return "Mentre il programma gira non si può forzare: passa in Step, o fermalo.";
-  if (!Scrivi_Cella(plc, indirizzo, valore))
+  if (!Forza(plc, Testo_Indirizzo(indirizzo), valore))
     return "Il valore non sta in " + Testo_Indirizzo(indirizzo) + ".";
   return {};
 }

@@ -48,6 +48,7 @@ bool Con_Numero(Cosa che) {
     case Cosa::Usa_Interruttori:
     case Cosa::Cursore:
     case Cosa::Uscita:
+    case Cosa::Guasto:
       return true;
     default:
       return false;
@@ -57,7 +58,8 @@ bool Con_Valore(Cosa che) {
   return che == Cosa::Volt_AI || che == Cosa::Forza || che == Cosa::Regola;
 }
 bool Con_Testo(Cosa che) {
-  return che == Cosa::Ingresso || che == Cosa::Forza || (che >= Cosa::Premi && che <= Cosa::Regola);
+  return che == Cosa::Ingresso || che == Cosa::Guasto || che == Cosa::Forza ||
+         (che >= Cosa::Premi && che <= Cosa::Regola);
 }
 
 void Metti(std::vector<std::uint8_t>& byte, std::uint64_t numero) {

@@ -63,7 +63,11 @@ void Registratore::Metti_Tappa() {
 }
 
 void Registratore::Programma_Nuovo() {
-  if (plc_.Hook.Adesso != Vissuto::Presente) return;
+  if (Nel_Passato()) {  // there is no way back to what the program made of it
+    plc_.Hook.Adesso = Vissuto::Presente;
+    programma_ = std::make_shared<const Stesura>(Copia_Programma(plc_));
+    return Ricomincia();
+  }
   programma_ = std::make_shared<const Stesura>(Copia_Programma(plc_));
   giornale_.Scrivi(plc_.Righe_Fatte, {.Che = Cosa::Programma}, programma_);
   primo_ = Adesso();
@@ -123,6 +127,30 @@ std::size_t Registratore::Occupata() const {
 Registrazione Registratore::Registrata() {
   giornale_.Ultima_Riga = Presente().Righe;
   return {Titolo, tappe_.front().Programma, tappe_.front().Stato, giornale_};
+}
+
+int Registratore::Impianto_Di(const Registrazione& registrazione) {
+  Lettore_Giornale lettore(registrazione.Voci, registrazione.Voci.Inizio);
+  while (const auto voce = lettore.Prossima()) {
+    if (voce->Entra.Che == Cosa::Apri) return voce->Entra.Indice;
+  }
+  return -1;
+}
+
+void Registratore::Prendi(const Registrazione& registrazione) {
+  Lettore_Giornale lettore(registrazione.Voci, registrazione.Voci.Inizio);
+  std::int64_t ms = registrazione.Stato.Adesso;
+  while (lettore.Prossima()) ms = std::max(ms, lettore.Dove().Ms);
+  if (!lettore.Guasto().empty()) throw Giornale_Discorde(lettore.Guasto());
+  Titolo = registrazione.Titolo;
+  programma_ = registrazione.Programma;
+  giornale_ = registrazione.Voci;
+  tappe_ = {{programma_, registrazione.Stato, giornale_.Inizio, -1}};
+  apertura_ = Impianto_Di(registrazione) >= 0 ? 0 : -1;
+  primo_ = {registrazione.Stato.Corsa.Righe_Fatte, registrazione.Stato.Adesso};
+  presente_ = {giornale_.Ultima_Riga, ms};
+  plc_.Hook.Adesso = Vissuto::Passato;
+  Vai(primo_);
 }
 
 // ---- the past -----------------------------------------------------------------------------------

@@ -49,6 +49,12 @@ class Registratore {
   /// who hear of it last.
   void Ascolta_Chiusura();
 
+  /// Takes over a session: the CPU is in its past, at the beginning. When the session opens a plant
+  /// `Apri` must be there, and the plant open already. Throws `Giornale_Discorde`.
+  void Prendi(const Registrazione& registrazione);
+  /// The exercise whose plant a session opens first, -1 for none.
+  static int Impianto_Di(const Registrazione& registrazione);
+
   /// What has been written down, up to now.
   Registrazione Registrata();
   std::string Titolo;

@@ -88,6 +88,7 @@ void Flusso_Righe::Chiedi() {
 }
 
 void Flusso_Righe::In_Cessione() {
+  if (plc_.Hook.Adesso == Vissuto::Replica) return;
   const int riga = plc_.PC;
   if (in_scansione_) {
     Segna_Eseguita(riga);

@@ -12,6 +12,7 @@ Sonda::Sonda(Plc& plc, Registrazione& registrazione) : plc_(plc), registrazione_
 }
 
 void Sonda::In_Cessione() {
+  if (plc_.Hook.Adesso != Vissuto::Presente) return;
   const std::int64_t ms = plc_.Tempo.Adesso();
   if (plc_.PC != 0 || ms == ultimo_ || In_Pausa) return;
   ultimo_ = ms;
@@ -20,6 +21,7 @@ void Sonda::In_Cessione() {
 }
 
 void Sonda::Guarda() {
+  if (plc_.Hook.Adesso != Vissuto::Presente) return;
   const bool a_meta = plc_.PC != 0 && plc_.PLC_Acceso && !plc_.Attivi.CmdStep;
   if (!In_Pausa && !a_meta) registrazione_.Campiona(plc_.Tempo.Adesso(), plc_);
 }

@@ -140,7 +140,7 @@ void FrmMain::Collega_Comandi() {
   al(a_.mnufiltxtT, [this] { p_.mnufiltxtT(); });
   al(a_.mnuFileStp, [this] { legami_.Mostra_Stampe(); });
   al(a_.mnuFileEnd, [this] {
-    plc_.Ferma = -1;
+    plc_.Entra(Comando_Corsa::Fine);
     p_.Carica_CPU = 0;
     close();
   });

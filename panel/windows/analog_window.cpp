@@ -108,9 +108,12 @@ void FrmSimAI::opzI() {
   Mostra_Valori();
 }
 
+void FrmSimAI::Poni(int canale, double valore) {
+  plc_.Entra({.Che = Cosa::Volt_AI, .Indice = canale, .Valore = valore});
+}
+
 void FrmSimAI::sldS() {
-  for (int i = 0; i < 3; ++i)
-    plc_.Volt_AI[i] = static_cast<float>(canali_[static_cast<std::size_t>(i)].Cursore->value());
+  for (int i = 0; i < 3; ++i) Poni(i, canali_[static_cast<std::size_t>(i)].Cursore->value());
   Mostra_Valori();
 }
 
@@ -126,7 +129,7 @@ void FrmSimAI::Mostra_Valori() {
 }
 
 void FrmSimAI::cmdEnd() {
-  for (float& ingresso : plc_.Volt_AI) ingresso = 0;
+  for (int i = 0; i < 3; ++i) Poni(i, 0);
   close();
 }
 

@@ -34,6 +34,7 @@ class FrmSimAI : public QWidget {
 
   void Aggiungi_Canale(int indice, QGridLayout& griglia);
   void opzI();
+  void Poni(int canale, double valore);
   void sldS();
   void cmdEnd();
 

@@ -160,10 +160,9 @@ QGroupBox* FrmSetPLC::Gruppo_Clock() {
 }
 
 void FrmSetPLC::cmdSet() {
-  for (LedI& barra : plc_.SI) barra.LED_Tipo(ingressi_.Colore, ingressi_.Forma);
+  plc_.Entra({.Che = Cosa::Aspetto_LED, .Indice = ingressi_.Colore, .Numero = ingressi_.Forma});
   scegli_simulatore_(opzSim_->checkedId() == 1);
-  plc_.Clock_T = opzioni_clock[opzT_->checkedId()].Periodo;
-  plc_.T100m.Interval(plc_.Clock_T);
+  plc_.Entra({.Che = Cosa::Periodo, .Numero = opzioni_clock[opzT_->checkedId()].Periodo});
   close();
 }
 

@@ -7,6 +7,8 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
+#include <QSignalBlocker>
+#include <QSlider>
 #include <QTabWidget>
 #include <algorithm>
 #include <initializer_list>
@@ -40,9 +42,7 @@ Finestra_Impianto::Finestra_Impianto(std::unique_ptr<Collegamento> collegamento)
   const Esercizio& esercizio = collegamento_->Tabella();
   setObjectName(Q(esercizio.Host));
   setWindowTitle(Q(esercizio.Titolo));
-  const QString disegni =
-      QStringLiteral(":/plants/US-%1.svg").arg(esercizio.Indice, 2, 10, QChar('0'));
-  quadro_ = Chiama(Q(esercizio.Nome), new Quadro(collegamento_->Macchina(), disegni));
+  quadro_ = Crea_Quadro();
   striscia_ = new Striscia(storia_);
   tabella_ = new Tabella_IO(*collegamento_, storia_);
   guasti_ = new Pannello_Guasti(*collegamento_);
@@ -72,6 +72,39 @@ Finestra_Impianto::Finestra_Impianto(std::unique_ptr<Collegamento> collegamento)
   quadro_->setFocus();
 }
 
+Quadro* Finestra_Impianto::Crea_Quadro() {
+  const Esercizio& esercizio = collegamento_->Tabella();
+  const QString disegni =
+      QStringLiteral(":/plants/US-%1.svg").arg(esercizio.Indice, 2, 10, QChar('0'));
+  auto* quadro = Chiama(Q(esercizio.Nome), new Quadro(collegamento_->Macchina(), disegni));
+  quadro->Mano = [this](const Atto& atto) { return collegamento_->Entra(atto); };
+  return quadro;
+}
+
+Collegamento* Finestra_Impianto::Riapri() {
+  const bool a_fuoco = quadro_->hasFocus();
+  const auto indicata = quadro_->Indicata;
+  delete quadro_;
+  quadro_ = nullptr;
+  collegamento_->Apri();
+  quadro_ = Crea_Quadro();
+  quadro_->Indicata = indicata;
+  posti_->addWidget(quadro_, Riga_Del_Quadro, 0);
+  if (a_fuoco) quadro_->setFocus();
+  return collegamento_.get();
+}
+
+void Finestra_Impianto::Specchia() {
+  comandi_->chkSim->setChecked(collegamento_->chkSim());
+  for (std::size_t n = 0; n < collegamento_->Tabella().Cursori.size(); ++n) {
+    auto* cursore = findChild<QSlider*>(Q(collegamento_->Tabella().Cursori[n].Nome));
+    const QSignalBlocker zitto(cursore);
+    cursore->setValue(collegamento_->Valore(n));
+  }
+  Aggiorna();
+  quadro_->update();
+}
+
 // What looks at the plant goes first.
 Finestra_Impianto::~Finestra_Impianto() {
   for (QWidget* vista : std::initializer_list<QWidget*>{quadro_, striscia_, tabella_, guasti_})
@@ -80,6 +113,7 @@ Finestra_Impianto::~Finestra_Impianto() {
 
 void Finestra_Impianto::closeEvent(QCloseEvent* evento) {
   evento->accept();
+  if (Sta_Per_Chiudere) Sta_Per_Chiudere();
   sguardo_.stop();
   if (Indica_Morsetti) Indica_Morsetti({});
   collegamento_->Chiudi();
@@ -87,8 +121,10 @@ void Finestra_Impianto::closeEvent(QCloseEvent* evento) {
 }
 
 void Finestra_Impianto::Collega_Comandi() {
-  connect(comandi_->chkSim, &QCheckBox::clicked, this,
-          [this](bool spuntato) { collegamento_->chkSim(spuntato); });
+  connect(comandi_->chkSim, &QCheckBox::clicked, this, [this](bool spuntato) {
+    collegamento_->Entra({.Che = Cosa::Usa_Interruttori, .Numero = spuntato});
+    comandi_->chkSim->setChecked(collegamento_->chkSim());
+  });
   connect(comandi_->chkIO, &QCheckBox::toggled, this, &Finestra_Impianto::Apri_Tabella);
   connect(comandi_->chkStriscia, &QCheckBox::toggled, this, &Finestra_Impianto::Apri_Striscia);
   const auto guida = [this] {

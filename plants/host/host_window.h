@@ -32,6 +32,7 @@ class Finestra_Impianto : public QWidget {
 
   std::function<void(const char* pagina)> Mostra_Aiuto;  ///< "Info": a page of the exercises
   std::function<void()> Mostra_Tempi;                    ///< the timing diagram
+  std::function<void()> Sta_Per_Chiudere;                ///< the plant is about to be closed
   std::function<void()> Chiusa;                          ///< the plant was closed
   std::function<void()> Tabella_Mossa;                   ///< table or strip appeared or went
   /// Addresses such as "I0.3" whose LED and terminal are to light up; none for an empty list.
@@ -39,6 +40,10 @@ class Finestra_Impianto : public QWidget {
 
   Quadro& Disegno() { return *quadro_; }
   Collegamento& Fili() { return *collegamento_; }
+  /// Makes plant and picture anew, which have not spoken yet, and hands out their wires.
+  Collegamento* Riapri();
+  /// Shows ticks and sliders as the wires have them, after another time was put back.
+  void Specchia();
   /// Nominal height in twips, as the table of exercises has it: with or without the I/O table.
   int Altezza() const { return altezza_; }
   /// The size without its frame that the window is told to have now, in pixels.
@@ -55,6 +60,7 @@ class Finestra_Impianto : public QWidget {
   void resizeEvent(QResizeEvent* evento) override;
 
  private:
+  Quadro* Crea_Quadro();
   QTabWidget* Crea_Schede();
   void Apri_Tabella(bool aperta);
   void Apri_Striscia(bool aperta);

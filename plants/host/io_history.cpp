@@ -53,6 +53,7 @@ double Storia_IO::Valore(std::size_t riga) const {
 }
 
 void Storia_IO::Segna(char area, int byte) {
+  if (plc_.Hook.Adesso != Vissuto::Presente) return;
   for (Riga& riga : righe_) {
     if (!riga.Di.Analogico && riga.Di.Area == area && riga.Di.Byte == byte)
       Segna(riga, Letto(riga.Di));

@@ -50,17 +50,34 @@ Figura* Quadro::Figura_A(const QPointF& punto) const {
   return In_Cima(punto, [this](const Figura& figura) { return Si_Opera(figura); });
 }
 
+bool Quadro::Fai(Cosa che, const Figura& figura, double valore) {
+  const Atto atto{.Che = che, .Valore = valore, .Testo = figura.Nome};
+  if (Mano) return Mano(atto);
+  switch (che) {
+    case Cosa::Premi:
+      return impianto_.Premi(figura.Nome);
+    case Cosa::Rilascia:
+      return impianto_.Rilascia(figura.Nome);
+    case Cosa::Clic:
+      return impianto_.Clic(figura.Nome);
+    case Cosa::Doppio_Clic:
+      return impianto_.Doppio_Clic(figura.Nome);
+    default:
+      return impianto_.Regola(figura.Nome, valore);
+  }
+}
+
 bool Quadro::Gira(const Figura& figura, int passi) {
   const Regolatore* regolatore = impianto_.Trova_Regolatore(figura.Nome);
   return regolatore != nullptr &&
-         impianto_.Regola(figura.Nome, regolatore->Valore + passi * regolatore->Passo);
+         Fai(Cosa::Regola, figura, regolatore->Valore + passi * regolatore->Passo);
 }
 
 void Quadro::Premi(Figura*& mano, Figura& figura) {
   Rilascia(mano, false);
   mano = &figura;
   senza_effetto_ = true;
-  impianto_.Premi(figura.Nome);
+  Fai(Cosa::Premi, figura);
   update(Posto(figura).toAlignedRect().adjusted(-4, -4, 4, 4));
 }
 
@@ -69,8 +86,8 @@ void Quadro::Rilascia(Figura*& mano, bool sopra) {
   const Figura& figura = *std::exchange(mano, nullptr);
   const QRect posto = Posto(figura).toAlignedRect();
   update(posto.adjusted(-4, -4, 4, 4));
-  impianto_.Rilascia(figura.Nome);
-  if (sopra) impianto_.Clic(figura.Nome);
+  Fai(Cosa::Rilascia, figura);
+  if (sopra) Fai(Cosa::Clic, figura);
   // A double click may still follow; what only listens to that says so by its tool tip as well.
   if (sopra && senza_effetto_ && !figura.ToolTip().empty())
     QToolTip::showText(mapToGlobal(posto.bottomLeft()), "Ora non ha effetto: " + Detto(figura),
@@ -110,7 +127,7 @@ void Quadro::mouseReleaseEvent(QMouseEvent* evento) {
 void Quadro::mouseDoubleClickEvent(QMouseEvent* evento) {
   Figura* figura = Figura_A(evento->position());
   // Two quick presses of a push button are two presses.
-  if (figura == nullptr || !impianto_.Doppio_Clic(figura->Nome)) mousePressEvent(evento);
+  if (figura == nullptr || !Fai(Cosa::Doppio_Clic, *figura)) mousePressEvent(evento);
 }
 
 void Quadro::mouseMoveEvent(QMouseEvent* evento) {
@@ -192,7 +209,7 @@ void Quadro::keyPressEvent(QKeyEvent* evento) {
       return;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      impianto_.Doppio_Clic(vista->Di->Nome);
+      Fai(Cosa::Doppio_Clic, *vista->Di);
       return;
     case Qt::Key_Up:
       Gira(*vista->Di, 1);

@@ -9,6 +9,7 @@
 
 #include "plants/host/drawings.h"
 #include "plants/plant.h"
+#include "plc/entries.h"
 
 namespace tavorno {
 
@@ -35,6 +36,9 @@ class Quadro : public QWidget {
   QRectF Posto_Mostrato(const Figura& figura) const;
   /// The id of the group that draws a figure now.
   static QString Gruppo(const Figura& figura);
+
+  /// Lets the user's hand in, and tells whether the plant felt it. At first straight to the plant.
+  std::function<bool(const Atto&)> Mano;
 
   static constexpr int Ritmo = 20;  ///< ms between two drawings at least
 
@@ -103,6 +107,7 @@ class Quadro : public QWidget {
   QPointF Origine() const;
   bool Si_Opera(const Figura& figura) const;
   bool Gira(const Figura& figura, int passi);
+  bool Fai(Cosa che, const Figura& figura, double valore = 0);
   void Disegna_Tutto(QPainter& pittore, double scala, const QRegion& dove);
   void Disegna_Figura(QPainter& pittore, Vista& vista, double scala);
   void Disegna_Mano(QPainter& pittore);

@@ -83,7 +83,7 @@ QGroupBox* Pagina_Impostazioni::Crea_Cursore(std::size_t numero) {
   valore->setMinimumWidth(valore->fontMetrics().horizontalAdvance(QStringLiteral("000")));
   connect(slider, &QSlider::valueChanged, this, [this, numero, valore](int nuovo) {
     valore->setText(QString::number(nuovo));
-    fili_.Muovi(numero, nuovo);
+    fili_.Entra({.Che = Cosa::Cursore, .Indice = static_cast<int>(numero), .Numero = nuovo});
   });
   auto* posti = new QGridLayout(cornice);
   posti->setVerticalSpacing(0);

@@ -159,6 +159,10 @@ class Sessione_Casuale {
                     .Indice = static_cast<int>(quale),
                     .Numero = cursori[quale].Minimo + static_cast<int>(Numero(20))});
     } else if (Numero(15) == 0) {
+      fili_->Entra({.Che = Cosa::Guasto,
+                    .Numero = Numero(1),
+                    .Testo = Numero(1) ? "filo(I0.1)" : "filo(I0.3)"});
+    } else if (Numero(15) == 0) {
       fili_->Entra({.Che = Cosa::Usa_Interruttori, .Numero = Numero(1)});
     } else if (!nomi.empty()) {
       static constexpr Cosa mani[] = {Cosa::Premi, Cosa::Rilascia, Cosa::Clic, Cosa::Doppio_Clic,

@@ -1,0 +1,407 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panel/session_bar.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QProgressDialog>
+#include <QTimer>
+#include <array>
+
+#include "panel/program_list.h"
+#include "plants/host/host_window.h"
+#include "recorder/session_file.h"
+#include "widgets/colours.h"
+#include "widgets/message_box.h"
+#include "widgets/naming.h"
+#include "widgets/text.h"
+
+namespace tavorno {
+
+namespace {
+
+struct Lentezza {
+  const char* Nome;
+  double Velocita;
+  Battito A_Battito;
+};
+constexpr Lentezza lentezze[] = {
+    {"tempo vero", 1, Battito::Nessuno},
+    {"1/2", 0.5, Battito::Nessuno},
+    {"1/5", 0.2, Battito::Nessuno},
+    {"1/10", 0.1, Battito::Nessuno},
+    {"1/50", 0.02, Battito::Nessuno},
+    {"1/100", 0.01, Battito::Nessuno},
+    {"una scansione alla volta", 1, Battito::Scansione},
+    {"una rete alla volta", 1, Battito::Rete},
+    {"una riga alla volta", 1, Battito::Riga},
+};
+
+constexpr std::int64_t un_secondo = 1000;
+
+/// What the program writes: of an output its image, which reaches the point at the end of a scan.
+double Scritto(const Plc& plc, const Indirizzo& dove) {
+  if (dove.Dove == Area::Q) return plc.IP_Q[dove.Num].Bit_Img[dove.Bit];
+  return Leggi_Cella(plc, dove);
+}
+
+}  // namespace
+
+Barra_Seduta::Barra_Seduta(FrmPLC& pannello, Plc& plc, Registratore& registratore,
+                           Guida_Corsa& corsa)
+    : QToolBar(QStringLiteral("Seduta"), &pannello),
+      pannello_(pannello),
+      plc_(plc),
+      registratore_(registratore),
+      corsa_(corsa) {
+  setObjectName(QStringLiteral("barraSeduta"));
+  setMovable(false);
+  Chiedi_File = [this](bool salva) {
+    const QString filtro = Q("Sedute (*.seduta)");
+    return salva ? QFileDialog::getSaveFileName(&pannello_, Q("Salva la seduta"),
+                                                Q("seduta.seduta"), filtro)
+                 : QFileDialog::getOpenFileName(&pannello_, Q("Apri una seduta"), {}, filtro);
+  };
+  Avvisa = [this](const QString& testo) {
+    Mostra_Avviso(&pannello_, {"Attenzione!", Utf8(testo), Icona::Critica, Tasti::Ok, {}});
+  };
+  registratore_.Apri = [this](int) {
+    Finestra_Impianto* finestra = Impianto ? Impianto() : nullptr;
+    return finestra ? finestra->Riapri() : nullptr;
+  };
+  registratore_.Avanzamento = [this](double parte) { return Progresso(parte); };
+  corsa_.Al_Battito = [this](int riga) { pannello_.Controlli().listSrc->Scegli(riga); };
+
+  Crea_Comandi();
+  pannello.addToolBar(Qt::BottomToolBarArea, this);
+  hide();
+  auto* ritmo = new QTimer(this);
+  ritmo->setInterval(100);
+  ritmo->callOnTimeout([this] { Mostra_Stato(); });
+  ritmo->start();
+  Mostra_Stato();
+}
+
+QAction* Barra_Seduta::Comando(QMenu& menu, const char* nome, const char* testo, const char* tasto,
+                               const char* suggerimento, std::function<void()> fai,
+                               bool nella_barra) {
+  auto* azione = Chiama(QString::fromUtf8(nome), menu.addAction(Q(testo)));
+  if (*tasto != '\0') azione->setShortcut(QKeySequence(QString::fromUtf8(tasto)));
+  azione->setToolTip(Q(suggerimento) +
+                     (*tasto != '\0' ? QStringLiteral(" (%1)").arg(
+                                           azione->shortcut().toString(QKeySequence::NativeText))
+                                     : QString()));
+  connect(azione, &QAction::triggered, this, std::move(fai));
+  if (nella_barra) addAction(azione);
+  return azione;
+}
+
+void Barra_Seduta::Crea_Comandi() {
+  auto* menu = Chiama(QStringLiteral("mnuSeduta"), new QMenu(Q("S&eduta"), &pannello_));
+  const QList<QAction*> voci = pannello_.menuBar()->actions();
+  pannello_.menuBar()->insertMenu(voci.isEmpty() ? nullptr : voci.last(), menu);
+  menu->setToolTipsVisible(true);
+
+  QAction* mostra = toggleViewAction();
+  mostra->setText(Q("&Barra della seduta"));
+  menu->addAction(mostra);
+  menu->addSeparator();
+  pausa_ = Comando(
+      *menu, "mnuPausa", "&Pausa", "F8", "Ferma insieme CPU e impianto, e li fa proseguire",
+      [this] { Pausa_O_Continua(); }, true);
+  Crea_Lentezza();
+  addSeparator();
+  menu->addSeparator();
+  const struct {
+    const char *Nome, *Testo, *Tasto, *Suggerimento;
+    bool (Registratore::*Passo)();
+  } passi[] = {
+      {"mnuRigaIndietro", "◀ &riga", "Alt+Left", "Una riga indietro", &Registratore::Riga_Indietro},
+      {"mnuScansioneIndietro", "◀ &scansione", "Alt+Shift+Left", "Una scansione indietro",
+       &Registratore::Scansione_Indietro},
+  };
+  for (const auto& riga : passi)
+    Comando(
+        *menu, riga.Nome, riga.Testo, riga.Tasto, riga.Suggerimento,
+        [this, passo = riga.Passo] {
+          Indietro([this, passo] { return (registratore_.*passo)(); });
+        },
+        true);
+  Comando(
+      *menu, "mnuSecondoIndietro", "◀ 1 s", "Ctrl+Alt+Left", "Un secondo indietro",
+      [this] { Indietro([this] { return registratore_.Tempo_Indietro(un_secondo); }); }, true);
+  solo_nel_passato_ = {
+      Comando(
+          *menu, "mnuRigaAvanti", "r&iga ▶", "Alt+Right", "Una riga avanti",
+          [this] { Indietro([this] { return registratore_.Riga_Avanti(); }); }, true),
+      Comando(
+          *menu, "mnuScansioneAvanti", "s&cansione ▶", "Alt+Shift+Right", "Una scansione avanti",
+          [this] { Indietro([this] { return registratore_.Scansione_Avanti(); }); }, true),
+      Comando(
+          *menu, "mnuSecondoAvanti", "1 s ▶", "Ctrl+Alt+Right", "Un secondo avanti",
+          [this] { Indietro([this] { return registratore_.Tempo_Avanti(un_secondo); }); }, true),
+      Comando(
+          *menu, "mnuPresente", "&Presente", "Alt+End", "Torna al presente",
+          [this] { Al_Presente(); }, true),
+      Comando(
+          *menu, "mnuRiprendiDaQui", "Riprendi &da qui", "",
+          "Prosegue da questo momento; ciò che è venuto dopo si perde", [this] { Riprendi(); },
+          true),
+  };
+  addSeparator();
+  bit_ = Chiama(QStringLiteral("txtBit"), new QLineEdit(QStringLiteral("Q0.0")));
+  bit_->setMaximumWidth(fontMetrics().horizontalAdvance(QStringLiteral("SM00.0.....")));
+  bit_->setToolTip(Q("Il bit o la cella di cui si cerca l'ultimo cambiamento"));
+  bit_->setAccessibleName(bit_->toolTip());
+  connect(bit_, &QLineEdit::returnPressed, this, [this] { Chi_E_Stato(); });
+  addWidget(bit_);
+  Comando(
+      *menu, "mnuChiEStato", "C&hi è stato?", "Ctrl+Alt+W",
+      "Torna all'ultimo cambiamento e segna la riga che lo ha fatto", [this] { Chi_E_Stato(); },
+      true);
+  addSeparator();
+  Crea_Fermate();
+  menu->addSeparator();
+  Comando(
+      *menu, "mnuSalvaSeduta", "Sal&va la seduta...", "",
+      "Scrive in un file tutto ciò che è entrato nella seduta", [this] { Salva(); }, false);
+  Comando(
+      *menu, "mnuApriSeduta", "&Apri una seduta...", "",
+      "Rilegge una seduta: la si percorre avanti e indietro", [this] { Apri(); }, false);
+  stato_ = Chiama(QStringLiteral("etSeduta"), new QLabel);
+  stato_->setAutoFillBackground(true);
+  stato_->setMargin(3);
+  stato_->setFont(Grassetto(stato_->font()));
+  addWidget(stato_);
+}
+
+void Barra_Seduta::Crea_Lentezza() {
+  lentezza_ = Chiama(QStringLiteral("cmbLentezza"), new QComboBox);
+  for (const Lentezza& riga : lentezze) lentezza_->addItem(Q(riga.Nome));
+  lentezza_->setToolTip(Q("Quanto va veloce il tempo, per la CPU e per l'impianto"));
+  lentezza_->setAccessibleName(lentezza_->toolTip());
+  connect(lentezza_, &QComboBox::currentIndexChanged, this, [this](int n) { Cambia_Lentezza(n); });
+  addWidget(lentezza_);
+}
+
+void Barra_Seduta::Crea_Fermate() {
+  condizioni_ = Chiama(QStringLiteral("txtFermate"), new QLineEdit);
+  condizioni_->setPlaceholderText(Q("Fermati: Q0.1 sale; VW10 > 300"));
+  condizioni_->setToolTip(
+      Q("Dove ci si ferma, in pausa: riga 12, Q0.1 sale, Q0.1 scende, T37 cambia, VW10 > 300; "
+        "con x3 alla terza volta; più d'una con ;"));
+  condizioni_->setAccessibleName(Q("Condizioni di fermata"));
+  connect(condizioni_, &QLineEdit::editingFinished, this, [this] { Cambia_Fermate(); });
+  addWidget(condizioni_);
+}
+
+// ---- slowly -------------------------------------------------------------------------------------
+
+void Barra_Seduta::Cambia_Lentezza(int scelta) {
+  const Lentezza& riga = lentezze[static_cast<std::size_t>(scelta)];
+  corsa_.Velocita(riga.Velocita);
+  corsa_.Batti(riga.A_Battito);
+}
+
+void Barra_Seduta::Cambia_Fermate() {
+  std::string errore;
+  if (!fermate_.Leggi(Utf8(condizioni_->text()), errore)) {
+    condizioni_->setText(Q(fermate_.Come_Testo()));
+    return Avvisa(Q(errore));
+  }
+  fermate_.Ricomincia(plc_);
+  if (fermate_.Vuote()) {
+    corsa_.Fermati_Qui = nullptr;
+    return;
+  }
+  corsa_.Fermati_Qui = [this] {
+    const Fermata* fermata = fermate_.Raggiunta(plc_);
+    if (fermata == nullptr) return false;
+    perche_ = Q("Fermata: " + fermata->Testo);
+    show();
+    pannello_.Controlli().listSrc->Scegli(plc_.PC);
+    return true;
+  };
+}
+
+void Barra_Seduta::Pausa_O_Continua() {
+  if (registratore_.Nel_Passato()) return;
+  if (!corsa_.In_Pausa()) {
+    perche_ = Q("Pausa");
+    show();
+    return corsa_.Pausa();
+  }
+  perche_.clear();
+  // The run may go on for hours, so it begins in an event of its own.
+  QMetaObject::invokeMethod(
+      this, [this] { corsa_.Continua(); }, Qt::QueuedConnection);
+}
+
+// ---- back ---------------------------------------------------------------------------------------
+
+/// Only a CPU that stands has a past to look at.
+bool Barra_Seduta::Ferma_Il_Tempo() {
+  show();
+  if (plc_.In_Giro() == Giro::Nessuno) return true;
+  corsa_.Pausa();
+  perche_ = Q("Pausa");
+  return false;
+}
+
+void Barra_Seduta::Indietro(const std::function<bool()>& passo) {
+  // A running program is halted first, and then goes back.
+  if (!Ferma_Il_Tempo()) {
+    QTimer::singleShot(0, this, [this, passo] {
+      if (plc_.In_Giro() == Giro::Nessuno) Indietro(passo);
+    });
+    return;
+  }
+  corsa_.Pausa();
+  da_quando_.start();
+  annullato_ = false;
+  const bool mosso = passo();
+  progresso_.reset();
+  perche_ = mosso ? QString() : Q("Più in là non si va");
+  Specchia();
+}
+
+void Barra_Seduta::Chi_E_Stato() {
+  const auto dove = Leggi_Indirizzo(Utf8(bit_->text().trimmed()));
+  if (!dove)
+    return Avvisa(
+        Q("\"" + Utf8(bit_->text()) + "\" non è un indirizzo. Si scrive " + Indirizzi_Ammessi()));
+  if (!Ferma_Il_Tempo()) {
+    QTimer::singleShot(0, this, [this] {
+      if (plc_.In_Giro() == Giro::Nessuno) Chi_E_Stato();
+    });
+    return;
+  }
+  corsa_.Pausa();
+  int riga = -1;
+  const bool trovato = registratore_.Ultimo_Cambio(
+      [dove = *dove](const Plc& plc) { return Scritto(plc, dove); }, riga);
+  progresso_.reset();
+  const QString nome = bit_->text().trimmed().toUpper();
+  Specchia();
+  if (!trovato)
+    perche_ = nome + Q(" non è mai cambiato");
+  else if (riga < 0)
+    perche_ = nome + Q(": non una riga, ma ciò che è entrato");
+  else
+    perche_ = nome + Q(": riga ") + QString::number(riga);
+  if (riga >= 0) pannello_.Controlli().listSrc->Scegli(riga);
+  Mostra_Stato();
+}
+
+void Barra_Seduta::Al_Presente() {
+  if (!registratore_.Nel_Passato()) return;
+  registratore_.Torna_Al_Presente();
+  progresso_.reset();
+  perche_.clear();
+  Specchia();
+}
+
+void Barra_Seduta::Riprendi() {
+  if (!registratore_.Nel_Passato()) return;
+  registratore_.Riprendi_Da_Qui();
+  perche_.clear();
+  fermate_.Ricomincia(plc_);
+  Specchia();
+  QMetaObject::invokeMethod(
+      this, [this] { corsa_.Continua(); }, Qt::QueuedConnection);
+}
+
+bool Barra_Seduta::Progresso(double parte) {
+  constexpr int attesa = 400;  // ms before it is worth a window
+  if (!da_quando_.isValid()) da_quando_.start();
+  if (da_quando_.elapsed() < attesa) return true;
+  if (!progresso_) {
+    auto* finestra = new QProgressDialog(Q("Rifaccio la seduta fino a quel momento..."),
+                                         Q("Annulla"), 0, 1000, &pannello_);
+    finestra->setWindowModality(Qt::ApplicationModal);
+    finestra->setMinimumDuration(0);
+    progresso_.reset(finestra);
+  }
+  auto* finestra = static_cast<QProgressDialog*>(progresso_.get());
+  finestra->setValue(static_cast<int>(parte * 999));
+  return !finestra->wasCanceled();
+}
+
+/// All windows show what the CPU is now.
+void Barra_Seduta::Specchia() {
+  da_quando_.invalidate();
+  plc_.Segna(Segno_Immagini | Segno_PC | Segno_Tempo | Segno_Lista | Segno_Comandi |
+             Segno_Analogici);
+  pannello_.Aggiorna();
+  pannello_.Specchia_Scelte();
+  if (registratore_.Nel_Passato()) pannello_.Controlli().listSrc->Scegli(plc_.PC);
+  if (Finestra_Impianto* finestra = Impianto ? Impianto() : nullptr) finestra->Specchia();
+  Mostra_Stato();
+}
+
+void Barra_Seduta::Mostra_Stato() {
+  const bool passato = registratore_.Nel_Passato();
+  QString testo = perche_;
+  if (passato) {
+    const double secondi =
+        static_cast<double>(plc_.Tempo.Adesso() - registratore_.Presente().Ms) / 1000;
+    testo = Q("PASSATO ") + QString::number(secondi, 'f', 3).replace('.', ',') + Q(" s, riga ") +
+            QString::number(plc_.PC) + (perche_.isEmpty() ? QString() : Q(" · ") + perche_);
+  } else if (!corsa_.In_Pausa()) {
+    testo.clear();
+    perche_.clear();
+  }
+  if (stato_->text() != testo) stato_->setText(testo);
+  const colori::Coppia& tinta = passato ? colori::Pila : colori::In_Stop;
+  QPalette tinte = stato_->palette();
+  tinte.setColor(QPalette::Window,
+                 testo.isEmpty() ? palette().color(QPalette::Window) : tinta.Fondo);
+  tinte.setColor(QPalette::WindowText, tinta.Testo);
+  stato_->setPalette(tinte);
+  const QString pausa = corsa_.In_Pausa() && !passato ? Q("&Continua") : Q("&Pausa");
+  if (pausa_->text() != pausa) pausa_->setText(pausa);
+  pausa_->setEnabled(!passato);
+  for (QAction* azione : solo_nel_passato_) azione->setEnabled(passato);
+}
+
+// ---- files --------------------------------------------------------------------------------------
+
+void Barra_Seduta::Salva() {
+  const QString file = Chiedi_File(true);
+  if (file.isEmpty()) return;
+  const std::string errore = Salva_Registrazione(Utf8(file), registratore_.Registrata());
+  if (!errore.empty()) Avvisa(Q("La seduta non è stata salvata: " + errore));
+}
+
+void Barra_Seduta::Apri() {
+  if (plc_.In_Giro() != Giro::Nessuno || plc_.PLC_Acceso)
+    return Avvisa(Q("Prima di aprire una seduta fermare la CPU con STOP."));
+  if (Impianto && Impianto())
+    return Avvisa(Q("Prima di aprire una seduta chiudere la finestra dell'impianto."));
+  const QString file = Chiedi_File(false);
+  if (file.isEmpty()) return;
+  std::string motivo;
+  const auto registrazione = Apri_Registrazione(Utf8(file), motivo);
+  if (!registrazione) return Avvisa(Q("La seduta non si può aprire: " + motivo + "."));
+  Al_Presente();
+  const int impianto = Registratore::Impianto_Di(*registrazione);
+  if (impianto >= 0 && Apri_Impianto) Apri_Impianto(impianto);
+  show();
+  corsa_.Pausa();
+  try {
+    registratore_.Prendi(*registrazione);
+  } catch (const Giornale_Discorde& discorde) {
+    Avvisa(Q(std::string("La seduta non si può rifare: ") + discorde.what() + "."));
+  }
+  std::vector<std::string> righe;
+  for (const Riga_PLC& riga : plc_.Prog) righe.push_back(Testo_Riga(riga));
+  pannello_.Controlli().listSrc->Riempi(righe);
+  perche_ = Q(registrazione->Titolo);
+  Specchia();
+}
+
+}  // namespace tavorno

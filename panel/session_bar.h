@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QToolBar>
+#include <functional>
+
+#include "panel/panel_window.h"
+#include "panel/run_driver.h"
+#include "recorder/recorder.h"
+#include "recorder/stops.h"
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+
+namespace tavorno {
+
+class Finestra_Impianto;
+
+/// The session of the panel: going slowly, standing still, back and forth again, and its file. A
+/// tool bar of the panel with a menu of its own; the bar is hidden at first.
+class Barra_Seduta : public QToolBar {
+ public:
+  Barra_Seduta(FrmPLC& pannello, Plc& plc, Registratore& registratore, Guida_Corsa& corsa);
+
+  std::function<Finestra_Impianto*()> Impianto;  ///< the host window of the open plant, or nullptr
+  std::function<void(int indice)> Apri_Impianto;
+  /// Asks for the file of a session; an empty name is none.
+  std::function<QString(bool salva)> Chiedi_File;
+  /// A message of its own.
+  std::function<void(const QString& testo)> Avvisa;
+
+  /// What a plant that comes or goes, and the editor, need first.
+  void Al_Presente();
+
+ private:
+  QAction* Comando(QMenu& menu, const char* nome, const char* testo, const char* tasto,
+                   const char* suggerimento, std::function<void()> fai, bool nella_barra);
+  void Crea_Comandi();
+  void Crea_Lentezza();
+  void Crea_Fermate();
+  void Pausa_O_Continua();
+  void Indietro(const std::function<bool()>& passo);
+  void Chi_E_Stato();
+  void Riprendi();
+  void Salva();
+  void Apri();
+  bool Ferma_Il_Tempo();
+  void Cambia_Lentezza(int scelta);
+  void Cambia_Fermate();
+  bool Progresso(double parte);
+  void Specchia();
+  void Mostra_Stato();
+
+  FrmPLC& pannello_;
+  Plc& plc_;
+  Registratore& registratore_;
+  Guida_Corsa& corsa_;
+  Fermate fermate_;
+  QString perche_;  // why the run stands
+  QLabel* stato_ = nullptr;
+  QComboBox* lentezza_ = nullptr;
+  QLineEdit *bit_ = nullptr, *condizioni_ = nullptr;
+  QAction* pausa_ = nullptr;
+  std::vector<QAction*> solo_nel_passato_;
+  QElapsedTimer da_quando_;
+  bool annullato_ = false;
+  std::unique_ptr<QObject> progresso_;
+};
+
+}  // namespace tavorno

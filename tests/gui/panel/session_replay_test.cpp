@@ -1,0 +1,268 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Random sessions in the real windows: what enters does so by the door, and played again on a CPU
+// of its own the session is the same, to the last figure.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <QTest>
+#include <cstdlib>
+#include <random>
+
+#include "panel/child_windows.h"
+#include "panel/controls/cpu_front.h"
+#include "panel/panel_window.h"
+#include "panel/program_list.h"
+#include "panel/run_driver.h"
+#include "panel/session_bar.h"
+#include "plants/host/host_window.h"
+#include "plants/host/picture_widget.h"
+#include "recorder/session.h"
+#include "recorder/session_file.h"
+#include "recorder/whole_state.h"
+#include "tests/support/temporary_folder.h"
+#include "widgets/command_tables.h"
+
+namespace tavorno::prova {
+
+namespace {
+
+class Finestre_A_Caso {
+ public:
+  explicit Finestre_A_Caso(unsigned seme) : caso_(seme) {
+    cessione_ = plc.Hook.Ascolta_Cedi_Righe([this] { return Cedi(); });
+    barra.Impianto = [this] { return finestre.Impianto(); };
+    barra.Apri_Impianto = [this](int indice) { finestre.Apri_Impianto(indice); };
+    barra.Avvisa = [this](const QString& testo) { avvisi.push_back(testo.toStdString()); };
+    finestre.Al_Presente = [this] { barra.Al_Presente(); };
+    corsa.Ferma();  // its clock is the real one; ours is moved by hand
+    corsa.Attesa = false;
+    registratore.Ms_Tra_Tappe = 500;
+  }
+
+  void Carica(const std::vector<std::string>& righe) {
+    const Cartella_Temporanea cartella;
+    Scrivi_Byte(cartella / "prova.AWL", Byte_Di_Progetto(righe));
+    ASSERT_TRUE(seduta.Apri((cartella / "prova.AWL").string()));
+    seduta.progetto.Compila();
+    ASSERT_EQ(seduta.progetto.Errori, 0) << seduta.progetto.Lista_Comp;
+    seduta.progetto.Consegna();
+    pannello.show();
+    pannello.Attivata();
+  }
+
+  void Gioca(int mosse) {
+    rimaste_ = mosse;
+    while (rimaste_ > 0) {
+      --rimaste_;
+      Tempo();
+      Mossa();
+      QCoreApplication::processEvents();
+    }
+  }
+
+  unsigned Numero(unsigned massimo) { return static_cast<unsigned>(caso_() % (massimo + 1)); }
+
+  Seduta seduta;
+  Plc& plc = seduta.plc;
+  Guida guida{QString(), QString(), {}};
+  Registratore registratore{plc};
+  Iscrizione programmi =
+      seduta.progetto.Programma_Cambiato.Ascolta([this] { registratore.Programma_Nuovo(); });
+  FrmPLC pannello{plc, seduta.progetto};
+  Guida_Corsa corsa{plc, [] {}};
+  Finestre finestre{pannello, plc, seduta.progetto, guida};
+  Barra_Seduta barra{pannello, plc, registratore, corsa};
+  std::vector<std::string> avvisi;
+
+  Collegamento* Fili() { return finestre.Impianto() ? &finestre.Impianto()->Fili() : nullptr; }
+
+ private:
+  void Tempo() { plc.Entra({.Che = Cosa::Presente, .Numero = plc.Tempo.Adesso() + Numero(12)}); }
+
+  template <class T>
+  T* Uno(QWidget& in, const char* nome) {
+    return in.findChild<T*>(QString::fromUtf8(nome));
+  }
+  void Clicca(QAbstractButton* tasto) {
+    if (tasto != nullptr && tasto->isEnabled()) tasto->click();
+  }
+
+  void Mossa() {
+    Controlli_Pannello& c = pannello.Controlli();
+    switch (Numero(17)) {
+      case 0:
+      case 1: {
+        const auto righe = c.Fronte->findChildren<QWidget*>(
+            QRegularExpression(QStringLiteral("^imgI0\\(\\d\\)$")));
+        if (righe.isEmpty()) break;
+        QWidget* interruttore =
+            righe[static_cast<int>(Numero(static_cast<unsigned>(righe.size() - 1)))];
+        if (interruttore->isVisible()) QTest::mouseClick(interruttore, Qt::LeftButton);
+        break;
+      }
+      case 2:
+        c.SlidP[Numero(1)]->setValue(static_cast<int>(Numero(255)));
+        break;
+      case 3:
+        Clicca(std::array<QCheckBox*, 4>{c.chkStop, c.chkSol, c.chkIP, c.chkList}[Numero(3)]);
+        break;
+      case 4:
+        (Numero(1) ? c.txtStop : c.txtNC)->setText(QString::number(1 + Numero(4)));
+        break;
+      case 5:
+        Clicca(Numero(1) ? c.opzAI[Numero(1)] : c.opzAQ[Numero(1)]);
+        break;
+      case 6:
+        finestre.Mostra_Analogici();
+        for (QWidget* finestra : QApplication::topLevelWidgets()) {
+          if (finestra->objectName() != QStringLiteral("frmSimAI")) continue;
+          const auto cursori = finestra->findChildren<QSlider*>();
+          cursori[static_cast<int>(Numero(2))]->setValue(static_cast<int>(Numero(10)));
+        }
+        break;
+      case 7:
+        if (Numero(3) == 0) pannello.Attivata();
+        break;
+      case 8:
+      case 9:
+      case 10:
+        Mano();
+        break;
+      case 11:
+        if (Numero(5) == 0) finestre.Impianto() ? Chiudi() : Apri();
+        break;
+      case 12:
+        if (Fili() != nullptr) {
+          const auto cursori = finestre.Impianto()->findChildren<QSlider*>();
+          if (!cursori.isEmpty())
+            cursori[0]->setValue(cursori[0]->minimum() + static_cast<int>(Numero(10)));
+          if (Numero(4) == 0) Clicca(Uno<QCheckBox>(*finestre.Impianto(), "chkSim"));
+        }
+        break;
+      default: {
+        static constexpr const char* voci[] = {"mnuPlcRun",  "mnuPlcRun",  "mnuPlcStop",
+                                               "mnuPlcStep", "mnuPlcCont", "mnuPLCCiclo",
+                                               "mnuPLCPiu",  "mnuPLCPiu",  "mnuPLCPiu"};
+        QAction& voce = Azione(pannello, voci[Numero(std::size(voci) - 1)]);
+        if (voce.isEnabled()) voce.trigger();
+        if (Numero(5) == 0) Clicca(c.cmdRest);
+      }
+    }
+  }
+
+  void Mano() {
+    if (Fili() == nullptr) return;
+    Quadro& quadro = finestre.Impianto()->Disegno();
+    QTest::keyClick(&quadro, Qt::Key_Tab);
+    static constexpr Qt::Key tasti[] = {Qt::Key_Return, Qt::Key_Up, Qt::Key_Down};
+    if (Numero(1) == 0)
+      QTest::keyClick(&quadro, tasti[Numero(2)]);
+    else if (Numero(1) == 0)
+      QTest::keyPress(&quadro, Qt::Key_Space);
+    else
+      QTest::keyRelease(&quadro, Qt::Key_Space);
+  }
+
+  void Apri() { finestre.Apri_Impianto(static_cast<int>(Numero(17))); }
+  void Chiudi() {
+    finestre.Impianto()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  int Cedi() {
+    if (plc.Hook.Adesso != Vissuto::Presente) return 1'000'000;
+    Tempo();
+    if (Numero(3) == 0) Mossa();
+    if (--rimaste_ <= 0 || Numero(50) == 0) plc.Entra(Comando_Corsa::Pausa);
+    return static_cast<int>(1 + Numero(20));
+  }
+
+  std::mt19937 caso_;
+  Iscrizione cessione_;
+  int rimaste_ = 0;
+};
+
+const std::vector<std::string> programma = {
+    "LD I0.0", "O Q0.0",    "AN I0.1",   "= Q0.0",         "LD I0.2",  "TON T37, 3",
+    "LD T37",  "EU",        "INCW VW10", "LD I0.3",        "= Q0.1",   "LD SM0.5",
+    "= Q0.2",  "LD Q0.0",   "A SM0.4",   "= Q0.3",         "LD I0.4",  "S M0.0, 1",
+    "LD I0.5", "R M0.0, 1", "LD M0.0",   "MOVW AIW0, VW2", "LD SM0.0", "MOVW VW10, AQW0"};
+
+int Sessioni() {
+  const char* quante = std::getenv("TAVORNO_SESSIONI");
+  return quante ? std::atoi(quante) : 6;
+}
+
+}  // namespace
+
+TEST(SessionInTheWindows, IsTheSameWhenItIsPlayedAgain) {
+  const char* da = std::getenv("TAVORNO_SEME");
+  const int primo = da ? std::atoi(da) : 1;
+  for (int seme = primo; seme < primo + Sessioni(); ++seme) {
+    SCOPED_TRACE("seed " + std::to_string(seme));
+    Finestre_A_Caso finestre(static_cast<unsigned>(seme));
+    finestre.Carica(programma);
+    if (::testing::Test::HasFatalFailure()) return;
+    finestre.Gioca(400);
+    Stato_Intero vero = Elenca_Stato(finestre.plc, finestre.Fili());
+    // By way of its file, as the bench would.
+    std::string motivo;
+    const auto letta = Leggi_Registrazione(Byte_Di(finestre.registratore.Registrata()), motivo);
+    ASSERT_TRUE(letta) << motivo;
+    Orologio orologio;
+    Plc plc(orologio);
+    Metti_Stato(plc, *letta->Programma, letta->Stato);
+    Replica replica(plc, letta->Voci, letta->Voci.Inizio);
+    replica.Vai();
+    Stato_Intero rifatto = Elenca_Stato(plc, replica.Impianto);
+    // The cover of the panel slides on the same clock.
+    for (Stato_Intero* stato : {&vero, &rifatto})
+      std::erase_if(*stato, [](const auto& riga) { return riga.first == "prossimi scatti"; });
+    ASSERT_EQ(Prima_Differenza(rifatto, vero), "");
+  }
+}
+
+TEST(SessionInTheWindows, GoesBackAndForthAndOnFromThere) {
+  Finestre_A_Caso finestre(7);
+  finestre.Carica(programma);
+  finestre.finestre.Apri_Impianto(9);
+  finestre.Gioca(200);
+  ASSERT_EQ(finestre.plc.In_Giro(), Giro::Nessuno);
+  if (finestre.Fili() == nullptr) finestre.finestre.Apri_Impianto(9);
+  finestre.Gioca(60);
+  const Stato_Intero presente = Elenca_Stato(finestre.plc, finestre.Fili());
+  const std::int64_t righe = finestre.plc.Righe_Fatte;
+  Azione(finestre.pannello, "mnuRigaIndietro").trigger();
+  ASSERT_TRUE(finestre.registratore.Nel_Passato());
+  EXPECT_EQ(finestre.plc.Righe_Fatte, righe - 1);
+  EXPECT_TRUE(finestre.barra.isVisibleTo(&finestre.pannello));
+  EXPECT_TRUE(finestre.pannello.findChild<QLabel*>("etSeduta")->text().startsWith("PASSATO"));
+  // Nothing enters the past.
+  Azione(finestre.pannello, "mnuPlcStop").trigger();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(finestre.plc.Righe_Fatte, righe - 1);
+  Azione(finestre.pannello, "mnuRigaAvanti").trigger();
+  EXPECT_EQ(finestre.plc.Righe_Fatte, righe);
+  Azione(finestre.pannello, "mnuPresente").trigger();
+  EXPECT_FALSE(finestre.registratore.Nel_Passato());
+  EXPECT_EQ(Prima_Differenza(Elenca_Stato(finestre.plc, finestre.Fili()), presente), "");
+  Azione(finestre.pannello, "mnuScansioneIndietro").trigger();
+  EXPECT_EQ(finestre.plc.PC, 0);
+  finestre.registratore.Riprendi_Da_Qui();
+  EXPECT_FALSE(finestre.registratore.Nel_Passato());
+  finestre.Gioca(60);  // goes on, and is still a session that can be played again
+  const Stato_Intero dopo = Elenca_Stato(finestre.plc, finestre.Fili());
+  if (finestre.registratore.Tempo_Indietro(50)) {
+    finestre.registratore.Torna_Al_Presente();
+    EXPECT_EQ(Prima_Differenza(Elenca_Stato(finestre.plc, finestre.Fili()), dopo), "");
+  }
+}
+
+}  // namespace tavorno::prova
