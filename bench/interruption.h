@@ -3,8 +3,8 @@
 
 namespace tavorno {
 
-/// While one lives, the first SIGINT or SIGTERM (on Windows, Ctrl+C) is a wish to stop that `Chiesta` tells of; a second
-/// one ends the process at once.
+/// While one lives, the first SIGINT or SIGTERM (on Windows, Ctrl+C) is a wish to stop that
+/// `Chiesta` tells of; a second one ends the process at once.
 class Interruzione {
  public:
   Interruzione();

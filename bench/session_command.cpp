@@ -17,7 +17,7 @@ namespace tavorno {
 
 namespace {
 
-Registrazione Apri(const std::string& file) {
+Seduta_Registrata Apri(const std::string& file) {
   std::string motivo;
   auto registrazione = Apri_Registrazione(file, motivo);
   if (!registrazione) throw std::runtime_error(file + ": " + motivo);
@@ -37,7 +37,7 @@ const Esercizio* Primo_Impianto(const Giornale& voci) {
 
 /// A session on a CPU of its own.
 struct Rivissuta {
-  explicit Rivissuta(const Registrazione& registrazione)
+  explicit Rivissuta(const Seduta_Registrata& registrazione)
       : inizio(registrazione.Stato.Adesso),
         replica(plc, registrazione.Voci, registrazione.Voci.Inizio) {
     Metti_Stato(plc, *registrazione.Programma, registrazione.Stato);
@@ -75,7 +75,7 @@ std::vector<Iscrizione> Ascolta_Cambi(Plc& plc, std::array<std::array<std::uint8
 }
 
 /// Both side by side, from millisecond to millisecond: where they part for the first time.
-int Confronta(const Registrazione& una, const Registrazione& altra, std::ostream& out) {
+int Confronta(const Seduta_Registrata& una, const Seduta_Registrata& altra, std::ostream& out) {
   Rivissuta a(una), b(altra);
   std::int64_t ms = 0;
   for (bool vive = true; vive; ++ms) {
@@ -104,7 +104,7 @@ int Comando_Rivivi(const Argomenti& argomenti, std::ostream& out) {
   std::vector<std::string> letti{file};
   if (argomenti.Ha("--confronta")) letti.push_back(argomenti.Testo("--confronta", ""));
   Controlla_Rapporti(argomenti, {"--vcd", "--svg"}, letti);
-  const Registrazione registrazione = Apri(file);
+  const Seduta_Registrata registrazione = Apri(file);
   if (argomenti.Ha("--confronta"))
     return Confronta(registrazione, Apri(argomenti.Testo("--confronta", "")), out);
 

@@ -55,7 +55,7 @@ struct Ganci {
   bool Cedi_Ascoltato() const { return cedi_.Ascoltato(); }
 
   Annuncio<const Avviso&> Mostra;  ///< a message box; a round ends when it is closed
-  Annuncio<const Atto&> Entra;  ///< something is about to enter
+  Annuncio<const Atto&> Entra;     ///< something is about to enter
 
   Vissuto Adesso = Vissuto::Presente;
 

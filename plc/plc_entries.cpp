@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What enters the CPU.
-#include "plc/entries.h"
-
 #include <algorithm>
 
+#include "plc/entries.h"
 #include "plc/plc.h"
 
 namespace tavorno {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "plc/snapshot.h"
-
 #include "plc/plc.h"
+#include "plc/snapshot.h"
 
 namespace tavorno {
 

@@ -124,12 +124,12 @@ std::size_t Registratore::Occupata() const {
   return giornale_.Byte().size() + tappe_.size() * una;
 }
 
-Registrazione Registratore::Registrata() {
+Seduta_Registrata Registratore::Registrata() {
   giornale_.Ultima_Riga = Presente().Righe;
   return {Titolo, tappe_.front().Programma, tappe_.front().Stato, giornale_};
 }
 
-int Registratore::Impianto_Di(const Registrazione& registrazione) {
+int Registratore::Impianto_Di(const Seduta_Registrata& registrazione) {
   Lettore_Giornale lettore(registrazione.Voci, registrazione.Voci.Inizio);
   while (const auto voce = lettore.Prossima()) {
     if (voce->Entra.Che == Cosa::Apri) return voce->Entra.Indice;
@@ -137,7 +137,7 @@ int Registratore::Impianto_Di(const Registrazione& registrazione) {
   return -1;
 }
 
-void Registratore::Prendi(const Registrazione& registrazione) {
+void Registratore::Prendi(const Seduta_Registrata& registrazione) {
   Lettore_Giornale lettore(registrazione.Voci, registrazione.Voci.Inizio);
   std::int64_t ms = registrazione.Stato.Adesso;
   while (lettore.Prossima()) ms = std::max(ms, lettore.Dove().Ms);

@@ -13,7 +13,7 @@
 namespace tavorno {
 
 /// A session as a value: the state that it began in, and what entered since.
-struct Registrazione {
+struct Seduta_Registrata {
   std::string Titolo;  ///< of the project, UTF-8
   std::shared_ptr<const Stesura> Programma;
   Istantanea Stato;
@@ -51,12 +51,12 @@ class Registratore {
 
   /// Takes over a session: the CPU is in its past, at the beginning. When the session opens a plant
   /// `Apri` must be there, and the plant open already. Throws `Giornale_Discorde`.
-  void Prendi(const Registrazione& registrazione);
+  void Prendi(const Seduta_Registrata& registrazione);
   /// The exercise whose plant a session opens first, -1 for none.
-  static int Impianto_Di(const Registrazione& registrazione);
+  static int Impianto_Di(const Seduta_Registrata& registrazione);
 
   /// What has been written down, up to now.
-  Registrazione Registrata();
+  Seduta_Registrata Registrata();
   std::string Titolo;
 
   // ---- the past --------------------------------------------------------------------------------

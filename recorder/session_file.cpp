@@ -249,7 +249,7 @@ const char* Non_Va(const Istantanea& stato, const Stesura& programma) {
 
 }  // namespace
 
-std::string Byte_Di(const Registrazione& registrazione) {
+std::string Byte_Di(const Seduta_Registrata& registrazione) {
   Scrittore a;
   a(registrazione.Titolo);
   Campi_Programma(a, *registrazione.Programma);
@@ -271,7 +271,7 @@ std::string Byte_Di(const Registrazione& registrazione) {
   return byte;
 }
 
-std::optional<Registrazione> Leggi_Registrazione(std::string_view byte, std::string& motivo) {
+std::optional<Seduta_Registrata> Leggi_Registrazione(std::string_view byte, std::string& motivo) {
   const auto rifiuta = [&motivo](const std::string& perche) {
     motivo = perche;
     return std::nullopt;
@@ -292,7 +292,7 @@ std::optional<Registrazione> Leggi_Registrazione(std::string_view byte, std::str
     return rifiuta("il file è rovinato: la somma di controllo non torna");
 
   Lettore a(byte.substr(a_capo + 1, byte.size() - a_capo - 1 - coda));
-  Registrazione registrazione;
+  Seduta_Registrata registrazione;
   const auto leggi_programma = [&a] {
     Stesura programma;
     Campi_Programma(a, programma);
@@ -326,7 +326,7 @@ std::optional<Registrazione> Leggi_Registrazione(std::string_view byte, std::str
   return registrazione;
 }
 
-std::optional<Registrazione> Apri_Registrazione(const std::string& file, std::string& motivo) {
+std::optional<Seduta_Registrata> Apri_Registrazione(const std::string& file, std::string& motivo) {
   std::error_code errore;
   const auto grandezza = std::filesystem::file_size(file, errore);
   if (errore) {
@@ -347,7 +347,7 @@ std::optional<Registrazione> Apri_Registrazione(const std::string& file, std::st
   return Leggi_Registrazione(tutto.str(), motivo);
 }
 
-std::string Salva_Registrazione(const std::string& file, const Registrazione& registrazione) {
+std::string Salva_Registrazione(const std::string& file, const Seduta_Registrata& registrazione) {
   return Scrivi_File(file, Byte_Di(registrazione));
 }
 

@@ -77,7 +77,7 @@ class Copione {
 
 }  // namespace
 
-std::string Script_Di(const Registrazione& registrazione) {
+std::string Script_Di(const Seduta_Registrata& registrazione) {
   Orologio orologio;
   Plc plc(orologio);
   Metti_Stato(plc, *registrazione.Programma, registrazione.Stato);

@@ -58,7 +58,8 @@ void AwlEditor::Mostra_Suggerimento_A(int posizione, int, int) {
   const Istruzione* istruzione = Istruzione_Di(testo);
   const auto colonna = static_cast<std::size_t>(posizione - inizio);
   const bool muto = istruzione == nullptr || colonna < parola.Inizio || colonna >= parola.Fine;
-  Mostra_Aiuto(static_cast<std::uintptr_t>(posizione), linea, muto ? "" : Suggerimento(*istruzione));
+  Mostra_Aiuto(static_cast<std::uintptr_t>(posizione), linea,
+               muto ? "" : Suggerimento(*istruzione));
 }
 
 /// What there is to say of an instruction, below what there is to say of its line.

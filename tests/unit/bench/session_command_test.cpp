@@ -16,9 +16,7 @@ using ::testing::StartsWith;
 class SessionCommand : public Banco_Comandi {
  public:
   std::string Cancello() const { return std::string(TAVORNO_EXAMPLES) + "/us09.AWL"; }
-  std::string In_Cartella(const std::string& nome) const {
-    return (cartella / nome).string();
-  }
+  std::string In_Cartella(const std::string& nome) const { return (cartella / nome).string(); }
   static std::string Leggi(const std::string& file) {
     std::ostringstream testo;
     testo << std::ifstream(file, std::ios::binary).rdbuf();

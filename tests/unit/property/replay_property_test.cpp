@@ -19,7 +19,7 @@ struct Rifatta {
   std::optional<Replica> replica;
   bool Fatale_Visto = false;
 
-  explicit Rifatta(const Registrazione& registrazione) {
+  explicit Rifatta(const Seduta_Registrata& registrazione) {
     Metti_Stato(plc, *registrazione.Programma, registrazione.Stato);
     replica.emplace(plc, registrazione.Voci, registrazione.Voci.Inizio);
     replica->In_Giro = registrazione.Stato.In_Giro != Giro::Nessuno;
@@ -81,7 +81,7 @@ bool Prova(unsigned seme) {
   SCOPED_TRACE("seed " + std::to_string(seme));
   Sessione_Casuale sessione(seme, Impianto_Del_Seme(seme));
   sessione.Gioca(400);
-  const Registrazione registrazione = sessione.registratore->Registrata();
+  const Seduta_Registrata registrazione = sessione.registratore->Registrata();
   Rifatta rifatta(registrazione);
   rifatta.Vai();
   EXPECT_EQ(rifatta.Fatale_Visto, sessione.Fatale_Visto);
@@ -112,7 +112,7 @@ struct Registrata_A_Mano {
     registratore.emplace(seduta.plc);
   }
   void Confronta(Collegamento* fili) {
-    const Registrazione registrazione = registratore->Registrata();
+    const Seduta_Registrata registrazione = registratore->Registrata();
     Rifatta rifatta(registrazione);
     rifatta.Vai();
     EXPECT_EQ(Prima_Differenza(rifatta.Stato(), Elenca_Stato(seduta.plc, fili)), "");
