@@ -18,7 +18,7 @@ constexpr double larghezza_minima = 640;
 constexpr double altezza_riga_lista = 18;
 
 constexpr const char* stile = R"(<style>
-text { font: 12px "DejaVu Sans", "Liberation Sans", sans-serif; fill: #1a1a1a }
+text { font-family: "DejaVu Sans", "Liberation Sans", sans-serif; fill: #1a1a1a }
 path, rect { fill: none; stroke: #1a1a1a; stroke-width: 1.5 }
 .foglio { fill: #ffffff; stroke: none }
 .vivo { stroke: #c00000; stroke-width: 2.5 }
@@ -59,7 +59,7 @@ class Documento {
 
   std::string Fine() {
     y_ += margine;
-    return "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" +
+    return "<svg xmlns=\"http://www.w3.org/2000/svg\" font-size=\"12\" width=\"" +
            std::to_string(static_cast<int>(larghezza_)) + "\" height=\"" +
            std::to_string(static_cast<int>(y_)) + "\">\n" + stile +
            "<rect width=\"100%\" height=\"100%\" class=\"foglio\"/>\n" + testo_ + "</svg>\n";
@@ -88,11 +88,12 @@ Figura_Svg Ritaglia(const Tratteggio_Rete& forme, double da, double larghezza, d
   figura.Altezza = static_cast<int>(altezza);
   const std::string misura =
       std::to_string(figura.Larghezza) + "\" height=\"" + std::to_string(figura.Altezza) + "\"";
-  figura.Svg =
-      "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + misura + " viewBox=\"0 0 " +
-      std::to_string(figura.Larghezza) + " " + std::to_string(figura.Altezza) + "\">\n" + stile +
-      "<rect width=\"" + misura + " class=\"foglio\"/>\n<g transform=\"translate(" +
-      std::to_string(-static_cast<int>(da)) + " 0)\">\n" + Come_Svg(forme, {}) + "</g>\n</svg>\n";
+  figura.Svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" font-size=\"12\" width=\"" + misura +
+               " viewBox=\"0 0 " + std::to_string(figura.Larghezza) + " " +
+               std::to_string(figura.Altezza) + "\">\n" + stile + "<rect width=\"" + misura +
+               " class=\"foglio\"/>\n<g transform=\"translate(" +
+               std::to_string(-static_cast<int>(da)) + " 0)\">\n" + Come_Svg(forme, {}) +
+               "</g>\n</svg>\n";
   return figura;
 }
 
