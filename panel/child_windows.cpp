@@ -205,6 +205,10 @@ void Finestre::Cambia_Simboli(const Esercizio* impianto) {
   if (scala_) scala_->Vista().Nomi_Cambiati();
 }
 
+Finestra_Impianto* Finestre::Impianto() const {
+  return impianto_;
+}
+
 void Finestre::Apri_Impianto(int indice) {
   Al_Presente();
   pannello_.setCursor(Qt::WaitCursor);

@@ -59,7 +59,7 @@ class Finestre {
   void Mostra_Aiuto(const QString& indirizzo);
 
   /// The host window of the open plant, or nullptr.
-  Finestra_Impianto* Impianto() const { return impianto_; }
+  Finestra_Impianto* Impianto() const;
   /// Called before a plant comes or goes and before the editor opens: the past must be over.
   std::function<void()> Al_Presente = [] {};
 
