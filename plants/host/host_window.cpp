@@ -7,7 +7,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QSlider>
 #include <QTabWidget>
 #include <algorithm>
@@ -98,8 +97,7 @@ void Finestra_Impianto::Specchia() {
   comandi_->chkSim->setChecked(collegamento_->chkSim());
   for (std::size_t n = 0; n < collegamento_->Tabella().Cursori.size(); ++n) {
     auto* cursore = findChild<QSlider*>(Q(collegamento_->Tabella().Cursori[n].Nome));
-    const QSignalBlocker zitto(cursore);
-    cursore->setValue(collegamento_->Valore(n));
+    if (cursore != nullptr) cursore->setValue(collegamento_->Valore(n));
   }
   Aggiorna();
   quadro_->update();

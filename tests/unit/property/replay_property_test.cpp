@@ -174,7 +174,7 @@ TEST(Replay, TheLastChangeNamesItsLine) {
   r.plc.Entra(Comando_Corsa::Run);
   int riga = -1;
   ASSERT_TRUE(r.registratore->Ultimo_Cambio(
-      [](const Plc& plc) { return double{plc.IP_Q[0].Bit_Img[0] != 0}; }, riga));
+      [](const Plc& plc) { return plc.IP_Q[0].Bit_Img[0] != 0 ? 1.0 : 0.0; }, riga));
   EXPECT_EQ(Testo_Riga(r.plc.Prog[riga]).substr(0, 1), "=");
   EXPECT_EQ(r.plc.IP_Q[0].Bit_Img[0], 1);
   EXPECT_LT(r.plc.Righe_Fatte, 60);
