@@ -19,6 +19,16 @@ namespace {
 
 constexpr int aria = 8;  // pixels between two ticks
 
+/// Short words need no wide buttons, and all stand in one row then.
+class Tasto_Breve : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+  QSize sizeHint() const override {
+    return {fontMetrics().horizontalAdvance(text()) + 20, QPushButton::sizeHint().height()};
+  }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
 template <class Controllo>
 Controllo* Crea(const char* nome, const QString& testo, const QString& nota) {
   auto* controllo = Chiama(QString::fromLatin1(nome), new Controllo(testo));
@@ -39,11 +49,11 @@ Riga_Comandi::Riga_Comandi(const QString& voce_io, QWidget* sopra)
           Crea<QCheckBox>("chkStriscia", QStringLiteral("Andamento"),
                           QStringLiteral("Mostra l'ultimo minuto delle misure e dei bit scelti"))),
       cmdTempi(
-          Crea<QPushButton>("cmdTempi", QStringLiteral("Tempi"),
+          Crea<Tasto_Breve>("cmdTempi", QStringLiteral("Tempi"),
                             QStringLiteral("Diagramma dei tempi di ingressi e uscite (Ctrl+D)"))),
       cmdSch(
-          Crea<QPushButton>("cmdSch", QStringLiteral("Info"), QStringLiteral("Schema Elettrico"))),
-      cmdEnd(Crea<QPushButton>("cmdEnd", QStringLiteral("Chiudi"), QStringLiteral("Termina"))),
+          Crea<Tasto_Breve>("cmdSch", QStringLiteral("Info"), QStringLiteral("Schema Elettrico"))),
+      cmdEnd(Crea<Tasto_Breve>("cmdEnd", QStringLiteral("Chiudi"), QStringLiteral("Termina"))),
       mnuGuasti(Chiama(QStringLiteral("mnuGuasti"), new QMenu(this))),
       posti_(new QBoxLayout(QBoxLayout::LeftToRight, this)),
       spunte_(new QBoxLayout(QBoxLayout::LeftToRight)),
@@ -74,9 +84,8 @@ Riga_Comandi::Riga_Comandi(const QString& voce_io, QWidget* sopra)
   destra_->addStretch();
   for (QWidget* uno : std::initializer_list<QWidget*>{etRun_, cmdGuasti_, cmdTempi, cmdSch, cmdEnd})
     destra_->addWidget(uno);
-  // Short words need no wide buttons, and all stand in one row then.
   for (QPushButton* tasto : {cmdTempi, cmdSch, cmdEnd})
-    tasto->setFixedWidth(tasto->fontMetrics().horizontalAdvance(tasto->text()) + 20);
+    tasto->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   posti_->setContentsMargins(10, 6, 10, 6);
   posti_->addLayout(spunte_);
   posti_->addLayout(destra_);

@@ -87,7 +87,9 @@ TEST(Vivo, AnAnalogValueIsToldInVolts) {
   auto& vivo = banco.Trova<QTableWidget>("FGrVivo");
   auto& FGr = banco.Trova<QTableWidget>("FGr");
   for (int riga = 0; riga < FGr.rowCount(); ++riga) {
-    if (FGr.item(riga, 2)->text() == "AIW0") EXPECT_EQ(vivo.item(riga, 0)->text(), "7,00 V");
+    if (FGr.item(riga, 2)->text() == "AIW0") {
+      EXPECT_EQ(vivo.item(riga, 0)->text(), "7,00 V");
+    }
   }
 }
 

@@ -70,10 +70,10 @@ TEST_F(Esercizi_Dal_Menu, TheLadderIsOursWhereNoOtherIsInstalledAndNamesThePlant
   progetto.Scrivi_Main("NETWORK 1\r\nLD I0.0\r\n= Q0.0\r\n");
   const auto nomi = [&] {
     scala->Aggiorna();
-    QStringList nomi;
+    QStringList simboli;
     for (const Scritta_Pronta& scritta : scala->Vista().Foglio().Reti().at(0).Scritte)
-      if (scritta.Stile == Stile_Scritta::Simbolo) nomi << scritta.Testo;
-    return nomi;
+      if (scritta.Stile == Stile_Scritta::Simbolo) simboli << scritta.Testo;
+    return simboli;
   };
   EXPECT_EQ(nomi(), QStringList());
   Azione(pannello, Voce(0)).trigger();
