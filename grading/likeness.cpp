@@ -120,7 +120,8 @@ std::vector<Gruppo_Simili> Consegne_Simili(const std::vector<Firma>& firme) {
   for (std::size_t n = 0; n < firme.size(); ++n)
     if (!firme[n].Nomi.empty()) per_nomi[firme[n].Nomi].push_back(n);
   std::vector<Gruppo_Simili> gruppi;
-  for (auto& [firma, quali] : per_nomi) {
+  for (auto& [firma, uguali] : per_nomi) {
+    std::vector<std::size_t>& quali = uguali;
     if (quali.size() < 2) continue;
     const auto tutti = [&](std::string Firma::*parte) {
       return std::ranges::all_of(

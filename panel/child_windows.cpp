@@ -2,6 +2,7 @@
 #include "panel/child_windows.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QShortcut>
 #include <QWindow>
 #include <initializer_list>

@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QRectF>
 #include <QString>
+#include <QStringList>
 #include <string>
 #include <vector>
 
