@@ -93,9 +93,10 @@ void Comandi_Testi::Riempi_Schemi(QMainWindow& finestra) {
     QAction* voce =
         Chiama(Con_Indice("mnuSchema", indice++), menu->addAction(QString::fromUtf8(schema.Voce)));
     voce->setToolTip(QString::fromUtf8(schema.Aiuto));
-    connect(voce, &QAction::triggered, this, [this, &schema] {
-      Cambia_Linee([this, &schema](std::string_view testo, int, int a) {
-        return Metti_Schema(schema, testo, a, Riferimenti(Testi()));
+    const Schema* quale = &schema;  // of a table that outlives all windows
+    connect(voce, &QAction::triggered, this, [this, quale] {
+      Cambia_Linee([this, quale](std::string_view testo, int, int a) {
+        return Metti_Schema(*quale, testo, a, Riferimenti(Testi()));
       });
     });
   }
