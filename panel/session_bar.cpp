@@ -132,7 +132,7 @@ void Barra_Seduta::Crea_Comandi() {
         },
         true);
   Comando(
-      *menu, "mnuSecondoIndietro", "◀ 1 s", "Ctrl+Alt+Left", "Un secondo indietro",
+      *menu, "mnuSecondoIndietro", "◀ 1 s", "Alt+PgUp", "Un secondo indietro",
       [this] { Indietro([this] { return registratore_.Tempo_Indietro(un_secondo); }); }, true);
   solo_nel_passato_ = {
       Comando(
@@ -142,7 +142,7 @@ void Barra_Seduta::Crea_Comandi() {
           *menu, "mnuScansioneAvanti", "s&cansione ▶", "Alt+Shift+Right", "Una scansione avanti",
           [this] { Indietro([this] { return registratore_.Scansione_Avanti(); }); }, true),
       Comando(
-          *menu, "mnuSecondoAvanti", "1 s ▶", "Ctrl+Alt+Right", "Un secondo avanti",
+          *menu, "mnuSecondoAvanti", "1 s ▶", "Alt+PgDown", "Un secondo avanti",
           [this] { Indietro([this] { return registratore_.Tempo_Avanti(un_secondo); }); }, true),
       Comando(
           *menu, "mnuPresente", "&Presente", "Alt+End", "Torna al presente",
@@ -154,7 +154,7 @@ void Barra_Seduta::Crea_Comandi() {
   };
   addSeparator();
   bit_ = Chiama(QStringLiteral("txtBit"), new QLineEdit(QStringLiteral("Q0.0")));
-  bit_->setMaximumWidth(fontMetrics().horizontalAdvance(QStringLiteral("SM00.0.....")));
+  bit_->setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("SM00.0.....")));
   bit_->setToolTip(Q("Il bit o la cella di cui si cerca l'ultimo cambiamento"));
   bit_->setAccessibleName(bit_->toolTip());
   connect(bit_, &QLineEdit::returnPressed, this, [this] { Chi_E_Stato(); });
