@@ -2,6 +2,7 @@
 #include "recorder/ui/diagram_window.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
