@@ -133,9 +133,9 @@ QToolBar* FrmTempi::Crea_Barra_Tempi() {
     auto* azione = Chiama(QString::fromUtf8(comando.Nome), new QAction(Q(comando.Cosa), this));
     azione->setCheckable(comando.Spunta);
     azione->setToolTip(Q(comando.Cosa) + "  (" + Tasti_Come_Testo(comando) + ")");
-    connect(azione, &QAction::triggered, this, [this, &comando] {
+    connect(azione, &QAction::triggered, this, [this, fai = comando.Fai] {
       messaggio_.clear();
-      (this->*comando.Fai)();
+      (this->*fai)();
       Ridisegna();
     });
     azioni_.push_back(azione);
