@@ -2,6 +2,7 @@
 // Lines per second of a program of 300 lines, flat out, with and without the windows that look on;
 // what a run that waits at the top of its scan takes of a processor, and how long the ladder of
 // such a program takes to be drawn anew. Usage: window_benchmark [SECONDS] [ROUNDS]
+// [PART_OF_A_NAME]
 #include <sys/resource.h>
 
 #include <QApplication>
@@ -51,19 +52,24 @@ double Secondi_Di_Processore() {
   return secondi(uso.ru_utime) + secondi(uso.ru_stime);
 }
 
-double Righe_Al_Secondo(Plc& plc, double secondi, const std::function<void()>& corri) {
+struct Misura {
+  double Righe = 0;       ///< lines per second of a processor, so that other work counts less
+  double Processore = 0;  ///< part of a processor that the run took
+};
+
+Misura Misura_Corsa(Plc& plc, double secondi, const std::function<void()>& corri) {
   const auto inizio = Orario::now();
   const double processore = Secondi_Di_Processore();
   corri();
   const std::chrono::duration<double> durata = Orario::now() - inizio;
   if (durata.count() < secondi * 0.5)
     std::exit(2);  // the run ended by itself: nothing was measured
-  // Of a processor, so that what else the machine does counts less.
-  return plc.N_Cicli * (plc.NRighe + 1.0) / (Secondi_Di_Processore() - processore);
+  const double preso = Secondi_Di_Processore() - processore;
+  return {plc.N_Cicli * (plc.NRighe + 1.0) / preso, preso / durata.count()};
 }
 
 // The run loop with a yield that only looks at the time: what the windows are compared with.
-double Senza_Finestre(double secondi) {
+Misura Senza_Finestre(double secondi) {
   Cpu cpu;
   const auto fine = Orario::now() + std::chrono::duration<double>(secondi);
   const Iscrizione ascolto = cpu.plc.Hook.Ascolta_Cedi(
@@ -71,7 +77,7 @@ double Senza_Finestre(double secondi) {
         if (Orario::now() > fine) cpu.plc.mnuPlcStop();
       },
       Guida_Corsa::Righe_Per_Sguardo);
-  return Righe_Al_Secondo(cpu.plc, secondi, [&] { cpu.plc.mnuPlcRun(); });
+  return Misura_Corsa(cpu.plc, secondi, [&] { cpu.plc.mnuPlcRun(); });
 }
 
 /// 300 lines in networks as exercises have them, all of which can be drawn.
@@ -96,39 +102,56 @@ void Leggi_Reti(Cpu& cpu) {
   if (!cpu.progetto.Compilato) std::exit(3);
 }
 
+/// A plant at work: its exercise, what opens the air and what starts it.
+struct Lavoro {
+  std::size_t Esercizio;
+  const char* Soluzione;
+  const char* Aria;
+  const char* Marcia;
+};
+constexpr Lavoro quattro_cilindri{7, "us07.AWL", "imgCom", "imgSB1"};
+constexpr Lavoro miscelatore{13, "us13.AWL", "", "imgSB(0)"};
+
 struct Sguardi {
-  bool Reti = false;      // the program in networks in place of the other one
-  bool Scala = false;     // its ladder is open, and larger than a screen
-  bool Stati = false;     // the status window is open
-  bool Spunte = false;    // stack and images are ticked
-  bool Attesa = false;    // the run waits at the top of its scan
-  bool Tempi = false;     // the timing diagram is open, live
-  bool Valori = false;    // the lines of the list show their values
-  bool Motore = false;    // the first exercise is open and wired to the measured program
-  bool Impianto = false;  // four cylinders at work, with the solved project of that exercise
+  bool Reti = false;                 // the program in networks in place of the other one
+  bool Scala = false;                // its ladder is open, and larger than a screen
+  bool Stati = false;                // the status window is open
+  bool Spunte = false;               // stack and images are ticked
+  bool Attesa = false;               // the run waits at the top of its scan
+  bool Tempi = false;                // the timing diagram is open, live
+  bool Valori = false;               // the lines of the list show their values
+  bool Quiete = false;               // the solved project of the first exercise, at rest
+  bool Motore = false;               // the first exercise is open and wired to the measured program
+  const Lavoro* Impianto = nullptr;  // at work, with the solved project of its exercise
 };
 
-// The solved project in place of the measured one, the air on and the automatic cycle begun.
-std::unique_ptr<Finestra_Impianto> Apri_Cilindri(Cpu& cpu, Stato_Impianto& stato) {
-  constexpr std::size_t quattro_cilindri = 7;
+// The solved project of an exercise in place of the measured program.
+void Leggi_Soluzione(Cpu& cpu, const char* file) {
   cpu.progetto.Riserva = {};  // nobody is there to answer
-  cpu.progetto.File_Progetto = TAVORNO_EXAMPLES "/us07.AWL";
+  cpu.progetto.File_Progetto = std::string(TAVORNO_EXAMPLES "/") + file;
   cpu.progetto.LeggiTxt();
   cpu.progetto.Compila();
+}
+
+std::unique_ptr<Finestra_Impianto> Apri_Al_Lavoro(Cpu& cpu, Stato_Impianto& stato,
+                                                  const Lavoro& lavoro) {
+  Leggi_Soluzione(cpu, lavoro.Soluzione);
   auto finestra = std::make_unique<Finestra_Impianto>(
-      std::make_unique<Collegamento>(cpu.plc, stato, Tabella_Esercizi()[quattro_cilindri]));
+      std::make_unique<Collegamento>(cpu.plc, stato, Tabella_Esercizi()[lavoro.Esercizio]));
   finestra->Fili().Carica();
   finestra->show();
   Impianto& macchina = finestra->Fili().Macchina();
-  macchina.Clic("imgCom");
-  QTimer::singleShot(200, finestra.get(), [&macchina] { macchina.Premi("imgSB1"); });
-  QTimer::singleShot(400, finestra.get(), [&macchina] { macchina.Rilascia("imgSB1"); });
+  if (*lavoro.Aria != 0) macchina.Clic(lavoro.Aria);
+  QTimer::singleShot(200, finestra.get(), [&macchina, &lavoro] { macchina.Premi(lavoro.Marcia); });
+  QTimer::singleShot(400, finestra.get(),
+                     [&macchina, &lavoro] { macchina.Rilascia(lavoro.Marcia); });
   return finestra;
 }
 
-double Con_Pannello(double secondi, Sguardi sguardi) {
+Misura Con_Pannello(double secondi, Sguardi sguardi) {
   Cpu cpu;
   if (sguardi.Reti) Leggi_Reti(cpu);
+  if (sguardi.Quiete) Leggi_Soluzione(cpu, "us00.AWL");
   FrmPLC pannello(cpu.plc, cpu.progetto);
   Guida_Corsa corsa(cpu.plc, [&] { pannello.Aggiorna(); });
   corsa.Attesa = sguardi.Attesa;
@@ -148,7 +171,7 @@ double Con_Pannello(double secondi, Sguardi sguardi) {
   }
   Stato_Impianto stato;
   std::unique_ptr<Finestra_Impianto> impianto;
-  if (sguardi.Impianto) impianto = Apri_Cilindri(cpu, stato);
+  if (sguardi.Impianto != nullptr) impianto = Apri_Al_Lavoro(cpu, stato, *sguardi.Impianto);
   if (sguardi.Motore) {
     impianto = std::make_unique<Finestra_Impianto>(
         std::make_unique<Collegamento>(cpu.plc, stato, Tabella_Esercizi()[0]));
@@ -159,7 +182,7 @@ double Con_Pannello(double secondi, Sguardi sguardi) {
   for (const auto fine = Orario::now() + std::chrono::milliseconds(150); Orario::now() < fine;)
     QApplication::processEvents();
   QTimer::singleShot(static_cast<int>(secondi * 1000), &pannello, [&] { cpu.plc.mnuPlcStop(); });
-  return Righe_Al_Secondo(cpu.plc, secondi, [&] { cpu.plc.mnuPlcRun(); });
+  return Misura_Corsa(cpu.plc, secondi, [&] { cpu.plc.mnuPlcRun(); });
 }
 
 /// Milliseconds of a full redraw of the ladder, live, and of a look at the CPU: medians.
@@ -204,8 +227,12 @@ int main(int argc, char** argv) {
   Apri_Risorse();
   const double secondi = argc > 1 ? std::atof(argv[1]) : 2;
   const int giri = argc > 2 ? std::atoi(argv[2]) : 5;
+  const std::string solo = argc > 3 ? argv[3] : "";
+  const auto chiesto = [&](const char* nome) {
+    return std::string(nome).find(solo) != std::string::npos;
+  };
 
-  const std::vector<std::pair<const char*, std::function<double()>>> casi = {
+  std::vector<std::pair<const char*, std::function<Misura()>>> casi = {
       {"without windows", [&] { return Senza_Finestre(secondi); }},
       {"panel", [&] { return Con_Pannello(secondi, {}); }},
       {"panel, stack and images", [&] { return Con_Pannello(secondi, {.Spunte = true}); }},
@@ -217,11 +244,14 @@ int main(int argc, char** argv) {
       {"in networks, and ladder",
        [&] { return Con_Pannello(secondi, {.Reti = true, .Scala = true}); }},
   };
-  for (const double zoom : {1.0, 0.5, 0.25, 2.0}) Misura_Scala(zoom);
+  std::erase_if(casi, [&](const auto& caso) { return !chiesto(caso.first); });
+  for (const double zoom : {1.0, 0.5, 0.25, 2.0}) {
+    if (chiesto("ladder")) Misura_Scala(zoom);
+  }
   // Round by round, so that a noisy moment of the machine meets every case.
   std::map<const char*, std::vector<double>> misure;
   for (int giro = 0; giro < giri; ++giro) {
-    for (const auto& [nome, misura] : casi) misure[nome].push_back(misura());
+    for (const auto& [nome, misura] : casi) misure[nome].push_back(misura().Righe);
   }
   double primo = 0;
   for (const auto& [nome, misura] : casi) {
@@ -235,10 +265,11 @@ int main(int argc, char** argv) {
 
   // In pairs, one right after the other.
   const auto a_coppie = [&](const char* nome, Sguardi sguardi) {
+    if (!chiesto(nome)) return;
     std::vector<double> costi;
     for (int giro = 0; giro < 3 * giri; ++giro) {
-      const double senza = Con_Pannello(secondi / 2, {});
-      costi.push_back(100 * (1 - Con_Pannello(secondi / 2, sguardi) / senza));
+      const double senza = Con_Pannello(secondi / 2, {}).Righe;
+      costi.push_back(100 * (1 - Con_Pannello(secondi / 2, sguardi).Righe / senza));
     }
     std::sort(costi.begin(), costi.end());
     std::printf("%-32s costs %5.1f %% of the speed (quartiles %.1f and %.1f)\n", nome,
@@ -248,15 +279,18 @@ int main(int argc, char** argv) {
   a_coppie("values in the list", {.Valori = true});
 
   const auto di_un_processore = [&](const char* nome, Sguardi sguardi) {
-    const double prima = Secondi_Di_Processore();
+    if (!chiesto(nome)) return;
     sguardi.Attesa = true;
-    Con_Pannello(secondi, sguardi);
-    std::printf("waiting at the top of the scan, %-32s %5.1f %% of a core\n", nome,
-                100 * (Secondi_Di_Processore() - prima) / secondi);
+    std::printf("%-64s %5.1f %% of a core\n", nome,
+                100 * Con_Pannello(secondi, sguardi).Processore);
   };
-  di_un_processore("panel", {});
-  di_un_processore("panel, stack and images", {.Spunte = true});
-  di_un_processore("panel and status window", {.Stati = true});
-  di_un_processore("panel and live diagram", {.Tempi = true});
-  di_un_processore("panel and four cylinders at work", {.Impianto = true});
+  di_un_processore("waiting at the top of the scan, panel", {});
+  di_un_processore("waiting at the top of the scan, panel, stack and images", {.Spunte = true});
+  di_un_processore("waiting at the top of the scan, panel and status window", {.Stati = true});
+  di_un_processore("waiting at the top of the scan, panel and live diagram", {.Tempi = true});
+  di_un_processore("waiting at the top of the scan, panel and four cylinders at work",
+                   {.Impianto = &quattro_cilindri});
+  di_un_processore("waiting at the top of the scan, panel and a mixer at work",
+                   {.Impianto = &miscelatore});
+  di_un_processore("waiting at the top of the scan, panel and a program at rest", {.Quiete = true});
 }

@@ -42,9 +42,9 @@ void Guida_Corsa::Ferma() {
 
 // ---- time ---------------------------------------------------------------------------------------
 
-Guida_Corsa::Istante Guida_Corsa::Adesso() const {
+Guida_Corsa::Istante Guida_Corsa::Adesso(Istante vero) const {
   if (congelata_ || battito_ != Battito::Nessuno) return base_;
-  const Istante passato = Vero() - base_vera_;
+  const Istante passato = vero - base_vera_;
   if (velocita_ == 1) return base_ + passato;
   return base_ +
          Istante{static_cast<std::int64_t>(static_cast<double>(passato.count()) * velocita_)};
@@ -144,14 +144,16 @@ int Guida_Corsa::Cedi() {
     Riparti_Da(std::chrono::milliseconds{plc_.Tempo.Adesso()});
     congelata_ = altrove_ = false;
   }
-  Istante adesso = Adesso();
+  Istante vero = Vero();  // read once: the clock costs as much as ten lines
+  Istante adesso = Adesso(vero);
   if (plc_.PC == 0) {
-    adesso = Inizia_Scansione(adesso);
-  } else if (Vero() - eventi_ >= Eventi || plc_.Tempo.Prossimo() <= In_Millisecondi(adesso)) {
+    const Istante prima = std::exchange(adesso, Inizia_Scansione(adesso));
+    if (adesso != prima) vero = Vero();
+  } else if (vero - eventi_ >= Eventi || plc_.Tempo.Prossimo() <= In_Millisecondi(adesso)) {
     riposo_.Da_Capo();  // something is about to happen in the middle of a scan
   }
   Porta_Al_Presente(adesso);
-  if (Vero() - eventi_ >= Eventi) Eventi_Di_Finestra();
+  if (vero - eventi_ >= Eventi) Eventi_Di_Finestra();
   if (Si_Batte_Qui()) Aspetta_Il_Battito();
   const bool fermata = Fermati_Qui && !prima_riga_ && Fermati_Qui();
   prima_riga_ = false;
@@ -197,7 +199,7 @@ Guida_Corsa::Istante Guida_Corsa::Inizia_Scansione(Istante adesso) {
 /// changes anything for the program, and counts the scans that would have been run meanwhile.
 Guida_Corsa::Istante Guida_Corsa::Riposa(Istante adesso) {
   do {
-    const Istante finestre = adesso + (eventi_ + Eventi - Vero());
+    const Istante finestre = adesso + (eventi_ + Eventi_A_Riposo - Vero());
     const Istante evento =
         std::chrono::milliseconds{std::min(plc_.Tempo.Prossimo(), In_Millisecondi(finestre) + 1)};
     const Istante fine = std::max(evento, scansione_ + una_scansione);
@@ -209,7 +211,7 @@ Guida_Corsa::Istante Guida_Corsa::Riposa(Istante adesso) {
     Porta_Al_Presente(adesso);
     riposo_.Salta(scansioni);
     cicli_visti_ = plc_.N_Cicli;
-    if (Vero() - eventi_ >= Eventi) {
+    if (Vero() - eventi_ >= Eventi_A_Riposo) {
       Eventi_Di_Finestra();
       adesso = Adesso();
     }

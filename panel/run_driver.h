@@ -52,8 +52,10 @@ class Guida_Corsa {
   /// Asked before each line while there is one; true stops there, in a pause.
   std::function<bool()> Fermati_Qui;
 
-  static constexpr int Righe_Per_Sguardo = 96;             ///< lines between two looks at the time
-  static constexpr std::chrono::milliseconds Eventi{3};    ///< between two rounds of window events
+  static constexpr int Righe_Per_Sguardo = 96;           ///< lines between two looks at the time
+  static constexpr std::chrono::milliseconds Eventi{3};  ///< between two rounds of window events
+  static constexpr std::chrono::milliseconds Eventi_A_Riposo{
+      8};                                                  ///< while no scan changes anything
   static constexpr std::chrono::milliseconds Schermo{20};  ///< between two refreshes
   static constexpr std::chrono::milliseconds A_Riposo{5};  ///< between two moves of the clock
 
@@ -64,7 +66,8 @@ class Guida_Corsa {
   Istante Inizia_Scansione(Istante adesso);
   Istante Riposa(Istante adesso);
   Istante Vero() const { return Istante{cronometro_.nsecsElapsed()}; }
-  Istante Adesso() const;
+  Istante Adesso() const { return Adesso(Vero()); }
+  Istante Adesso(Istante vero) const;
   void Porta_Al_Presente(Istante adesso);
   void Tick();
   void Riparti_Da(Istante adesso);
