@@ -9,6 +9,7 @@
 #include <QSvgRenderer>
 #include <map>
 #include <memory>
+#include <unordered_map>
 
 #include "plants/scene.h"
 
@@ -83,7 +84,7 @@ class Disegni {
   QRectF misura_;
   std::unique_ptr<QSvgRenderer> base_;
   std::map<QString, QString> simboli_;
-  std::map<QString, Pezzo> pezzi_;
+  std::unordered_map<QString, Pezzo> pezzi_;
   std::map<QString, Teso> tesi_;  // what is stretched is drawn anew each time
   QCache<QString, Tenuto> tenuti_;
   double scala_tenuti_ = 0;

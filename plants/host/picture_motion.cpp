@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What moves in a picture: figures on their way between two ticks of the physics, and drawings that
 // run for as long as they are shown.
-#include <QRegion>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "plants/host/picture_widget.h"
 #include "widgets/text.h"
@@ -40,6 +40,7 @@ void Quadro::Riduci_Animazioni(bool ridotte) {
     vista.Ora = Rettangolo(*vista.Di);
     vista.Trascorsi = vista.Durata = 0;
     vista.Fase = 0;
+    vista.Ultimo = Occupato(vista);
   }
   update();
   if (!ridotte && !ritmo_.isActive()) ritmo_.start();
@@ -60,11 +61,9 @@ bool Quadro::Si_Muove() const {
   });
 }
 
-void Quadro::Sporca(Vista& vista) {
-  const QRectF ora = Occupato(vista);
-  update(vista.Ultimo.toAlignedRect());
-  update(ora.toAlignedRect());
-  vista.Ultimo = ora;
+QRectF Quadro::Sporca(Vista& vista) {
+  const QRectF prima = std::exchange(vista.Ultimo, Occupato(vista));
+  return prima | vista.Ultimo;
 }
 
 // A figure glides for as long as its last step took, so that steady ticks make a steady way.
@@ -87,6 +86,7 @@ void Quadro::Nota(Vista& vista) {
 
 void Quadro::Avanza(int ms) {
   tempo_ += ms;
+  QRectF sporco;
   const std::vector<Figura*> cambiate = impianto_.Disegno.Prendi_Cambiate();
   for (Vista& vista : viste_) {
     const bool cambiata = std::ranges::find(cambiate, vista.Di) != cambiate.end();
@@ -101,8 +101,10 @@ void Quadro::Avanza(int ms) {
     }
     const bool corre = Corre(vista);
     if (corre) vista.Fase = static_cast<int>(tempo_ / Ritmo % Disegni::Fasi);
-    if (cambiata || in_via || corre) Sporca(vista);
+    if (cambiata || in_via || corre) sporco |= Sporca(vista);
   }
+  // One rectangle: what is clipped to many of them is drawn several times as slowly.
+  if (!sporco.isEmpty()) update(sporco.toAlignedRect());
 }
 
 void Quadro::showEvent(QShowEvent* evento) {

@@ -35,6 +35,7 @@ Quadro::Quadro(Impianto& impianto, const QString& file, QWidget* sopra)
   for (Figura& figura : impianto_.Disegno) {
     Vista vista;
     vista.Di = &figura;
+    vista.Scritta.setTextFormat(Qt::PlainText);
     vista.A_Riposo = vista.Ora = Rettangolo(figura);
     vista.Gruppo_Ora = Gruppo(figura);
     vista.Morsetti = Leggi_Morsetti(figura);
@@ -123,16 +124,30 @@ void Quadro::paintEvent(QPaintEvent* evento) {
   QPainter pittore(this);
   pittore.setRenderHint(QPainter::Antialiasing);
   pittore.translate(Origine());
-  for (Vista& vista : viste_) vista.Ultimo = Occupato(vista);
-  Disegna_Tutto(pittore, Scala(), evento->region());
+  if (sfondo_.size() != Punti_Di_Schermo()) Misura_Da_Capo();
+  pittore.drawPixmap(-Origine(), sfondo_);
+  Disegna_Figure(pittore, Scala(), evento->region());
   pittore.translate(-Origine());
   Disegna_Indicate(pittore);
   Disegna_Mano(pittore);
 }
 
-void Quadro::Disegna_Tutto(QPainter& pittore, double scala, const QRegion& dove) {
-  for (const QRect& parte : dove) pittore.fillRect(QRectF(parte).translated(-Origine()), fondo);
-  disegni_.Disegna(pittore, QStringLiteral("fondo"), 0, 0, scala, {});
+QSize Quadro::Punti_Di_Schermo() const {
+  return (QSizeF(size()) * devicePixelRatioF()).toSize().expandedTo({1, 1});
+}
+
+// What stands still is one opaque picture, which is copied faster than anything is blended.
+void Quadro::Misura_Da_Capo() {
+  for (Vista& vista : viste_) vista.Ultimo = Occupato(vista);
+  sfondo_ = QPixmap(Punti_Di_Schermo());
+  sfondo_.setDevicePixelRatio(devicePixelRatioF());
+  sfondo_.fill(fondo);
+  QPainter pittore(&sfondo_);
+  pittore.translate(Origine());
+  disegni_.Disegna(pittore, QStringLiteral("fondo"), 0, 0, Scala(), {});
+}
+
+void Quadro::Disegna_Figure(QPainter& pittore, double scala, const QRegion& dove) {
   for (Vista& vista : viste_) {
     if (vista.Di->Visible() && dove.intersects(vista.Ultimo.toAlignedRect()))
       Disegna_Figura(pittore, vista, scala);
@@ -158,9 +173,16 @@ void Quadro::Disegna_Figura(QPainter& pittore, Vista& vista, double scala) {
   carattere.setPixelSize(std::max(7, static_cast<int>(120 * scala)));
   pittore.setFont(carattere);
   pittore.setPen(Tinta_Testo(figura.ForeColor()));
+  // Its glyphs are looked up once and not at each drawing.
+  const QString testo = Q(figura.Caption());
+  if (vista.Scritta.text() != testo) vista.Scritta.setText(testo);
+  vista.Scritta.prepare({}, carattere);
   QRectF posto(vista.Ora.topLeft() * scala, vista.Ora.size() * scala);
   if (premuta) posto.translate(0, 10 * scala);
-  pittore.drawText(posto, Qt::AlignCenter | Qt::TextDontClip, Q(figura.Caption()));
+  const QSizeF grande = vista.Scritta.size();
+  const QPointF libero((posto.width() - grande.width()) / 2,
+                       (posto.height() - grande.height()) / 2);
+  pittore.drawStaticText(posto.topLeft() + libero, vista.Scritta);
 }
 
 /// What the hand can reach and what the keys are on.

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QPixmap>
+#include <QStaticText>
 #include <QTimer>
 #include <QWidget>
 #include <functional>
@@ -98,6 +100,7 @@ class Quadro : public QWidget {
     qint64 Mossa = -10000;
     int Fase = 0;
     QString Gruppo_Ora;
+    QStaticText Scritta;
     QStringList Morsetti;  ///< addresses that it stands for
   };
 
@@ -108,12 +111,14 @@ class Quadro : public QWidget {
   bool Si_Opera(const Figura& figura) const;
   bool Gira(const Figura& figura, int passi);
   bool Fai(Cosa che, const Figura& figura, double valore = 0);
-  void Disegna_Tutto(QPainter& pittore, double scala, const QRegion& dove);
+  QSize Punti_Di_Schermo() const;
+  void Misura_Da_Capo();
+  void Disegna_Figure(QPainter& pittore, double scala, const QRegion& dove);
   void Disegna_Figura(QPainter& pittore, Vista& vista, double scala);
   void Disegna_Mano(QPainter& pittore);
   QTransform Posa(const Vista& vista, double scala) const;
   QRectF Occupato(const Vista& vista) const;
-  void Sporca(Vista& vista);
+  QRectF Sporca(Vista& vista);
   void Nota(Vista& vista);
   bool Corre(const Vista& vista) const;
   const Vista* Vista_Di(const QString& nome) const;
@@ -136,6 +141,7 @@ class Quadro : public QWidget {
   Impianto& impianto_;
   mutable Disegni disegni_;
   std::vector<Vista> viste_;  // in drawing order
+  QPixmap sfondo_;            // what stands still, for the present size
   QTimer ritmo_;
   QElapsedTimer orologio_;
   qint64 tempo_ = 0;  // of the view, ms
