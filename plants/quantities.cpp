@@ -74,8 +74,9 @@ double Letto(const Grandezza& grandezza, const Plc& plc, Impianto& macchina) {
 }  // namespace
 
 std::span<const Grandezza> Grandezze_Di(int impianto) {
-  const auto trovate = std::ranges::equal_range(tutte, impianto, {}, &Grandezza::Impianto);
-  return {trovate.begin(), trovate.end()};
+  const auto prima = std::ranges::lower_bound(tutte, impianto, {}, &Grandezza::Impianto);
+  const auto dopo = std::ranges::upper_bound(tutte, impianto, {}, &Grandezza::Impianto);
+  return {prima, dopo};
 }
 
 double Valore(const Grandezza& grandezza, const Plc& plc, Impianto& macchina) {

@@ -36,12 +36,13 @@ void Crea_Menu(QMainWindow& finestra, std::span<const Voce_Menu> voci) {
     const auto livello = static_cast<std::size_t>(voce.Livello);
     QMenu* sopra = livello > 0 ? aperto[livello - 1] : nullptr;
     const QString testo = QString::fromUtf8(voce.Testo);
-    if (*voce.Nome == '\0') {
-      sopra->addSeparator();
-    } else if (livello == 0 || (i + 1 < voci.size() && voci[i + 1].Livello > voce.Livello)) {
+    const bool porta_voci = i + 1 < voci.size() && voci[i + 1].Livello > voce.Livello;
+    if (sopra == nullptr || porta_voci) {
       QMenu* menu = sopra == nullptr ? finestra.menuBar()->addMenu(testo) : sopra->addMenu(testo);
       Prepara(*menu->menuAction(), voce);
       aperto[livello] = menu;
+    } else if (*voce.Nome == '\0') {
+      sopra->addSeparator();
     } else {
       Prepara(*sopra->addAction(testo), voce);
       sopra->setToolTipsVisible(sopra->toolTipsVisible() || *voce.Aiuto != '\0');
