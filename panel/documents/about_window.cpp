@@ -103,10 +103,10 @@ FrmAbaut::FrmAbaut(QWidget* sopra)
 
   auto* piede = new QHBoxLayout;
   piede->addWidget(Etichetta("EtV2", Q("Ver. %1.%2.%3   %4")
-                                         .arg(Versione.Maggiore)
-                                         .arg(Versione.Minore)
-                                         .arg(Versione.Revisione)
-                                         .arg(Q(Versione.Licenza))));
+                                         .arg(Dati_Programma.Maggiore)
+                                         .arg(Dati_Programma.Minore)
+                                         .arg(Dati_Programma.Revisione)
+                                         .arg(Q(Dati_Programma.Licenza))));
   piede->addStretch();
   piede->addWidget(chiudi);
 
@@ -143,7 +143,7 @@ QLayout* FrmAbaut::Crea_Testata() {
   grassetto.setBold(true);
   cosa->setFont(grassetto);
   testi->addWidget(cosa, 1, 0);
-  testi->addWidget(Etichetta("etver", Q(Versione.Descrizione)), 2, 0);
+  testi->addWidget(Etichetta("etver", Q(Dati_Programma.Descrizione)), 2, 0);
 
   auto* riga = new QHBoxLayout;
   riga->setSpacing(18);
