@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,13 @@
 // are three unrelated cells. Flags are -1 for true in 16-bit words; bit cells hold 0 or 1.
 namespace tavorno {
 
+/// Equality of two texts that are mostly those of a byte: eight characters are one comparison.
+inline bool Stesso_Byte(const std::string& uno, const std::string& altro) {
+  constexpr std::size_t bit = 8;
+  if (uno.size() != altro.size()) return false;
+  return uno.size() == bit ? std::memcmp(uno.data(), altro.data(), bit) == 0 : uno == altro;
+}
+
 /// One byte of inputs or outputs. Cells 0..7 are its bits; cell 8 exists and takes writes, and
 /// nothing reads it into a byte value.
 struct Riga_IP {
@@ -22,7 +30,10 @@ struct Riga_IP {
   std::int16_t Val_B = 0;                       ///< value of the byte, 0..255
   std::string Txt_B;                            ///< the byte in reading order, bit 7 first
 
-  bool operator==(const Riga_IP&) const = default;
+  bool operator==(const Riga_IP& altra) const {
+    return Bit_Dir == altra.Bit_Dir && Bit_Img == altra.Bit_Img && Val_B == altra.Val_B &&
+           Stesso_Byte(Txt_B, altra.Txt_B);
+  }
 };
 
 /// One byte of markers. Whoever writes its cells brings value and text up to date by
@@ -32,7 +43,9 @@ struct Riga_M {
   std::int16_t Val_B = 0;
   std::string Txt_B;
 
-  bool operator==(const Riga_M&) const = default;
+  bool operator==(const Riga_M& altra) const {
+    return Bit == altra.Bit && Val_B == altra.Val_B && Stesso_Byte(Txt_B, altra.Txt_B);
+  }
 };
 
 /// One byte of sequence control relays: the only bit area with 16-bit cells, and without a value.

@@ -37,7 +37,8 @@ void Riposo::Fotografa(std::size_t lato) {
 
 bool Riposo::Uscite_Come_Allora() const {
   for (std::size_t n = 0; n < 2; ++n) {
-    if (!plc_.SQ[n].In_Pari() || plc_.SQ[n].Stato_Q() != foto_[lato_].Uscite[n]) return false;
+    if (!plc_.SQ[n].In_Pari() || !Stesso_Byte(plc_.SQ[n].Stato_Q(), foto_[lato_].Uscite[n]))
+      return false;
   }
   return true;
 }
@@ -49,9 +50,9 @@ bool Riposo::Come_Allora() const {
       !(plc_.Scelte == foto.Scelte) || !Uscite_Come_Allora())
     return false;
   for (std::size_t n = 0; n < 2; ++n) {
-    if (plc_.SI[n].Stato_I() != foto.Ingressi[n] ||
+    if (!Stesso_Byte(plc_.SI[n].Stato_I(), foto.Ingressi[n]) ||
         plc_.SI[n].Stato_IB() != foto.Byte_Ingressi[n] ||
-        plc_.SI[n].Stato_BitI() != foto.Lettura_Ingressi[n])
+        !Stesso_Byte(plc_.SI[n].Stato_BitI(), foto.Lettura_Ingressi[n]))
       return false;
   }
   return static_cast<const Celle&>(plc_) == foto.Memoria;
