@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <lua5.4/lua.hpp>
+#include <map>
+#include <utility>
 
 #include "grading/lua_messages.h"
 #include "grading/script_functions.h"
@@ -17,9 +19,32 @@ constexpr std::size_t note_massime = 100;
 constexpr std::size_t richieste_massime = 1000;
 constexpr double arrotondamento = 1e-6;  // of marks like 0,1
 
+int Carica(lua_State* stato, const std::string& testo, const std::string& nome, const char* tipo) {
+  return luaL_loadbufferx(stato, testo.data(), testo.size(), ("@" + nome).c_str(), tipo);
+}
+
+/// A script as Lua's own code; empty when it has a fault.
+std::string Compilato(const Sorgente_Script& script) {
+  const Recinto recinto{Limiti_Script{}};
+  std::string codice;
+  const lua_Writer scrivi = [](lua_State* /*stato*/, const void* dati, std::size_t quanti,
+                               void* dove) {
+    static_cast<std::string*>(dove)->append(static_cast<const char*>(dati), quanti);
+    return 0;
+  };
+  if (Carica(recinto.Stato(), script.Testo, script.Nome, "t") == LUA_OK)
+    lua_dump(recinto.Stato(), scrivi, &codice, 0);
+  return codice;
+}
+
 int Carica(lua_State* stato, const Sorgente_Script& script) {
-  return luaL_loadbufferx(stato, script.Testo.data(), script.Testo.size(),
-                          ("@" + script.Nome).c_str(), "t");
+  // Hand-ins are many and scripts are few: each thread reads a script once.
+  thread_local std::map<std::pair<std::string, std::string>, std::string> compilati;
+  const auto [compilato, nuovo] = compilati.try_emplace({script.Nome, script.Testo});
+  if (nuovo) compilato->second = Compilato(script);
+  const std::string& codice = compilato->second;
+  return codice.empty() ? Carica(stato, script.Testo, script.Nome, "t")
+                        : Carica(stato, codice, script.Nome, "b");
 }
 
 std::string Messaggio(lua_State* stato) {
