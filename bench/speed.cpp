@@ -15,7 +15,7 @@ Velocita Misura(Plc& plc, std::chrono::milliseconds durata) {
   const auto inizio = Orario::now();
   const std::chrono::nanoseconds processore = Tempo_Del_Processo();
   plc.mnuPlcCont();
-  Avvia_Guidata(plc, &Plc::mnuPlcRun);
+  Avvia_Guidata(plc, Comando_Corsa::Run);
   velocita.Righe = 1;
   auto passato = Orario::duration{0};
   while (passato < durata && plc.PLC_Acceso) {

@@ -58,12 +58,9 @@ void Prepara(Seduta& seduta, const std::string& percorso, Ambiente_Script& ambie
   ambiente.Listato = Senza_CR(A_Utf8(seduta.progetto.Lista_Comp));
 }
 
-}  // namespace
-
-Esito_Progetto Esamina(const std::string& percorso, const Verifiche& verifiche, Traccia* traccia) {
-  Esito_Progetto esito;
-  esito.Progetto = percorso;
-  esito.Data = Ultima_Modifica(percorso);
+/// What goes wrong in the bench itself fails the hand-in, and says so.
+template <class Azione>
+void Con_Riguardo(Esito_Progetto& esito, Azione azione) {
   const auto Fallisci = [&](const std::string& perche) {
     Caso caso;
     caso.Nome = "esame";
@@ -71,24 +68,60 @@ Esito_Progetto Esamina(const std::string& percorso, const Verifiche& verifiche, 
     esito.Casi.push_back(std::move(caso));
   };
   try {
-    const auto seduta = std::make_unique<Seduta>();
-    Ambiente_Script ambiente;
-    ambiente.Impianto = verifiche.Impianto;
-    ambiente.Registra = traccia;
-    ambiente.Solo_Caso = verifiche.Solo_Caso;
-    ambiente.Basta_Un_Errore = verifiche.Basta_Un_Errore;
-    ambiente.Limiti = verifiche.Limiti;
-    ambiente.Inizio = verifiche.Inizio;
-    Prepara(*seduta, percorso, ambiente, esito);
-    for (const Sorgente_Script& script : verifiche.Script) {
-      Esame esame(script, ambiente);
-      for (Caso& caso : esame.Esegui()) esito.Casi.push_back(std::move(caso));
-    }
-    if (!ambiente.Programma && esito.Superato()) Fallisci(ambiente.Motivo);
-    if (esito.Casi.empty()) Fallisci("nessuno script contiene una prova che si possa eseguire");
+    azione(Fallisci);
   } catch (const std::exception& errore) {
     Fallisci(std::string("errore interno del banco: ") + errore.what());
   }
+}
+
+Ambiente_Script Ambiente_Di(const Verifiche& verifiche, Traccia* traccia) {
+  Ambiente_Script ambiente;
+  ambiente.Impianto = verifiche.Impianto;
+  ambiente.Registra = traccia;
+  ambiente.Solo_Caso = verifiche.Solo_Caso;
+  ambiente.Basta_Un_Errore = verifiche.Basta_Un_Errore;
+  ambiente.Limiti = verifiche.Limiti;
+  ambiente.Inizio = verifiche.Inizio;
+  ambiente.Al_Caso = verifiche.Al_Caso;
+  ambiente.Riprendi = verifiche.Riprendi;
+  return ambiente;
+}
+
+template <class Fallimento>
+void Esegui_Script(const Verifiche& verifiche, const Ambiente_Script& ambiente,
+                   const Fallimento& fallisci, Esito_Progetto& esito) {
+  for (const Sorgente_Script& script : verifiche.Script) {
+    Esame esame(script, ambiente);
+    for (Caso& caso : esame.Esegui()) esito.Casi.push_back(std::move(caso));
+  }
+  if (!ambiente.Programma && esito.Superato()) fallisci(ambiente.Motivo);
+  if (esito.Casi.empty()) fallisci("nessuno script contiene una prova che si possa eseguire");
+}
+
+}  // namespace
+
+Esito_Progetto Esamina_Programma(const Memoria& programma, const Verifiche& verifiche,
+                                 Traccia* traccia) {
+  Esito_Progetto esito;
+  esito.Compilato = true;
+  Con_Riguardo(esito, [&](const auto& fallisci) {
+    Ambiente_Script ambiente = Ambiente_Di(verifiche, traccia);
+    ambiente.Programma = &programma;
+    Esegui_Script(verifiche, ambiente, fallisci, esito);
+  });
+  return esito;
+}
+
+Esito_Progetto Esamina(const std::string& percorso, const Verifiche& verifiche, Traccia* traccia) {
+  Esito_Progetto esito;
+  esito.Progetto = percorso;
+  esito.Data = Ultima_Modifica(percorso);
+  Con_Riguardo(esito, [&](const auto& fallisci) {
+    const auto seduta = std::make_unique<Seduta>();
+    Ambiente_Script ambiente = Ambiente_Di(verifiche, traccia);
+    Prepara(*seduta, percorso, ambiente, esito);
+    Esegui_Script(verifiche, ambiente, fallisci, esito);
+  });
   return esito;
 }
 

@@ -18,7 +18,13 @@ struct Verifiche {
   bool Basta_Un_Errore = false;  ///< cases behind the first that fails are not run
   Limiti_Script Limiti;
   Scorte Inizio;
+  Chi_Guarda Al_Caso;     ///< called behind each case; may be empty
+  bool Riprendi = false;  ///< with film and times
 };
+
+/// Runs all scripts on a compiled program. Never throws for what the program or a script does.
+Esito_Progetto Esamina_Programma(const Memoria& programma, const Verifiche& verifiche,
+                                 Traccia* traccia = nullptr);
 
 /// Compiles a project and runs all scripts on it. Never throws for what the project or a script
 /// does: a project that cannot be read or compiled fails every case, and still counts its marks.

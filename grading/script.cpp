@@ -8,7 +8,6 @@
 
 #include "grading/lua_messages.h"
 #include "grading/script_functions.h"
-#include "trace/trace.h"
 
 namespace tavorno {
 
@@ -98,6 +97,7 @@ const Esercizio* Esame::Leggi() {
 std::vector<Caso> Esame::Esegui() {
   Leggi();
   for (const Prova& prova : prove_) {
+    if (scorte_.Ferma.stop_requested()) break;
     if (Voluta(prova)) Esegui_Prova(prova);
   }
   return std::move(casi_);
@@ -157,16 +157,26 @@ void Esame::Inizia(const std::string& nome, std::optional<double> massimo) {
   const bool troppe = scorte_.Righe < 0;
   banco_ = std::make_unique<Collaudo>(troppe ? nullptr : ambiente_.Programma,
                                       troppe ? Collaudo::troppe_righe : ambiente_.Motivo, impianto_,
-                                      scorte_);
+                                      scorte_, ambiente_.Riprendi);
   Caso caso;
   caso.Script = script_.Nome;
   caso.Nome = Accorcia(nome);
   casi_.push_back(std::move(caso));
-  if (ambiente_.Registra) {
-    ambiente_.Registra->Inizia_Caso(casi_.back().Nome);
-    banco_->Campione = [this] { ambiente_.Registra->Campiona(banco_->Tempo(), banco_->Cpu()); };
-    banco_->Campione();
-  }
+  film_.reset();
+  Registra_Tempi();
+}
+
+void Esame::Registra_Tempi() {
+  if (ambiente_.Riprendi) tempi_.emplace(impianto_);
+  std::vector<Traccia*> tracce;
+  if (ambiente_.Registra) tracce.push_back(ambiente_.Registra);
+  if (tempi_) tracce.push_back(&*tempi_);
+  if (tracce.empty()) return;
+  for (Traccia* traccia : tracce) traccia->Inizia_Caso(casi_.back().Nome);
+  banco_->Campione = [this, tracce] {
+    for (Traccia* traccia : tracce) traccia->Campiona(banco_->Tempo(), banco_->Cpu());
+  };
+  banco_->Campione();
 }
 
 void Esame::Fine() {
@@ -176,6 +186,7 @@ void Esame::Fine() {
     conto_.Senza_Punti = true;
     caso.Rilievi.insert(caso.Rilievi.begin(), {banco_->Istante_Guasto(), banco_->Guasto()});
     caso.Listato = ambiente_.Programma ? banco_->Listato() : ambiente_.Listato;
+    film_ = banco_->Ripresa();
   }
   if (conto_.Senza_Punti) caso.Punti = 0;
   caso.Massimo = conto_.Dichiarati.value_or(conto_.Contati);
@@ -185,6 +196,10 @@ void Esame::Fine() {
                    Testo_Punti(conto_.Contati));
   if (caso.Punti > caso.Massimo - arrotondamento) caso.Punti = caso.Massimo;
   if (ambiente_.Registra) ambiente_.Registra->Fine_Caso(caso.Ms);
+  if (tempi_) tempi_->Fine_Caso(caso.Ms);
+  if (ambiente_.Al_Caso)
+    ambiente_.Al_Caso({caso, casi_.size(), std::max(casi_.size(), prove_.size()),
+                       film_ ? &*film_ : nullptr, tempi_ ? &*tempi_ : nullptr});
   banco_.reset();
   ++Numero_Caso;
 }
@@ -196,6 +211,10 @@ bool Esame::Si_Giudica() {
 
 void Esame::Rileva(const std::string& testo) {
   Caso& caso = Adesso();
+  if (ambiente_.Riprendi && !film_) {
+    film_ = banco_->Ripresa();
+    film_->Titolo = caso.Nome;
+  }
   if (caso.Rilievi.size() < rilievi_massimi)
     caso.Rilievi.push_back({banco_->Tempo(), Accorcia(testo)});
 }

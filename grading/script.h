@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
@@ -11,10 +12,19 @@
 #include "grading/sandbox.h"
 #include "grading/script_files.h"
 #include "grading/test_bed.h"
+#include "trace/trace.h"
 
 namespace tavorno {
 
-class Traccia;
+/// A case that has just been played, for who looks on. All of it goes when the call ends.
+struct Caso_Giocato {
+  const Caso& Esito;
+  std::size_t Numero, Tutti;  ///< from 1; of the cases of this script
+  /// What entered up to the first finding, when it was written down; nullptr for a passed case.
+  const Seduta_Registrata* Film;
+  const Traccia* Tempi;  ///< its inputs and outputs, when they were recorded
+};
+using Chi_Guarda = std::function<void(const Caso_Giocato&)>;
 
 /// What scripts are run against.
 struct Ambiente_Script {
@@ -27,6 +37,8 @@ struct Ambiente_Script {
   bool Basta_Un_Errore = false;  ///< no case behind the first that fails
   Scorte Inizio;                 ///< what each script may spend
   Limiti_Script Limiti;
+  Chi_Guarda Al_Caso;     ///< called behind each case; may be empty
+  bool Riprendi = false;  ///< with film and times
 };
 
 /// One script at work on one program.
@@ -86,6 +98,7 @@ class Esame {
   bool Voluta(const Prova& prova) const;
   void Esegui_Prova(const Prova& prova);
   void Inizia(const std::string& nome, std::optional<double> massimo);
+  void Registra_Tempi();
   void Fine();
   bool Si_Giudica();
   void Registra(bool premessa, double punti, bool soddisfatta, const std::string& testo);
@@ -103,6 +116,8 @@ class Esame {
   std::vector<Prova> prove_;
   std::vector<Caso> casi_;
   Conto conto_;
+  std::optional<Seduta_Registrata> film_;  // of the present case
+  std::optional<Traccia> tempi_;
   std::unique_ptr<Collaudo> banco_;  // of the present case
   Recinto recinto_;
 };

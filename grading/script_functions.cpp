@@ -148,7 +148,7 @@ int Fa_Ingresso(lua_State* stato, Esame& esame) {
 int Fa_Analogico(lua_State* stato, Esame& esame) {
   const long long canale = Arg_Intero(stato, 1, "analogico", 0, 2);
   const double volt = Arg_Numero(stato, 2, "analogico", -1000, 1000);
-  esame.Banco().Cpu().Volt_AI[static_cast<int>(canale)] = static_cast<float>(volt);
+  esame.Banco().Volt(static_cast<int>(canale), volt);
   return 0;
 }
 

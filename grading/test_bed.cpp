@@ -2,8 +2,10 @@
 #include "grading/test_bed.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "plc/codepage.h"
+#include "recorder/door.h"
 #include "recorder/driven_run.h"
 #include "recorder/hands.h"
 
@@ -34,13 +36,17 @@ std::string Elenco(const std::vector<std::string>& nomi) {
 }  // namespace
 
 Collaudo::Collaudo(const Memoria* programma, const std::string& motivo, const Esercizio* esercizio,
-                   Scorte& scorte)
+                   Scorte& scorte, bool registra)
     : scorte_(scorte) {
   ascolto_ = plc_.Hook.Mostra.Ascolta([this](const Avviso& avviso) { avvisi_.push_back(avviso); });
   if (programma)
     static_cast<Memoria&>(plc_) = *programma;
   else
     guasto_ = motivo;
+  if (registra) {
+    scriba_ = std::make_unique<Registratore>(plc_);
+    scriba_->Ms_Tra_Tappe = scriba_->Righe_Tra_Tappe = std::numeric_limits<std::int64_t>::max();
+  }
   if (esercizio) {
     filo_ = std::make_unique<Collegamento>(plc_, stato_, *esercizio);
     filo_->Carica();
@@ -62,6 +68,7 @@ void Collaudo::Proteggi(Azione azione) {
   } catch (const Fatale& fatale) {
     std::string rapporto = Rapporto_Fatale(fatale, plc_);
     std::ranges::replace(rapporto, '\n', ' ');
+    fatale_ = true;
     Rompi("Errore fatale del programma: " + rapporto);
   }
   Campiona();
@@ -97,13 +104,18 @@ void Collaudo::Run() {
   if (plc_.PLC_Acceso) return;
   Proteggi([this] {
     riposo_.Da_Capo();
-    Avvia_Guidata(plc_, &Plc::mnuPlcRun);
+    Avvia_Guidata(plc_, Comando_Corsa::Run);
     if (plc_.Modo_Run != Modo::Step && plc_.N_Cicli == 0) Scansione();
   });
 }
 
 void Collaudo::Stop() {
-  if (plc_.PLC_Acceso) Proteggi([this] { plc_.mnuPlcStop(); });
+  if (!plc_.PLC_Acceso) return;
+  Proteggi([this] {
+    plc_.Entra(
+        Comando_Corsa::Pausa);  // played again, the loop runs no line more, as it does not here
+    plc_.Entra(Comando_Corsa::Stop);
+  });
 }
 
 void Collaudo::Scegli_Modo(Modo modo) {
@@ -116,13 +128,13 @@ void Collaudo::Scegli_Modo(Modo modo) {
   Proteggi([&] {
     switch (modo) {
       case Modo::Cont:
-        Avvia_Guidata(plc_, &Plc::mnuPlcCont);
+        Avvia_Guidata(plc_, Comando_Corsa::Cont);
         break;
       case Modo::Ciclo:
-        plc_.mnuPlcCiclo();
+        plc_.Entra(Comando_Corsa::Ciclo);
         break;
       case Modo::Step:
-        plc_.mnuPlcStep();
+        plc_.Entra(Comando_Corsa::Step);
         break;
     }
   });
@@ -133,7 +145,7 @@ void Collaudo::Passo() {
   if (!plc_.PLC_Acceso || plc_.Modo_Run != Modo::Step)
     throw Errore_Script("passo: serve la CPU in RUN nel modo Step");
   Proteggi([this] {
-    plc_.CmdStep();
+    plc_.Entra(Comando_Corsa::Passo);
     riposo_.Da_Capo();
     --scorte_.Righe;
   });
@@ -151,7 +163,12 @@ void Collaudo::Cicli(int quanti) {
 
 void Collaudo::Consuma(std::int64_t ms) {
   scorte_.Ms -= ms;
+  if (scorte_.Ferma.stop_requested()) throw Limite_Superato("l'esame è stato interrotto");
   if (scorte_.Ms < 0) throw Limite_Superato("lo script supera il limite di tempo virtuale");
+}
+
+void Collaudo::Passano(std::int64_t ms) {
+  plc_.Entra({.Che = Cosa::Passano, .Numero = ms});
 }
 
 void Collaudo::Un_Millisecondo(bool scansione) {
@@ -161,7 +178,7 @@ void Collaudo::Un_Millisecondo(bool scansione) {
     return;
   }
   Proteggi([&] {
-    orologio_.Avanza(1);
+    Passano(1);
     if (!scansione) return;
     const bool riposa = !scorte_.Ogni_Scansione && riposo_.Riposa();
     if (riposa && riposo_.Saltabili(1) > 0 && riposo_.Righe(1) <= scorte_.Righe)
@@ -187,7 +204,7 @@ std::int64_t Collaudo::Salta(std::int64_t ms) {
                 scorte_.Righe / std::max<std::int64_t>(riposo_.Righe(due), 1) * due}));
   if (ms <= 0) return 0;
   Consuma(ms);
-  orologio_.Avanza(ms);
+  Passano(ms);
   Lascia_Fuori(ms);
   Campiona();
   return ms;
@@ -211,6 +228,13 @@ void Collaudo::Passa(std::int64_t ms) {
 
 std::vector<Avviso> Collaudo::Prendi_Avvisi() {
   return std::exchange(avvisi_, {});
+}
+
+std::optional<Seduta_Registrata> Collaudo::Ripresa() {
+  if (!scriba_) return {};
+  Seduta_Registrata ripresa = scriba_->Registrata();
+  if (fatale_ && plc_.Righe_Fatte > 0) --ripresa.Voci.Ultima_Riga;
+  return ripresa;
 }
 
 // ---- the user's hand ----------------------------------------------------------------------------
@@ -241,9 +265,13 @@ Figura& Collaudo::Elemento_Operabile(std::string_view nome) {
                       Elenco(nomi));
 }
 
+void Collaudo::Mano(Cosa cosa, std::string_view nome) {
+  filo_->Entra({.Che = cosa, .Testo = nome});
+}
+
 bool Collaudo::Premi(std::string_view nome) {
   if (!Elemento_Operabile(nome).Visible) return false;
-  if (premuti_.emplace(nome).second) Proteggi([&] { Macchina().Premi(nome); });
+  if (premuti_.emplace(nome).second) Proteggi([&] { Mano(Cosa::Premi, nome); });
   return true;
 }
 
@@ -253,8 +281,8 @@ bool Collaudo::Rilascia(std::string_view nome) {
   if (premuto == premuti_.end()) return false;
   premuti_.erase(premuto);
   Proteggi([&] {
-    Macchina().Rilascia(nome);
-    Macchina().Clic(nome);
+    Mano(Cosa::Rilascia, nome);
+    Mano(Cosa::Clic, nome);
   });
   return true;
 }
@@ -275,8 +303,8 @@ bool Collaudo::Doppio_Clic(std::string_view nome) {
     return Clic(nome);
   }
   Proteggi([&] {
-    Macchina().Doppio_Clic(nome);
-    Macchina().Rilascia(nome);
+    Mano(Cosa::Doppio_Clic, nome);
+    Mano(Cosa::Rilascia, nome);
   });
   return true;
 }
@@ -307,9 +335,13 @@ bool Collaudo::Guasta(std::string_view nome, bool attivo) {
 
 void Collaudo::Scrivi(const Indirizzo& indirizzo, double valore, const char* funzione) {
   bool scritto = true;
-  Proteggi([&] { scritto = Scrivi_Cella(plc_, indirizzo, valore); });
+  Proteggi([&] { scritto = Forza(plc_, Testo_Indirizzo(indirizzo), valore); });
   if (!scritto)
     throw Errore_Script(std::string(funzione) + ": il valore non sta in questo indirizzo");
+}
+
+void Collaudo::Volt(int canale, double volt) {
+  plc_.Entra({.Che = Cosa::Volt_AI, .Indice = canale, .Valore = volt});
 }
 
 }  // namespace tavorno

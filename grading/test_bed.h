@@ -4,8 +4,10 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <set>
 #include <stdexcept>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +15,7 @@
 #include "plants/link.h"
 #include "plc/plc.h"
 #include "plc/rest.h"
+#include "recorder/recorder.h"
 #include "trace/address.h"
 
 namespace tavorno {
@@ -35,15 +38,18 @@ struct Scorte {
   std::int64_t Righe = 2'000'000'000;      ///< lines of the program
   std::int64_t Righe_Scansione = 100'000;  ///< lines of one scan; not consumed
   bool Ogni_Scansione = false;  ///< run scans that change nothing as well; the results are the same
+  std::stop_token Ferma;  ///< somebody does not want to wait for the end: a limit that is passed
 };
 
 /// A fresh CPU with a program, and a fresh plant if there is one, in virtual time at one scan per
-/// millisecond. Nothing here blocks: a run goes on only while time passes.
+/// millisecond. Nothing here blocks: a run goes on only while time passes. Everything enters by the
+/// door, so that what happened can be played again in a window.
 class Collaudo {
  public:
   /// Without a program (it does not compile) the CPU is broken from the start, for `motivo`.
+  /// `registra`: what enters is written down.
   Collaudo(const Memoria* programma, const std::string& motivo, const Esercizio* esercizio,
-           Scorte& scorte);
+           Scorte& scorte, bool registra = false);
   Collaudo(const Collaudo&) = delete;
   Collaudo& operator=(const Collaudo&) = delete;
 
@@ -70,6 +76,7 @@ class Collaudo {
 
   /// Throws `Errore_Script` for a value that the cell cannot hold.
   void Scrivi(const Indirizzo& indirizzo, double valore, const char* funzione);
+  void Volt(int canale, double volt);  ///< of an analog input
 
   Plc& Cpu() { return plc_; }
   Impianto& Macchina();  ///< throws `Errore_Script` without a plant
@@ -81,6 +88,9 @@ class Collaudo {
   const std::string& Guasto() const { return guasto_; }
   std::int64_t Istante_Guasto() const { return orologio_.Adesso(); }
   const std::string& Listato() const { return listato_; }  ///< lines around the failure
+  /// What entered up to now; of a fatal end, up to right before the line. Empty when nothing is
+  /// written down.
+  std::optional<Seduta_Registrata> Ripresa();
   std::vector<Avviso> Prendi_Avvisi();
 
   /// Something may have changed: called after each scan and each act of the hand.
@@ -98,6 +108,8 @@ class Collaudo {
   std::int64_t Salta(std::int64_t ms);
   void Lascia_Fuori(std::int64_t scansioni);
   void Consuma(std::int64_t ms);
+  void Passano(std::int64_t ms);
+  void Mano(Cosa cosa, std::string_view nome);
   void Rompi(std::string guasto);
   void Campiona() const {
     if (Campione) Campione();
@@ -109,12 +121,14 @@ class Collaudo {
   Plc plc_{orologio_};
   Riposo riposo_{plc_};
   bool riposa_ = false;  // the next scan would change nothing, and nothing happened since
+  std::unique_ptr<Registratore> scriba_;  // before the wires, which announce themselves
   Stato_Impianto stato_;
   std::unique_ptr<Collegamento> filo_;
   std::set<std::string, std::less<>> premuti_;  // figures under a finger
   std::vector<Avviso> avvisi_;
   Iscrizione ascolto_;
   std::string guasto_, listato_;
+  bool fatale_ = false;
   std::int64_t perso_ = 0;  // time that passed over a broken CPU
 };
 

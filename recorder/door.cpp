@@ -10,10 +10,8 @@ namespace tavorno {
 bool Forza(Plc& plc, const std::string& indirizzo, double valore) {
   const std::optional<Indirizzo> cella = Leggi_Indirizzo(indirizzo);
   if (!cella || !std::isfinite(valore)) return false;
-  const double prima = Leggi_Cella(plc, *cella);
-  if (!Scrivi_Cella(plc, *cella, valore)) return false;
-  // Tried first, since what does not fit must not enter; it is announced before it holds.
-  Scrivi_Cella(plc, *cella, prima);
+  // What does not fit must not enter; and a plant hears of an output that is set once, not thrice.
+  if (!Sta_In_Cella(*cella, valore)) return false;
   plc.Hook.Entra({.Che = Cosa::Forza, .Valore = valore, .Testo = indirizzo});
   return Scrivi_Cella(plc, *cella, valore);
 }

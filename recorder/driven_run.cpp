@@ -3,10 +3,10 @@
 
 namespace tavorno {
 
-void Avvia_Guidata(Plc& plc, void (Plc::*comando)()) {
+void Avvia_Guidata(Plc& plc, Comando_Corsa comando) {
   {
     const Iscrizione dopo_una_riga = plc.Hook.Ascolta_Cedi([&plc] { plc.Ferma = -1; });
-    (plc.*comando)();
+    plc.Entra(comando);
   }
   plc.Ferma = 0;
 }

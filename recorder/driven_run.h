@@ -5,8 +5,8 @@
 
 namespace tavorno {
 
-/// Gives a command that enters a run loop, `mnuPlcRun` or `mnuPlcCont`, and comes back after its
-/// first line: from then on the caller executes the lines, in its own time.
-void Avvia_Guidata(Plc& plc, void (Plc::*comando)());
+/// Lets a command in that enters a run loop, Run or Cont, and comes back after its first line: from
+/// then on the caller executes the lines, in its own time. Played again, the loop does.
+void Avvia_Guidata(Plc& plc, Comando_Corsa comando);
 
 }  // namespace tavorno

@@ -63,7 +63,13 @@ void Registratore::Metti_Tappa() {
 }
 
 void Registratore::Programma_Nuovo() {
+  if (In_Proiezione()) {  // it is loaded into the CPU as it was left
+    const Stesura nuovo = Copia_Programma(plc_);
+    Torna_Al_Presente();
+    Metti_Programma(plc_, nuovo);
+  }
   if (Nel_Passato()) {  // there is no way back to what the program made of it
+    replica_.reset();
     plc_.Hook.Adesso = Vissuto::Presente;
     programma_ = std::make_shared<const Stesura>(Copia_Programma(plc_));
     return Ricomincia();
@@ -142,6 +148,7 @@ void Registratore::Prendi(const Seduta_Registrata& registrazione) {
   std::int64_t ms = registrazione.Stato.Adesso;
   while (lettore.Prossima()) ms = std::max(ms, lettore.Dove().Ms);
   if (!lettore.Guasto().empty()) throw Giornale_Discorde(lettore.Guasto());
+  replica_.reset();
   Titolo = registrazione.Titolo;
   programma_ = registrazione.Programma;
   giornale_ = registrazione.Voci;
@@ -151,6 +158,38 @@ void Registratore::Prendi(const Seduta_Registrata& registrazione) {
   presente_ = {giornale_.Ultima_Riga, ms};
   plc_.Hook.Adesso = Vissuto::Passato;
   Vai(primo_);
+}
+
+void Registratore::Proietta(const Seduta_Registrata& film) {
+  Torna_Al_Presente();
+  giornale_.Ultima_Riga = plc_.Righe_Fatte;
+  messo_via_ = Scritto{Titolo,   programma_, tappe_,       giornale_, primo_,
+                       Adesso(), apertura_,  senza_tappe_, chiuso_};
+  try {
+    Prendi(film);
+  } catch (...) {
+    if (Nel_Passato())
+      Torna_Al_Presente();
+    else
+      Rimetti();
+    throw;
+  }
+}
+
+/// What was laid aside is at hand again; CPU and plant follow by `Vai`.
+void Registratore::Rimetti() {
+  replica_.reset();
+  Scritto& scritto = *messo_via_;
+  Titolo = std::move(scritto.Titolo);
+  programma_ = std::move(scritto.Programma);
+  tappe_ = std::move(scritto.Tappe);
+  giornale_ = std::move(scritto.Voci);
+  primo_ = scritto.Primo;
+  presente_ = scritto.Presente;
+  apertura_ = scritto.Apertura;
+  senza_tappe_ = scritto.Senza_Tappe;
+  chiuso_ = scritto.Chiuso;
+  messo_via_.reset();
 }
 
 // ---- the past -----------------------------------------------------------------------------------
@@ -179,23 +218,35 @@ bool Registratore::Vai(Momento momento) {
   if (!Nel_Passato()) {
     presente_ = Adesso();
     giornale_.Ultima_Riga = plc_.Righe_Fatte;
+    replica_.reset();
   }
   plc_.Hook.Adesso = Vissuto::Passato;
   const Tappa& tappa = Tappa_Prima(momento);
+  const bool avanti = momento.Righe > plc_.Righe_Fatte && momento.Ms > plc_.Tempo.Adesso() &&
+                      tappa.Stato.Corsa.Righe_Fatte <= plc_.Righe_Fatte &&
+                      tappa.Stato.Adesso <= plc_.Tempo.Adesso();
+  if (!avanti || !replica_) Vai_Da_Capo(tappa);
+  // A replay that fails is of no more use.
+  std::unique_ptr<Replica> replica = std::move(replica_);
+  Segui(*replica, plc_.Righe_Fatte, std::min(momento.Righe, presente_.Righe));
+  replica->Vai(momento);
+  qui_ = replica->Dove();
+  in_giro_ = replica->In_Giro;
+  if (Apri || apertura_ < 0) replica_ = std::move(replica);
+  return true;
+}
+
+void Registratore::Vai_Da_Capo(const Tappa& tappa) {
   const Tappa& inizio =
       tappa.Apertura >= 0 ? tappe_[static_cast<std::size_t>(tappa.Apertura)] : tappa;
-  Replica replica(plc_, giornale_, inizio.Dove);
-  if (Apri && apertura_ >= 0) replica.Apri = Apri;  // no replay goes back behind its opening
-  Parti(replica, plc_, tappa);
-  Segui(replica, plc_.Righe_Fatte, std::min(momento.Righe, presente_.Righe));
-  replica.Vai(momento);
-  qui_ = replica.Dove();
-  in_giro_ = replica.In_Giro;
-  return true;
+  replica_ = std::make_unique<Replica>(plc_, giornale_, inizio.Dove);
+  if (Apri && apertura_ >= 0) replica_->Apri = Apri;  // no replay goes back behind its opening
+  Parti(*replica_, plc_, tappa);
 }
 
 /// Lets the progress be shown.
 void Registratore::Segui(Replica& replica, std::int64_t da, std::int64_t a) const {
+  replica.Guarda = nullptr;
   if (!Avanzamento) return;
   replica.Guarda = [this, da, a, volta = 0]() mutable {
     constexpr int ogni = 4096;
@@ -206,14 +257,18 @@ void Registratore::Segui(Replica& replica, std::int64_t da, std::int64_t a) cons
 
 void Registratore::Torna_Al_Presente() {
   if (!Nel_Passato()) return;
+  if (In_Proiezione()) Rimetti();
   const auto avanzamento = std::exchange(Avanzamento, nullptr);  // there is no way to stop half way
   Vai({});
   Avanzamento = avanzamento;
+  replica_.reset();
   plc_.Hook.Adesso = Vissuto::Presente;
 }
 
 void Registratore::Riprendi_Da_Qui() {
   if (!Nel_Passato()) return;
+  if (In_Proiezione()) return Torna_Al_Presente();
+  replica_.reset();
   giornale_.Tronca(qui_);
   std::erase_if(tappe_, [&](const Tappa& tappa) {
     return tappa.Stato.Corsa.Righe_Fatte > plc_.Righe_Fatte ||

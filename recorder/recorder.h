@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -52,6 +53,12 @@ class Registratore {
   /// Takes over a session: the CPU is in its past, at the beginning. When the session opens a plant
   /// `Apri` must be there, and the plant open already. Throws `Giornale_Discorde`.
   void Prendi(const Seduta_Registrata& registrazione);
+  /// Lays what has been written down aside and shows another session meanwhile, as `Prendi` does.
+  /// Whatever ends that past goes back to the present as it was left: to the CPU's last cell and
+  /// the plant's last figure. Not while a run loop is at work. Throws `Giornale_Discorde`, and then
+  /// the present is back.
+  void Proietta(const Seduta_Registrata& film);
+  bool In_Proiezione() const { return messo_via_.has_value(); }
   /// The exercise whose plant a session opens first, -1 for none.
   static int Impianto_Di(const Seduta_Registrata& registrazione);
 
@@ -115,6 +122,8 @@ class Registratore {
   void Dimentica();
   const Tappa& Tappa_Prima(Momento momento) const;
   void Parti(Replica& replica, Plc& plc, const Tappa& tappa) const;
+  void Vai_Da_Capo(const Tappa& tappa);
+  void Rimetti();
 
   Plc& plc_;
   std::shared_ptr<const Stesura> programma_;
@@ -128,6 +137,21 @@ class Registratore {
   Posto_Giornale qui_;        // in the past: what has been read
   bool in_giro_ = false;      // in the past: a run loop was at work
   Momento presente_;          // in the past: the moment that was left
+  /// In the past: the replay that stands where the CPU does, so that going on costs what lies
+  /// between.
+  std::unique_ptr<Replica> replica_;
+
+  /// What was written down, while something else is shown.
+  struct Scritto {
+    std::string Titolo;
+    std::shared_ptr<const Stesura> Programma;
+    std::vector<Tappa> Tappe;
+    Giornale Voci;
+    Momento Primo, Presente;
+    int Apertura;
+    bool Senza_Tappe, Chiuso;
+  };
+  std::optional<Scritto> messo_via_;
   std::vector<Iscrizione> ascolti_;
   Iscrizione avviso_chiuso_;
 };

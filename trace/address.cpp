@@ -156,14 +156,17 @@ double Leggi_Cella(const Plc& plc, const Indirizzo& indirizzo) {
   return plc.AC1_Bit(indirizzo.Dove, num, indirizzo.Bit, errore);
 }
 
-bool Scrivi_Cella(Plc& plc, const Indirizzo& indirizzo, double valore) {
+bool Sta_In_Cella(const Indirizzo& indirizzo, double valore) {
   const Riga_Area& riga = Riga_Di(indirizzo.Dove);
   const bool bit_di_elemento = !riga.Preset.empty() && indirizzo.Quale == Parte_Cella::Bit;
   const double massimo = bit_di_elemento ? 1 : riga.Massimo;
   const double minimo = bit_di_elemento ? 0 : riga.Minimo;
   if (!(valore >= minimo && valore <= massimo)) return false;
-  if (riga.Contenuto != Cella::Reale && valore != std::floor(valore)) return false;
+  return riga.Contenuto == Cella::Reale || valore == std::floor(valore);
+}
 
+bool Scrivi_Cella(Plc& plc, const Indirizzo& indirizzo, double valore) {
+  if (!Sta_In_Cella(indirizzo, valore)) return false;
   const int num = indirizzo.Num;
   const auto posto = static_cast<std::size_t>(num);
   const auto intero = static_cast<std::int32_t>(valore);

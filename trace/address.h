@@ -34,6 +34,9 @@ std::string Indirizzi_Ammessi();
 /// Inputs and outputs are the physical points. Only `AC` is not whole.
 double Leggi_Cella(const Plc& plc, const Indirizzo& indirizzo);
 
+/// Whether the cell can hold the value.
+bool Sta_In_Cella(const Indirizzo& indirizzo, double valore);
+
 /// False when the value does not fit the cell, which then stays as it is. What follows from a cell,
 /// as the value of a byte does, is brought up to date.
 bool Scrivi_Cella(Plc& plc, const Indirizzo& indirizzo, double valore);

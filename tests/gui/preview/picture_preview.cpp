@@ -62,8 +62,8 @@ bool Prova::Programma(const std::string& file) {
   if (!seduta.Apri(file)) return false;
   seduta.progetto.Compila();
   if (!seduta.progetto.Compilato) return false;
-  Avvia_Guidata(seduta.plc, &Plc::mnuPlcCont);
-  Avvia_Guidata(seduta.plc, &Plc::mnuPlcRun);
+  Avvia_Guidata(seduta.plc, Comando_Corsa::Cont);
+  Avvia_Guidata(seduta.plc, Comando_Corsa::Run);
   finestra.Mostra_Corsa(seduta.plc.PLC_Acceso != 0);
   return seduta.plc.PLC_Acceso != 0;
 }
