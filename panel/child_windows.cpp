@@ -72,6 +72,9 @@ Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
   legami.Mostra_Scala = [this] { Mostra_Scala(); };
   legami.Mostra_Osserva = [this] { Mostra_Osserva(); };
   legami.Mostra_Tempi = [this] { Mostra_Tempi(); };
+  legami.Verifica = [this] {
+    if (Verifica) Verifica();
+  };
   legami.Mostra_Info = [this] { Mostra_Info(); };
   legami.Mostra_Impianto = [this](int indice) { Apri_Impianto(indice); };
   legami.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
@@ -225,6 +228,9 @@ void Finestre::Apri_Impianto(int indice) {
   finestra.setToolTip(QString::fromUtf8(tasti_ovunque));
   finestra.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Panel + pagina); };
   finestra.Mostra_Tempi = [this] { Mostra_Tempi(); };
+  finestra.Verifica = [this] {
+    if (Verifica) Verifica();
+  };
   Cambia_Simboli(&finestra.Fili().Tabella());
   finestra.Indica_Morsetti = [this](const QStringList& morsetti) {
     pannello_.Controlli().Fronte->Indica(morsetti);

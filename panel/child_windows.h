@@ -62,6 +62,8 @@ class Finestre {
   Finestra_Impianto* Impianto() const;
   /// Called before a plant comes or goes and before the editor opens: the past must be over.
   std::function<void()> Al_Presente = [] {};
+  /// The verdict on the program, for the open plant.
+  std::function<void()> Verifica;
 
   const Ordine_Finestre& Ordine() const { return ordine_; }
 

@@ -17,6 +17,7 @@
 #include "panel/run_driver.h"
 #include "panel/safekeeping.h"
 #include "panel/session_bar.h"
+#include "panel/verification.h"
 #include "recorder/recorder.h"
 #include "widgets/message_box.h"
 
@@ -79,6 +80,8 @@ int main(int argc, char** argv) {
   seduta.Impianto = [&finestre] { return finestre.Impianto(); };
   seduta.Apri_Impianto = [&finestre](int indice) { finestre.Apri_Impianto(indice); };
   finestre.Al_Presente = [&seduta] { seduta.Al_Presente(); };
+  const Sala_Verifica sala(pannello, plc, progetto, registratore, corsa, finestre, cartella,
+                           guida.Dir_Help);
 
   applicazione.Fine_Fatale = [&](const Fatale& fatale) {
     corsa.Ferma();

@@ -13,7 +13,7 @@ struct Azioni_Pannello {
   QAction *mnuFile, *mnuFileNew, *mnuFileOpen, *mnuFileEdit, *mnuFileEnd;
   QAction *mnuPlc, *mnuPlcRun, *mnuPlcStop, *mnuPlcStep, *mnuPlcCont, *mnuPLCCiclo, *mnuPLCPiu;
   QAction *mnuView, *mnuViewTB, *mnuViewSTB, *mnuViewSet, *mnuViewKOP, *mnuViewIO, *mnuViewStati,
-      *mnuViewTempi, *mnuViewOsserva, *mnuViewDisponi;
+      *mnuViewTempi, *mnuViewOsserva, *mnuViewVerifica, *mnuViewDisponi;
   QAction *mnuProgetti, *MnuHLP, *mnuHlpGen, *mnuHlpSet, *mnuInfAb;
   std::vector<QAction*> mnuPrj;  ///< the exercises, by index
 

@@ -74,6 +74,7 @@ void FrmPLC::Collega_Finestre(Legami_Pannello legami) {
       {a_.mnuViewStati, legami_.Mostra_Stati, bool(legami_.Mostra_Stati)},
       {a_.mnuViewTempi, legami_.Mostra_Tempi, bool(legami_.Mostra_Tempi)},
       {a_.mnuViewOsserva, legami_.Mostra_Osserva, bool(legami_.Mostra_Osserva)},
+      {a_.mnuViewVerifica, legami_.Verifica, bool(legami_.Verifica)},
       {a_.mnuViewDisponi, legami_.Disponi_Finestre, bool(legami_.Disponi_Finestre)},
       {a_.mnuInfAb, legami_.Mostra_Info, bool(legami_.Mostra_Info)},
       {a_.mnuHlpGen, [this] { legami_.Mostra_Aiuto("Index.htm"); }, bool(legami_.Mostra_Aiuto)},
@@ -198,6 +199,7 @@ void FrmPLC::Segna_Impianto(int indice) {
     voce.setEnabled(indice < 0 && esercizio.Crea != nullptr);
     if (esercizio.Indice == indice) aperto = Q(esercizio.Voce);
   }
+  a_.mnuViewVerifica->setEnabled(indice >= 0);
   c_.stB[3]->setText(aperto);
   c_.stB[3]->setToolTip(aperto);
 }

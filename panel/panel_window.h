@@ -23,6 +23,7 @@ struct Legami_Pannello {
   std::function<void()> Mostra_Scala;
   std::function<void()> Mostra_Tempi;
   std::function<void()> Mostra_Osserva;
+  std::function<void()> Verifica;
   std::function<void()> Mostra_Info;
   std::function<void(int indice)> Mostra_Impianto;  ///< an exercise of the table
   std::function<void(const char* pagina)> Mostra_Aiuto;

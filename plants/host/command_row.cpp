@@ -48,6 +48,9 @@ Riga_Comandi::Riga_Comandi(const QString& voce_io, QWidget* sopra)
       chkStriscia(
           Crea<QCheckBox>("chkStriscia", QStringLiteral("Andamento"),
                           QStringLiteral("Mostra l'ultimo minuto delle misure e dei bit scelti"))),
+      cmdVerifica(Crea<Tasto_Breve>(
+          "cmdVerifica", QStringLiteral("Verifica"),
+          QStringLiteral("Prova il programma con i casi dell'esercizio e assegna i punti (F9)"))),
       cmdTempi(
           Crea<Tasto_Breve>("cmdTempi", QStringLiteral("Tempi"),
                             QStringLiteral("Diagramma dei tempi di ingressi e uscite (Ctrl+D)"))),
@@ -82,9 +85,10 @@ Riga_Comandi::Riga_Comandi(const QString& voce_io, QWidget* sopra)
   spunte_->addWidget(chkSim);
   spunte_->addLayout(viste_, 1);
   destra_->addStretch();
-  for (QWidget* uno : std::initializer_list<QWidget*>{etRun_, cmdGuasti_, cmdTempi, cmdSch, cmdEnd})
+  for (QWidget* uno :
+       std::initializer_list<QWidget*>{etRun_, cmdGuasti_, cmdVerifica, cmdTempi, cmdSch, cmdEnd})
     destra_->addWidget(uno);
-  for (QPushButton* tasto : {cmdTempi, cmdSch, cmdEnd})
+  for (QPushButton* tasto : {cmdVerifica, cmdTempi, cmdSch, cmdEnd})
     tasto->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   posti_->setContentsMargins(10, 6, 10, 6);
   posti_->addLayout(spunte_);

@@ -21,7 +21,7 @@ class Riga_Comandi : public QWidget {
   explicit Riga_Comandi(const QString& voce_io, QWidget* sopra = nullptr);
 
   QCheckBox *chkSim, *chkIO, *chkStriscia;
-  QPushButton *cmdTempi, *cmdSch, *cmdEnd;
+  QPushButton *cmdVerifica, *cmdTempi, *cmdSch, *cmdEnd;
   QMenu* mnuGuasti;  ///< opens below its button; who owns the row fills it when it is about to show
 
   /// Shows whether the CPU runs.

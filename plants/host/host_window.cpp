@@ -136,6 +136,11 @@ void Finestra_Impianto::Collega_Comandi() {
   connect(comandi_->cmdTempi, &QPushButton::clicked, this, tempi);
   connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_D), this), &QShortcut::activated, this,
           tempi);
+  const auto verifica = [this] {
+    if (Verifica) Verifica();
+  };
+  connect(comandi_->cmdVerifica, &QPushButton::clicked, this, verifica);
+  connect(new QShortcut(QKeySequence(Qt::Key_F9), this), &QShortcut::activated, this, verifica);
   connect(comandi_->cmdEnd, &QPushButton::clicked, this, &QWidget::close);
 
   QMenu* menu = comandi_->mnuGuasti;

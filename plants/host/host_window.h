@@ -32,6 +32,7 @@ class Finestra_Impianto : public QWidget {
 
   std::function<void(const char* pagina)> Mostra_Aiuto;  ///< "Info": a page of the exercises
   std::function<void()> Mostra_Tempi;                    ///< the timing diagram
+  std::function<void()> Verifica;                        ///< the verdict on the program
   std::function<void()> Sta_Per_Chiudere;                ///< the plant is about to be closed
   std::function<void()> Chiusa;                          ///< the plant was closed
   std::function<void()> Tabella_Mossa;                   ///< table or strip appeared or went

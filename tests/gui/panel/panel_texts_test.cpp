@@ -49,6 +49,7 @@ const std::vector<Voce> voci = {
     {"mnuView", "mnuViewStati", "Finestra Stati &Elementi", -1},
     {"mnuView", "mnuViewTempi", "Dia&gramma dei tempi", -1},
     {"mnuView", "mnuViewOsserva", "Finestra di &osservazione", -1},
+    {"mnuView", "mnuViewVerifica", "&Verifica del programma", -1},
     {"mnuView", "", "", -1},
     {"mnuView", "mnuViewDisponi", "&Disponi finestre", -1},
     {"MnuHLP", "mnuHlpGen", "&Indice", -1},
@@ -98,7 +99,7 @@ TEST_F(Testi_Pannello, ShortCuts) {
       {"mnuFileNew", "Ctrl+N"},     {"mnuFileOpen", "Ctrl+O"},  {"mnuFileEdit", "Ctrl+E"},
       {"mnuFileEnd", "Ctrl+Q"},     {"mnuPlcRun", "F5"},        {"mnuViewTempi", "Ctrl+D"},
       {"mnuViewOsserva", "Ctrl+T"}, {"mnuPlcStop", "Shift+F5"}, {"mnuPLCPiu", "F10"},
-      {"mnuHlpGen", "F1"}};
+      {"mnuHlpGen", "F1"},          {"mnuViewVerifica", "F9"}};
   std::map<QString, QString> presenti;
   for (const QAction* azione : pannello.findChildren<QAction*>()) {
     if (!azione->shortcut().isEmpty())

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "grading/ui/time_sheet.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QScrollBar>
+
+#include "widgets/colours.h"
+#include "widgets/naming.h"
+#include "widgets/text.h"
+
+namespace tavorno {
+
+namespace {
+
+/// Where the marked moment stands, in the units of the drawing; -1 without one.
+double Posto_Del_Segno(const QString& svg) {
+  static const QRegularExpression segno(QStringLiteral("class=\"segno\" x1=\"([0-9.]+)\""));
+  const QRegularExpressionMatch trovato = segno.match(svg);
+  return trovato.hasMatch() ? trovato.captured(1).toDouble() : -1;
+}
+
+}  // namespace
+
+class Foglio_Tempi::Carta : public QWidget {
+ public:
+  explicit Carta(QSvgRenderer& disegno) : disegno_(disegno) {}
+
+ protected:
+  void paintEvent(QPaintEvent* /*evento*/) override {
+    QPainter pittore(this);
+    if (disegno_.isValid())
+      disegno_.render(&pittore, QRectF(QPointF(0, 0), QSizeF(disegno_.defaultSize())));
+  }
+
+ private:
+  QSvgRenderer& disegno_;
+};
+
+Foglio_Tempi::Foglio_Tempi() : carta_(Chiama(QStringLiteral("picTempiCaso"), new Carta(disegno_))) {
+  setObjectName(QStringLiteral("foglioTempi"));
+  setWidget(carta_);
+  setFocusPolicy(Qt::StrongFocus);
+  setToolTip(
+      QStringLiteral("Ingressi e uscite del caso scelto; la linea rossa è il momento del "
+                     "primo rilievo. Le frecce scorrono"));
+  QPalette tinte = palette();
+  tinte.setColor(QPalette::Window, colori::Tempi[0]);
+  viewport()->setPalette(tinte);
+  viewport()->setAutoFillBackground(true);
+}
+
+void Foglio_Tempi::Mostra(const std::string& svg, const QString& descrizione) {
+  const QString testo = Q(svg);
+  disegno_.load(testo.toUtf8());
+  carta_->resize(disegno_.isValid() ? disegno_.defaultSize() : QSize(1, 1));
+  carta_->update();
+  carta_->setAccessibleName(QStringLiteral("Diagramma dei tempi"));
+  carta_->setAccessibleDescription(descrizione);
+  setAccessibleName(descrizione);
+  segno_ = Posto_Del_Segno(testo);
+  verticalScrollBar()->setValue(0);
+  Porta_Al_Segno();
+}
+
+void Foglio_Tempi::Porta_Al_Segno() {
+  horizontalScrollBar()->setValue(static_cast<int>(segno_) - viewport()->width() * 3 / 4);
+}
+
+void Foglio_Tempi::resizeEvent(QResizeEvent* evento) {
+  QScrollArea::resizeEvent(evento);
+  Porta_Al_Segno();
+}
+
+void Foglio_Tempi::keyPressEvent(QKeyEvent* evento) {
+  constexpr int passo = 60;  // pixels
+  switch (evento->key()) {
+    case Qt::Key_Left:
+      return horizontalScrollBar()->setValue(horizontalScrollBar()->value() - passo);
+    case Qt::Key_Right:
+      return horizontalScrollBar()->setValue(horizontalScrollBar()->value() + passo);
+    default:
+      QScrollArea::keyPressEvent(evento);
+  }
+}
+
+}  // namespace tavorno

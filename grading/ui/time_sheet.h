@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QScrollArea>
+#include <QSvgRenderer>
+#include <string>
+
+namespace tavorno {
+
+/// The timing diagram of a case, the same drawing that the pages of a class hold, in a sheet that
+/// scrolls. It begins where the moment is that is marked.
+class Foglio_Tempi : public QScrollArea {
+ public:
+  Foglio_Tempi();
+
+  /// Empty: there is none. `descrizione` is for who cannot see it.
+  void Mostra(const std::string& svg, const QString& descrizione);
+  bool Vuoto() const { return !disegno_.isValid(); }
+
+ protected:
+  void keyPressEvent(QKeyEvent* evento) override;
+  void resizeEvent(QResizeEvent* evento) override;
+
+ private:
+  class Carta;
+  void Porta_Al_Segno();
+
+  QSvgRenderer disegno_;
+  Carta* carta_;
+  double segno_ = -1;  // where the marked moment stands, in pixels
+};
+
+}  // namespace tavorno
