@@ -73,3 +73,30 @@ function punti_per_i_litri(n_punti, visto, ...)
   end
   print("litri caricati: " .. visto.litri[1] .. " e " .. visto.litri[2])
 end
+
+-- In RUN e senza comandi: tutto deve stare fermo.
+function senza_comandi(tutto_fermo)
+  run()
+  attendi(1000)
+  return serve(tutto_fermo(), "senza comandi pompe, valvole e agitatore devono stare fermi")
+end
+
+function prova_start_con_stop(in_manuale, comandi, tutto_fermo, carica)
+  prova("Start con Stop premuto", 1, function()
+    in_manuale()
+    gira(comandi.selettore)
+    premi(comandi.stop)
+    attendi(100)
+    premi(comandi.start)
+    attendi(300)
+    local fermo = tutto_fermo()
+    rilascia(comandi.start)
+    attendi(200)
+    rilascia(comandi.stop)
+    attendi(500)
+    fermo = fermo and tutto_fermo()
+    premi_per(comandi.start, 300)
+    serve(carica(), "rilasciato Stop un nuovo Start deve cominciare il carico")
+    sicuro(1, true, fermo, "con Stop premuto Start non deve avviare nulla")
+  end)
+end

@@ -12,6 +12,12 @@ function sicuro(n, arrivata, condizione, messaggio)
   return punti(n, arrivata and condizione, messaggio)
 end
 
+-- Una premessa che porta anche punti: a chi manca mancano questi e quelli che seguono.
+function serve_e_vale(n, condizione, messaggio)
+  serve(condizione, messaggio)
+  return punti(n, condizione, messaggio)
+end
+
 -- L'ultima prova: vale i suoi punti, più di quattro decimi del totale, se la macchina lavora e in
 -- nessuna prova è successo qualcosa di pericoloso. Così chi è pericoloso non è sufficiente.
 function prova_di_sicurezza(n, lavora, che_cosa)

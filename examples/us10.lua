@@ -17,11 +17,7 @@ local hl = { "Q1.0", "Q1.1", "Q1.2", "Q1.3", "Q1.4", "Q1.5", "Q1.6", "Q1.7" }  -
 local function tutto_fermo() return spenti(comandi) end
 local function gradi() return tonumber(elemento("etT").Caption) end
 
-local function in_manuale()
-  run()
-  attendi(1000)
-  return serve(tutto_fermo(), "senza comandi pompe, valvole e agitatore devono stare fermi")
-end
+local function in_manuale() return senza_comandi(tutto_fermo) end
 
 -- SA1 in automatico e Start: il carico comincia.
 local function in_automatico(temperatura)
@@ -72,8 +68,7 @@ for _, operazione in ipairs {
     gira(operazione.selettore)
     attendi(4000)
     local va = accesi(operazione.uscite) and (operazione.di == 0 or (litri() - prima) * operazione.di >= 3)
-    serve(va, "in manuale (SA1 a 0) " .. operazione.nome)
-    punti(2, va, "in manuale (SA1 a 0) " .. operazione.nome)
+    serve_e_vale(2, va, "in manuale (SA1 a 0) " .. operazione.nome)
     local altre = 0
     for _, uscita in ipairs(comandi) do if acceso(uscita) then altre = altre + 1 end end
     punti(1, altre == #operazione.uscite, operazione.nome:sub(1, 3) .. " non deve comandare nient'altro")
@@ -153,23 +148,7 @@ for _, quanti in ipairs { 10, 90 } do
   end)
 end
 
-prova("Start con Stop premuto", 1, function()
-  in_manuale()
-  gira(sa1)
-  premi(stop_auto)
-  attendi(100)
-  premi(start)
-  attendi(300)
-  local fermo = tutto_fermo()
-  rilascia(start)
-  attendi(200)
-  rilascia(stop_auto)
-  attendi(500)
-  fermo = fermo and tutto_fermo()
-  premi_per(start, 300)
-  serve(accesi(mandata_1), "rilasciato Stop un nuovo Start deve cominciare il carico")
-  sicuro(1, true, fermo, "con Stop premuto Start non deve avviare nulla")
-end)
+prova_start_con_stop(in_manuale, { selettore = sa1, start = start, stop = stop_auto }, tutto_fermo, function() return accesi(mandata_1) end)
 
 prova("ricetta con riscaldamento", 14, function()
   in_automatico(23)

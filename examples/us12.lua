@@ -18,11 +18,7 @@ local hl = { "Q0.6", "Q0.7", "Q1.0", "Q1.1", "Q1.2", "Q1.3", "Q1.4", "Q1.5" }  -
 local function tutto_fermo() return spenti(comandi) end
 local function carica() return accesi(mandata_1) or accesi(mandata_2) end
 
-local function in_manuale()
-  run()
-  attendi(1000)
-  return serve(tutto_fermo(), "senza comandi pompe, valvole e agitatore devono stare fermi")
-end
+local function in_manuale() return senza_comandi(tutto_fermo) end
 
 -- SA in automatico e Start: il carico comincia.
 local function in_automatico()
@@ -58,8 +54,7 @@ for _, operazione in ipairs {
     local va = accesi(operazione.uscite)
     if nome:find("prodotto") then va = va and litri() > prima end
     if nome == "scarico" then va = va and litri() < prima end
-    serve(va, "in manuale lo Start deve avviare " .. nome .. ", che resta in funzione (autoritenuta)")
-    punti(1.5, va, "in manuale lo Start deve avviare " .. nome .. ", che resta in funzione (autoritenuta)")
+    serve_e_vale(1.5, va, "in manuale lo Start deve avviare " .. nome .. ", che resta in funzione (autoritenuta)")
     local altre = 0
     for _, uscita in ipairs(comandi) do if acceso(uscita) then altre = altre + 1 end end
     punti(0.5, altre == #operazione.uscite, "lo Start di " .. nome .. " non deve comandare nient'altro")
@@ -248,23 +243,7 @@ prova("emergenza prima di Start", 2, function()
   sicuro(2, true, fermo, "durante l'emergenza Start non deve avviare nulla, nemmeno dopo")
 end)
 
-prova("Start con Stop premuto", 1, function()
-  in_manuale()
-  gira(sa)
-  premi(stop_auto)
-  attendi(100)
-  premi(start)
-  attendi(300)
-  local fermo = tutto_fermo()
-  rilascia(start)
-  attendi(200)
-  rilascia(stop_auto)
-  attendi(500)
-  fermo = fermo and tutto_fermo()
-  premi_per(start, 300)
-  serve(carica(), "rilasciato Stop un nuovo Start deve cominciare il carico")
-  sicuro(1, true, fermo, "con Stop premuto Start non deve avviare nulla")
-end)
+prova_start_con_stop(in_manuale, { selettore = sa, start = start, stop = stop_auto }, tutto_fermo, carica)
 
 prova("dall'automatico al manuale", 1, function()
   in_automatico()
