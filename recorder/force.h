@@ -8,7 +8,7 @@
 namespace tavorno {
 
 /// Whether a value may be set by hand now: the CPU is off, or on and waits for the next step, in
-/// Step or at a stop.
+/// Step, at a stop or in a pause. Nothing is set in the past.
 bool Si_Puo_Forzare(const Plc& plc);
 
 /// Sets a cell by hand, once: the program may write it again. The only place where somebody who

@@ -59,7 +59,7 @@ void Registratore::Ricomincia() {
 }
 
 void Registratore::Metti_Tappa() {
-  tappe_.push_back({programma_, plc_.Fotografa(), giornale_.Segna(), apertura_});
+  tappe_.push_back({programma_, plc_.Fotografa(), giornale_.Segna(), apertura_, interruttori_});
 }
 
 void Registratore::Programma_Nuovo() {
@@ -93,6 +93,8 @@ void Registratore::Annota(const Atto& entrata) {
     chiuso_ = false;
   }
   giornale_.Scrivi(plc_.Righe_Fatte, entrata);
+  if (entrata.Che == Cosa::Ingresso)
+    interruttori_.at(static_cast<std::size_t>(entrata.Indice)) = entrata.Testo;
   if (entrata.Che == Cosa::Apri) {
     apertura_ = static_cast<int>(std::ssize(tappe_)) - 1;
     senza_tappe_ = Legge_Analogiche(entrata.Indice);
@@ -152,7 +154,9 @@ void Registratore::Prendi(const Seduta_Registrata& registrazione) {
   Titolo = registrazione.Titolo;
   programma_ = registrazione.Programma;
   giornale_ = registrazione.Voci;
-  tappe_ = {{programma_, registrazione.Stato, giornale_.Inizio, -1}};
+  const auto& barre = registrazione.Stato.SI;
+  tappe_ = {{programma_, registrazione.Stato, giornale_.Inizio, -1,
+             Leve{barre[0].Testo, barre[1].Testo}}};
   apertura_ = Impianto_Di(registrazione) >= 0 ? 0 : -1;
   primo_ = {registrazione.Stato.Corsa.Righe_Fatte, registrazione.Stato.Adesso};
   presente_ = {giornale_.Ultima_Riga, ms};
@@ -232,6 +236,7 @@ bool Registratore::Vai(Momento momento) {
   replica->Vai(momento);
   qui_ = replica->Dove();
   in_giro_ = replica->In_Giro;
+  interruttori_ = Leve_A(tappa, qui_);
   if (Apri || apertura_ < 0) replica_ = std::move(replica);
   return true;
 }
@@ -242,6 +247,35 @@ void Registratore::Vai_Da_Capo(const Tappa& tappa) {
   replica_ = std::make_unique<Replica>(plc_, giornale_, inizio.Dove);
   if (Apri && apertura_ >= 0) replica_->Apri = Apri;  // no replay goes back behind its opening
   Parti(*replica_, plc_, tappa);
+}
+
+Leve Registratore::Leve_A(const Tappa& tappa, const Posto_Giornale& fine) const {
+  Leve leve = tappa.Interruttori;
+  Lettore_Giornale lettore(giornale_, tappa.Dove);
+  const auto letto = [&] {
+    return std::pair(lettore.Dove().Byte, lettore.Dove().Ripetute) >=
+           std::pair(fine.Byte, fine.Ripetute);
+  };
+  while (!letto()) {
+    const auto voce = lettore.Prossima();
+    if (!voce) break;
+    if (voce->Entra.Che == Cosa::Ingresso)
+      leve.at(static_cast<std::size_t>(voce->Entra.Indice)) = voce->Entra.Testo;
+  }
+  return leve;
+}
+
+bool Registratore::Vai_A_Vista(std::int64_t ms) {
+  if (plc_.In_Giro() != Giro::Nessuno || ms < primo_.Ms) return false;
+  std::int64_t orologio = -1, righe = -1;
+  const bool in_giro = Rivedi({.Ms = ms}, {.Ms = ms}, false, [&](const Plc& plc) {
+    if (plc.PC != 0 || plc.Tempo.Adesso() == orologio) return true;
+    orologio = plc.Tempo.Adesso();
+    righe = plc.Righe_Fatte;
+    return true;
+  });
+  // A CPU that stands changes by the clock and by hands alone.
+  return in_giro && righe >= 0 ? Vai({.Righe = righe, .Ms = ms}) : Vai({.Ms = ms});
 }
 
 /// Lets the progress be shown.
@@ -370,7 +404,7 @@ bool Registratore::Ultimo_Cambio(const std::function<double(const Plc&)>& valore
   return trovato.Righe >= 0 && Vai({.Righe = trovato.Righe});
 }
 
-void Registratore::Rivedi(Momento da, Momento a, bool ogni_riga,
+bool Registratore::Rivedi(Momento da, Momento a, bool ogni_riga,
                           const std::function<bool(const Plc&)>& guarda) {
   if (!Nel_Passato()) giornale_.Ultima_Riga = plc_.Righe_Fatte;
   Orologio orologio;
@@ -383,9 +417,10 @@ void Registratore::Rivedi(Momento da, Momento a, bool ogni_riga,
   if (plc.Righe_Fatte < da.Righe && da.Righe != Momento::Mai) replica.Vai(da);
   replica.Ogni_Riga = ogni_riga;
   replica.Guarda = [&] { return guarda(plc); };
-  if (!guarda(plc)) return;
+  if (!guarda(plc)) return false;
   replica.Vai(a);
   if (!replica.Fermata()) guarda(plc);
+  return replica.In_Giro;
 }
 
 }  // namespace tavorno

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -21,12 +22,17 @@ struct Seduta_Registrata {
   Giornale Voci;
 };
 
+/// What the hand left at the two input bars: the texts that it put there last, whoever else may
+/// have written since.
+using Leve = std::array<std::string, 2>;
+
 /// A place in a session from which a replay can set out.
 struct Tappa {
   std::shared_ptr<const Stesura> Programma;
   Istantanea Stato;
   Posto_Giornale Dove;
   int Apertura = -1;  ///< the place right before the open plant was made; -1: none was open
+  Leve Interruttori;
 };
 
 /// Writes down what enters a CPU, and takes it back to any moment of that and forth again.
@@ -79,6 +85,9 @@ class Registratore {
   /// The CPU becomes what it was; false when that moment is out of reach, and nothing happens.
   /// What `Avanzamento` ended early stands somewhere before.
   bool Vai(Momento momento);
+  /// To the state that somebody saw who looked on before each scan, as the timing diagram does,
+  /// when the clock stood at `ms`.
+  bool Vai_A_Vista(std::int64_t ms);
   /// Goes on to the present, and lets things enter again.
   void Torna_Al_Presente();
   /// This moment becomes the present; what came after is forgotten. A run that was under way is in
@@ -89,6 +98,9 @@ class Registratore {
   Momento Primo() const { return primo_; }
   Momento Presente() const { return Nel_Passato() ? presente_ : Adesso(); }
   Momento Adesso() const { return {plc_.Righe_Fatte, plc_.Tempo.Adesso()}; }
+
+  /// How switches and thumbwheel stood at the moment at hand.
+  const Leve& Interruttori() const { return interruttori_; }
 
   // Steps from the moment at hand; false when there is nothing there, and nothing happens.
   bool Riga_Indietro();
@@ -105,8 +117,8 @@ class Registratore {
 
   /// Plays the past on a CPU and a plant of its own, from the last place before `da` on up to `a`,
   /// without touching the one at hand. `guarda` is called between two lines, at each line or at
-  /// each entry; false ends it.
-  void Rivedi(Momento da, Momento a, bool ogni_riga, const std::function<bool(const Plc&)>& guarda);
+  /// each entry; false ends it. Returns whether a run loop was at work at its end.
+  bool Rivedi(Momento da, Momento a, bool ogni_riga, const std::function<bool(const Plc&)>& guarda);
 
   /// Bytes that are in use, about.
   std::size_t Occupata() const;
@@ -124,6 +136,7 @@ class Registratore {
   void Parti(Replica& replica, Plc& plc, const Tappa& tappa) const;
   void Vai_Da_Capo(const Tappa& tappa);
   void Rimetti();
+  Leve Leve_A(const Tappa& tappa, const Posto_Giornale& fine) const;
 
   Plc& plc_;
   std::shared_ptr<const Stesura> programma_;
@@ -134,6 +147,7 @@ class Registratore {
   bool senza_tappe_ = false;  // the open plant reads more of the CPU than its outputs
   bool chiuso_ = false;       // a plant has just gone
   bool in_avviso_ = false;    // a message box stands open, maybe in the middle of a line
+  Leve interruttori_{"00000000", "00000000"};
   Posto_Giornale qui_;        // in the past: what has been read
   bool in_giro_ = false;      // in the past: a run loop was at work
   Momento presente_;          // in the past: the moment that was left

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <charconv>
 
+#include "plants/faults.h"
+
 namespace tavorno {
 
 namespace {
@@ -171,6 +173,8 @@ void Elenca_Impianto(Elenco& a, Collegamento& fili) {
   a("chkSim", fili.chkSim());
   for (std::size_t n = 0; n < fili.Tabella().Cursori.size(); ++n)
     a(fili.Tabella().Cursori[n].Nome, fili.Valore(n));
+  for (const Guasto_Impianto& guasto : Guasti_Di(fili.Tabella(), fili.Ingressi_A_Riposo()))
+    a("guasto " + guasto.Nome, Attivo(guasto, fili));
   a("ingressi dell'impianto", impianto.Stato_I());
   a("uscite dell'impianto", impianto.Stato_Q());
   int n = 0;

@@ -106,6 +106,7 @@ class Diagramma_Tempi {
 
   enum class Cursore : std::uint8_t { A, B };
   std::optional<std::int64_t> A, B;
+  std::optional<std::int64_t> Passato;  ///< the moment that is shown of a CPU in its past
   Cursore Attivo = Cursore::A;
 
   const std::optional<std::int64_t>& Posto(Cursore quale) const {
@@ -122,8 +123,8 @@ class Diagramma_Tempi {
   bool Al_Fronte(int verso);
   /// The active cursor by so many milliseconds.
   void Passo_Cursore(std::int64_t ms);
-  /// The signal's value at the active cursor, at the present where there is none; "" before it was
-  /// recorded.
+  /// The signal's value at that cursor; where there is none, at the past moment or at the present.
+  /// "" before it was recorded.
   std::string Valore_A(const Riga_Diagramma& riga, Cursore quale) const;
 
   // ---- search and trigger

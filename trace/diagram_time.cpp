@@ -140,7 +140,7 @@ void Diagramma_Tempi::Passo_Cursore(std::int64_t ms) {
 std::string Diagramma_Tempi::Valore_A(const Riga_Diagramma& riga, Cursore quale) const {
   const Onda* onda = Onda_Di(riga);
   if (onda == nullptr) return {};
-  const auto valore = onda->A(Posto(quale).value_or(registrazione_.Fine()));
+  const auto valore = onda->A(Posto(quale).value_or(Passato.value_or(registrazione_.Fine())));
   return valore ? Testo_Valore(*Segnale_Di(riga), *valore) : std::string();
 }
 

@@ -238,8 +238,9 @@ class Pittore_Tempi {
     const char* Nome;
     bool Tratteggio;
   };
-  std::array<Segno, 4> Tutti_I_Segni() const {
-    return {{{d_.Trovato, Tinta_Tempi::Trovato, "trovato", true},
+  std::array<Segno, 5> Tutti_I_Segni() const {
+    return {{{d_.Passato, Tinta_Tempi::Segno, "passato", false},
+             {d_.Trovato, Tinta_Tempi::Trovato, "trovato", true},
              {d_.Scattato, Tinta_Tempi::Segno, "trigger", true},
              {d_.A, Tinta_Tempi::Cursore_A, "A", false},
              {d_.B, Tinta_Tempi::Cursore_B, "B", false}}};
@@ -265,7 +266,7 @@ class Pittore_Tempi {
     const double destra = misura_.Nomi - 8;
     if (due)
       Scritta(Tinta_Tempi::Cursore_A, destra - 66, base, "in A", corpo_piccolo, Ancora::Destra);
-    const char* colonna = due || d_.B ? "in B" : d_.A ? "in A" : "adesso";
+    const char* colonna = due || d_.B ? "in B" : d_.A ? "in A" : d_.Passato ? "passato" : "adesso";
     Scritta(due || d_.B ? Tinta_Tempi::Cursore_B
             : d_.A      ? Tinta_Tempi::Cursore_A
                         : Tinta_Tempi::Tenue,

@@ -5,9 +5,10 @@
 
 namespace tavorno {
 
-/// Records a CPU that lives: before each scan of a run, once per millisecond at most, and whenever
-/// `Guarda` is called, which a window does at its rate for a CPU that stands or rests. It ends with
-/// this object, and so does what it costs.
+/// Records a CPU that lives: before each scan of a run, once per millisecond at most, before and
+/// behind each step that is given by hand, and whenever `Guarda` is called, which a window does at
+/// its rate for a CPU that stands or rests. Where the clock has gone back, what was recorded of the
+/// time behind did not happen. It ends with this object, and so does what it costs.
 class Sonda {
  public:
   Sonda(Plc& plc, Registrazione& registrazione);
@@ -21,11 +22,14 @@ class Sonda {
 
  private:
   void In_Cessione();
+  void Sta_Per_Entrare(const Atto& entrata);
+  void Campiona();
 
   Plc& plc_;
   Registrazione& registrazione_;
   std::int64_t ultimo_ = -1;  // ms of the last sample of a run
-  Iscrizione cessione_;
+  bool passo_ = false;        // one was given, and what it did is not recorded yet
+  Iscrizione cessione_, entrate_;
 };
 
 }  // namespace tavorno

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <algorithm>
 #include <array>
 
 #include "recorder/ui/diagram_window.h"
@@ -18,7 +19,7 @@ constexpr double parte_di_pagina = 10;  // of the width, that an arrow moves
 }  // namespace
 
 struct Tabella_Comandi_Tempi {
-  static constexpr std::array<Comando_Tempi, 34> Righe = {{
+  static constexpr std::array<Comando_Tempi, 35> Righe = {{
       {"cmdDiretta", "Tempi_Diretta", "Space", "Segue il presente, o si ferma", &FrmTempi::Diretta,
        true},
       {"cmdTrigger", "Tempi_Trigger", "T",
@@ -34,6 +35,8 @@ struct Tabella_Comandi_Tempi {
       {"cmdA", "Tempi_A", "A", "Cursore A in mezzo alla finestra", &FrmTempi::Cursore_A, false,
        true},
       {"cmdB", "Tempi_B", "B", "Cursore B in mezzo alla finestra", &FrmTempi::Cursore_B},
+      {"cmdTorna", "Tempi_Torna", "V", "Riporta la CPU e l'impianto all'istante del cursore",
+       &FrmTempi::Torna},
       {"cmdScansioni", "Tempi_Scansioni", "G", "Linee dove inizia ogni scansione",
        &FrmTempi::Scansioni_Si_No, true, true},
       {"cmdForma", "Tempi_Forma", "C", "Il valore scelto come curva, o come numeri",
@@ -158,6 +161,12 @@ void FrmTempi::Cursore_A() {
 
 void FrmTempi::Cursore_B() {
   diagramma_.Metti_In_Mezzo(Quale::B);
+}
+
+void FrmTempi::Torna() {
+  const auto& cursore = diagramma_.Posto(diagramma_.Attivo);
+  if (!cursore) return Di(QStringLiteral("Prima metti il cursore, con un clic nel diagramma."));
+  if (Riporta) Riporta(std::clamp(*cursore, registrazione_.Inizio(), registrazione_.Fine()));
 }
 
 void FrmTempi::Senza_Cursori() {

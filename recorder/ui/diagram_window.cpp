@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "recorder/ui/signal_choice.h"
 #include "widgets/message_box.h"
@@ -205,6 +206,9 @@ QWidget* FrmTempi::Crea_Ricerca() {
 
 void FrmTempi::Aggiorna() {
   sonda_.Guarda();
+  std::optional<std::int64_t> visto;
+  if (plc_.Hook.Adesso == Vissuto::Passato) visto = plc_.Tempo.Adesso();
+  if (std::exchange(diagramma_.Passato, visto) != visto) Ridisegna();
   const bool cambiato = registrazione_.Cambi() != visti_;
   const double fine = diagramma_.Vista.X(static_cast<double>(registrazione_.Fine()));
   const bool passato = registrazione_.Fine() != fine_vista_ &&

@@ -45,6 +45,8 @@ class FrmTempi : public QWidget {
   void Programma_Caricato();
 
   std::function<void()> Mostra_Aiuto;
+  /// Takes CPU and plant back to what is seen at that moment. Empty: nobody can.
+  std::function<void(std::int64_t ms)> Riporta;
   /// Asks where to save a file of a type ("svg", "png", "vcd"); empty: nowhere.
   std::function<QString(const QString& tipo)> Chiedi_File;
   std::function<void(const Avviso&)> Avvisa;
@@ -91,6 +93,7 @@ class FrmTempi : public QWidget {
   void Fronte_Prima();
   void Cursore_A();
   void Cursore_B();
+  void Torna();
   void Senza_Cursori();
   void Cerca_Dopo();
   void Cerca_Prima();

@@ -282,6 +282,10 @@ void FrmOsserva::Inverti_Bit() {
 /// A message, or what can be done here.
 void FrmOsserva::Di(const QString& messaggio) {
   if (!messaggio.isEmpty()) return etAvviso_->setText(messaggio);
+  if (plc_.Hook.Adesso == Vissuto::Passato)
+    return etAvviso_->setText(
+        QStringLiteral("PASSATO: sono i valori di quel momento; per forzarne uno riprendi da lì, o "
+                       "torna al presente."));
   etAvviso_->setText(
       Si_Puo_Forzare(plc_)
           ? QStringLiteral("La CPU è ferma: scrivi nella colonna Forza (F2) il valore che vuoi; "

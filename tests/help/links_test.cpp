@@ -81,8 +81,8 @@ INSTANTIATE_TEST_SUITE_P(All, HelpPage, ::testing::ValuesIn(HelpPages()),
                          });
 
 TEST(HelpFolder, HasThePagesThatTheProgramAsksFor) {
-  for (const char* page :
-       {"Index.htm", "Index-AWL.htm", "SCALA.htm", "SET_IST.htm", "Tempi.htm", "style.css"})
+  for (const char* page : {"Index.htm", "Index-AWL.htm", "SCALA.htm", "SET_IST.htm", "Tempi.htm",
+                           "Indietro.htm", "style.css"})
     EXPECT_TRUE(fs::is_regular_file(HelpFolder() / page)) << page;
   for (const Esercizio& exercise : Tabella_Esercizi())
     EXPECT_TRUE(fs::is_regular_file(HelpFolder() / "Panel" / exercise.Pagina)) << exercise.Pagina;

@@ -151,6 +151,33 @@ TEST_F(Watch, WhileTheProgramRunsNothingCanBeForced) {
   EXPECT_TRUE(tabella.item(0, 3)->flags().testFlag(Qt::ItemIsEditable));
 }
 
+TEST_F(Watch, InAPauseAValueCanBeForcedAndInThePastNot) {
+  Scrivi("M0.0");
+  const Iscrizione pausa = plc.Hook.Ascolta_Cedi([this] { plc.Entra(Comando_Corsa::Pausa); });
+  plc.Entra(Comando_Corsa::Run);
+  ASSERT_TRUE(plc.In_Pausa());
+  tabella.setCurrentCell(0, 0);
+  QTest::keyClick(&tabella, Qt::Key_Space);
+  EXPECT_EQ(plc.Mem_M[0].Bit[0], 1);
+  plc.Hook.Adesso = Vissuto::Passato;
+  finestra.Aggiorna();
+  EXPECT_TRUE(Avviso_Scritto().contains("PASSATO")) << Avviso_Scritto().toStdString();
+  QTest::keyClick(&tabella, Qt::Key_Space);
+  EXPECT_EQ(plc.Mem_M[0].Bit[0], 1);
+  EXPECT_TRUE(Avviso_Scritto().contains("riprendi da qui")) << Avviso_Scritto().toStdString();
+}
+
+TEST_F(Watch, WhatIsForcedEntersTheJournal) {
+  std::vector<Atto> entrate;
+  const Iscrizione ascolto =
+      plc.Hook.Entra.Ascolta([&](const Atto& entrata) { entrate.push_back(entrata); });
+  Scrivi("VW4");
+  Forza(0, "12");
+  ASSERT_EQ(entrate.size(), 1U);
+  EXPECT_EQ(entrate[0].Che, Cosa::Forza);
+  EXPECT_EQ(entrate[0].Valore, 12);
+}
+
 TEST_F(Watch, EveryForceGoesThroughOneDoor) {
   std::vector<std::pair<std::string, double>> passati;
   finestra.Forza_Cella = [&](const Indirizzo& cella_forzata, double valore) {

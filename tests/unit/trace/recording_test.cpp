@@ -63,6 +63,42 @@ TEST_F(Recording, AStandingCpuIsRecordedWhenLookedAtAndHalfAScanIsNot) {
   EXPECT_EQ(Cambi("M0.0").size(), 2U);
 }
 
+TEST_F(Recording, EachStepThatIsGivenByHandIsSeenAtItsMoment) {
+  Carica({"LD SM0.0", "= M0.0", "LDN SM0.0", "= M0.0"});
+  Registra("M0.0");
+  plc.mnuPlcStep();
+  plc.mnuPlcRun();
+  Sonda sonda(plc, registrazione);
+  sonda.Guarda();
+  for (int riga = 0; riga < 7; ++riga) {
+    plc.Entra({.Che = Cosa::Presente, .Numero = 10 * (riga + 1)});
+    plc.Entra(Comando_Corsa::Passo);
+  }
+  // Line 0 is the network; nobody has looked meanwhile.
+  EXPECT_EQ(Cambi("M0.0"), (Coppie{{0, 0}, {30, 1}, {50, 0}}));
+}
+
+TEST_F(Recording, WhereTheClockHasGoneBackWhatCameAfterDidNotHappen) {
+  Registra("M0.0");
+  Sonda sonda(plc, registrazione);
+  const auto a = [&](std::int64_t ms, std::uint8_t valore) {
+    seduta.orologio.Rimetti(ms);
+    plc.Mem_M[0].Bit[0] = valore;
+    sonda.Guarda();
+  };
+  a(0, 0);
+  a(10, 1);
+  a(30, 0);
+  plc.Hook.Adesso = Vissuto::Passato;
+  a(15, 1);
+  EXPECT_EQ(registrazione.Fine(), 30) << "the past is only looked at";
+  plc.Hook.Adesso = Vissuto::Presente;
+  a(15, 1);
+  EXPECT_EQ(registrazione.Fine(), 15);
+  a(40, 0);
+  EXPECT_EQ(Cambi("M0.0"), (Coppie{{0, 0}, {10, 1}, {40, 0}}));
+}
+
 TEST_F(Recording, ASignalThatComesLateBeginsLate) {
   Disegna_Onda("M0.0", {{0, 0}, {10, 1}});
   Disegna_Onda("M0.1", {{20, 1}});
