@@ -185,12 +185,27 @@ void Finestre::Mostra_Tempi() {
     auto* nuovo = new FrmTempi(plc_, esercizio_);
     nuovo->setToolTip(QString::fromUtf8(tasti_ovunque));
     nuovo->Mostra_Aiuto = [this] { Mostra_Aiuto(guida_.Dir_Help + "Tempi.htm"); };
+    nuovo->Riporta = [this](std::int64_t ms) {
+      if (Torna_A) Torna_A(ms);
+    };
     return nuovo;
   });
   // At the lower border of the screen, where it hides least of the others.
   const QRect schermo = pannello_.screen()->availableGeometry();
   if (nuova) finestra.move(schermo.left(), schermo.bottom() - finestra.height() - 40);
   Porta_Avanti(finestra);
+}
+
+std::optional<std::int64_t> Finestre::Cursore_Del_Diagramma() const {
+  if (!tempi_) return {};
+  const Diagramma_Tempi& diagramma = tempi_->Dati();
+  return diagramma.Posto(diagramma.Attivo);
+}
+
+void Finestre::Specchia() {
+  if (tempi_) tempi_->Aggiorna();
+  if (osserva_) osserva_->Aggiorna();
+  if (analogici_) analogici_->Specchia();
 }
 
 void Finestre::Mostra_Osserva() {

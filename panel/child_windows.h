@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QPointer>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "awl/project.h"
@@ -60,6 +61,13 @@ class Finestre {
 
   /// The host window of the open plant, or nullptr.
   Finestra_Impianto* Impianto() const;
+  /// Takes the session back to what the timing diagram shows at a moment; empty: nobody can.
+  std::function<void(std::int64_t ms)> Torna_A;
+  /// Where the active cursor of the open diagram stands.
+  std::optional<std::int64_t> Cursore_Del_Diagramma() const;
+  /// Windows that hold something of the CPU by themselves show it as it is now.
+  void Specchia();
+
   /// Called before a plant comes or goes and before the editor opens: the past must be over.
   std::function<void()> Al_Presente = [] {};
   /// The verdict on the program, for the open plant.

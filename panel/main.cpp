@@ -79,6 +79,9 @@ int main(int argc, char** argv) {
   Barra_Seduta seduta(pannello, plc, registratore, corsa);
   seduta.Impianto = [&finestre] { return finestre.Impianto(); };
   seduta.Apri_Impianto = [&finestre](int indice) { finestre.Apri_Impianto(indice); };
+  seduta.Cursore_Del_Diagramma = [&finestre] { return finestre.Cursore_Del_Diagramma(); };
+  seduta.Specchia_Altre = [&finestre] { finestre.Specchia(); };
+  finestre.Torna_A = [&seduta](std::int64_t ms) { seduta.Torna_A(ms); };
   finestre.Al_Presente = [&seduta] { seduta.Al_Presente(); };
   const Sala_Verifica sala(pannello, plc, progetto, registratore, corsa, finestre, cartella,
                            guida.Dir_Help);

@@ -81,7 +81,15 @@ void FrmPLC::Mostra_Valori() {
   c_.listSrc->Aggiorna_Stati(aspetta ? plc_.PC : -1);
 }
 
-void FrmPLC::Specchia_Scelte() {
+void FrmPLC::Specchia_Scelte(const std::array<std::string, 2>& interruttori) {
+  // Only one of the two at the second bar is in use; the other one keeps its place.
+  SimC& contraves = c_.Fronte->Sim_C();
+  const bool ruote = contraves.isVisibleTo(c_.Fronte);
+  c_.Fronte->Sim_I(0).Mostra(interruttori[0]);
+  if (ruote)
+    contraves.Mostra(interruttori[1]);
+  else
+    c_.Fronte->Sim_I(1).Mostra(interruttori[1]);
   const Opzioni& scelte = plc_.Scelte;
   const struct {
     QAbstractButton* tasto;

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <QMainWindow>
+#include <array>
 #include <cstdint>
 #include <functional>
+#include <string>
 
 #include "awl/project.h"
 #include "awl/ui/start_mode.h"
@@ -40,8 +42,9 @@ class FrmPLC : public QMainWindow {
   /// Before the window is shown.
   void Collega_Finestre(Legami_Pannello legami);
 
-  /// Shows options and potentiometers as the CPU has them, after another time was put back.
-  void Specchia_Scelte();
+  /// Shows options and potentiometers as the CPU has them, and the switches as they stood, after
+  /// another time was put back.
+  void Specchia_Scelte(const std::array<std::string, 2>& interruttori);
   /// Shows what changed in the CPU since the last call.
   void Aggiorna();
 

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/program_list.h"
 
+#include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <algorithm>
+#include <utility>
 
 #include "widgets/colours.h"
 #include "widgets/naming.h"
@@ -39,6 +43,32 @@ void Disegna_Stato(QPainter& pittore, const QStyleOptionViewItem& opzioni, const
   pittore.drawText(posto, Qt::AlignCenter, stato.Valore);
 }
 
+/// Width of the place for the mark of a stop, at the left border.
+int Posto_Del_Segno(const QFontMetrics& metrica) {
+  return metrica.height() * 3 / 4 + 2;
+}
+
+/// A disc, with a bar in it where there is a condition; a ring where it acts in one mode only. Pale
+/// where a click would set one.
+void Disegna_Fermata(QPainter& pittore, const QStyleOptionViewItem& opzioni,
+                     Segno_Fermata::Forma forma, bool sotto_il_mouse) {
+  using Forma = Segno_Fermata::Forma;
+  if (forma == Forma::Nessuna && !sotto_il_mouse) return;
+  const double lato = Posto_Del_Segno(opzioni.fontMetrics) - 3;
+  const QRectF posto(opzioni.rect.left() + 1.5, QRectF(opzioni.rect).center().y() - lato / 2, lato,
+                     lato);
+  pittore.setRenderHint(QPainter::Antialiasing);
+  const QColor& tinta = forma == Forma::Nessuna ? colori::Fermata_Possibile : colori::Fermata;
+  pittore.setPen(forma == Forma::Vuota ? QPen(tinta, 2) : QPen(Qt::NoPen));
+  pittore.setBrush(forma == Forma::Vuota ? QBrush(Qt::NoBrush) : QBrush(tinta));
+  pittore.drawEllipse(forma == Forma::Vuota ? posto.adjusted(1, 1, -1, -1) : posto);
+  if (forma == Forma::Con_Condizione) {
+    pittore.setPen(QPen(colori::Bianco, 2));
+    pittore.drawLine(QPointF(posto.left() + lato * 0.25, posto.center().y()),
+                     QPointF(posto.right() - lato * 0.25, posto.center().y()));
+  }
+}
+
 /// A thin arrow at the left border: this line is next.
 void Disegna_Prossima(QPainter& pittore, const QRect& riga) {
   const double mezzo = riga.center().y() + 0.5, x = riga.left() + 1.5;
@@ -57,7 +87,7 @@ class Con_Numero : public QStyledItemDelegate {
   void paint(QPainter* pittore, const QStyleOptionViewItem& opzioni,
              const QModelIndex& indice) const override {
     QStyleOptionViewItem riga = opzioni;
-    const int margine = Margine(opzioni);
+    const int margine = lista_->Margine();
     riga.rect.setLeft(riga.rect.left() + margine);
     QStyledItemDelegate::paint(pittore, riga, indice);
 
@@ -68,20 +98,19 @@ class Con_Numero : public QStyledItemDelegate {
     pittore->setPen(colori::Numero_Riga.Testo);
     pittore->drawText(numero.adjusted(0, 0, -6, 0), Qt::AlignRight | Qt::AlignVCenter,
                       QString::number(indice.row()));
+    if (lista_->Segno_Di)
+      Disegna_Fermata(*pittore, opzioni, lista_->Segno_Di(indice.row()).Come,
+                      lista_->Sotto_Il_Mouse() == indice.row());
     Disegna_Stato(*pittore, opzioni, lista_->Stato(indice.row()), margine);
     if (lista_->Prossima() == indice.row()) Disegna_Prossima(*pittore, opzioni.rect);
     pittore->restore();
   }
 
   QSize sizeHint(const QStyleOptionViewItem& opzioni, const QModelIndex& indice) const override {
-    return QStyledItemDelegate::sizeHint(opzioni, indice) + QSize(Margine(opzioni), 2);
+    return QStyledItemDelegate::sizeHint(opzioni, indice) + QSize(lista_->Margine(), 2);
   }
 
  private:
-  static int Margine(const QStyleOptionViewItem& opzioni) {
-    return opzioni.fontMetrics.horizontalAdvance(QStringLiteral("0000")) + 4;
-  }
-
   Lista_Programma* lista_;
 };
 
@@ -92,11 +121,13 @@ Lista_Programma::Lista_Programma(QWidget* parent) : QListWidget(parent) {
   setUniformItemSizes(true);
   setItemDelegate(new Con_Numero(this));
   setToolTip(QStringLiteral("Lista Istruzioni"));
+  viewport()->setMouseTracking(true);
 }
 
 void Lista_Programma::Riempi(const std::vector<std::string>& righe) {
   clear();
   for (const std::string& riga : righe) addItem(Da_Byte(riga));
+  Segni_Cambiati();
 }
 
 void Lista_Programma::Scegli(int riga) {
@@ -138,6 +169,79 @@ void Lista_Programma::Aggiorna_Stati(int prossima) {
     cambiato = true;
   }
   if (cambiato) viewport()->update();
+}
+
+// ---- the margin ---------------------------------------------------------------------------------
+
+int Lista_Programma::Margine() const {
+  const QFontMetrics metrica = fontMetrics();
+  return Posto_Del_Segno(metrica) + metrica.horizontalAdvance(QStringLiteral("0000")) + 4;
+}
+
+void Lista_Programma::Segni_Cambiati() {
+  if (!Segno_Di) return;
+  for (int riga = 0; riga < count(); ++riga)
+    item(riga)->setData(Qt::AccessibleDescriptionRole, Segno_Di(riga).Cosa);
+  viewport()->update();
+}
+
+bool Lista_Programma::Nel_Margine(const QMouseEvent& evento) const {
+  return Margine_Premuto && evento.position().x() + horizontalOffset() < Margine() &&
+         indexAt(evento.position().toPoint()).isValid();
+}
+
+void Lista_Programma::Mouse_Sopra(int riga) {
+  if (riga == sotto_il_mouse_) return;
+  sotto_il_mouse_ = riga;
+  viewport()->setCursor(riga < 0 ? Qt::ArrowCursor : Qt::PointingHandCursor);
+  viewport()->update();
+}
+
+bool Lista_Programma::viewportEvent(QEvent* evento) {
+  if (evento->type() == QEvent::MouseMove) {
+    const auto& mossa = static_cast<QMouseEvent&>(*evento);
+    const bool libero = mossa.buttons() == Qt::NoButton && Nel_Margine(mossa);
+    Mouse_Sopra(libero ? indexAt(mossa.position().toPoint()).row() : -1);
+  } else if (evento->type() == QEvent::Leave) {
+    Mouse_Sopra(-1);
+  } else if (evento->type() == QEvent::ToolTip && Segno_Di) {
+    const auto& aiuto = static_cast<const QHelpEvent&>(*evento);
+    const QModelIndex riga = indexAt(aiuto.pos());
+    const QString cosa = riga.isValid() ? Segno_Di(riga.row()).Cosa : QString();
+    if (!cosa.isEmpty() && aiuto.pos().x() + horizontalOffset() < Margine()) {
+      QToolTip::showText(aiuto.globalPos(), cosa, viewport());
+      return true;
+    }
+  }
+  return QListWidget::viewportEvent(evento);
+}
+
+/// A press in the margin selects nothing: it is no click on the line.
+void Lista_Programma::mousePressEvent(QMouseEvent* evento) {
+  if (evento->button() != Qt::LeftButton || !Nel_Margine(*evento))
+    return QListWidget::mousePressEvent(evento);
+  premuto_ = true;
+  setFocus(Qt::MouseFocusReason);
+  Margine_Premuto(indexAt(evento->position().toPoint()).row());
+}
+
+void Lista_Programma::mouseDoubleClickEvent(QMouseEvent* evento) {
+  if (Nel_Margine(*evento))
+    mousePressEvent(evento);
+  else
+    QListWidget::mouseDoubleClickEvent(evento);
+}
+
+void Lista_Programma::mouseReleaseEvent(QMouseEvent* evento) {
+  if (!std::exchange(premuto_, false)) QListWidget::mouseReleaseEvent(evento);
+}
+
+void Lista_Programma::contextMenuEvent(QContextMenuEvent* evento) {
+  const bool tasto = evento->reason() == QContextMenuEvent::Keyboard;
+  const int riga = tasto ? currentRow() : indexAt(evento->pos()).row();
+  if (!Vuole_Menu || riga < 0) return;
+  Vuole_Menu(riga, tasto ? viewport()->mapToGlobal(visualItemRect(item(riga)).bottomLeft())
+                         : evento->globalPos());
 }
 
 void Lista_Programma::paintEvent(QPaintEvent* evento) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QListWidget>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -16,6 +17,18 @@ struct Stato_Riga {
   Flusso Corrente = Flusso::Ignoto;
 
   bool operator==(const Stato_Riga&) const = default;
+};
+
+/// The mark of a stop in the margin of a line.
+struct Segno_Fermata {
+  enum class Forma : std::uint8_t {
+    Nessuna,
+    Piena,
+    Con_Condizione,
+    Vuota,  ///< one that acts in a single mode of the CPU
+  };
+  Forma Come = Forma::Nessuna;
+  QString Cosa;  ///< where it stops, for the tool tip
 };
 
 /// The lines of the loaded program. Each is shown behind its number in the CPU, which is no part of
@@ -38,12 +51,35 @@ class Lista_Programma : public QListWidget {
   const Stato_Riga& Stato(int riga) const;
   int Prossima() const { return prossima_; }
 
- private:
+  // Stops, in the margin. Empty, and a margin without stops, at first.
+
+  std::function<Segno_Fermata(int riga)> Segno_Di;
+  void Segni_Cambiati();                                  ///< to be told when `Segno_Di` would
+  std::function<void(int riga)> Margine_Premuto;          ///< a click in the margin
+  std::function<void(int riga, QPoint dove)> Vuole_Menu;  ///< the menu of a line, at a point of the
+                                                          ///< screen; by the Menu key too
+  /// Width of the margin, pixels.
+  int Margine() const;
+  /// The line whose margin the mouse is over, -1 for none.
+  int Sotto_Il_Mouse() const { return sotto_il_mouse_; }
+
+ protected:
+  bool viewportEvent(QEvent* evento) override;
+  void mousePressEvent(QMouseEvent* evento) override;
+  void mouseDoubleClickEvent(QMouseEvent* evento) override;
+  void mouseReleaseEvent(QMouseEvent* evento) override;
+  void contextMenuEvent(QContextMenuEvent* evento) override;
   void paintEvent(QPaintEvent* evento) override;
+
+ private:
+  bool Nel_Margine(const QMouseEvent& evento) const;
+  void Mouse_Sopra(int riga);
 
   std::function<Stato_Riga(int)> stato_;
   std::vector<Stato_Riga> stati_;  // by line; empty while nothing is watched
   int prossima_ = -1;
+  int sotto_il_mouse_ = -1;
+  bool premuto_ = false;  // the mouse, in the margin
 };
 
 }  // namespace tavorno

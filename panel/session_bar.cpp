@@ -57,7 +57,8 @@ Barra_Seduta::Barra_Seduta(FrmPLC& pannello, Plc& plc, Registratore& registrator
       pannello_(pannello),
       plc_(plc),
       registratore_(registratore),
-      corsa_(corsa) {
+      corsa_(corsa),
+      fermate_(pannello, plc, corsa) {
   setObjectName(QStringLiteral("barraSeduta"));
   setMovable(false);
   Chiedi_File = [this](bool salva) {
@@ -74,6 +75,11 @@ Barra_Seduta::Barra_Seduta(FrmPLC& pannello, Plc& plc, Registratore& registrator
     return finestra ? finestra->Riapri() : nullptr;
   };
   registratore_.Avanzamento = [this](double parte) { return Progresso(parte); };
+  fermate_.Fermato = [this](const QString& quale) {
+    perche_ = quale;
+    show();
+  };
+  fermate_.Avvisa = [this](const QString& testo) { Avvisa(testo); };
   corsa_.Al_Battito = [this](int riga) { pannello_.Controlli().listSrc->Scegli(riga); };
 
   Crea_Comandi();
@@ -134,6 +140,14 @@ void Barra_Seduta::Crea_Comandi() {
   Comando(
       *menu, "mnuSecondoIndietro", "◀ 1 s", "Alt+PgUp", "Un secondo indietro",
       [this] { Indietro([this] { return registratore_.Tempo_Indietro(un_secondo); }); }, true);
+  al_cursore_ = Comando(
+      *menu, "mnuAlCursore", "Al &cursore del diagramma", "Alt+Home",
+      "Torna all'istante del cursore del diagramma dei tempi",
+      [this] {
+        const auto cursore = Cursore_Del_Diagramma ? Cursore_Del_Diagramma() : std::nullopt;
+        if (cursore) Torna_A(*cursore);
+      },
+      false);
   solo_nel_passato_ = {
       Comando(
           *menu, "mnuRigaAvanti", "r&iga ▶", "Alt+Right", "Una riga avanti",
@@ -164,7 +178,9 @@ void Barra_Seduta::Crea_Comandi() {
       "Torna all'ultimo cambiamento e segna la riga che lo ha fatto", [this] { Chi_E_Stato(); },
       true);
   addSeparator();
-  Crea_Fermate();
+  addWidget(fermate_.Campo());
+  menu->addSeparator();
+  fermate_.Aggiungi_Voci(*menu);
   menu->addSeparator();
   Comando(
       *menu, "mnuSalvaSeduta", "Sal&va la seduta...", "",
@@ -188,44 +204,12 @@ void Barra_Seduta::Crea_Lentezza() {
   addWidget(lentezza_);
 }
 
-void Barra_Seduta::Crea_Fermate() {
-  condizioni_ = Chiama(QStringLiteral("txtFermate"), new QLineEdit);
-  condizioni_->setPlaceholderText(Q("Fermati: Q0.1 sale; VW10 > 300"));
-  condizioni_->setToolTip(
-      Q("Dove ci si ferma, in pausa: riga 12, Q0.1 sale, Q0.1 scende, T37 cambia, VW10 > 300; "
-        "con x3 alla terza volta; più d'una con ;"));
-  condizioni_->setAccessibleName(Q("Condizioni di fermata"));
-  connect(condizioni_, &QLineEdit::editingFinished, this, [this] { Cambia_Fermate(); });
-  addWidget(condizioni_);
-}
-
 // ---- slowly -------------------------------------------------------------------------------------
 
 void Barra_Seduta::Cambia_Lentezza(int scelta) {
   const Lentezza& riga = lentezze[static_cast<std::size_t>(scelta)];
   corsa_.Velocita(riga.Velocita);
   corsa_.Batti(riga.A_Battito);
-}
-
-void Barra_Seduta::Cambia_Fermate() {
-  std::string errore;
-  if (!fermate_.Leggi(Utf8(condizioni_->text()), errore)) {
-    condizioni_->setText(Q(fermate_.Come_Testo()));
-    return Avvisa(Q(errore));
-  }
-  fermate_.Ricomincia(plc_);
-  if (fermate_.Vuote()) {
-    corsa_.Fermati_Qui = nullptr;
-    return;
-  }
-  corsa_.Fermati_Qui = [this] {
-    const Fermata* fermata = fermate_.Raggiunta(plc_);
-    if (fermata == nullptr) return false;
-    perche_ = Q("Fermata: " + fermata->Testo);
-    show();
-    pannello_.Controlli().listSrc->Scegli(plc_.PC);
-    return true;
-  };
 }
 
 void Barra_Seduta::Pausa_O_Continua() {
@@ -269,6 +253,10 @@ void Barra_Seduta::Indietro(const std::function<bool()>& passo) {
   Specchia();
 }
 
+void Barra_Seduta::Torna_A(std::int64_t ms) {
+  Indietro([this, ms] { return registratore_.Vai_A_Vista(ms); });
+}
+
 void Barra_Seduta::Chi_E_Stato() {
   const auto dove = Leggi_Indirizzo(Utf8(bit_->text().trimmed()));
   if (!dove)
@@ -309,7 +297,7 @@ void Barra_Seduta::Riprendi() {
   if (!registratore_.Nel_Passato()) return;
   registratore_.Riprendi_Da_Qui();
   perche_.clear();
-  fermate_.Ricomincia(plc_);
+  fermate_.Ricomincia();
   Specchia();
   QMetaObject::invokeMethod(
       this, [this] { corsa_.Continua(); }, Qt::QueuedConnection);
@@ -337,9 +325,10 @@ void Barra_Seduta::Specchia() {
   plc_.Segna(Segno_Immagini | Segno_PC | Segno_Tempo | Segno_Lista | Segno_Comandi |
              Segno_Analogici);
   pannello_.Aggiorna();
-  pannello_.Specchia_Scelte();
+  pannello_.Specchia_Scelte(registratore_.Interruttori());
   if (registratore_.Nel_Passato()) pannello_.Controlli().listSrc->Scegli(plc_.PC);
   if (Finestra_Impianto* finestra = Impianto ? Impianto() : nullptr) finestra->Specchia();
+  if (Specchia_Altre) Specchia_Altre();
   Mostra_Stato();
 }
 
@@ -365,6 +354,7 @@ void Barra_Seduta::Mostra_Stato() {
   const QString pausa = corsa_.In_Pausa() && !passato ? Q("&Continua") : Q("&Pausa");
   if (pausa_->text() != pausa) pausa_->setText(pausa);
   pausa_->setEnabled(!passato);
+  al_cursore_->setEnabled(Cursore_Del_Diagramma && Cursore_Del_Diagramma());
   for (QAction* azione : solo_nel_passato_) azione->setEnabled(passato);
 }
 

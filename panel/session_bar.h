@@ -4,11 +4,12 @@
 #include <QString>
 #include <QToolBar>
 #include <functional>
+#include <optional>
 
 #include "panel/panel_window.h"
 #include "panel/run_driver.h"
+#include "panel/stop_marks.h"
 #include "recorder/recorder.h"
-#include "recorder/stops.h"
 
 class QComboBox;
 class QLabel;
@@ -31,6 +32,15 @@ class Barra_Seduta : public QToolBar {
   /// A message of its own.
   std::function<void(const QString& testo)> Avvisa;
 
+  Fermate_Pannello& Le_Fermate() { return fermate_; }
+
+  /// To what the timing diagram shows at that moment of the clock.
+  void Torna_A(std::int64_t ms);
+  /// Where the cursor of the open diagram stands; empty: no diagram, or no cursor.
+  std::function<std::optional<std::int64_t>()> Cursore_Del_Diagramma;
+  /// Other windows that hold something by themselves are to show what the CPU is now.
+  std::function<void()> Specchia_Altre;
+
   /// What a plant that comes or goes, and the editor, need first.
   void Al_Presente();
 
@@ -39,7 +49,6 @@ class Barra_Seduta : public QToolBar {
                    const char* suggerimento, std::function<void()> fai, bool nella_barra);
   void Crea_Comandi();
   void Crea_Lentezza();
-  void Crea_Fermate();
   void Pausa_O_Continua();
   void Indietro(const std::function<bool()>& passo);
   void Chi_E_Stato();
@@ -48,7 +57,6 @@ class Barra_Seduta : public QToolBar {
   void Apri();
   bool Ferma_Il_Tempo();
   void Cambia_Lentezza(int scelta);
-  void Cambia_Fermate();
   bool Progresso(double parte);
   void Specchia();
   void Mostra_Stato();
@@ -57,12 +65,12 @@ class Barra_Seduta : public QToolBar {
   Plc& plc_;
   Registratore& registratore_;
   Guida_Corsa& corsa_;
-  Fermate fermate_;
+  Fermate_Pannello fermate_;
   QString perche_;  // why the run stands
   QLabel* stato_ = nullptr;
   QComboBox* lentezza_ = nullptr;
-  QLineEdit *bit_ = nullptr, *condizioni_ = nullptr;
-  QAction* pausa_ = nullptr;
+  QLineEdit* bit_ = nullptr;
+  QAction *pausa_ = nullptr, *al_cursore_ = nullptr;
   std::vector<QAction*> solo_nel_passato_;
   QElapsedTimer da_quando_;
   bool annullato_ = false;

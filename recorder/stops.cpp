@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <span>
 #include <sstream>
 
 namespace tavorno {
@@ -50,10 +51,10 @@ bool Vale(const Fermata& fermata, double prima, double ora) {
       return ora >= fermata.Valore;
     case Prova::Al_Piu:
       return ora <= fermata.Valore;
-    case Prova::Riga:
+    case Prova::Sempre:
       break;
   }
-  return false;
+  return true;
 }
 
 /// A change comes true each time; what holds on comes true once.
@@ -63,10 +64,26 @@ bool Passeggera(Prova quando) {
 
 }  // namespace
 
+std::string Fermata::Cosa() const {
+  if (Quando == Prova::Sempre) return {};
+  const auto prova = std::ranges::find(prove, Quando, &Riga_Prova::Quando);
+  std::string testo = Testo_Indirizzo(Cella) + " " + std::string(prova->Parola);
+  if (!prova->Con_Valore) return testo;
+  char cifre[32];
+  return testo + " " + std::string(cifre, std::to_chars(cifre, std::end(cifre), Valore).ptr);
+}
+
+std::string Fermata::Testo() const {
+  std::string testo = Cosa();
+  if (Riga != Ogni_Riga)
+    testo = "riga " + std::to_string(Riga) + (testo.empty() ? "" : " se " + testo);
+  return Volte == 1 ? testo : testo + " x" + std::to_string(Volte);
+}
+
 std::optional<Fermata> Leggi_Fermata(const std::string& testo, std::string& errore) {
   errore = "fermata non valida \"" + testo +
-           "\": si scrive riga 12, Q0.1 sale, Q0.1 scende, T37 cambia, VW10 > 300; con x3 alla "
-           "terza volta";
+           "\": si scrive riga 12, Q0.1 sale, Q0.1 scende, T37 cambia, VW10 > 300, riga 12 se VW10 "
+           "> 300; con x3 alla terza volta";
   std::istringstream flusso(testo);
   std::vector<std::string> parole;
   for (std::string parola; flusso >> parola;) parole.push_back(parola);
@@ -76,20 +93,24 @@ std::optional<Fermata> Leggi_Fermata(const std::string& testo, std::string& erro
       return {};
     parole.pop_back();
   }
-  if (parole.size() < 2) return {};
-  fermata.Testo = testo;
-  if (parole[0] == "riga") {
-    if (parole.size() != 2 || !Numero(parole[1], fermata.Riga) || fermata.Riga < 0) return {};
-    errore.clear();
-    return fermata;
+  std::span<const std::string> resto = parole;
+  if (resto.size() >= 2 && resto[0] == "riga") {
+    if (!Numero(resto[1], fermata.Riga) || fermata.Riga < 0) return {};
+    resto = resto.subspan(2);
+    if (!resto.empty() && (resto[0] != "se" || resto.size() == 1)) return {};
+    if (!resto.empty()) resto = resto.subspan(1);
   }
-  const auto cella = Leggi_Indirizzo(parole[0]);
-  const auto prova = std::ranges::find(prove, parole[1], &Riga_Prova::Parola);
-  if (!cella || prova == std::end(prove)) return {};
-  if (parole.size() != (prova->Con_Valore ? 3U : 2U)) return {};
-  if (prova->Con_Valore && !Numero(parole[2], fermata.Valore)) return {};
-  fermata.Quando = prova->Quando;
-  fermata.Cella = *cella;
+  if (!resto.empty()) {
+    const auto cella = Leggi_Indirizzo(resto[0]);
+    if (!cella || resto.size() < 2) return {};
+    const auto prova = std::ranges::find(prove, resto[1], &Riga_Prova::Parola);
+    if (prova == std::end(prove) || resto.size() != (prova->Con_Valore ? 3U : 2U)) return {};
+    if (prova->Con_Valore && !Numero(resto[2], fermata.Valore)) return {};
+    fermata.Quando = prova->Quando;
+    fermata.Cella = *cella;
+  } else if (fermata.Riga == Fermata::Ogni_Riga) {
+    return {};
+  }
   errore.clear();
   return fermata;
 }
@@ -109,33 +130,28 @@ bool Fermate::Leggi(const std::string& lista, std::string& errore) {
   return true;
 }
 
-bool Fermate::Alla_Riga(int riga) const {
-  return std::ranges::any_of(fermate_, [riga](const Fermata& fermata) {
-    return fermata.Quando == Prova::Riga && fermata.Riga == riga;
-  });
+const Fermata* Fermate::Alla_Riga(int riga) const {
+  const auto trovata = std::ranges::find(fermate_, riga, &Fermata::Riga);
+  return trovata == fermate_.end() ? nullptr : &*trovata;
 }
 
 void Fermate::Alterna_Riga(int riga) {
-  const auto tolte = std::erase_if(fermate_, [riga](const Fermata& fermata) {
-    return fermata.Quando == Prova::Riga && fermata.Riga == riga;
-  });
-  if (tolte > 0) return;
+  if (std::erase_if(fermate_, [riga](const Fermata& una) { return una.Riga == riga; }) > 0) return;
   Fermata fermata;
   fermata.Riga = riga;
-  fermata.Testo = "riga " + std::to_string(riga);
-  fermate_.push_back(std::move(fermata));
+  fermate_.push_back(fermata);
 }
 
 std::string Fermate::Come_Testo() const {
   std::string testo;
-  for (const Fermata& fermata : fermate_) testo += (testo.empty() ? "" : "; ") + fermata.Testo;
+  for (const Fermata& fermata : fermate_) testo += (testo.empty() ? "" : "; ") + fermata.Testo();
   return testo;
 }
 
 void Fermate::Ricomincia(const Plc& plc) {
   for (Fermata& fermata : fermate_) {
     fermata.Contate = 0;
-    if (fermata.Quando == Prova::Riga) continue;
+    if (fermata.Quando == Prova::Sempre) continue;
     fermata.Prima = Leggi_Cella(plc, fermata.Cella);
     fermata.Vera = !Passeggera(fermata.Quando) && Vale(fermata, fermata.Prima, fermata.Prima);
   }
@@ -144,13 +160,14 @@ void Fermate::Ricomincia(const Plc& plc) {
 const Fermata* Fermate::Raggiunta(const Plc& plc) {
   const Fermata* raggiunta = nullptr;
   for (Fermata& fermata : fermate_) {
-    bool avvenuta = false;
-    if (fermata.Quando == Prova::Riga) {
-      avvenuta = plc.PC == fermata.Riga;
-    } else {
+    const bool sua = fermata.Riga != Fermata::Ogni_Riga;
+    if (sua && plc.PC != fermata.Riga) continue;
+    bool avvenuta = true;
+    if (fermata.Quando != Prova::Sempre) {
       const double ora = Leggi_Cella(plc, fermata.Cella);
       const bool vale = Vale(fermata, fermata.Prima, ora);
-      avvenuta = vale && !fermata.Vera;
+      // What holds on comes true once, but at a line it is asked for each time.
+      avvenuta = vale && (sua || !fermata.Vera);
       fermata.Vera = vale && !Passeggera(fermata.Quando);
       fermata.Prima = ora;
     }

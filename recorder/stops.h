@@ -9,10 +9,11 @@
 
 namespace tavorno {
 
-/// Where a run is to stop: before a line, or when something becomes true of a cell.
+/// Where a run is to stop: before a line, when something becomes true of a cell, or before a line
+/// where it is.
 struct Fermata {
   enum class Prova {
-    Riga,
+    Sempre,
     Sale,
     Scende,
     Cambia,
@@ -24,12 +25,16 @@ struct Fermata {
     Al_Piu
   };
 
-  Prova Quando = Prova::Riga;
-  int Riga = 0;     ///< of `Prova::Riga`
-  Indirizzo Cella;  ///< of the others
+  static constexpr int Ogni_Riga = -1;
+
+  int Riga = Ogni_Riga;  ///< only there; a change is then one since the last time there
+  Prova Quando = Prova::Sempre;
+  Indirizzo Cella;  ///< but of `Prova::Sempre`
   double Valore = 0;
-  int Volte = 1;      ///< stops at every so many times that it comes true
-  std::string Testo;  ///< as it was written, UTF-8
+  int Volte = 1;  ///< stops at every so many times that it comes true
+
+  std::string Cosa() const;   ///< "VW10 > 300"; empty for `Prova::Sempre`
+  std::string Testo() const;  ///< "riga 12 se VW10 > 300 x3"
 
   // While a program runs.
   int Contate = 0;
@@ -37,8 +42,9 @@ struct Fermata {
   bool Vera = false;
 };
 
-/// Reads "riga 12", "Q0.1 sale", "I0.0 scende", "T37 cambia", "VW10 > 300", each with " x3" behind
-/// it for the third time. Empty for anything else, and `errore` says in Italian what is wrong.
+/// Reads "riga 12", "Q0.1 sale", "I0.0 scende", "T37 cambia", "VW10 > 300", "riga 12 se VW10 >
+/// 300", each with " x3" behind it for the third time. Empty for anything else, and `errore` says
+/// in Italian what is wrong.
 std::optional<Fermata> Leggi_Fermata(const std::string& testo, std::string& errore);
 
 /// All stops of a program.
@@ -47,10 +53,12 @@ class Fermate {
   /// Reads a list separated by ";". False, and nothing changes, when one of them is wrong.
   bool Leggi(const std::string& lista, std::string& errore);
   void Togli_Tutte() { fermate_.clear(); }
-  /// A stop before this line: sets it, or takes it away.
+  /// A stop before this line: sets it, or takes away all that are there.
   void Alterna_Riga(int riga);
-  bool Alla_Riga(int riga) const;
+  /// The first one before this line, or nullptr.
+  const Fermata* Alla_Riga(int riga) const;
   bool Vuote() const { return fermate_.empty(); }
+  const std::vector<Fermata>& Tutte() const { return fermate_; }
   /// The list as it can be read back.
   std::string Come_Testo() const;
 

@@ -53,9 +53,11 @@ inline constexpr QColor Scala_Agisce(0xff, 0xee, 0xeb);   ///< inside a box that
 inline constexpr QColor Scala_Cursore(0x2f, 0x6f, 0xb5);  ///< beside the network of the caret
 inline constexpr QColor Scala_Bordo(0xb8, 0xbe, 0xc6);    ///< between networks
 inline constexpr Coppia Valore_Riga{"value beside a line", {0x1b, 0x1f, 0x24}, {0xe2, 0xe7, 0xed}};
-inline constexpr QColor Corrente(0x1f, 0x9d, 0x45);        ///< power flows behind a line
-inline constexpr QColor Senza_Corrente(0xb4, 0xbc, 0xc6);  ///< none does
-inline constexpr QColor Prossima_Riga(0x1f, 0x6f, 0x9e);   ///< mark of the next line
+inline constexpr QColor Corrente(0x1f, 0x9d, 0x45);           ///< power flows behind a line
+inline constexpr QColor Senza_Corrente(0xb4, 0xbc, 0xc6);     ///< none does
+inline constexpr QColor Prossima_Riga(0x1f, 0x6f, 0x9e);      ///< mark of the next line
+inline constexpr QColor Fermata(0xc0, 0x28, 0x1c);            ///< mark of a stop
+inline constexpr QColor Fermata_Possibile(0xe8, 0xb4, 0xae);  ///< where a click would set one
 inline constexpr Coppia Cella_Cambiata{"watched cell, changed", Nero, {0xff, 0xe9, 0x8a}};
 inline constexpr Coppia Cella_Forzata{"watched cell, forced", Bianco, {0xa8, 0x4a, 0x12}};
 

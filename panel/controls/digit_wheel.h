@@ -28,6 +28,8 @@ class Rotella : public QWidget {
   void Passo(int verso) { Value(cifra_ + verso); }
   /// Turns to 0 without telling.
   void Azzera();
+  /// Turns to a digit without telling.
+  void Mostra(int cifra);
 
  protected:
   void paintEvent(QPaintEvent* evento) override;
@@ -38,8 +40,6 @@ class Rotella : public QWidget {
   void focusOutEvent(QFocusEvent* evento) override;
 
  private:
-  void Mostra(int cifra);
-
   QSvgRenderer& disegni_;
   QLabel* etichetta_;
   QAbstractButton* su_;

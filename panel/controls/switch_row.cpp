@@ -64,6 +64,15 @@ void SimI::SIMI_Reset() {
   for (Interruttore* interruttore : imgI0_) interruttore->Mostra(Immagine::imgPOFF);
 }
 
+void SimI::Mostra(std::string_view testo) {
+  for (std::size_t n = 0; n < 8 && n < testo.size(); ++n) {
+    accesi_[n] = testo[n] == '1';
+    imgI0_[n]->Mostra(accesi_[n] ? Immagine::imgPON : Immagine::imgPOFF);
+  }
+  stato_ = testo;
+  txtI_.Scrivi(testo, {});
+}
+
 void SimI::Rilascia(std::size_t n) {
   accesi_[n] = !accesi_[n];
   imgI0_[n]->Mostra(accesi_[n] ? Immagine::imgPON : Immagine::imgPOFF);

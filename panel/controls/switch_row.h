@@ -43,6 +43,9 @@ class SimI : public QWidget {
   const std::string& Stato_I() const { return stato_; }
   void Stato_I(std::string_view testo) { stato_ = testo; }
 
+  /// Switches, text and what was told last are these, without telling: another time was put back.
+  void Mostra(std::string_view testo);
+
   /// All switches off. `Stato_I` stays, and nothing is told.
   void SIMI_Reset();
 

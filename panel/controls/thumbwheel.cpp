@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPainter>
+#include <algorithm>
 
 #include "panel/controls/digit_wheel.h"
 #include "panel/controls/element.h"
@@ -66,6 +67,19 @@ void SimC::ForeColor(const QColor& colore) {
 void SimC::SimC_Stato(std::string_view testo) {
   stato_ = testo;
   txtI_.Scrivi(stato_, Change);
+}
+
+void SimC::Mostra(std::string_view testo) {
+  if (testo.size() != 8) return;
+  const auto cifra = [](std::string_view una) {
+    return std::ranges::find(Testi_Cifre, una) - Testi_Cifre.begin();
+  };
+  const auto unita = cifra(testo.substr(0, 4)), decine = cifra(testo.substr(4));
+  if (unita == std::ssize(Testi_Cifre) || decine == std::ssize(Testi_Cifre)) return;
+  UpD1_->Mostra(static_cast<int>(decine));
+  UpD2_->Mostra(static_cast<int>(unita));
+  stato_ = testo;
+  txtI_.Scrivi(testo, {});
 }
 
 void SimC::SimC_Clear() {

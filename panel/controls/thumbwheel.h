@@ -44,6 +44,10 @@ class SimC : public QWidget {
   const std::string& SimC_Stato() const { return stato_; }
   void SimC_Stato(std::string_view testo);
 
+  /// Wheels, text and what was told last are these, without telling: another time was put back. A
+  /// text that is no number of two digits changes nothing.
+  void Mostra(std::string_view testo);
+
   /// Both wheels to 0; one `Change` at most.
   void SimC_Clear();
 

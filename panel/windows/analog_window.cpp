@@ -10,6 +10,7 @@
 #include <QSlider>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <cmath>
 
 #include "panel/windows/fields.h"
 #include "panel/windows/value_scale.h"
@@ -126,6 +127,15 @@ void FrmSimAI::Mostra_Valori() {
     canale.Mostrato = valore;
     canale.Valore->setText(QString::number(static_cast<double>(valore), 'g', 4) + misura);
   }
+}
+
+void FrmSimAI::Specchia() {
+  for (int i = 0; i < 3; ++i) {
+    QSlider& cursore = *canali_[static_cast<std::size_t>(i)].Cursore;
+    const QSignalBlocker zitto(cursore);
+    cursore.setValue(static_cast<int>(std::lround(plc_.Volt_AI[i])));
+  }
+  Mostra_Valori();
 }
 
 void FrmSimAI::cmdEnd() {

@@ -23,6 +23,8 @@ class FrmSimAI : public QWidget {
 
   /// Shows what stands in `Volt_AI`, which a plant may write as well.
   void Mostra_Valori();
+  /// The sliders too, after another time was put back: each one that moves writes all channels.
+  void Specchia();
 
  private:
   struct Canale {

@@ -173,6 +173,30 @@ TEST_F(Corsa_Pannello, TheStopLineIsPickedWithTheKeysToo) {
   EXPECT_EQ(c.txtStop->text(), "2");
 }
 
+TEST_F(Corsa_Pannello, AClickOnAPageChoosesItsModeWhileTheCpuStands) {
+  Carica("LD I0.0\r\n= Q0.0\r\n");
+  const auto clic = [&](int pagina) {
+    QTabBar* linguette = c.SSTb3->tabBar();
+    QTest::mouseClick(linguette, Qt::LeftButton, {}, linguette->tabRect(pagina).center());
+    QCoreApplication::processEvents();
+    pannello.Aggiorna();
+  };
+  clic(1);
+  EXPECT_EQ(plc.Modo_Run, Modo::Ciclo);
+  c.txtStop->setText("2");
+  c.chkStop->setChecked(true);
+  Scegli("mnuPlcRun");
+  EXPECT_EQ(plc.PC, 2) << "the first try with a stop line works";
+  EXPECT_TRUE(plc.Attivi.cmdRest);
+  clic(2);
+  EXPECT_EQ(plc.Modo_Run, Modo::Ciclo) << "a run has the page of its own";
+  Scegli("mnuPlcStop");
+  clic(2);
+  EXPECT_EQ(plc.Modo_Run, Modo::Step);
+  clic(0);
+  EXPECT_EQ(plc.Modo_Run, Modo::Cont);
+}
+
 TEST_F(Corsa_Pannello, TheStopConditionsExcludeEachOther) {
   c.chkStop->setChecked(true);
   EXPECT_FALSE(c.chkSol->isEnabled());

@@ -21,10 +21,14 @@
 #include "panel/program_list.h"
 #include "panel/run_driver.h"
 #include "panel/session_bar.h"
+#include "plants/faults.h"
+#include "plants/host/fault_panel.h"
 #include "plants/host/host_window.h"
 #include "plants/host/picture_widget.h"
 #include "recorder/session.h"
 #include "recorder/session_file.h"
+#include "recorder/ui/diagram_window.h"
+#include "recorder/ui/watch_window.h"
 #include "recorder/whole_state.h"
 #include "tests/support/temporary_folder.h"
 #include "widgets/command_tables.h"
@@ -40,6 +44,9 @@ class Finestre_A_Caso {
     barra.Impianto = [this] { return finestre.Impianto(); };
     barra.Apri_Impianto = [this](int indice) { finestre.Apri_Impianto(indice); };
     barra.Avvisa = [this](const QString& testo) { avvisi.push_back(testo.toStdString()); };
+    barra.Cursore_Del_Diagramma = [this] { return finestre.Cursore_Del_Diagramma(); };
+    barra.Specchia_Altre = [this] { finestre.Specchia(); };
+    finestre.Torna_A = [this](std::int64_t ms) { barra.Torna_A(ms); };
     finestre.Al_Presente = [this] { barra.Al_Presente(); };
     corsa.Ferma();  // its clock is the real one; ours is moved by hand
     corsa.Attesa = false;
@@ -64,7 +71,9 @@ class Finestre_A_Caso {
       Tempo();
       Mossa();
       QCoreApplication::processEvents();
+      Dopo_Una_Mossa();
     }
+    barra.Al_Presente();
   }
 
   unsigned Numero(unsigned massimo) { return static_cast<unsigned>(caso_() % (massimo + 1)); }
@@ -80,6 +89,8 @@ class Finestre_A_Caso {
   Finestre finestre{pannello, plc, seduta.progetto, guida};
   Barra_Seduta barra{pannello, plc, registratore, corsa};
   std::vector<std::string> avvisi;
+  std::function<void()> Dopo_Una_Mossa = [] {};    // while the CPU stands
+  int forzate = 0, guasti_messi = 0, passati = 0;  // so often it was done
 
   Collegamento* Fili() { return finestre.Impianto() ? &finestre.Impianto()->Fili() : nullptr; }
 
@@ -96,7 +107,16 @@ class Finestre_A_Caso {
 
   void Mossa() {
     Controlli_Pannello& c = pannello.Controlli();
-    switch (Numero(17)) {
+    switch (Numero(20)) {
+      case 18:
+        Forza_A_Caso();
+        break;
+      case 19:
+        Guasto_A_Caso();
+        break;
+      case 20:
+        Passato_A_Caso();
+        break;
       case 0:
       case 1: {
         const auto righe = c.Fronte->findChildren<QWidget*>(
@@ -170,6 +190,41 @@ class Finestre_A_Caso {
       QTest::keyRelease(&quadro, Qt::Key_Space);
   }
 
+  /// A value by hand, as far as the watch window lets one.
+  void Forza_A_Caso() {
+    finestre.Mostra_Osserva();
+    for (QWidget* finestra : QApplication::topLevelWidgets()) {
+      auto* osserva = dynamic_cast<FrmOsserva*>(finestra);
+      if (osserva == nullptr) continue;
+      static constexpr const char* celle[] = {"M0.0",    "VW10", "Q0.1", "I0.0",
+                                              "T37.Val", "AC0",  "VB3"};
+      const auto cella = Leggi_Indirizzo(celle[Numero(std::size(celle) - 1)]);
+      forzate += osserva->Forza_Cella(*cella, Numero(1)).empty();
+    }
+  }
+
+  void Guasto_A_Caso() {
+    if (Fili() == nullptr) return;
+    auto* pannello_guasti = dynamic_cast<Pannello_Guasti*>(
+        finestre.Impianto()->findChild<QWidget*>(QStringLiteral("Guasti")));
+    ASSERT_NE(pannello_guasti, nullptr);
+    const auto guasti = Guasti_Di(Fili()->Tabella(), Fili()->Ingressi_A_Riposo());
+    const Guasto_Impianto& guasto = guasti[Numero(static_cast<unsigned>(guasti.size() - 1))];
+    guasti_messi += pannello_guasti->Imposta(QString::fromStdString(guasto.Nome), Numero(1) == 0);
+  }
+
+  /// Back, forth, and on from there.
+  void Passato_A_Caso() {
+    static constexpr const char* voci[] = {
+        "mnuRigaIndietro",    "mnuScansioneIndietro", "mnuSecondoIndietro", "mnuRigaAvanti",
+        "mnuScansioneAvanti", "mnuPresente",          "mnuRiprendiDaQui",   "mnuRiprendiDaQui",
+        "mnuPausa",           "mnuChiEStato"};
+    QAction& voce = Azione(pannello, voci[Numero(std::size(voci) - 1)]);
+    if (!voce.isEnabled()) return;
+    voce.trigger();
+    passati += registratore.Nel_Passato();
+  }
+
   void Apri() { finestre.Apri_Impianto(static_cast<int>(Numero(17))); }
   void Chiudi() {
     finestre.Impianto()->close();
@@ -205,12 +260,17 @@ int Sessioni() {
 TEST(SessionInTheWindows, IsTheSameWhenItIsPlayedAgain) {
   const char* da = std::getenv("TAVORNO_SEME");
   const int primo = da ? std::atoi(da) : 1;
+  int forzate = 0, guasti = 0, passati = 0;
   for (int seme = primo; seme < primo + Sessioni(); ++seme) {
     SCOPED_TRACE("seed " + std::to_string(seme));
     Finestre_A_Caso finestre(static_cast<unsigned>(seme));
     finestre.Carica(programma);
     if (::testing::Test::HasFatalFailure()) return;
+    finestre.finestre.Apri_Impianto(seme % 18);  // chance opens others later
     finestre.Gioca(400);
+    forzate += finestre.forzate;
+    guasti += finestre.guasti_messi;
+    passati += finestre.passati;
     Stato_Intero vero = Elenca_Stato(finestre.plc, finestre.Fili());
     // By way of its file, as the bench would.
     std::string motivo;
@@ -227,6 +287,87 @@ TEST(SessionInTheWindows, IsTheSameWhenItIsPlayedAgain) {
       std::erase_if(*stato, [](const auto& riga) { return riga.first == "prossimi scatti"; });
     ASSERT_EQ(Prima_Differenza(rifatto, vero), "");
   }
+  EXPECT_GT(forzate, 0);
+  EXPECT_GT(guasti, 0);
+  EXPECT_GT(passati, 0);
+}
+
+TEST(SessionInTheWindows, TheSwitchesStandWhereTheyStoodAtAPastMoment) {
+  Finestre_A_Caso finestre(3);
+  finestre.Carica(programma);
+  finestre.plc.Entra(Comando_Corsa::Step);
+  finestre.plc.Entra(Comando_Corsa::Run);
+  SimI& riga = finestre.pannello.Controlli().Fronte->Sim_I(0);
+  const auto passa = [&] {
+    finestre.plc.Entra({.Che = Cosa::Presente, .Numero = finestre.plc.Tempo.Adesso() + 10});
+    finestre.plc.Entra(Comando_Corsa::Passo);
+  };
+  const auto premi = [&](int bit) {
+    QTest::mouseClick(riga.findChild<QWidget*>(QStringLiteral("imgI0(%1)").arg(bit)),
+                      Qt::LeftButton);
+    passa();
+  };
+  passa();
+  premi(1);
+  const Momento allora = finestre.registratore.Adesso();
+  premi(4);
+  EXPECT_EQ(riga.Stato_I(), "01001000");
+  while (finestre.plc.Righe_Fatte > allora.Righe)
+    Azione(finestre.pannello, "mnuRigaIndietro").trigger();
+  EXPECT_EQ(riga.Stato_I(), "01001000") << "it was pressed before the next line";
+  Azione(finestre.pannello, "mnuRigaIndietro").trigger();
+  EXPECT_EQ(riga.Stato_I(), "01000000");
+  Azione(finestre.pannello, "mnuPresente").trigger();
+  EXPECT_EQ(riga.Stato_I(), "01001000");
+  for (int volta = 0; volta < 2; ++volta) Azione(finestre.pannello, "mnuRigaIndietro").trigger();
+  Azione(finestre.pannello, "mnuRiprendiDaQui").trigger();
+  EXPECT_FALSE(finestre.registratore.Nel_Passato());
+  EXPECT_EQ(finestre.plc.SI[0].Stato_I(), "01000000");
+  premi(7);
+  EXPECT_EQ(finestre.plc.SI[0].Stato_I(), "01000001") << "the other switches keep their places";
+}
+
+TEST(SessionInTheWindows, GoesBackToWhatTheDiagramShowsAtItsCursor) {
+  Finestre_A_Caso finestre(5);
+  finestre.Carica(programma);
+  finestre.finestre.Mostra_Tempi();
+  FrmTempi* tempi = nullptr;
+  for (QWidget* una : QApplication::topLevelWidgets()) {
+    if (auto* questa = dynamic_cast<FrmTempi*>(una)) tempi = questa;
+  }
+  ASSERT_NE(tempi, nullptr);
+  tempi->findChild<QTimer*>("timT")->stop();
+  EXPECT_FALSE(Azione(finestre.pannello, "mnuAlCursore").isEnabled()) << "no cursor yet";
+  finestre.Dopo_Una_Mossa = [&] { tempi->Aggiorna(); };
+  finestre.Gioca(400);
+  const Registrazione& dati = tempi->Registrati();
+  ASSERT_GT(dati.Cambi(), 20);
+  const std::int64_t da = std::max(finestre.registratore.Primo().Ms, dati.Inizio());
+  int guardati = 0;
+  for (std::int64_t ms = dati.Fine(); ms > da;
+       ms -= std::max<std::int64_t>(1, (dati.Fine() - da) / 40)) {
+    tempi->Dati().Metti(Diagramma_Tempi::Cursore::A, ms);
+    QTest::keyClick(tempi, Qt::Key_V);
+    ASSERT_TRUE(finestre.registratore.Nel_Passato());
+    EXPECT_LE(finestre.plc.Tempo.Adesso(), ms);
+    if (finestre.plc.PC != 0) continue;  // nobody samples half a scan
+    for (const Riga_Diagramma& riga : tempi->Dati().Righe()) {
+      const Segnale* segnale = tempi->Dati().Segnale_Di(riga);
+      if (segnale == nullptr) continue;
+      const auto visto = tempi->Dati().Onda_Di(riga)->A(ms);
+      if (!visto) continue;
+      EXPECT_EQ(Valore(*segnale, finestre.plc), *visto) << segnale->Nome << " at " << ms;
+      ++guardati;
+    }
+  }
+  EXPECT_GT(guardati, 100);
+  tempi->Aggiorna();
+  EXPECT_EQ(tempi->Dati().Passato, finestre.plc.Tempo.Adesso());
+  const std::int64_t qui = finestre.plc.Tempo.Adesso();
+  finestre.registratore.Riprendi_Da_Qui();
+  tempi->Aggiorna();
+  EXPECT_FALSE(tempi->Dati().Passato);
+  EXPECT_LE(dati.Fine(), qui + 1) << "what came after did not happen";
 }
 
 TEST(SessionInTheWindows, GoesBackAndForthAndOnFromThere) {

@@ -57,10 +57,45 @@ TEST_F(Stops, CountsAndStopsAtEverySoManyTimes) {
   EXPECT_EQ(fermate_viste, 3);
 }
 
+TEST_F(Stops, StopsBeforeALineEachTimeThatItsConditionHoldsThere) {
+  ASSERT_TRUE(Leggi("riga 3 se VW10 > 300"));
+  plc.Mem_VW[10] = 301;
+  EXPECT_FALSE(Ferma()) << "another line";
+  plc.PC = 3;
+  EXPECT_TRUE(Ferma());
+  EXPECT_TRUE(Ferma()) << "it holds at the next pass, too";
+  plc.Mem_VW[10] = 0;
+  EXPECT_FALSE(Ferma());
+}
+
+TEST_F(Stops, AChangeAtALineIsOneSinceTheLastPass) {
+  ASSERT_TRUE(Leggi("riga 3 se M0.0 sale"));
+  plc.PC = 3;
+  EXPECT_FALSE(Ferma());
+  plc.PC = 5;
+  plc.Mem_M[0].Bit[0] = 1;
+  EXPECT_FALSE(Ferma());
+  plc.PC = 3;
+  EXPECT_TRUE(Ferma());
+  EXPECT_FALSE(Ferma());
+}
+
+TEST_F(Stops, AreWrittenAsTheyAreRead) {
+  const std::string lista =
+      "riga 12; riga 4 se VW10 > 300 x3; Q0.1 sale; AC0 <= -2.5; T37 cambia x2";
+  ASSERT_TRUE(Leggi(lista)) << errore;
+  EXPECT_EQ(fermate.Come_Testo(), lista);
+  EXPECT_EQ(fermate.Tutte()[1].Cosa(), "VW10 > 300");
+  EXPECT_EQ(fermate.Tutte()[0].Cosa(), "");
+  fermate.Alterna_Riga(4);
+  EXPECT_EQ(fermate.Alla_Riga(4), nullptr);
+}
+
 TEST_F(Stops, RefusesWhatItDoesNotUnderstandAndKeepsWhatItHad) {
   ASSERT_TRUE(Leggi("riga 3"));
-  for (const char* cattiva : {"Q0.9 sale", "VW10", "VW10 > x", "riga -1", "riga 2 3",
-                              "M0.0 sale x0", "M0.0 salta", "VW10 > 3 4"}) {
+  for (const char* cattiva :
+       {"Q0.9 sale", "VW10", "VW10 > x", "riga -1", "riga 2 3", "M0.0 sale x0", "M0.0 salta",
+        "VW10 > 3 4", "riga 2 se", "riga 2 se VW10", "riga 2 quando VW10 > 3", "x3"}) {
     EXPECT_FALSE(Leggi(cattiva)) << cattiva;
     EXPECT_NE(errore.find(cattiva), std::string::npos);
     EXPECT_EQ(fermate.Come_Testo(), "riga 3");
