@@ -60,7 +60,8 @@ void Collegamento::Chiudi() {
 }
 
 bool Collegamento::Entra(const Atto& entrata) {
-  if (plc_.Hook.Adesso == Vissuto::Passato) return false;
+  // A hand that lets go while the window closes comes too late: no plant is there any more.
+  if (plc_.Hook.Adesso == Vissuto::Passato || !aperto_) return false;
   plc_.Hook.Entra(entrata);
   switch (entrata.Che) {
     case Cosa::Usa_Interruttori:

@@ -133,6 +133,16 @@ TEST_F(Link, OutputsAreNotHeardWhenNothingIsOpen) {
   EXPECT_EQ(Cil().uscite.size(), sentite);
 }
 
+// As where a figure is held down while its window is closed.
+TEST_F(Link, AHandThatLetsGoAfterTheEndIsNoEntry) {
+  Apri(prova);
+  filo->Chiudi();
+  int entrate = 0;
+  const Iscrizione ascolto = plc.Hook.Entra.Ascolta([&](const Atto&) { ++entrate; });
+  EXPECT_FALSE(filo->Entra({.Che = Cosa::Rilascia, .Testo = "imgStart"}));
+  EXPECT_EQ(entrate, 0);
+}
+
 TEST_F(Link, ClearingChkSimBringsBackTheWholeTextOfThePlant) {
   Apri(0);
   filo->chkSim(true);
