@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "awl/disk.h"
+#include "awl/hidden_name.h"
 
 namespace tavorno {
 
@@ -24,19 +25,6 @@ namespace fs = std::filesystem;
 
 std::error_code Ultimo() {
   return {errno, std::generic_category()};
-}
-
-/// The hidden name beside a file. A name that is nearly as long as names can be gives way to a
-/// number of it.
-fs::path Nome_Nascosto(const fs::path& file, const std::string& coda) {
-  constexpr std::size_t massimo = 255;
-  std::string nome = file.filename().string();
-  if (nome.size() + coda.size() + 1 > massimo) {
-    std::uint64_t somma = 14695981039346656037U;
-    for (const char c : nome) somma = (somma ^ static_cast<unsigned char>(c)) * 1099511628211U;
-    nome = std::to_string(somma);
-  }
-  return file.parent_path() / ('.' + nome + coda);
 }
 
 /// Whether the descriptor is ours alone and its file still has this name. Where locks are unknown

@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "awl/disk.h"
+#include "awl/hidden_name.h"
 
 namespace tavorno {
 
@@ -185,8 +186,7 @@ std::error_code Sostituisci(const fs::path& file, std::string_view byte, Modo_Sc
   const DWORD attributi = GetFileAttributesW(vecchio.c_str());
   const bool esiste = attributi != INVALID_FILE_ATTRIBUTES;
   if (esiste && (attributi & FILE_ATTRIBUTE_READONLY) != 0) return Errore(ERROR_ACCESS_DENIED);
-  const std::wstring nuovo =
-      Esteso(file.parent_path() / (L"." + file.filename().wstring() + L".tavorno"));
+  const std::wstring nuovo = Esteso(Nome_Nascosto(file, ".tavorno"));
 
   const Descrittore privato = modo.Solo_Utente ? Solo_Per_Utente() : Descrittore{};
   SECURITY_ATTRIBUTES diritti{sizeof diritti, privato.get(), FALSE};
