@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cerrno>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -16,9 +15,12 @@ namespace tavorno::prova {
 class Cartella_Temporanea {
  public:
   Cartella_Temporanea() {
-    std::string nome = (std::filesystem::temp_directory_path() / "tavorno-XXXXXX").string();
-    if (!::mkdtemp(nome.data())) throw std::system_error(errno, std::generic_category(), nome);
-    percorso_ = nome;
+    std::random_device caso;
+    do {
+      percorso_ =
+          std::filesystem::temp_directory_path() / ("tavorno-prova-" + std::to_string(caso()));
+    } while (!std::filesystem::create_directory(percorso_));  // false: somebody else has it
+    std::filesystem::permissions(percorso_, std::filesystem::perms::owner_all);
   }
   ~Cartella_Temporanea() {
     std::error_code nessuno;

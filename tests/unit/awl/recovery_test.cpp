@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "awl/recovery.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <random>
 
@@ -133,17 +131,6 @@ TEST_F(Recovery, UnsavedTextHasACopyThatFollowsIt) {
     EXPECT_EQ(Copia()->Main, testo);
     EXPECT_EQ(File_Di_Copia().size(), 1U);
   }
-}
-
-TEST_F(Recovery, CopiesAreTheUsersAlone) {
-  Custode_Testi custode(progetto, Copie());
-  progetto.Scrivi_Main("LD I0.0");
-  custode.Passo();
-  struct stat stato {};
-  ASSERT_EQ(::stat(File_Di_Copia().at(0).c_str(), &stato), 0);
-  EXPECT_EQ(stato.st_mode & 07777U, 0600U);
-  ASSERT_EQ(::stat(Copie().c_str(), &stato), 0);
-  EXPECT_EQ(stato.st_mode & 07777U, 0700U);
 }
 
 TEST_F(Recovery, AnUnchangedTextIsNotWrittenForEver) {
