@@ -2,6 +2,7 @@
 #include "assets/resources.h"
 
 #include <QDir>
+#include <QFontDatabase>
 
 // Outside any namespace: the call refers to a function of the generated code.
 static void Iscrivi_Risorse() {
@@ -10,4 +11,7 @@ static void Iscrivi_Risorse() {
 
 void tavorno::Apri_Risorse() {
   Iscrivi_Risorse();
+  // None where the system has them.
+  for (const QFileInfo& carattere : QDir(QStringLiteral(":/fonts")).entryInfoList())
+    QFontDatabase::addApplicationFont(carattere.filePath());
 }

@@ -3,7 +3,8 @@
 
 namespace tavorno {
 
-/// Makes the pictures of assets/ readable under ":/". Call once, before the first window.
+/// Makes the pictures of assets/ readable under ":/", and the fonts that the program brings along
+/// usable. Call once, behind the application and before the first window.
 void Apri_Risorse();
 
 }  // namespace tavorno

@@ -32,3 +32,6 @@ install(
   REGEX "/${solution}")
 install(DIRECTORY $ENV{TAVORNO_WINDOWS_LIBRARIES}/licences DESTINATION .)
 install(FILES ${PROJECT_SOURCE_DIR}/packaging/debian/copyright DESTINATION licences/tavorno)
+if(TAVORNO_WINDOWS)
+  install(FILES /usr/share/doc/fonts-dejavu-core/copyright DESTINATION licences/dejavu-fonts)
+endif()
