@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 #include <string>
 #include <thread>
@@ -107,6 +108,31 @@ class Aperto {
   HANDLE maniglia_;
 };
 
+/// The turn of who saves a file: it has to be closed under its hidden name before it can get its
+/// own, and meanwhile another save would take it. Ends with its owner, however that ends.
+class Turno {
+ public:
+  explicit Turno(std::wstring file) {
+    CharUpperBuffW(file.data(), static_cast<DWORD>(file.size()));
+    const std::size_t numero = std::hash<std::wstring>{}(file);
+    mutex_ = CreateMutexW(nullptr, FALSE, (L"Tavorno-" + std::to_wstring(numero)).c_str());
+    constexpr DWORD attesa = 3000;  // ms
+    const DWORD stato = mutex_ == nullptr ? WAIT_FAILED : WaitForSingleObject(mutex_, attesa);
+    mio_ = stato == WAIT_OBJECT_0 || stato == WAIT_ABANDONED;
+  }
+  ~Turno() {
+    if (mio_) ReleaseMutex(mutex_);
+    if (mutex_ != nullptr) CloseHandle(mutex_);
+  }
+  Turno(const Turno&) = delete;
+  Turno& operator=(const Turno&) = delete;
+  explicit operator bool() const { return mio_; }
+
+ private:
+  HANDLE mutex_ = nullptr;
+  bool mio_ = false;
+};
+
 constexpr auto pausa = std::chrono::milliseconds(10);
 constexpr int tentativi = 300;
 
@@ -188,6 +214,8 @@ std::error_code Sostituisci(const fs::path& file, std::string_view byte, Modo_Sc
   if (esiste && (attributi & FILE_ATTRIBUTE_READONLY) != 0) return Errore(ERROR_ACCESS_DENIED);
   const std::wstring nuovo = Esteso(Nome_Nascosto(file, ".tavorno"));
 
+  const Turno turno(vecchio);
+  if (!turno) return std::make_error_code(std::errc::device_or_resource_busy);
   const Descrittore privato = modo.Solo_Utente ? Solo_Per_Utente() : Descrittore{};
   SECURITY_ATTRIBUTES diritti{sizeof diritti, privato.get(), FALSE};
   Aperto aperto(Crea(nuovo, privato ? &diritti : nullptr));
