@@ -12,9 +12,7 @@ namespace tavorno {
 
 namespace {
 
-constexpr std::size_t colonna_commento = 36;          // of an instruction in the editor
-constexpr std::size_t colonna_commento_network = 16;  // of a NETWORK line in the editor
-constexpr std::size_t colonna_cpu = 22;               // of an instruction in the CPU's listing
+constexpr std::size_t colonna_commento = 36;  // of an instruction in the editor
 constexpr std::size_t colonna_cpu_network = 12;
 
 void Dividi_Network(const std::string& riga, bool commento_nel_listato, Riga_Src& sorgente) {
@@ -25,7 +23,7 @@ void Dividi_Network(const std::string& riga, bool commento_nel_listato, Riga_Src
   } else {
     const std::string testa = Trim(riga.substr(0, barra));
     const std::string commento = riga.substr(barra);
-    sorgente.Testo_Lista = Incolonna(testa, colonna_commento_network) + commento;
+    sorgente.Testo_Lista = Incolonna(testa, Colonna_Commento_Network) + commento;
     sorgente.Testo_CPU =
         commento_nel_listato ? Incolonna(testa, colonna_cpu_network) + commento : testa;
   }
@@ -116,7 +114,7 @@ std::string Righe_Lette::Cerca_Com(const std::string& riga, Posto_Riga posto) {
   if (spazi >= 1) canonica = Incolonna(sorgente.Istr, Colonna_Operandi) + sorgente.Op1;
   if (spazi >= 2) canonica += ", " + sorgente.Op2;
   if (spazi >= 3) canonica += ", " + sorgente.Op3;
-  sorgente.Testo_CPU = Incolonna(canonica, colonna_cpu);
+  sorgente.Testo_CPU = Incolonna(canonica, Colonna_CPU);
   if (commenti_[0]) sorgente.Testo_CPU += commento;
   sorgente.Testo_Lista = Incolonna(canonica, colonna_commento) + commento;
   if (spazi == 3) Rileva(Genere::Tre_Operandi, riga, posto);

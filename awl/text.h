@@ -12,6 +12,10 @@ inline constexpr std::string_view CRLF = "\r\n";
 
 /// Where the operands of an instruction begin in its canonical line, in characters from 0.
 inline constexpr std::size_t Colonna_Operandi = 7;
+/// What an instruction has room for in the CPU's listing.
+inline constexpr std::size_t Colonna_CPU = 22;
+/// Where the comment of a NETWORK line begins in the editor.
+inline constexpr std::size_t Colonna_Commento_Network = 16;
 
 /// Without the blanks at either end; other white space stays.
 inline std::string Trim(std::string_view testo) {

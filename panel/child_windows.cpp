@@ -33,6 +33,14 @@ void Porta_Avanti(QWidget& finestra) {
   finestra.activateWindow();
 }
 
+Simboli Simboli_Di(const Esercizio* esercizio) {
+  Simboli simboli;
+  if (esercizio == nullptr) return simboli;
+  for (const Riga_IO& riga : esercizio->Righe_IO)
+    simboli[riga.Indirizzo] = {riga.Simbolo, riga.Commento};
+  return simboli;
+}
+
 constexpr char tasti_ovunque[] = "F5 RUN, Maiusc+F5 STOP, F10 avanza di un passo, F1 guida";
 
 }  // namespace
@@ -127,7 +135,9 @@ FrmMain& Finestre::Editor() {
     legami.Mostra_Scala = [this] { Mostra_Scala(); };
     legami.Mostra_Info = [this] { Mostra_Info(); };
     legami.Mostra_Aiuto = [this](const QString& pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
-    return new FrmMain(progetto_, plc_, std::move(legami));
+    auto* editor = new FrmMain(progetto_, plc_, std::move(legami));
+    editor->Usa_Simboli(Simboli_Di(esercizio_));
+    return editor;
   });
 }
 
@@ -219,6 +229,7 @@ void Finestre::Mostra_Osserva() {
 /// The windows that show a plant's symbols.
 void Finestre::Cambia_Simboli(const Esercizio* impianto) {
   esercizio_ = impianto;
+  if (editor_) editor_->Usa_Simboli(Simboli_Di(impianto));
   if (tempi_) tempi_->Riparti(impianto);
   if (osserva_) osserva_->Riparti(impianto);
   if (scala_) scala_->Vista().Nomi_Cambiati();

@@ -58,6 +58,8 @@ inline constexpr QColor Senza_Corrente(0xb4, 0xbc, 0xc6);     ///< none does
 inline constexpr QColor Prossima_Riga(0x1f, 0x6f, 0x9e);      ///< mark of the next line
 inline constexpr QColor Fermata(0xc0, 0x28, 0x1c);            ///< mark of a stop
 inline constexpr QColor Fermata_Possibile(0xe8, 0xb4, 0xae);  ///< where a click would set one
+inline constexpr QColor Fuori_Colonna(0xd0, 0x11, 0x2b);  ///< frame of what the file cannot hold
+inline constexpr QColor Trovato(0xa8, 0x6a, 0x00);        ///< frame of what was looked for
 inline constexpr Coppia Cella_Cambiata{"watched cell, changed", Nero, {0xff, 0xe9, 0x8a}};
 inline constexpr Coppia Cella_Forzata{"watched cell, forced", Bianco, {0xa8, 0x4a, 0x12}};
 

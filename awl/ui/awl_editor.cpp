@@ -6,6 +6,7 @@
 
 #include "awl/ui/editor_numbers.h"
 #include "awl/ui/line_changes.h"
+#include "widgets/colours.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -96,12 +97,17 @@ void AwlEditor::Prepara_Vista() {
   setMarkerBackgroundColor(QColor(0xfdecec), Segno_Fondo);
   markerDefine(Invisible, Segno_Invisibile);
   setAnnotationDisplay(AnnotationIndented);
+  indicatorDefine(FullBoxIndicator, Indicatore_Eccedenza);
+  setIndicatorForegroundColor(colori::Fuori_Colonna, Indicatore_Eccedenza);
+  indicatorDefine(StraightBoxIndicator, Indicatore_Trovato);
+  setIndicatorForegroundColor(colori::Trovato, Indicatore_Trovato);
   indicatorDefine(SquiggleIndicator, Indicatore_Suggerimento);
   setIndicatorForegroundColor(QColor(0xc98a00), Indicatore_Suggerimento);
 }
 
 void AwlEditor::Prepara_Aiuti() {
-  SendScintilla(SCI_AUTOCSETSEPARATOR, ' ');
+  SendScintilla(SCI_AUTOCSETSEPARATOR, separatore_lista);
+  SendScintilla(SCI_AUTOCSETTYPESEPARATOR, '\x01');  // no pictures, and comments may hold "?"
   SendScintilla(SCI_AUTOCSETIGNORECASE, 1L);
   SendScintilla(SCI_AUTOCSETAUTOHIDE, 1L);
   SendScintilla(SCI_AUTOCSETMAXHEIGHT, 8L);
@@ -111,6 +117,9 @@ void AwlEditor::Prepara_Aiuti() {
   connect(this, &QsciScintillaBase::SCN_CHARADDED, this, [this](int c) { Dopo_Carattere(c); });
   connect(this, &QsciScintillaBase::SCN_DWELLSTART, this,
           [this](int posizione, int x, int y) { Mostra_Suggerimento_A(posizione, x, y); });
+  connect(
+      this, qOverload<const char*, int, int, int>(&QsciScintillaBase::SCN_AUTOCSELECTION), this,
+      [this](const char* scelta, int posizione, int, int) { Prendi_Proposta(scelta, posizione); });
   connect(this, &QsciScintillaBase::SCN_DWELLEND, this,
           [this](int, int, int) { SendScintilla(SCI_CALLTIPCANCEL); });
 }

@@ -12,6 +12,7 @@
 
 #include "awl/diagnostic.h"
 #include "awl/find.h"
+#include "awl/symbols.h"
 #include "awl/ui/awl_lexer.h"
 #include "awl/ui/scintilla.h"
 
@@ -73,6 +74,8 @@ class AwlEditor : public QsciScintilla {
   /// key for help tell why. Not part of the text's marks.
   void Suggerisci(std::vector<Diagnosi> suggerimenti);
   QString Suggerito(int linea) const;  ///< what is suggested for a line; empty for nothing
+  /// Frames the ends of lines that the file has no room for, instead of those before.
+  void Segna_Eccedenze(const std::vector<Trovato>& pezzi);
   bool Ha_Errore(int linea) const;
   bool Ha_Avvertimento(int linea) const;
 
@@ -99,8 +102,13 @@ class AwlEditor : public QsciScintilla {
   void Vai_A(int linea);
   void Vai_In_Fondo();
 
-  void Offri_Completamenti();  ///< a list, when the caret stands at the end of the first word
-  void Mostra_Suggerimento();  ///< a tip, when the caret's line begins with an instruction
+  /// What the plant calls its operands: in lists, in tips and under a resting pointer.
+  void Usa_Simboli(const Simboli& simboli) { simboli_ = simboli; }
+  /// A list, when the caret stands at the end of a word that can become a mnemonic or an operand of
+  /// the plant; `anche_vuota`: also where such an operand could begin.
+  void Offri_Completamenti(bool anche_vuota = false);
+  /// A tip, when the caret's line begins with an instruction.
+  void Mostra_Suggerimento();
 
   /// Leaves a key to a command of the window.
   void Cedi_Tasti(const QKeySequence& tasti);
@@ -118,6 +126,7 @@ class AwlEditor : public QsciScintilla {
   void Prepara_Documento();
   std::pair<long, long> Posizioni(const Trovato& pezzo) const;
   void Sostituisci_Testo(const std::string& nuovo);
+  void Indica(int indicatore, const std::vector<Trovato>& pezzi);
   void Batti(QKeyEvent& evento);
   void Raccogli(const std::function<void()>& modifiche);
   void Sostituisci(std::size_t inizio, std::string_view vecchio, std::string_view nuovo);
@@ -127,12 +136,14 @@ class AwlEditor : public QsciScintilla {
   std::string Linea_Byte(int linea) const;  // UTF-8, without its end
   void Dopo_Carattere(int carattere);
   void Mostra_Suggerimento_A(int posizione, int x, int y);
-  void Mostra_Aiuto(std::uintptr_t posizione, int linea, const std::string& istruzione);
+  void Prendi_Proposta(std::string_view scelta, int posizione);
+  void Mostra_Aiuto(std::uintptr_t posizione, int linea, std::string aiuto);
   static bool Va_Oltre(const Oltre& oltre) { return oltre.Possibile && oltre.Possibile(); }
 
   Genere_Testo genere_;
   AwlLexer* lexer_;
   std::vector<Diagnosi> suggerimenti_;
+  Simboli simboli_;
   bool spento_ = false;
   bool scrive_ = false;  // a command, not the user, is changing the text
   int raccoglie_ = 0;    // changes are told later, together

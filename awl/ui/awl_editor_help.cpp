@@ -5,9 +5,18 @@
 #include "awl/completion.h"
 #include "awl/line_words.h"
 #include "awl/ui/awl_editor.h"
+#include "awl/ui/editor_numbers.h"
 #include "widgets/text.h"
 
 namespace tavorno {
+
+namespace {
+
+std::string Unisci(const std::string& prima, const std::string& dopo) {
+  return prima.empty() || dopo.empty() ? prima + dopo : prima + "\n\n" + dopo;
+}
+
+}  // namespace
 
 void AwlEditor::Dopo_Carattere(int carattere) {
   if (carattere == ' ' || carattere == '\t')
@@ -16,23 +25,39 @@ void AwlEditor::Dopo_Carattere(int carattere) {
     Offri_Completamenti();
 }
 
-void AwlEditor::Offri_Completamenti() {
-  int linea = 0;
-  int colonna = 0;
-  getCursorPosition(&linea, &colonna);
+void AwlEditor::Offri_Completamenti(bool anche_vuota) {
+  const long posizione = SendScintilla(SCI_GETCURRENTPOS);
+  const auto linea = static_cast<int>(SendScintilla(SCI_LINEFROMPOSITION, posizione));
   const std::string testo = Linea_Byte(linea);
-  const Parola parola = Trova_Prima_Parola(testo);
-  if (parola.Vuota() || parola.Fine != static_cast<std::size_t>(colonna)) return;
-  const std::string fin_qui = testo.substr(parola.Inizio, parola.Fine - parola.Inizio);
+  const auto colonna =
+      static_cast<std::size_t>(posizione - SendScintilla(SCI_POSITIONFROMLINE, linea));
+  const Proposte proposte = Proponi(testo, colonna, simboli_, anche_vuota);
   std::string lista;
-  for (const std::string& nome : Completamenti(fin_qui)) {
-    if (!lista.empty()) lista += ' ';
-    lista += nome;
+  for (const std::string& proposta : proposte.Testi) {
+    if (!lista.empty()) lista += separatore_lista;
+    lista += proposta;
   }
-  if (lista.empty())
+  if (lista.empty()) {
     SendScintilla(SCI_AUTOCCANCEL);
-  else if (!isListActive())
-    SendScintilla(SCI_AUTOCSHOW, fin_qui.size(), lista.c_str());
+    // Whoever has written the whole operand sees what it is.
+    const std::string simbolo = Simbolo_In(testo, colonna, simboli_);
+    if (!simbolo.empty()) Mostra_Aiuto(static_cast<std::uintptr_t>(posizione), linea, simbolo);
+  } else if (!isListActive()) {
+    SendScintilla(SCI_AUTOCSHOW, colonna - proposte.Inizio, lista.c_str());
+  }
+}
+
+/// The component would write the remark behind a proposal as well.
+void AwlEditor::Prendi_Proposta(std::string_view scelta, int posizione) {
+  const std::string parola(Proposte::Da_Scrivere(scelta));
+  SendScintilla(SCI_AUTOCCANCEL);
+  In_Un_Passo([&] {
+    SendScintilla(SCI_SETTARGETRANGE, static_cast<unsigned long>(posizione),
+                  SendScintilla(SCI_GETCURRENTPOS));
+    SendScintilla(SCI_REPLACETARGET, parola.size(), parola.data());
+    const long fine = posizione + static_cast<long>(parola.size());
+    SendScintilla(SCI_SETEMPTYSELECTION, static_cast<unsigned long>(fine));
+  });
 }
 
 void AwlEditor::Mostra_Suggerimento() {
@@ -46,7 +71,7 @@ void AwlEditor::Mostra_Suggerimento() {
   // Behind a comment there is nothing left to help with.
   const bool muto = istruzione == nullptr || parola.Vuota() || colonna > testo.find("//");
   Mostra_Aiuto(static_cast<std::uintptr_t>(inizio) + parola.Inizio, linea,
-               muto ? "" : Suggerimento(*istruzione));
+               muto ? "" : Unisci(Simbolo_In(testo, colonna, simboli_), Suggerimento(*istruzione)));
 }
 
 void AwlEditor::Mostra_Suggerimento_A(int posizione, int, int) {
@@ -59,14 +84,12 @@ void AwlEditor::Mostra_Suggerimento_A(int posizione, int, int) {
   const auto colonna = static_cast<std::size_t>(posizione - inizio);
   const bool muto = istruzione == nullptr || colonna < parola.Inizio || colonna >= parola.Fine;
   Mostra_Aiuto(static_cast<std::uintptr_t>(posizione), linea,
-               muto ? "" : Suggerimento(*istruzione));
+               muto ? Simbolo_In(testo, colonna, simboli_) : Suggerimento(*istruzione));
 }
 
-/// What there is to say of an instruction, below what there is to say of its line.
-void AwlEditor::Mostra_Aiuto(std::uintptr_t posizione, int linea, const std::string& istruzione) {
-  std::string aiuto = Utf8(Suggerito(linea));
-  if (!aiuto.empty() && !istruzione.empty()) aiuto += "\n\n";
-  aiuto += istruzione;
+/// Below what there is to say of the line.
+void AwlEditor::Mostra_Aiuto(std::uintptr_t posizione, int linea, std::string aiuto) {
+  aiuto = Unisci(Utf8(Suggerito(linea)), aiuto);
   if (!aiuto.empty()) SendScintilla(SCI_CALLTIPSHOW, posizione, aiuto.c_str());
 }
 

@@ -41,7 +41,7 @@ void AwlEditor::keyPressEvent(QKeyEvent* evento) {
     getCursorPosition(&linea, &colonna);
     if (Linea_Scelta) Linea_Scelta(linea);
   } else if (genere_ == Genere_Testo::Programma && spazio) {
-    Offri_Completamenti();
+    Offri_Completamenti(true);
     if (!isListActive()) Mostra_Suggerimento();
   } else if (evento->matches(QKeySequence::Undo)) {
     undo();

@@ -41,7 +41,15 @@ bool AwlEditor::E_Scelto(const Trovato& pezzo) const {
 }
 
 void AwlEditor::Evidenzia(const std::vector<Trovato>& pezzi) {
-  SendScintilla(SCI_SETINDICATORCURRENT, Indicatore_Trovato);
+  Indica(Indicatore_Trovato, pezzi);
+}
+
+void AwlEditor::Segna_Eccedenze(const std::vector<Trovato>& pezzi) {
+  Indica(Indicatore_Eccedenza, pezzi);
+}
+
+void AwlEditor::Indica(int indicatore, const std::vector<Trovato>& pezzi) {
+  SendScintilla(SCI_SETINDICATORCURRENT, indicatore);
   SendScintilla(SCI_INDICATORCLEARRANGE, 0L, static_cast<long>(length()));
   for (const Trovato& pezzo : pezzi) {
     const auto [da, a] = Posizioni(pezzo);

@@ -17,4 +17,7 @@ inline constexpr int Indicatore_Suggerimento = 8;
 inline constexpr int Indicatore_Trovato = 9;
 inline constexpr int Indicatore_Eccedenza = 10;
 
+/// Between the proposals of a list, which are words with remarks.
+inline constexpr char separatore_lista = '\n';
+
 }  // namespace tavorno

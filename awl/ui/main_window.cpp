@@ -238,6 +238,13 @@ void FrmMain::Apri(const File_Scelto& file) {
   Specchia();
 }
 
+void FrmMain::Apri_Questo(const QString& file) {
+  const QFileInfo scelto(file);
+  const bool niente_prima = p_.Vuoto();
+  Apri({Utf8(scelto.absoluteFilePath()), Utf8(scelto.fileName())});
+  if (niente_prima) storia_.Ricomincia(p_.Testi());
+}
+
 void FrmMain::Nuovo() {
   Vista prima = Come_Sta();
   p_.Annulla = 0;
@@ -444,9 +451,8 @@ void FrmMain::dragEnterEvent(QDragEnterEvent* evento) {
 }
 
 void FrmMain::dropEvent(QDropEvent* evento) {
-  const QFileInfo file(evento->mimeData()->urls().front().toLocalFile());
   evento->acceptProposedAction();
-  Apri({Utf8(file.absoluteFilePath()), Utf8(file.fileName())});
+  Apri_Questo(evento->mimeData()->urls().front().toLocalFile());
 }
 
 }  // namespace tavorno

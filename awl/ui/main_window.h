@@ -36,6 +36,7 @@ struct Legami_Editor {
   std::function<void()> Mostra_Pannello;  ///< called once, when the window closes
   std::function<void()> Mostra_Debug, Mostra_Stampe, Mostra_Info, Mostra_Scala;
   std::function<void(const QString& pagina)> Mostra_Aiuto;  ///< a file of the help folder
+  std::function<void(const QString& file)> File_Usato;      ///< a project was read or saved
 };
 
 /// The editor's window. The project is the master copy of all that it shows; the window gives the
@@ -53,8 +54,14 @@ class FrmMain : public QMainWindow {
   /// Takes up a project that an earlier program has left unsaved.
   void Riprendi(const Copia_Progetto& copia);
 
+  /// Opens a project as the command does, without its dialog.
+  void Apri_Questo(const QString& file);
+
   /// Goes to the line that row `numero` of the last compile came from.
   void Vai_A_Riga(int numero);
+
+  /// What the open plant calls its operands; empty without a plant.
+  void Usa_Simboli(const Simboli& simboli);
 
   // For who shows the project in another way.
   /// Where the caret stands, of the text in front; none on the listing.
@@ -136,6 +143,7 @@ class FrmMain : public QMainWindow {
   Avvio avvio_ = Avvio::Vuoto;
   bool salva_attivo_ = false;
   bool chiusa_ = false;
+  std::string file_usato_;
   bool specchia_ = false;  // the controls change because the project did, not the other way round
 
   Azioni_Editor a_{};

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "awl/hints.h"
+#include "awl/line_limit.h"
 #include "awl/line_numbers.h"
 #include "awl/ui/main_window.h"
 #include "awl/ui/main_window_tables.h"
@@ -22,6 +23,10 @@ void FrmMain::Specchia() {
   if (p_.Pagina == Pagina_Nascosta) p_.Pagina = Pagina_Listato;
   p_.CmdNet_1 = p_.Num_SBR != 0;
   salva_attivo_ = p_.Comandi_Attivi || !p_.txtList.empty();
+  if (file_usato_ != p_.File_Salvato) {
+    file_usato_ = p_.File_Salvato;
+    if (!file_usato_.empty() && legami_.File_Usato) legami_.File_Usato(Q(file_usato_));
+  }
   const bool prima_volta = Specchia_Schede();
   txtList->Scrivi(p_.txtList);
   txtP->Scrivi(p_.txtP);
@@ -116,6 +121,14 @@ void FrmMain::Suggerisci() {
   }
   txtList->Suggerisci(std::move(del_main));
   txtP->Suggerisci(std::move(della_procedura));
+  txtList->Segna_Eccedenze(Eccedenze(p_.txtList));
+  txtP->Segna_Eccedenze(Eccedenze(p_.txtP));
+}
+
+void FrmMain::Usa_Simboli(const Simboli& simboli) {
+  comandi_->Usa_Simboli(simboli);
+  txtList->Usa_Simboli(simboli);
+  txtP->Usa_Simboli(simboli);
 }
 
 /// The user wrote: the text becomes the master copy.
