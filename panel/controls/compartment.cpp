@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/controls/compartment.h"
 
+#include <QAccessibleActionInterface>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -9,12 +10,13 @@
 #include "panel/controls/cover.h"
 #include "panel/controls/element.h"
 #include "plc/plc.h"
+#include "widgets/screen_reader.h"
 #include "widgets/twips.h"
 
 namespace tavorno {
 
 /// The cover as something to click.
-class Coperchio : public QWidget {
+class Coperchio : public QWidget, public Per_Lettori {
  public:
   static constexpr QSizeF Misura{Px(3990), Px(770)};
 
@@ -27,6 +29,14 @@ class Coperchio : public QWidget {
   }
 
   std::function<void()> Clic;
+
+  Letto Leggi(int /*pezzo*/) const override {
+    return {.Nome = accessibleName(),
+            .Aiuto = toolTip(),
+            .Ruolo = QAccessible::Button,
+            .Azione = QAccessibleActionInterface::pressAction()};
+  }
+  void Esegui(int /*pezzo*/) override { Clic(); }
 
  protected:
   void paintEvent(QPaintEvent*) override {

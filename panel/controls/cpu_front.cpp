@@ -87,6 +87,10 @@ Fronte_CPU::Fronte_CPU(Plc& plc, QWidget* sopra)
   imgPL1_ = Crea_Lampada("imgPL1", "ledV2", lampada_run.Centro);
   imgPL2_ = Crea_Lampada("imgPL2", "ledV2", lampada_scan.Centro);
   imgPS_ = Crea_Lampada("imgPS", "ledG2", lampada_stop.Centro);
+  imgPL1_->setAccessibleName(QStringLiteral("Spia RUN accesa"));
+  imgPL2_->setAccessibleName(QStringLiteral("Spia SCAN accesa"));
+  imgPS_->setAccessibleName(QStringLiteral("Spia STOP accesa"));
+  setAccessibleName(QStringLiteral("CPU"));
   pic1_ = new Vano(plc, disegni_, this);
   for (std::size_t i = 0; i < 2; ++i) {
     SimI_[i] = new SimI(this);

@@ -22,6 +22,8 @@ class Tasto_Rotella : public QAbstractButton {
   Tasto_Rotella(QSvgRenderer& disegni, const char* gruppo, const QString& nome, QWidget* sopra)
       : QAbstractButton(sopra), disegni_(disegni), gruppo_(QString::fromLatin1(gruppo)) {
     setObjectName(nome);
+    setAccessibleName(qstrcmp(gruppo, "su") == 0 ? QStringLiteral("Avanti")
+                                                 : QStringLiteral("Indietro"));
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::PointingHandCursor);
     setAutoRepeat(true);
@@ -72,6 +74,19 @@ void Rotella::Azzera() {
 void Rotella::Mostra(int cifra) {
   cifra_ = cifra;
   etichetta_->setText(QString::number(cifra));
+  Annuncia_Numero(*this, cifra);
+}
+
+Letto Rotella::Leggi(int) const {
+  return {.Nome = accessibleName(), .Aiuto = toolTip(), .Ruolo = QAccessible::SpinBox};
+}
+
+std::optional<Numero_Letto> Rotella::Leggi_Numero(int) const {
+  return Numero_Letto{.Valore = static_cast<double>(cifra_), .Minimo = 0, .Massimo = 9};
+}
+
+void Rotella::Metti_Numero(int, double valore) {
+  if (valore >= 0 && valore <= 9) Value(static_cast<int>(valore));
 }
 
 void Rotella::paintEvent(QPaintEvent*) {

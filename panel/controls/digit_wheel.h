@@ -4,6 +4,8 @@
 #include <QWidget>
 #include <functional>
 
+#include "widgets/screen_reader.h"
+
 class QAbstractButton;
 class QLabel;
 class QSvgRenderer;
@@ -12,7 +14,7 @@ namespace tavorno {
 
 /// One digit of a thumbwheel switch with its keys "NAME.Su" and "NAME.Giu". It also turns with the
 /// mouse wheel, the arrow keys and the digit keys.
-class Rotella : public QWidget {
+class Rotella : public QWidget, public Per_Lettori {
  public:
   static constexpr QSize Misura{34, 48};  ///< pixels at 100 %
 
@@ -30,6 +32,10 @@ class Rotella : public QWidget {
   void Azzera();
   /// Turns to a digit without telling.
   void Mostra(int cifra);
+
+  Letto Leggi(int pezzo) const override;
+  std::optional<Numero_Letto> Leggi_Numero(int pezzo) const override;
+  void Metti_Numero(int pezzo, double valore) override;
 
  protected:
   void paintEvent(QPaintEvent* evento) override;

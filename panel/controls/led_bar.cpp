@@ -38,7 +38,8 @@ Barra_LED::Barra_LED(Barra& barra, const QString& caption, QWidget* sopra)
     : QWidget(sopra),
       barra_(barra),
       disegni_(QStringLiteral(":/panel/led.svg")),
-      etC_(Crea_Etichetta(this, QStringLiteral("etC"))) {
+      etC_(Crea_Etichetta(this, QStringLiteral("etC"))),
+      annunci_(*this) {
   etC_->setFont(Grassetto(etC_->font()));
   for (int i = 0; i < 8; ++i) {
     const auto pittura = [this](QPainter& pennello) {
@@ -76,10 +77,26 @@ void Barra_LED::Aggiorna() {
   in_attesa_ = false;
   for (int i = 0; i < 8; ++i)
     imgLI0_[static_cast<std::size_t>(i)]->setVisible((barra_.Accesi() >> i & 1) != 0);
+  const unsigned diversi = detti_ ^ barra_.Accesi();
+  detti_ = barra_.Accesi();
+  for (int i = 0; i < 8; ++i)
+    if ((diversi >> i & 1U) != 0) annunci_.Cambiato(i);
   if (barra_.Tipo() == tipo_ && barra_.Forma() == forma_) return;
   tipo_ = barra_.Tipo();
   forma_ = barra_.Forma();
   update();
+}
+
+Letto Barra_LED::Leggi(int pezzo) const {
+  if (pezzo == Tutto)
+    return {.Nome = QStringLiteral("LED %1").arg(Caption()), .Ruolo = QAccessible::Grouping};
+  const bool acceso = (Accesi() >> pezzo & 1) != 0;
+  return {.Nome = QStringLiteral("LED %1.%2 %3")
+                      .arg(Caption())
+                      .arg(pezzo)
+                      .arg(acceso ? QStringLiteral("acceso") : QStringLiteral("spento")),
+          .Ruolo = QAccessible::StaticText,
+          .Posto = In_Scala(Posto_LED(pezzo), width() / static_cast<double>(Misura.width()))};
 }
 
 std::uint8_t Barra_LED::Accesi() const {

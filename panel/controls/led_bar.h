@@ -9,6 +9,7 @@
 #include <cstdint>
 
 #include "plc/byte_bar.h"
+#include "widgets/screen_reader.h"
 
 class QLabel;
 
@@ -19,7 +20,7 @@ class Parte;
 /// The face of a byte bar: the caption `etC` and the LEDs `imgLI0(0)`..`imgLI0(7)`, of which the
 /// lit ones are visible. The bar must outlive it. A bar may change thousands of times a
 /// second: the face follows at the next turn of the event loop.
-class Barra_LED : public QWidget {
+class Barra_LED : public QWidget, public Per_Lettori {
  public:
   static constexpr QSize Misura{260, 26};  ///< pixels at 100 %
 
@@ -41,6 +42,10 @@ class Barra_LED : public QWidget {
 
   QSize sizeHint() const override { return Misura; }
 
+  /// The pieces are the LEDs by their bits.
+  Letto Leggi(int pezzo) const override;
+  int Pezzi() const override { return 8; }
+
  protected:
   bool event(QEvent* evento) override;
   void paintEvent(QPaintEvent* evento) override;
@@ -54,6 +59,8 @@ class Barra_LED : public QWidget {
   QColor colore_;
   std::uint8_t tipo_ = 0, forma_ = 0;  // of the pictures that are shown
   bool in_attesa_ = false;
+  std::uint8_t detti_ = 0;  // that readers were told of
+  Annunci_Parchi annunci_;
   Iscrizione ascolto_;
 };
 

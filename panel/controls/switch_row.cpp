@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/controls/switch_row.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 
@@ -28,7 +29,9 @@ SimI::SimI(QWidget* sopra) : QWidget(sopra), disegni_(QStringLiteral(":/panel/sw
     imgI0_[i] = new Interruttore(disegni_, this);
     imgI0_[i]->setObjectName(Con_Indice("imgI0", bit));
     imgI0_[i]->Rilasciato = [this, i] { Rilascia(i); };
+    imgI0_[i]->installEventFilter(this);
   }
+  Tocca_A(0);
   Caption(QStringLiteral("I0"));
   BackColor(palette().color(QPalette::Button));
   Colora(*etC_, palette().color(QPalette::ButtonText));
@@ -47,6 +50,51 @@ void SimI::Caption(const QString& testo) {
     interruttore.setToolTip(QStringLiteral("Ingresso %1").arg(bit));
     interruttore.setAccessibleName(QStringLiteral("Interruttore %1").arg(bit));
   }
+}
+
+Letto SimI::Leggi(int) const {
+  return {.Nome = QStringLiteral("Interruttori %1").arg(Caption()),
+          .Aiuto = QStringLiteral("Le frecce vanno da uno all'altro, una cifra da 0 a 7 lo cambia"),
+          .Ruolo = QAccessible::Grouping};
+}
+
+/// Only one of them takes the Tab key.
+void SimI::Tocca_A(std::size_t n) {
+  tocca_a_ = n;
+  for (std::size_t i = 0; i < imgI0_.size(); ++i)
+    imgI0_[i]->setFocusPolicy(i == n ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+bool SimI::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (evento->type() == QEvent::FocusIn) {
+    for (std::size_t i = 0; i < imgI0_.size(); ++i)
+      if (imgI0_[i] == oggetto) Tocca_A(i);
+  }
+  return QWidget::eventFilter(oggetto, evento);
+}
+
+/// What the switch that has the keyboard leaves over.
+void SimI::keyPressEvent(QKeyEvent* evento) {
+  const auto vai = [this](std::size_t n) {
+    Tocca_A(n);
+    imgI0_[n]->setFocus(Qt::TabFocusReason);
+  };
+  for (std::size_t i = 0; i < imgI0_.size(); ++i)
+    if (imgI0_[i] == focusWidget()) tocca_a_ = i;
+  const int tasto = evento->key();
+  const std::size_t ultimo = imgI0_.size() - 1;
+  if (tasto == Qt::Key_Left && tocca_a_ > 0)
+    vai(tocca_a_ - 1);
+  else if (tasto == Qt::Key_Right && tocca_a_ < ultimo)
+    vai(tocca_a_ + 1);
+  else if (tasto == Qt::Key_Home)
+    vai(0);
+  else if (tasto == Qt::Key_End)
+    vai(ultimo);
+  else if (tasto >= Qt::Key_0 && tasto <= Qt::Key_7 && !evento->isAutoRepeat())
+    imgI0_[static_cast<std::size_t>(tasto - Qt::Key_0)]->Esegui(Tutto);
+  else if (tasto != Qt::Key_Left && tasto != Qt::Key_Right)
+    return QWidget::keyPressEvent(evento);
 }
 
 void SimI::BackColor(const QColor& colore) {

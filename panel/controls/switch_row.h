@@ -12,6 +12,7 @@
 #include <string_view>
 
 #include "panel/controls/hidden_text.h"
+#include "widgets/screen_reader.h"
 
 class QLabel;
 
@@ -22,7 +23,10 @@ class Parte;
 
 /// A row of eight toggle switches `imgI0(0)`..`imgI0(7)` for one input byte. Whoever presses one
 /// writes the whole byte from the row's own memory.
-class SimI : public QWidget {
+///
+/// By the keyboard it is one thing: Tab leads to the switch that was used last, the arrow keys,
+/// Home and End to the others, and a digit throws the switch of that number.
+class SimI : public QWidget, public Per_Lettori {
  public:
   static constexpr QSize Misura{260, 50};  ///< pixels at 100 %
 
@@ -51,11 +55,16 @@ class SimI : public QWidget {
 
   QSize sizeHint() const override { return Misura; }
 
+  Letto Leggi(int pezzo) const override;
+
  protected:
   void resizeEvent(QResizeEvent* evento) override;
+  void keyPressEvent(QKeyEvent* evento) override;
+  bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  private:
   void Rilascia(std::size_t n);
+  void Tocca_A(std::size_t n);
 
   QSvgRenderer disegni_;
   Parte* picS0_;
@@ -63,6 +72,7 @@ class SimI : public QWidget {
   std::array<QLabel*, 8> etI_{};
   std::array<Interruttore*, 8> imgI0_{};
   std::array<bool, 8> accesi_{};
+  std::size_t tocca_a_ = 0;  // the switch that Tab leads to
   std::string stato_ = "00000000";
   Testo_Nascosto txtI_;
   QColor sfondo_, colore_;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/controls/toggle_switch.h"
 
+#include <QAccessibleActionInterface>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -24,8 +25,26 @@ Interruttore::Interruttore(QSvgRenderer& disegni, QWidget* sopra)
 }
 
 void Interruttore::Mostra(Immagine immagine) {
+  const bool girato = (immagine == Immagine::imgPON) != (mostrata_ == Immagine::imgPON);
   mostrata_ = immagine;
   update();
+  if (girato) Annuncia_Spunta(*this);
+}
+
+Letto Interruttore::Leggi(int) const {
+  Letto letto{.Nome = accessibleName(),
+              .Aiuto = toolTip(),
+              .Ruolo = QAccessible::CheckBox,
+              .Azione = QAccessibleActionInterface::toggleAction()};
+  letto.Stato.checkable = true;
+  letto.Stato.checked = mostrata_ == Immagine::imgPON;
+  letto.Stato.pressed = premuto_;
+  return letto;
+}
+
+void Interruttore::Esegui(int) {
+  Premi();
+  Lascia();
 }
 
 void Interruttore::Premi() {
@@ -66,19 +85,10 @@ void Interruttore::mouseReleaseEvent(QMouseEvent* evento) {
 }
 
 void Interruttore::keyPressEvent(QKeyEvent* evento) {
-  switch (evento->key()) {
-    case Qt::Key_Space:
-      if (!evento->isAutoRepeat()) Premi();
-      break;
-    case Qt::Key_Left:
-      focusPreviousChild();
-      break;
-    case Qt::Key_Right:
-      focusNextChild();
-      break;
-    default:
-      QWidget::keyPressEvent(evento);
-  }
+  if (evento->key() != Qt::Key_Space)
+    QWidget::keyPressEvent(evento);
+  else if (!evento->isAutoRepeat())
+    Premi();
 }
 
 void Interruttore::keyReleaseEvent(QKeyEvent* evento) {

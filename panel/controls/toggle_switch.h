@@ -4,13 +4,15 @@
 #include <QWidget>
 #include <functional>
 
+#include "widgets/screen_reader.h"
+
 class QSvgRenderer;
 
 namespace tavorno {
 
 /// One toggle switch of a row: it only shows a picture and tells when it was let go, by mouse or
-/// space bar. The arrow keys go to the neighbours.
-class Interruttore : public QWidget {
+/// space bar. All other keys are the row's.
+class Interruttore : public QWidget, public Per_Lettori {
  public:
   enum class Immagine { imgPOFF, imgPON, imgP };  ///< off, on, held down
 
@@ -21,6 +23,9 @@ class Interruttore : public QWidget {
 
   Immagine Mostrata() const { return mostrata_; }
   void Mostra(Immagine immagine);
+
+  Letto Leggi(int pezzo) const override;
+  void Esegui(int pezzo) override;
 
  protected:
   void paintEvent(QPaintEvent* evento) override;

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <memory>
 
@@ -33,6 +34,23 @@ TEST_F(LedBar, HasItsDefaults) {
             QColor(255, 255, 0));
   EXPECT_EQ(faccia->Accesi(), 0);
   for (int bit = 0; bit < 8; ++bit) EXPECT_FALSE(Acceso(bit)) << bit;
+}
+
+TEST_F(LedBar, IsReadAsItsLedsInWords) {
+  barra.Stato_Q("01000000");
+  faccia->Aggiorna();
+  QAccessibleInterface* bar = QAccessible::queryAccessibleInterface(faccia.get());
+  EXPECT_EQ(bar->text(QAccessible::Name), "LED Q0");
+  ASSERT_EQ(bar->childCount(), 8);
+  EXPECT_EQ(bar->child(0)->text(QAccessible::Name), "LED Q0.0 spento");
+  EXPECT_EQ(bar->child(1)->text(QAccessible::Name), "LED Q0.1 acceso");
+  EXPECT_EQ(bar->child(1)->role(), QAccessible::StaticText);
+  EXPECT_EQ(bar->indexOfChild(bar->child(5)), 5);
+  EXPECT_EQ(bar->child(5)->parent(), bar);
+  EXPECT_EQ(bar->child(8), nullptr);
+  faccia->show();
+  const QPoint centro = bar->child(6)->rect().center();
+  EXPECT_EQ(bar->childAt(centro.x(), centro.y()), bar->child(6));
 }
 
 class LedBarBit : public LedBar, public ::testing::WithParamInterface<int> {};

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QTest>
 #include <vector>
 
@@ -120,6 +121,58 @@ TEST_F(SwitchRow, ArrowKeysGoToTheNeighbours) {
   EXPECT_EQ(riga.focusWidget(), &Leva(riga, 3));
   QTest::keyClick(&Leva(riga, 3), Qt::Key_Left);
   EXPECT_EQ(riga.focusWidget(), &Leva(riga, 2));
+}
+
+TEST_F(SwitchRow, IsOneStopOfTheTabKeyAtTheSwitchUsedLast) {
+  const auto con_tab = [this] {
+    std::string presi;
+    for (int n = 0; n < 8; ++n)
+      presi += (Leva(riga, n).focusPolicy() & Qt::TabFocus) != 0 ? '1' : '0';
+    return presi;
+  };
+  EXPECT_EQ(con_tab(), "10000000");
+  riga.show();
+  riga.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&riga));
+  Clic(5);
+  Leva(riga, 5).setFocus();
+  EXPECT_EQ(con_tab(), "00000100");
+  QTest::keyClick(&Leva(riga, 5), Qt::Key_End);
+  EXPECT_EQ(con_tab(), "00000001");
+  QTest::keyClick(&Leva(riga, 7), Qt::Key_Right);
+  EXPECT_EQ(riga.focusWidget(), &Leva(riga, 7));
+  QTest::keyClick(&Leva(riga, 7), Qt::Key_Home);
+  QTest::keyClick(&Leva(riga, 0), Qt::Key_Left);
+  EXPECT_EQ(riga.focusWidget(), &Leva(riga, 0));
+}
+
+TEST_F(SwitchRow, ADigitThrowsTheSwitchOfItsNumber) {
+  riga.show();
+  riga.activateWindow();
+  Leva(riga, 2).setFocus();
+  for (const char cifra : {'0', '7', '8', '0'}) QTest::keyClick(&Leva(riga, 2), cifra);
+  EXPECT_EQ(Leve(riga), "00000001");
+  EXPECT_EQ(detti, (std::vector<std::string>{"10000000", "10000001", "00000001"}));
+  EXPECT_EQ(riga.focusWidget(), &Leva(riga, 2));
+}
+
+TEST_F(SwitchRow, IsReadAsAGroupOfEightThatCanBeThrown) {
+  QAccessibleInterface* gruppo = QAccessible::queryAccessibleInterface(&riga);
+  EXPECT_EQ(gruppo->role(), QAccessible::Grouping);
+  EXPECT_EQ(gruppo->text(QAccessible::Name), "Interruttori I0");
+  QAccessibleInterface* leva = QAccessible::queryAccessibleInterface(&Leva(riga, 3));
+  EXPECT_EQ(leva->parent(), gruppo);
+  EXPECT_EQ(leva->role(), QAccessible::CheckBox);
+  EXPECT_EQ(leva->text(QAccessible::Name), "Interruttore I0.3");
+  EXPECT_TRUE(leva->state().checkable);
+  EXPECT_TRUE(leva->state().focusable);
+  EXPECT_FALSE(leva->state().checked);
+  QAccessibleActionInterface* azione = leva->actionInterface();
+  ASSERT_NE(azione, nullptr);
+  ASSERT_TRUE(azione->actionNames().contains(QAccessibleActionInterface::toggleAction()));
+  azione->doAction(QAccessibleActionInterface::toggleAction());
+  EXPECT_EQ(riga.Stato_I(), "00010000");
+  EXPECT_TRUE(leva->state().checked);
 }
 
 TEST_F(SwitchRow, WithIntOffTheSwitchMovesAndNobodyIsTold) {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QTest>
 #include <QWheelEvent>
@@ -27,6 +28,21 @@ class Thumbwheel : public ::testing::Test {
   SimC ruote;
   std::vector<std::string> detti;
 };
+
+TEST_F(Thumbwheel, IsReadAsTwoNumbersThatCanBeSet) {
+  QAccessibleInterface* decine = QAccessible::queryAccessibleInterface(&ruote.UpD1());
+  EXPECT_EQ(decine->role(), QAccessible::SpinBox);
+  EXPECT_EQ(decine->text(QAccessible::Name), "Decine I1");
+  QAccessibleValueInterface* numero = decine->valueInterface();
+  ASSERT_NE(numero, nullptr);
+  EXPECT_EQ(numero->maximumValue(), 9.0);
+  numero->setCurrentValue(4);
+  EXPECT_EQ(numero->currentValue(), 4.0);
+  EXPECT_EQ(decine->text(QAccessible::Value), "4");
+  EXPECT_EQ(ruote.SimC_Stato(), "00000010");
+  numero->setCurrentValue(12);
+  EXPECT_EQ(numero->currentValue(), 4.0);
+}
 
 TEST_F(Thumbwheel, HasItsDefaults) {
   EXPECT_EQ(ruote.BackColor(), QApplication::palette("QMenuBar").color(QPalette::Window));
