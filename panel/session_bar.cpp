@@ -19,6 +19,7 @@
 #include "widgets/message_box.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
+#include "widgets/wrapping_row.h"
 
 namespace tavorno {
 
@@ -58,6 +59,7 @@ Barra_Seduta::Barra_Seduta(FrmPLC& pannello, Plc& plc, Registratore& registrator
       plc_(plc),
       registratore_(registratore),
       corsa_(corsa),
+      riga_(new Riga_A_Capo),
       fermate_(pannello, plc, corsa) {
   setObjectName(QStringLiteral("barraSeduta"));
   setMovable(false);
@@ -82,6 +84,7 @@ Barra_Seduta::Barra_Seduta(FrmPLC& pannello, Plc& plc, Registratore& registrator
   fermate_.Avvisa = [this](const QString& testo) { Avvisa(testo); };
   corsa_.Al_Battito = [this](int riga) { pannello_.Controlli().listSrc->Scegli(riga); };
 
+  addWidget(riga_);
   Crea_Comandi();
   pannello.addToolBar(Qt::BottomToolBarArea, this);
   hide();
@@ -102,7 +105,7 @@ QAction* Barra_Seduta::Comando(QMenu& menu, const char* nome, const char* testo,
                                            azione->shortcut().toString(QKeySequence::NativeText))
                                      : QString()));
   connect(azione, &QAction::triggered, this, std::move(fai));
-  if (nella_barra) addAction(azione);
+  if (nella_barra) riga_->Metti(azione);
   return azione;
 }
 
@@ -120,7 +123,7 @@ void Barra_Seduta::Crea_Comandi() {
       *menu, "mnuPausa", "&Pausa", "F8", "Ferma insieme CPU e impianto, e li fa proseguire",
       [this] { Pausa_O_Continua(); }, true);
   Crea_Lentezza();
-  addSeparator();
+  riga_->Stacco();
   menu->addSeparator();
   const struct {
     const char *Nome, *Testo, *Tasto, *Suggerimento;
@@ -166,19 +169,19 @@ void Barra_Seduta::Crea_Comandi() {
           "Prosegue da questo momento; ciò che è venuto dopo si perde", [this] { Riprendi(); },
           true),
   };
-  addSeparator();
+  riga_->Stacco();
   bit_ = Chiama(QStringLiteral("txtBit"), new QLineEdit(QStringLiteral("Q0.0")));
   bit_->setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("SM00.0.....")));
   bit_->setToolTip(Q("Il bit o la cella di cui si cerca l'ultimo cambiamento"));
   bit_->setAccessibleName(bit_->toolTip());
   connect(bit_, &QLineEdit::returnPressed, this, [this] { Chi_E_Stato(); });
-  addWidget(bit_);
+  riga_->Metti(bit_);
   Comando(
       *menu, "mnuChiEStato", "C&hi è stato?", "Ctrl+Alt+W",
       "Torna all'ultimo cambiamento e segna la riga che lo ha fatto", [this] { Chi_E_Stato(); },
       true);
-  addSeparator();
-  addWidget(fermate_.Campo());
+  riga_->Stacco();
+  riga_->Metti(fermate_.Campo(), true);
   menu->addSeparator();
   fermate_.Aggiungi_Voci(*menu);
   menu->addSeparator();
@@ -192,7 +195,7 @@ void Barra_Seduta::Crea_Comandi() {
   stato_->setAutoFillBackground(true);
   stato_->setMargin(3);
   stato_->setFont(Grassetto(stato_->font()));
-  addWidget(stato_);
+  riga_->Metti(stato_);
 }
 
 void Barra_Seduta::Crea_Lentezza() {
@@ -201,7 +204,7 @@ void Barra_Seduta::Crea_Lentezza() {
   lentezza_->setToolTip(Q("Quanto va veloce il tempo, per la CPU e per l'impianto"));
   lentezza_->setAccessibleName(lentezza_->toolTip());
   connect(lentezza_, &QComboBox::currentIndexChanged, this, [this](int n) { Cambia_Lentezza(n); });
-  addWidget(lentezza_);
+  riga_->Metti(lentezza_);
 }
 
 // ---- slowly -------------------------------------------------------------------------------------

@@ -18,6 +18,7 @@ class QLineEdit;
 namespace tavorno {
 
 class Finestra_Impianto;
+class Riga_A_Capo;
 
 /// The session of the panel: going slowly, standing still, back and forth again, and its file. A
 /// tool bar of the panel with a menu of its own; the bar is hidden at first.
@@ -65,6 +66,7 @@ class Barra_Seduta : public QToolBar {
   Plc& plc_;
   Registratore& registratore_;
   Guida_Corsa& corsa_;
+  Riga_A_Capo* riga_;  // all of the bar, in as many lines as it needs
   Fermate_Pannello fermate_;
   QString perche_;  // why the run stands
   QLabel* stato_ = nullptr;

@@ -6,12 +6,15 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 #include <QTest>
+#include <QToolButton>
 #include <cstdlib>
 #include <random>
 
@@ -412,6 +415,37 @@ TEST(SessionInTheWindows, GoesBackAndForthAndOnFromThere) {
   if (finestre.registratore.Tempo_Indietro(50)) {
     finestre.registratore.Torna_Al_Presente();
     EXPECT_EQ(Prima_Differenza(Elenca_Stato(finestre.plc, finestre.Fili()), dopo), "");
+  }
+}
+
+TEST(SessionInTheWindows, AllOfTheBarIsSeenAtEveryWidthOfThePanel) {
+  Finestre_A_Caso finestre(1);
+  finestre.Carica(programma);
+  Azione(finestre.pannello, "mnuScansioneIndietro").trigger();
+  auto& detto = *finestre.pannello.findChild<QLabel*>("etSeduta");
+  ASSERT_FALSE(detto.text().isEmpty());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return finestre.finestre.Ordine().Assestate(); }, 20000));
+  for (const int larga : {1060, 760, 460}) {
+    finestre.pannello.resize(larga, 700);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(finestre.pannello.width(), larga);
+    int visti = 0;
+    for (const QWidget* parte : finestre.barra.findChildren<QWidget*>()) {
+      const auto* tasto = qobject_cast<const QToolButton*>(parte);
+      const bool suo = parte == &detto || qobject_cast<const QComboBox*>(parte) != nullptr ||
+                       qobject_cast<const QLineEdit*>(parte) != nullptr ||
+                       (tasto != nullptr && !tasto->text().isEmpty());
+      if (!suo) continue;
+      ++visti;
+      SCOPED_TRACE(std::to_string(larga) + ' ' + parte->objectName().toStdString());
+      EXPECT_TRUE(parte->isVisible());
+      EXPECT_GE(parte->width(), parte->minimumSizeHint().width());
+      EXPECT_EQ(parte->visibleRegion().boundingRect(), parte->rect());
+    }
+    EXPECT_GE(visti, 14);
+    if (larga == 1060) {
+      EXPECT_LE(finestre.barra.height(), 70) << "two lines";
+    }
   }
 }
 
