@@ -2,6 +2,7 @@
 #include "panel/child_windows.h"
 
 #include <QApplication>
+#include <QDockWidget>
 #include <QScreen>
 #include <QShortcut>
 #include <QWindow>
@@ -25,14 +26,6 @@ namespace tavorno {
 
 namespace {
 
-/// Brings a window to the front, from the task bar too.
-void Porta_Avanti(QWidget& finestra) {
-  finestra.setWindowState(finestra.windowState() & ~Qt::WindowMinimized);
-  finestra.show();
-  finestra.raise();
-  finestra.activateWindow();
-}
-
 Simboli Simboli_Di(const Esercizio* esercizio) {
   Simboli simboli;
   if (esercizio == nullptr) return simboli;
@@ -44,6 +37,26 @@ Simboli Simboli_Di(const Esercizio* esercizio) {
 constexpr char tasti_ovunque[] = "F5 RUN, Maiusc+F5 STOP, F10 avanza di un passo, F1 guida";
 
 }  // namespace
+
+/// Brings a window to the front, from the task bar too; what is docked, with its dock.
+void Finestre::Porta_Avanti(QWidget& finestra) {
+  if (!finestra.isWindow()) {
+    if (auto* riquadro = qobject_cast<QDockWidget*>(finestra.parentWidget())) {
+      riquadro->show();
+      riquadro->raise();
+    }
+    return Porta_Avanti(*finestra.window());
+  }
+  finestra.setWindowState(finestra.windowState() & ~Qt::WindowMinimized);
+  finestra.show();
+  finestra.raise();
+  finestra.activateWindow();
+}
+
+void Finestre::Avanti_Il_Pannello() {
+  Porta_Avanti(tavolo_ ? tavolo_->Finestra() : pannello_);
+  pannello_.Attivata();
+}
 
 /// Makes a window when it is not there.
 template <class Finestra, class Crea>
@@ -69,7 +82,14 @@ void Finestre::Prepara(QWidget& finestra, const char* pagina) {
 Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
     : pannello_(pannello), plc_(plc), progetto_(progetto), guida_(guida), ordine_(pannello) {
   Legami_Pannello legami;
-  legami.Disponi_Finestre = [this] { ordine_.Disponi(true); };
+  legami.Disponi_Finestre = [this] {
+    if (tavolo_)
+      tavolo_->Disponi();
+    else
+      ordine_.Disponi(true);
+  };
+  legami.Mostra_Tavolo = [this] { Mostra_Tavolo(); };
+  legami.Separa_Finestre = [this] { Separa_Finestre(); };
   legami.Corsa_Cambiata = [this](bool acceso) {
     if (impianto_) impianto_->Mostra_Corsa(acceso);
   };
@@ -85,13 +105,17 @@ Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
   };
   legami.Mostra_Info = [this] { Mostra_Info(); };
   legami.Mostra_Impianto = [this](int indice) { Apri_Impianto(indice); };
-  legami.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
+  legami.Mostra_Aiuto = [this](const char* pagina) {
+    const QString scelta = QString::fromUtf8(pagina);
+    if (scelta != u"Index.htm" || !Guida_Al_Tavolo()) Mostra_Aiuto(guida_.Dir_Help + scelta);
+  };
   pannello_.Collega_Finestre(std::move(legami));
   QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &ascolto_,
                    [this](const QWindow* finestra) { Fuoco_A(finestra); });
 }
 
 Finestre::~Finestre() {
+  Lascia_Tavolo(false);
   for (const QWidget* finestra : Tutte()) {
     if (finestra != &pannello_) delete finestra;
   }
@@ -111,6 +135,7 @@ std::vector<QWidget*> Finestre::Tutte() const {
 void Finestre::Fuoco_A(const QWindow* finestra) {
   const QWidget* ora = nullptr;
   std::vector<QWidget*> tutte = Tutte();
+  if (tavolo_) tutte.push_back(&tavolo_->Finestra());
   if (modale_) tutte.push_back(modale_);
   for (const QWidget* candidata : tutte) {
     if (finestra != nullptr && candidata->windowHandle() == finestra) ora = candidata;
@@ -126,8 +151,7 @@ FrmMain& Finestre::Editor() {
   return Trova(editor_, [this] {
     Legami_Editor legami;
     legami.Mostra_Pannello = [this] {
-      Porta_Avanti(pannello_);
-      pannello_.Attivata();
+      Avanti_Il_Pannello();
       if (tempi_) tempi_->Programma_Caricato();
     };
     legami.Mostra_Debug = [this] { Mostra_Debug(); };
@@ -172,15 +196,17 @@ void Finestre::Mostra_Analogici() {
 }
 
 void Finestre::Mostra_Stati() {
+  if (tavolo_) return Nel_Tavolo(Vista_Tavolo::Stati, Stati(false));
   const bool nuova = stati_.isNull();
   if (nuova) ordine_.Sta_Per_Aprire();
   Porta_Avanti(Stati());
   if (nuova) ordine_.Aperte(impianto_, *stati_);
 }
 
-FrmStatiL& Finestre::Stati() {
-  return Trova(stati_, [this] {
-    auto* finestra = new FrmStatiL(plc_, &pannello_);
+FrmStatiL& Finestre::Stati(bool col_pannello) {
+  return Trova(stati_, [this, col_pannello] {
+    auto* finestra = new FrmStatiL(plc_, col_pannello ? &pannello_ : nullptr);
+    finestra->addActions(pannello_.Comandi_Di_Vista());
     Prepara(*finestra, "Index.htm#stati");
     QObject::connect(finestra, &QObject::destroyed, &ascolto_, [this] {
       if (!impianto_) ordine_.Chiuse();
@@ -189,17 +215,23 @@ FrmStatiL& Finestre::Stati() {
   });
 }
 
-void Finestre::Mostra_Tempi() {
-  const bool nuova = tempi_.isNull();
-  FrmTempi& finestra = Trova(tempi_, [this] {
+FrmTempi& Finestre::Tempi() {
+  return Trova(tempi_, [this] {
     auto* nuovo = new FrmTempi(plc_, esercizio_);
     nuovo->setToolTip(QString::fromUtf8(tasti_ovunque));
+    nuovo->addActions(pannello_.Comandi_Di_Vista());
     nuovo->Mostra_Aiuto = [this] { Mostra_Aiuto(guida_.Dir_Help + "Tempi.htm"); };
     nuovo->Riporta = [this](std::int64_t ms) {
       if (Torna_A) Torna_A(ms);
     };
     return nuovo;
   });
+}
+
+void Finestre::Mostra_Tempi() {
+  if (tavolo_) return Nel_Tavolo(Vista_Tavolo::Tempi, Tempi());
+  const bool nuova = tempi_.isNull();
+  FrmTempi& finestra = Tempi();
   // At the lower border of the screen, where it hides least of the others.
   const QRect schermo = pannello_.screen()->availableGeometry();
   if (nuova) finestra.move(schermo.left(), schermo.bottom() - finestra.height() - 40);
@@ -218,12 +250,18 @@ void Finestre::Specchia() {
   if (analogici_) analogici_->Specchia();
 }
 
-void Finestre::Mostra_Osserva() {
-  Porta_Avanti(Trova(osserva_, [this] {
+FrmOsserva& Finestre::Osserva() {
+  return Trova(osserva_, [this] {
     auto* finestra = new FrmOsserva(plc_, esercizio_);
+    finestra->addActions(pannello_.Comandi_Di_Vista());
     Prepara(*finestra, "Tempi.htm#osservazione");
     return finestra;
-  }));
+  });
+}
+
+void Finestre::Mostra_Osserva() {
+  if (tavolo_) return Nel_Tavolo(Vista_Tavolo::Osserva, Osserva());
+  Porta_Avanti(Osserva());
 }
 
 /// The windows that show a plant's symbols.
@@ -241,6 +279,8 @@ Finestra_Impianto* Finestre::Impianto() const {
 
 void Finestre::Apri_Impianto(int indice) {
   Al_Presente();
+  const bool al_tavolo = tavolo_ != nullptr;
+  Separa_Finestre();
   pannello_.setCursor(Qt::WaitCursor);
   auto collegamento = std::make_unique<Collegamento>(
       plc_, impianto_aperto_, Tabella_Esercizi()[static_cast<std::size_t>(indice)],
@@ -252,6 +292,7 @@ void Finestre::Apri_Impianto(int indice) {
       Trova(impianto_, [&] { return new Finestra_Impianto(std::move(collegamento)); });
   finestra.Mostra_Corsa(plc_.PLC_Acceso != 0);
   finestra.setToolTip(QString::fromUtf8(tasti_ovunque));
+  finestra.addActions(pannello_.Comandi_Di_Vista());
   finestra.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Panel + pagina); };
   finestra.Mostra_Tempi = [this] { Mostra_Tempi(); };
   finestra.Verifica = [this] {
@@ -263,6 +304,7 @@ void Finestre::Apri_Impianto(int indice) {
   };
   finestra.Sta_Per_Chiudere = [this] { Al_Presente(); };
   finestra.Chiusa = [this] {
+    Lascia_Tavolo(true);
     pannello_.Segna_Impianto(-1);
     Cambia_Simboli(nullptr);
     if (stati_) stati_->close();
@@ -278,6 +320,7 @@ void Finestre::Apri_Impianto(int indice) {
   fili.Carica();
   ordine_.Aperte(&finestra, *stati_);
   pannello_.unsetCursor();
+  if (al_tavolo) Mostra_Tavolo();
 }
 
 void Finestre::Mostra_Debug() {

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QPointer>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -12,6 +13,7 @@
 #include "panel/documents/browser_window.h"
 #include "panel/panel_window.h"
 #include "panel/window_order.h"
+#include "panel/workbench.h"
 #include "plants/link.h"
 #include "plc/plc.h"
 
@@ -56,6 +58,10 @@ class Finestre {
   void Mostra_Info();
   /// The host window of an exercise with the status window at its right. One at a time.
   void Apri_Impianto(int indice);
+  /// One window to work in, or its ready arrangement again; and back to windows of their own.
+  void Mostra_Tavolo();
+  void Separa_Finestre();
+  Tavolo* Al_Tavolo() const { return tavolo_.get(); }
   /// `indirizzo`: the page with its directory.
   void Mostra_Aiuto(const QString& indirizzo);
 
@@ -82,7 +88,15 @@ class Finestre {
   Finestra& Trova(QPointer<Finestra>& finestra, Crea crea);
   void Prepara(QWidget& finestra, const char* pagina);
   FrmMain& Editor();
-  FrmStatiL& Stati();
+  FrmStatiL& Stati(bool col_pannello = true);
+  FrmTempi& Tempi();
+  FrmOsserva& Osserva();
+  static void Porta_Avanti(QWidget& finestra);
+  void Avanti_Il_Pannello();
+  // workbench_windows.cpp
+  void Nel_Tavolo(Vista_Tavolo chi, QWidget& vista);
+  void Lascia_Tavolo(bool impianto_chiude);
+  bool Guida_Al_Tavolo();
   void Cambia_Simboli(const Esercizio* impianto);
   void Mostra_Modale(QDialog& dialogo);
   std::vector<QWidget*> Tutte() const;
@@ -104,6 +118,8 @@ class Finestre {
   QPointer<FrmDebug> debug_;
   QPointer<FrmScala> scala_;
   const Esercizio* esercizio_ = nullptr;  // that is open
+  std::unique_ptr<Tavolo> tavolo_;
+  std::vector<QPointer<QWidget>> solo_al_tavolo_;  // views that were not there before
   QPointer<FrmBrowser> aiuto_;
   QPointer<QDialog> modale_;        // print window or about box
   const QWidget* prima_ = nullptr;  // the program's own window that had the focus last

@@ -28,6 +28,7 @@ struct Controlli_Pannello {
   QToolBar* tB1;
   Fronte_CPU* Fronte;
   Lista_Programma* listSrc;
+  QWidget* vistaLista;  ///< the list with its heading
 
   QTabWidget *SSTb3, *SSTb4;
   QCheckBox *chkList, *chkStop, *chkSol, *chkIP, *chkVs, *chkVal;

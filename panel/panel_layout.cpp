@@ -368,8 +368,12 @@ Controlli_Pannello Crea_Controlli(QMainWindow& finestra, Plc& plc, Azioni_Pannel
   in_colonna->setContentsMargins(0, 0, 0, 0);
   c.listSrc = Chiama(QStringLiteral("listSrc"), new Lista_Programma);
   c.listSrc->setMinimumSize(260, 130);
-  in_colonna->addLayout(Testata_Lista(c));
-  in_colonna->addWidget(c.listSrc, 1);
+  c.vistaLista = Chiama(QStringLiteral("vistaLista"), new QWidget);
+  auto* lista = new QVBoxLayout(c.vistaLista);
+  lista->setContentsMargins(0, 0, 0, 0);
+  lista->addLayout(Testata_Lista(c));
+  lista->addWidget(c.listSrc, 1);
+  in_colonna->addWidget(c.vistaLista, 1);
   in_colonna->addWidget(Potenziometri(c));
 
   finestra.setCentralWidget(new Area_Pannello(centro, {c.Fronte, corsa, c.SSTb4, destra}));

@@ -13,7 +13,8 @@ struct Azioni_Pannello {
   QAction *mnuFile, *mnuFileNew, *mnuFileOpen, *mnuFileEdit, *mnuFileEnd;
   QAction *mnuPlc, *mnuPlcRun, *mnuPlcStop, *mnuPlcStep, *mnuPlcCont, *mnuPLCCiclo, *mnuPLCPiu;
   QAction *mnuView, *mnuViewTB, *mnuViewSTB, *mnuViewSet, *mnuViewKOP, *mnuViewIO, *mnuViewStati,
-      *mnuViewTempi, *mnuViewOsserva, *mnuViewVerifica, *mnuViewDisponi;
+      *mnuViewTempi, *mnuViewOsserva, *mnuViewVerifica, *mnuViewDisponi, *mnuViewTavolo,
+      *mnuViewFinestre;
   QAction *mnuProgetti, *MnuHLP, *mnuHlpGen, *mnuHlpSet, *mnuInfAb;
   std::vector<QAction*> mnuPrj;  ///< the exercises, by index
 

@@ -76,6 +76,8 @@ void FrmPLC::Collega_Finestre(Legami_Pannello legami) {
       {a_.mnuViewOsserva, legami_.Mostra_Osserva, bool(legami_.Mostra_Osserva)},
       {a_.mnuViewVerifica, legami_.Verifica, bool(legami_.Verifica)},
       {a_.mnuViewDisponi, legami_.Disponi_Finestre, bool(legami_.Disponi_Finestre)},
+      {a_.mnuViewTavolo, legami_.Mostra_Tavolo, bool(legami_.Mostra_Tavolo)},
+      {a_.mnuViewFinestre, legami_.Separa_Finestre, bool(legami_.Separa_Finestre)},
       {a_.mnuInfAb, legami_.Mostra_Info, bool(legami_.Mostra_Info)},
       {a_.mnuHlpGen, [this] { legami_.Mostra_Aiuto("Index.htm"); }, bool(legami_.Mostra_Aiuto)},
       {a_.mnuHlpSet, [this] { legami_.Mostra_Aiuto("SET_IST.htm"); }, bool(legami_.Mostra_Aiuto)},
@@ -112,6 +114,10 @@ void FrmPLC::Collega_Comandi() {
 
 QList<QAction*> FrmPLC::Comandi_Ovunque() const {
   return {a_.mnuPlcRun, a_.mnuPlcStop, a_.mnuPLCPiu};
+}
+
+QList<QAction*> FrmPLC::Comandi_Di_Vista() const {
+  return {a_.mnuViewTavolo, a_.mnuViewFinestre};
 }
 
 /// A command that may start a run begins in an event of its own: the menu or button it was given

@@ -30,6 +30,8 @@ struct Legami_Pannello {
   std::function<void(int indice)> Mostra_Impianto;  ///< an exercise of the table
   std::function<void(const char* pagina)> Mostra_Aiuto;
   std::function<void()> Disponi_Finestre;
+  std::function<void()> Mostra_Tavolo;
+  std::function<void()> Separa_Finestre;
   std::function<void(bool acceso)> Corsa_Cambiata;  ///< the CPU runs or stands still
 };
 
@@ -64,6 +66,9 @@ class FrmPLC : public QMainWindow {
 
   /// The run commands that work by their keys from other windows of the program too.
   QList<QAction*> Comandi_Ovunque() const;
+
+  /// The same for the windows that a workbench takes in.
+  QList<QAction*> Comandi_Di_Vista() const;
 
   /// The process is about to end: offers to save what is not. False when it was to be saved and is
   /// not, so that the process should go on.

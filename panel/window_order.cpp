@@ -29,8 +29,8 @@ bool Vicini(const QRect& uno, const QRect& altro) {
 }
 
 bool Libera(const QWidget& finestra) {
-  return finestra.isVisible() && !finestra.isMaximized() && !finestra.isFullScreen() &&
-         !finestra.isMinimized();
+  return finestra.isWindow() && finestra.isVisible() && !finestra.isMaximized() &&
+         !finestra.isFullScreen() && !finestra.isMinimized();
 }
 
 /// How thick the frame is, as far as it is known.
@@ -150,7 +150,6 @@ bool Ordine_Finestre::Tutto_A_Posto(const QRect& schermo) const {
          impianto_->width() >= impianto_->Voluta().width();
 }
 
-/// What the user has moved since the last placing stays his.
 void Ordine_Finestre::Rispetta_Mani() {
   for (const auto& [finestra, cornice] : dati_) {
     if (A_Mano(*finestra)) a_mano_.insert(finestra);
@@ -159,6 +158,7 @@ void Ordine_Finestre::Rispetta_Mani() {
 }
 
 void Ordine_Finestre::Disponi(bool tutte) {
+  if (stati_ && !stati_->isWindow()) return;  // docked: there is nothing to place
   if (tutte)
     a_mano_.clear();
   else
@@ -237,7 +237,9 @@ void Ordine_Finestre::Assesta() {
   if (quiete_ < giri_fermi && giri_ < giri_massimi) return;
   assesta_.stop();
   nuove_.clear();
-  for (auto& [finestra, cornice] : dati_) cornice = finestra->frameGeometry();
+  for (auto& [finestra, cornice] : dati_) {
+    if (finestra->isWindow()) cornice = finestra->frameGeometry();
+  }
 }
 
 }  // namespace tavorno

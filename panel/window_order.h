@@ -37,6 +37,9 @@ class Ordine_Finestre : public QObject {
   /// Fits what has no room. `tutte`: those that the user has moved as well.
   void Disponi(bool tutte);
 
+  /// What the user has moved since the last placing stays his.
+  void Rispetta_Mani();
+
   /// False for a moment after windows were opened or placed, until their frames are known.
   bool Assestate() const { return !assesta_.isActive(); }
 
@@ -46,7 +49,6 @@ class Ordine_Finestre : public QObject {
  private:
   bool A_Mano(QWidget& finestra) const;
   void Appena_Mostrata(QWidget& finestra);
-  void Rispetta_Mani();
   bool Tutto_A_Posto(const QRect& schermo) const;
   void Metti(QWidget& finestra, const QRect& cornice, bool tutte);
   void Porta(QWidget& finestra, const QRect& cornice) const;

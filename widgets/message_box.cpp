@@ -27,7 +27,10 @@ QMessageBox::Icon Icona_Qt(Icona simbolo) {
 
 QWidget* Finestra_Sotto(QWidget* sopra) {
   if (QWidget* modale = QApplication::activeModalWidget()) return modale;
-  return sopra != nullptr ? sopra : QApplication::activeWindow();
+  // A dialog over a window that is hidden would not stand in front of those that are seen.
+  QWidget* attiva = QApplication::activeWindow();
+  if (sopra == nullptr || (!sopra->window()->isVisible() && attiva != nullptr)) return attiva;
+  return sopra;
 }
 
 Risposta Mostra_Avviso(QWidget* sopra, const Avviso& avviso) {

@@ -204,6 +204,7 @@ void Finestra_Impianto::Mostra_Corsa(bool acceso) {
 
 /// The height shows or hides the table. What the user has made the window larger by stays.
 void Finestra_Impianto::Apri_Tabella(bool aperta) {
+  if (!Schede_Qui()) return;
   const Esercizio& esercizio = collegamento_->Tabella();
   const int prima = altezza_;
   altezza_ = aperta ? esercizio.Altezza_Aperta : esercizio.Altezza_Chiusa;
@@ -215,7 +216,7 @@ void Finestra_Impianto::Apri_Striscia(bool aperta) {
 }
 
 void Finestra_Impianto::Mostra(QWidget& vista, bool aperta, int pixel) {
-  const bool ferma = isMaximized() || isFullScreen();
+  const bool ferma = !isWindow() || isMaximized() || isFullScreen();
   // What appears may make the window grow at once.
   const QSize voluta(width(), height() + (ferma ? 0 : pixel));
   vista.setVisible(aperta);
@@ -246,7 +247,13 @@ bool Finestra_Impianto::Meglio_Accanto(const QSize& finestra) const {
          scala(finestra.width(), finestra.height() - sotto - con_tabella);
 }
 
+/// Somebody else may be showing the table for a while, and then sees to its place.
+bool Finestra_Impianto::Schede_Qui() const {
+  return schede_->parentWidget() == this;
+}
+
 void Finestra_Impianto::Disponi(const QSize& finestra) {
+  if (!Schede_Qui()) return;
   const bool accanto = Meglio_Accanto(finestra);
   const int alta = Px(storia_.Tabella().Altezza_Aperta - storia_.Tabella().Altezza_Chiusa);
   if (accanto != accanto_) {

@@ -41,6 +41,7 @@ class Finestra_Impianto : public QWidget {
 
   Quadro& Disegno() { return *quadro_; }
   Collegamento& Fili() { return *collegamento_; }
+  QTabWidget& Schede() { return *schede_; }  ///< table, settings and faults
   /// Makes plant and picture anew, which have not spoken yet, and hands out their wires.
   Collegamento* Riapri();
   /// Shows ticks and sliders as the wires have them, after another time was put back.
@@ -69,6 +70,7 @@ class Finestra_Impianto : public QWidget {
   int Sotto_Il_Quadro() const;
   bool Meglio_Accanto(const QSize& finestra) const;
   void Disponi(const QSize& finestra);
+  bool Schede_Qui() const;
   void Collega_Comandi();
   void Collega_Indicazioni();
 

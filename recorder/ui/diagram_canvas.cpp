@@ -95,7 +95,7 @@ Tela_Tempi::Tela_Tempi(Diagramma_Tempi& diagramma) : d_(diagramma) {
   setObjectName(QStringLiteral("picTempi"));
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
-  setMinimumSize(320, 120);
+  setMinimumSize(320, 90);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setAccessibleName(QStringLiteral("Diagramma dei tempi"));
 }
