@@ -145,7 +145,7 @@ void Sala_Verifica::Specchia(bool passo) {
   if (passo) {
     plc_.Segna(Segno_Immagini | Segno_PC | Segno_Tempo | Segno_Lista | Segno_Comandi |
                Segno_Analogici);
-    pannello_.Specchia_Scelte();
+    pannello_.Specchia_Scelte(registratore_.Interruttori());
   }
   pannello_.Aggiorna();
   if (passo)
