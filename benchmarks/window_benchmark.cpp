@@ -14,6 +14,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,7 @@
 #include "panel/run_driver.h"
 #include "panel/windows/status_window.h"
 #include "plants/host/host_window.h"
+#include "recorder/recorder.h"
 #include "recorder/ui/diagram_window.h"
 
 using namespace tavorno;
@@ -120,6 +122,7 @@ struct Sguardi {
   bool Attesa = false;               // the run waits at the top of its scan
   bool Tempi = false;                // the timing diagram is open, live
   bool Valori = false;               // the lines of the list show their values
+  bool Giornale = false;             // what enters is written down
   bool Quiete = false;               // the solved project of the first exercise, at rest
   bool Motore = false;               // the first exercise is open and wired to the measured program
   const Lavoro* Impianto = nullptr;  // at work, with the solved project of its exercise
@@ -152,6 +155,8 @@ Misura Con_Pannello(double secondi, Sguardi sguardi) {
   Cpu cpu;
   if (sguardi.Reti) Leggi_Reti(cpu);
   if (sguardi.Quiete) Leggi_Soluzione(cpu, "us00.AWL");
+  std::optional<Registratore> registratore;
+  if (sguardi.Giornale) registratore.emplace(cpu.plc);
   FrmPLC pannello(cpu.plc, cpu.progetto);
   Guida_Corsa corsa(cpu.plc, [&] { pannello.Aggiorna(); });
   corsa.Attesa = sguardi.Attesa;
@@ -264,17 +269,19 @@ int main(int argc, char** argv) {
   }
 
   // In pairs, one right after the other.
-  const auto a_coppie = [&](const char* nome, Sguardi sguardi) {
+  const auto a_coppie = [&](const char* nome, Sguardi sguardi, Sguardi altri = {}) {
     if (!chiesto(nome)) return;
     std::vector<double> costi;
     for (int giro = 0; giro < 3 * giri; ++giro) {
-      const double senza = Con_Pannello(secondi / 2, {}).Righe;
+      const double senza = Con_Pannello(secondi / 2, altri).Righe;
       costi.push_back(100 * (1 - Con_Pannello(secondi / 2, sguardi).Righe / senza));
     }
     std::sort(costi.begin(), costi.end());
     std::printf("%-32s costs %5.1f %% of the speed (quartiles %.1f and %.1f)\n", nome,
                 costi[costi.size() / 2], costi[costi.size() / 4], costi[costi.size() * 3 / 4]);
   };
+  a_coppie("journal", {.Giornale = true});
+  a_coppie("journal, with a plant", {.Giornale = true, .Motore = true}, {.Motore = true});
   a_coppie("live diagram", {.Tempi = true});
   a_coppie("values in the list", {.Valori = true});
 
@@ -285,6 +292,7 @@ int main(int argc, char** argv) {
                 100 * Con_Pannello(secondi, sguardi).Processore);
   };
   di_un_processore("waiting at the top of the scan, panel", {});
+  di_un_processore("waiting at the top of the scan, panel and journal", {.Giornale = true});
   di_un_processore("waiting at the top of the scan, panel, stack and images", {.Spunte = true});
   di_un_processore("waiting at the top of the scan, panel and status window", {.Stati = true});
   di_un_processore("waiting at the top of the scan, panel and live diagram", {.Tempi = true});

@@ -334,8 +334,11 @@ void FrmPLC::Attivata() {
   if (caricata) {
     std::vector<std::string> righe;
     for (int i = 0; i <= plc_.NRighe; ++i) righe.push_back(progetto_.Righe_Src[i].Testo_CPU);
+    // In the past and in a pause it marks what was looked for, and not what ran last.
+    const bool segnata = plc_.Hook.Adesso == Vissuto::Passato || plc_.In_Pausa();
+    const int riga = segnata ? c_.listSrc->currentRow() : plc_.Lista_Scelta;
     c_.listSrc->Riempi(righe);
-    c_.listSrc->Scegli(plc_.Lista_Scelta);
+    c_.listSrc->Scegli(riga);
     Scrivi_Stato(QStringLiteral("List:"));
   }
   plc_.Entra({.Che = Cosa::Azzera_Elementi, .Numero = caricata});

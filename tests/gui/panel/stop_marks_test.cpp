@@ -58,6 +58,9 @@ TEST_F(Segni_Di_Fermata, AClickInTheMarginSetsOneAndTheRunStandsBeforeThatLine) 
   EXPECT_EQ(plc.PC, 4);
   EXPECT_EQ(plc.Mem_VW[0], 0);
   EXPECT_EQ(c.listSrc->currentRow(), 4);
+  pannello.Attivata();  // as when the user comes back from the plant
+  EXPECT_EQ(c.listSrc->currentRow(), 4);
+  EXPECT_EQ(Segno(4), Forma::Piena);
   EXPECT_TRUE(barra.isVisibleTo(&pannello));
   EXPECT_TRUE(QTest::qWaitFor([this] { return Stato().contains("Fermata: riga 4"); }));
   Azione(pannello, "mnuPausa").trigger();  // on, to the next scan
