@@ -130,7 +130,7 @@ TEST_F(Segni_Di_Fermata, TheLineOfTheListAndTheListOfAllAreOne) {
 
 TEST_F(Segni_Di_Fermata, TheMenuOfALineOffersWhatThereIs) {
   c.listSrc->setCurrentRow(2);
-  QContextMenuEvent tasto(QContextMenuEvent::Keyboard, QPoint());
+  QContextMenuEvent tasto(QContextMenuEvent::Keyboard, QPoint(), QPoint());
   QApplication::sendEvent(c.listSrc->viewport(), &tasto);
   auto* menu = c.listSrc->findChild<QMenu*>("mnuMargine");
   ASSERT_NE(menu, nullptr);
