@@ -80,7 +80,14 @@ void Finestre::Prepara(QWidget& finestra, const char* pagina) {
 }
 
 Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
-    : pannello_(pannello), plc_(plc), progetto_(progetto), guida_(guida), ordine_(pannello) {
+    : pannello_(pannello),
+      plc_(plc),
+      progetto_(progetto),
+      guida_(guida),
+      ordine_(pannello),
+      menu_file_(Recenti, QCoreApplication::applicationDirPath(),
+                 [this](const QString& file) { Apri_File(file); }) {
+  menu_file_.Metti_In(pannello_);
   Legami_Pannello legami;
   legami.Disponi_Finestre = [this] {
     if (tavolo_)
@@ -159,7 +166,9 @@ FrmMain& Finestre::Editor() {
     legami.Mostra_Scala = [this] { Mostra_Scala(); };
     legami.Mostra_Info = [this] { Mostra_Info(); };
     legami.Mostra_Aiuto = [this](const QString& pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
+    legami.File_Usato = [this](const QString& file) { Recenti.Usato(file); };
     auto* editor = new FrmMain(progetto_, plc_, std::move(legami));
+    menu_file_.Metti_In(*editor);
     editor->Usa_Simboli(Simboli_Di(esercizio_));
     return editor;
   });
@@ -169,6 +178,11 @@ void Finestre::Mostra_Editor(Avvio avvio_file) {
   const bool nuova = editor_.isNull();
   Porta_Avanti(Editor());
   if (nuova) editor_->Avvia(avvio_file);
+}
+
+void Finestre::Apri_File(const QString& file) {
+  Porta_Avanti(Editor());
+  editor_->Apri_Questo(file);
 }
 
 void Finestre::Mostra_Recuperato(const Copia_Progetto& copia) {

@@ -11,6 +11,7 @@
 #include "awl/project.h"
 #include "awl/ui/start_mode.h"
 #include "panel/documents/browser_window.h"
+#include "panel/file_menus.h"
 #include "panel/panel_window.h"
 #include "panel/window_order.h"
 #include "panel/workbench.h"
@@ -45,6 +46,8 @@ class Finestre {
   void Mostra_Editor(Avvio avvio_file);
   /// The editor with a project that an earlier program has left unsaved.
   void Mostra_Recuperato(const Copia_Progetto& copia);
+  /// The editor with the project of a file.
+  void Apri_File(const QString& file);
   void Mostra_Impostazioni();
   void Mostra_Analogici();
   void Mostra_Stati();
@@ -81,6 +84,8 @@ class Finestre {
 
   const Ordine_Finestre& Ordine() const { return ordine_; }
 
+  File_Recenti Recenti;
+
   std::int16_t Sim_Contraves = 0;  ///< -1 while the thumbwheel stands in for the second switch row
 
  private:
@@ -108,6 +113,7 @@ class Finestre {
   Guida& guida_;
   Stato_Impianto impianto_aperto_;
   Ordine_Finestre ordine_;
+  Menu_File menu_file_;
   QPointer<Finestra_Impianto> impianto_;
   QPointer<FrmMain> editor_;
   QPointer<FrmSetPLC> impostazioni_;

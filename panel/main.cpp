@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The process entry: makes the objects, connects them, runs.
-#include <QFileInfo>
 #include <QIcon>
 #include <QLibraryInfo>
+#include <QSettings>
 #include <QStyleFactory>
 #include <QTimer>
 #include <QTranslator>
@@ -22,18 +22,6 @@
 #include "widgets/message_box.h"
 
 using namespace tavorno;
-
-namespace {
-
-/// A project from the command line, or from a double click on its file.
-void Apri_Progetto(const std::string& file, Progetto& progetto, Finestre& finestre) {
-  const QFileInfo scelto(QString::fromStdString(file));
-  progetto.File_Progetto = scelto.absoluteFilePath().toStdString();
-  progetto.File_Titolo = scelto.fileName().toStdString();
-  finestre.Mostra_Editor(Avvio::Modifica);
-}
-
-}  // namespace
 
 int main(int argc, char** argv) {
   const std::vector<std::string> tutte(argv + 1, argv + argc);
@@ -74,7 +62,10 @@ int main(int argc, char** argv) {
 
   FrmPLC pannello(plc, progetto);
   Guida_Corsa corsa(plc, [&pannello] { pannello.Aggiorna(); });
+  pannello.Durate = [&corsa] { return corsa.Scansioni(); };
   Finestre finestre(pannello, plc, progetto, guida);
+  QSettings ricordi(QStringLiteral("tavorno"), QStringLiteral("tavorno"));
+  finestre.Recenti.Ricorda_In(ricordi);
   Salvaguardia salvaguardia(progetto, pannello, finestre, Cartella_Copie());
   Barra_Seduta seduta(pannello, plc, registratore, corsa);
   seduta.Impianto = [&finestre] { return finestre.Impianto(); };
@@ -95,7 +86,8 @@ int main(int argc, char** argv) {
     pannello.Salva_Il_Progetto();
   };
   pannello.show();
-  if (!comando.File.empty()) Apri_Progetto(comando.File, progetto, finestre);
+  // From the command line, or from a double click on its file.
+  if (!comando.File.empty()) finestre.Apri_File(QString::fromStdString(comando.File));
   QTimer::singleShot(0, &salvaguardia, [&salvaguardia] { salvaguardia.Offri(); });
   const int stato = Applicazione::exec();
   salvaguardia.Congeda();

@@ -48,6 +48,7 @@ struct Controlli_Pannello {
   std::array<QLabel*, 2> etAQ, etAQV, etg2;
 
   std::array<QLabel*, 4> stB;
+  QLabel* etDurate;  ///< mean and longest scan, behind the four
 };
 
 /// Makes and lays out everything below the menus of the panel. The tool bar's buttons go to

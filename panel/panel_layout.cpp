@@ -344,6 +344,9 @@ void Crea_Stato(QMainWindow& finestra, Controlli_Pannello& c) {
     c.stB[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     barra->addWidget(c.stB[i], larghezze[i]);
   }
+  c.etDurate = Chiama(QStringLiteral("etDurate"), new QLabel);
+  barra->addPermanentWidget(c.etDurate);
+  c.etDurate->hide();
   // The mode is short and has no tool tip: it is never cut.
   c.stB[2]->setMinimumWidth(
       c.stB[2]->fontMetrics().horizontalAdvance(QStringLiteral("STOP  -  Singolo Ciclo")) + 4);

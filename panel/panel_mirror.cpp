@@ -6,10 +6,12 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QSlider>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QToolButton>
 
@@ -47,6 +49,38 @@ void FrmPLC::Aggiorna() {
   if (segni & Segno_Analogici) Mostra_Analogici();
   if (c_.chkVs->isChecked()) Mostra_Pila();
   if (c_.chkVal->isChecked()) Mostra_Valori();
+  if (Durate) Mostra_Durate();
+}
+
+/// The label shows milliseconds, and most programs need less than one.
+void FrmPLC::Mostra_Durate() {
+  constexpr int fra_due = 250;  // ms, to be read
+  if (durate_dette_.isValid() && !durate_dette_.hasExpired(fra_due)) return;
+  const Tempo_Scansioni durate = Durate();
+  if (durate.Quante == scansioni_dette_) return;
+  durate_dette_.start();
+  scansioni_dette_ = durate.Quante;
+  const auto micro = [](Tempo_Scansioni::Durata durata) {
+    constexpr double nanosecondi = 1000;
+    return QLocale(QLocale::Italian)
+        .toString(static_cast<double>(durata.count()) / nanosecondi, 'f', 1);
+  };
+  const QString media = micro(durate.Media());
+  const QString massima = micro(durate.Massima);
+  c_.etTime->setToolTip(
+      durate.Quante == 0
+          ? QString()
+          : QStringLiteral("Ultimo ciclo: %1 µs\nMedia di %2 cicli: %3 µs\nIl più lungo: %4 µs\n"
+                           "È il tempo del solo programma, senza le attese")
+                .arg(micro(durate.Ultima), QLocale(QLocale::Italian).toString(durate.Quante), media,
+                     massima));
+  c_.etDurate->setText(QStringLiteral("Ciclo: %1 µs, max %2 µs").arg(media, massima));
+  c_.etDurate->setToolTip(c_.etTime->toolTip());
+  // On a narrow panel the four need the bar; the label of the scan time has the tip.
+  constexpr int larghezza_dei_quattro = 560;
+  c_.etDurate->setVisible(durate.Quante > 0 &&
+                          statusBar()->width() >=
+                              larghezza_dei_quattro + c_.etDurate->sizeHint().width());
 }
 
 void FrmPLC::Guarda_Valori(bool accesi) {

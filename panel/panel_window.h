@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <array>
 #include <cstdint>
@@ -10,6 +11,7 @@
 #include "awl/project.h"
 #include "awl/ui/start_mode.h"
 #include "panel/panel_controls.h"
+#include "panel/scan_clock.h"
 #include "plants/cover_mode.h"
 #include "plc/plc.h"
 #include "trace/line_state.h"
@@ -64,6 +66,9 @@ class FrmPLC : public QMainWindow {
 
   Controlli_Pannello& Controlli() { return c_; }
 
+  /// How long the scans take, asked four times a second at most; while it is empty nothing is told.
+  std::function<Tempo_Scansioni()> Durate;
+
   /// The run commands that work by their keys from other windows of the program too.
   QList<QAction*> Comandi_Ovunque() const;
 
@@ -99,6 +104,7 @@ class FrmPLC : public QMainWindow {
   void Mostra_Analogici();
   void Mostra_Modo();
   void Mostra_Tempo_Acceso();
+  void Mostra_Durate();
   void Mostra_Valori();
   void Guarda_Valori(bool accesi);
 
@@ -116,6 +122,8 @@ class FrmPLC : public QMainWindow {
   };
   Flusso_Righe flusso_{plc_};
   Posto_CPU passo_visto_;
+  QElapsedTimer durate_dette_;
+  std::int64_t scansioni_dette_ = 0;
   int giri_di_valori_ = 0;  // refreshes since the flow was last asked for
 };
 

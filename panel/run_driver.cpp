@@ -66,6 +66,7 @@ void Guida_Corsa::Tick() {
     return;
   }
   if (std::exchange(altrove_, false)) Riparti_Da(std::chrono::milliseconds{plc_.Tempo.Adesso()});
+  if (plc_.In_Giro() == Giro::Nessuno) durate_.Interrompi();
   if (congelata_ && sospesa_ && !plc_.In_Pausa()) {  // a command has ended the pause
     Riparti_Da(base_);
     congelata_ = false;
@@ -139,12 +140,26 @@ void Guida_Corsa::Aspetta_Il_Battito() {
 }
 
 int Guida_Corsa::Cedi() {
-  if (plc_.Hook.Adesso != Vissuto::Presente) return std::numeric_limits<int>::max();
+  if (plc_.Hook.Adesso != Vissuto::Presente) {
+    durate_.Interrompi();
+    return std::numeric_limits<int>::max();
+  }
+  Istante vero = Vero();  // read once: the clock costs as much as ten lines
+  if (plc_.PC == 0 && plc_.N_Cicli == 0) durate_.Da_Capo();
+  durate_.Arriva(vero, plc_.PC == 0 && plc_.N_Cicli == cicli_visti_ + 1);
+  const int righe = Guarda(vero);
+  durate_.Riparte(vero, plc_.PC == 0);
+  if (congelata_) durate_.Interrompi();
+  return righe;
+}
+
+/// Time and the windows go on, and `vero` with them; returns how many lines the program may do
+/// before the next look.
+int Guida_Corsa::Guarda(Istante& vero) {
   if (congelata_ || altrove_) {
     Riparti_Da(std::chrono::milliseconds{plc_.Tempo.Adesso()});
     congelata_ = altrove_ = false;
   }
-  Istante vero = Vero();  // read once: the clock costs as much as ten lines
   Istante adesso = Adesso(vero);
   if (plc_.PC == 0) {
     const Istante prima = std::exchange(adesso, Inizia_Scansione(adesso));
@@ -153,8 +168,14 @@ int Guida_Corsa::Cedi() {
     riposo_.Da_Capo();  // something is about to happen in the middle of a scan
   }
   Porta_Al_Presente(adesso);
-  if (vero - eventi_ >= Eventi) Eventi_Di_Finestra();
-  if (Si_Batte_Qui()) Aspetta_Il_Battito();
+  if (vero - eventi_ >= Eventi) {
+    Eventi_Di_Finestra();
+    vero = Vero();
+  }
+  if (Si_Batte_Qui()) {
+    Aspetta_Il_Battito();
+    vero = Vero();
+  }
   const bool fermata = Fermati_Qui && !prima_riga_ && Fermati_Qui();
   prima_riga_ = false;
   if (fermata || std::exchange(pausa_chiesta_, false)) {

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <functional>
 
+#include "panel/scan_clock.h"
 #include "plc/rest.h"
 
 namespace tavorno {
@@ -30,6 +31,9 @@ class Guida_Corsa {
 
   /// No more ticks and refreshes: the process is about to end with a report.
   void Ferma();
+
+  /// How long the scans of the run took, or of the last one.
+  const Tempo_Scansioni& Scansioni() const { return durate_.Misurati(); }
 
   /// Time stands still, and a run is left before its next line. What had been frozen by a pause is
   /// let go by `Continua`, and by any command that sets the CPU going or stops it.
@@ -63,6 +67,7 @@ class Guida_Corsa {
   using Istante = std::chrono::nanoseconds;
 
   int Cedi();
+  int Guarda(Istante& vero);
   Istante Inizia_Scansione(Istante adesso);
   Istante Riposa(Istante adesso);
   Istante Vero() const { return Istante{cronometro_.nsecsElapsed()}; }
@@ -78,6 +83,7 @@ class Guida_Corsa {
   Plc& plc_;
   Riposo riposo_{plc_};
   std::int32_t cicli_visti_ = 0;
+  Cronometro_Scansioni durate_;
   Iscrizione cessione_;
   QElapsedTimer cronometro_;
   QTimer clock_a_riposo_, schermo_;

@@ -3,7 +3,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -16,6 +15,7 @@
 #include "plants/host/host_window.h"
 #include "recorder/session_file.h"
 #include "widgets/colours.h"
+#include "widgets/file_choice.h"
 #include "widgets/message_box.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
@@ -65,9 +65,8 @@ Barra_Seduta::Barra_Seduta(FrmPLC& pannello, Plc& plc, Registratore& registrator
   setMovable(false);
   Chiedi_File = [this](bool salva) {
     const QString filtro = Q("Sedute (*.seduta)");
-    return salva ? QFileDialog::getSaveFileName(&pannello_, Q("Salva la seduta"),
-                                                Q("seduta.seduta"), filtro)
-                 : QFileDialog::getOpenFileName(&pannello_, Q("Apri una seduta"), {}, filtro);
+    return salva ? Chiedi_Dove_Salvare(&pannello_, Q("Salva la seduta"), filtro, Q("seduta.seduta"))
+                 : Chiedi_Che_Aprire(&pannello_, Q("Apri una seduta"), filtro);
   };
   Avvisa = [this](const QString& testo) {
     Mostra_Avviso(&pannello_, {"Attenzione!", Utf8(testo), Icona::Critica, Tasti::Ok, {}});

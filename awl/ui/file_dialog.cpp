@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QShortcut>
 
+#include "widgets/file_choice.h"
 #include "widgets/message_box.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
@@ -85,14 +86,12 @@ std::optional<File_Scelto> Scegli_File(QWidget* sopra, const Richiesta_File& ric
     dialogo.setAcceptMode(QFileDialog::AcceptOpen);
     dialogo.setFileMode(QFileDialog::ExistingFile);
   }
-  // The folder of the last choice of the session is offered again.
-  static QString cartella = QDir::homePath();
-  dialogo.setDirectory(cartella);
+  dialogo.setDirectory(Cartella_Ricordata());
   if (!richiesta.Proposta.empty()) dialogo.selectFile(Q(richiesta.Proposta));
   Offri_Ultimo(dialogo, Q(richiesta.Ultimo));
   if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return std::nullopt;
   const QFileInfo scelto(dialogo.selectedFiles().constFirst());
-  cartella = scelto.absolutePath();
+  Ricorda_Cartella(scelto.absolutePath());
   return File_Scelto{Utf8(scelto.absoluteFilePath()), Utf8(scelto.fileName())};
 }
 

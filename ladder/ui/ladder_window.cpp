@@ -2,7 +2,6 @@
 #include "ladder/ui/ladder_window.h"
 
 #include <QAction>
-#include <QFileDialog>
 #include <QIcon>
 #include <QLabel>
 #include <QMenu>
@@ -17,6 +16,7 @@
 #include "ladder/typed.h"
 #include "ladder/ui/ladder_access.h"
 #include "ladder/ui/ladder_export.h"
+#include "widgets/file_choice.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
 
@@ -80,8 +80,7 @@ FrmScala::FrmScala(const Plc& plc, const Stato_Progetto& progetto, Legami_Scala 
   setCentralWidget(vista_);
   if (!servizi_.Chiedi_File)
     servizi_.Chiedi_File = [this](const QString& tipo) {
-      return QFileDialog::getSaveFileName(this, QStringLiteral("Salva lo schema"), QString(),
-                                          Filtro(tipo));
+      return Chiedi_Dove_Salvare(this, QStringLiteral("Salva lo schema"), Filtro(tipo));
     };
   if (!servizi_.Avvisa)
     servizi_.Avvisa = [this](const QString& testo) {

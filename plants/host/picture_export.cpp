@@ -2,7 +2,6 @@
 // The present picture for a sheet of work: as vectors or as points, and the menu that offers both.
 #include <QAction>
 #include <QBuffer>
-#include <QFileDialog>
 #include <QImage>
 #include <QMessageBox>
 #include <QPainter>
@@ -12,6 +11,7 @@
 
 #include "awl/file_io.h"
 #include "plants/host/picture_widget.h"
+#include "widgets/file_choice.h"
 #include "widgets/text.h"
 #include "widgets/twips.h"
 
@@ -118,9 +118,9 @@ void Quadro::Salva(const QString& tipo) {
 }
 
 QString Quadro::Chiedi_Con_Finestra(const QString& tipo) {
-  return QFileDialog::getSaveFileName(this, QStringLiteral("Salva la figura"), QString(),
-                                      tipo == u"svg" ? QStringLiteral("Disegni (*.svg *.SVG)")
-                                                     : QStringLiteral("Immagini (*.png *.PNG)"));
+  return Chiedi_Dove_Salvare(this, QStringLiteral("Salva la figura"),
+                             tipo == u"svg" ? QStringLiteral("Disegni (*.svg *.SVG)")
+                                            : QStringLiteral("Immagini (*.png *.PNG)"));
 }
 
 void Quadro::Monta_Voci() {

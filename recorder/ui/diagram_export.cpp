@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What is seen, as a file.
-#include <QFileDialog>
 #include <QImage>
 #include <QPainter>
 #include <QSaveFile>
 
 #include "recorder/ui/diagram_window.h"
 #include "widgets/colours.h"
+#include "widgets/file_choice.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -25,8 +25,7 @@ QString Filtro(const QString& tipo) {
 }  // namespace
 
 static QString Chiedi_Dove(QWidget* sopra, const QString& tipo) {
-  return QFileDialog::getSaveFileName(sopra, QStringLiteral("Salva il diagramma"), QString(),
-                                      Filtro(tipo));
+  return Chiedi_Dove_Salvare(sopra, QStringLiteral("Salva il diagramma"), Filtro(tipo));
 }
 
 void FrmTempi::Salva_Come(const QString& tipo) {

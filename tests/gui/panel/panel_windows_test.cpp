@@ -7,6 +7,7 @@
 #include <QToolBar>
 
 #include "panel/panel_bed.h"
+#include "widgets/text.h"
 
 namespace tavorno {
 namespace {
@@ -47,6 +48,27 @@ TEST_F(Finestre_Pannello, EveryCommandOpensItsWindow) {
     Azione(pannello, comando).trigger();
     EXPECT_EQ(aperte, std::vector<std::string>{finestra}) << comando;
   }
+}
+
+TEST_F(Finestre_Pannello, TheScanTimeIsToldInMicroseconds) {
+  using std::chrono::nanoseconds;
+  Tempo_Scansioni durate;
+  pannello.Durate = [&] { return durate; };
+  pannello.Aggiorna();
+  EXPECT_EQ(c.etTime->toolTip(), "");
+  EXPECT_FALSE(c.etDurate->isVisible());
+  durate = {.Quante = 1500,
+            .Ultima = nanoseconds{3100},
+            .Massima = nanoseconds{1234567},
+            .Totale = 1500 * nanoseconds{2500}};
+  pannello.Aggiorna();
+  const QString aiuto = c.etTime->toolTip();
+  for (const char* parte :
+       {"Ultimo ciclo: 3,1 µs", "Media di 1.500 cicli: 2,5 µs", "Il più lungo: 1.234,6 µs"})
+    EXPECT_TRUE(aiuto.contains(Q(parte))) << Utf8(aiuto);
+  EXPECT_EQ(c.etDurate->text(), "Ciclo: 2,5 µs, max 1.234,6 µs");
+  EXPECT_TRUE(c.etDurate->isVisible());
+  EXPECT_EQ(c.etTime->text(), "0");  // the label itself stays as it is
 }
 
 struct Caso_Tasto {

@@ -61,6 +61,52 @@ INSTANTIATE_TEST_SUITE_P(Programs, Circle,
                                            std::vector<std::string>{"RET"},
                                            std::vector<std::string>{"NOP", "LD SM0.0", "RET"}));
 
+TEST(ScanClock, CountsTheTimeBetweenYieldsOnly) {
+  using std::chrono::nanoseconds;
+  Cronometro_Scansioni cronometro;
+  cronometro.Arriva(nanoseconds{5}, true);  // nothing has begun
+  cronometro.Riparte(nanoseconds{10}, true);
+  cronometro.Arriva(nanoseconds{40}, false);  // 30, then a yield of 100
+  cronometro.Riparte(nanoseconds{140}, false);
+  cronometro.Arriva(nanoseconds{150}, true);
+  EXPECT_EQ(cronometro.Misurati().Quante, 1);
+  EXPECT_EQ(cronometro.Misurati().Ultima, nanoseconds{40});
+  cronometro.Riparte(nanoseconds{1000}, true);
+  cronometro.Arriva(nanoseconds{1020}, true);
+  const Tempo_Scansioni due = cronometro.Misurati();
+  EXPECT_EQ(due.Quante, 2);
+  EXPECT_EQ(due.Ultima, nanoseconds{20});
+  EXPECT_EQ(due.Massima, nanoseconds{40});
+  EXPECT_EQ(due.Media(), nanoseconds{30});
+  cronometro.Riparte(nanoseconds{2000}, true);
+  cronometro.Interrompi();
+  cronometro.Arriva(nanoseconds{9000}, true);
+  EXPECT_EQ(cronometro.Misurati().Quante, 2);
+  cronometro.Da_Capo();
+  EXPECT_EQ(cronometro.Misurati().Quante, 0);
+  EXPECT_EQ(cronometro.Misurati().Media(), nanoseconds{0});
+}
+
+TEST_F(RunDriver, MeasuresEachScanFromRunOn) {
+  Carica({"NOP"});
+  corsa.Attesa = false;
+  al_terzo = [this] { plc.mnuPlcStop(); };
+  plc.mnuPlcRun();
+  const Tempo_Scansioni durate = corsa.Scansioni();
+  // Of the first scan no yield tells the end, and Stop may come before the last one's.
+  EXPECT_LE(durate.Quante, plc.N_Cicli);
+  EXPECT_GE(durate.Quante, plc.N_Cicli - 1);
+  EXPECT_GT(durate.Quante, 0);
+  EXPECT_GT(durate.Totale.count(), 0);
+  EXPECT_LE(durate.Media(), durate.Massima);
+  EXPECT_LE(durate.Ultima, durate.Massima);
+  aggiornamenti = 0;
+  const auto prima = durate.Quante;
+  al_terzo = [this] { plc.mnuPlcStop(); };
+  plc.mnuPlcRun();
+  EXPECT_LE(corsa.Scansioni().Quante, plc.N_Cicli) << "the run before, of " << prima << ", counts";
+}
+
 TEST_F(RunDriver, TakesItsYieldWithIt) {
   {
     Orologio orologio;

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+// All file dialogs begin where the last one of the session ended.
+namespace tavorno {
+
+/// The folder of the file that was chosen last; the home folder at first.
+QString Cartella_Ricordata();
+/// `cartella` is ignored when it is no folder.
+void Ricorda_Cartella(const QString& cartella);
+
+/// Ask for a file, with a filter as QFileDialog reads it; empty: none was chosen. `proposta` is the
+/// name offered.
+QString Chiedi_Dove_Salvare(QWidget* sopra, const QString& titolo, const QString& filtro,
+                            const QString& proposta = {});
+QString Chiedi_Che_Aprire(QWidget* sopra, const QString& titolo, const QString& filtro);
+
+}  // namespace tavorno
