@@ -22,6 +22,7 @@
 #include "panel/program_list.h"
 #include "widgets/colours.h"
 #include "widgets/naming.h"
+#include "widgets/screen_reader.h"
 #include "widgets/scroll_area.h"
 
 namespace tavorno {
@@ -100,6 +101,8 @@ QWidget* Pagina_Ciclo(Controlli_Pannello& c) {
   c.txtNC = Numero("txtNC", QStringLiteral("1"), "Numero di cicli da eseguire");
   c.cmdRest = Chiama(QStringLiteral("cmdRest"), new QPushButton(QStringLiteral("Riprendi")));
   c.cmdRest->setToolTip(QStringLiteral("Continua dalla riga a cui la CPU si è fermata"));
+  c.txtStop->setAccessibleName(QStringLiteral("Riga a cui fermarsi"));
+  c.txtNC->setAccessibleName(QStringLiteral("Cicli da eseguire"));
   griglia->addWidget(c.chkStop, 0, 0);
   griglia->addWidget(c.txtStop, 0, 1);
   griglia->addWidget(c.chkSol, 1, 0);
@@ -115,10 +118,12 @@ QWidget* Pagina_Step(Controlli_Pannello& c) {
   auto* pagina = new QWidget;
   auto* righe = new QVBoxLayout(pagina);
   c.CmdStep = Chiama(QStringLiteral("CmdStep"), new QPushButton(QStringLiteral("&Step")));
+  c.CmdStep->setShortcut(QKeySequence());  // Alt+S is the menu's
   c.CmdStep->setToolTip(QStringLiteral("Esegue una riga (F10)"));
   c.frSP = Chiama(QStringLiteral("frSP"), new QGroupBox(QStringLiteral("S.P.")));
   c.frSP->setToolTip(QStringLiteral("Riga da eseguire"));
   c.etPc = Lettura(QStringLiteral("etPc"), QStringLiteral("0"), 5);
+  Intitola(*c.etPc, QStringLiteral("Riga da eseguire:"));
   auto* dentro = new QVBoxLayout(c.frSP);
   dentro->addWidget(c.etPc);
   righe->addWidget(c.CmdStep);
@@ -139,6 +144,7 @@ QWidget* Opzioni_Corsa(Controlli_Pannello& c) {
   auto* tempo = new QHBoxLayout;
   tempo->addWidget(new QLabel(QStringLiteral("Tempo di scansione")));
   c.etTime = Quadrante(QStringLiteral("etTime"), QStringLiteral("0"));
+  Intitola(*c.etTime, QStringLiteral("Tempo di scansione in ms:"));
   tempo->addWidget(c.etTime, 1);
   tempo->addWidget(new QLabel(QStringLiteral("ms")));
   righe->addLayout(tempo);
@@ -158,8 +164,10 @@ QWidget* Pagina_Immagini(Controlli_Pannello& c) {
     const auto n = static_cast<std::size_t>(i);
     griglia->addWidget(new QLabel(QStringLiteral("IB%1:").arg(i)), i, 0);
     griglia->addWidget(c.etIPI[n] = Lettura(Con_Indice("etIPI", i), QString(), 8), i, 1);
+    Intitola(*c.etIPI[n], QStringLiteral("IB%1:").arg(i));
     griglia->addWidget(new QLabel(QStringLiteral("QB%1:").arg(i)), i, 2);
     griglia->addWidget(c.etIPQ[n] = Lettura(Con_Indice("etIPQ", i), QString(), 8), i, 3);
+    Intitola(*c.etIPQ[n], QStringLiteral("QB%1:").arg(i));
   }
   griglia->setColumnStretch(4, 1);
   // Hidden, the images still keep their place, so that nothing jumps.
@@ -181,6 +189,7 @@ QWidget* Pagina_Immagini(Controlli_Pannello& c) {
     cella->setAlignment(Qt::AlignCenter);
     cella->setAutoFillBackground(true);
     cella->setFixedSize(34, 22);
+    Intitola(*cella, QStringLiteral("Stack %1:").arg(i));
     c.etS[static_cast<std::size_t>(i)] = cella;
     auto* colonna = new QVBoxLayout;
     colonna->setSpacing(1);
@@ -224,6 +233,8 @@ QWidget* Canali(const QString& titolo, const char* sigla, const char* opzione,
                        1);
     griglia->addWidget(valori[i] = Lettura(Con_Indice(nome_v, n), QStringLiteral("00"), 6), n + 2,
                        2);
+    for (QLabel* lettura : {parole[i], valori[i]})
+      Intitola(*lettura, QStringLiteral("%1%2:").arg(sigla).arg(2 * n));
     griglia->addWidget(unita[i] = Etichetta(Con_Indice(nome_u, n), QStringLiteral("Volt")), n + 2,
                        3);
   }
@@ -254,7 +265,10 @@ QWidget* Potenziometri(Controlli_Pannello& c) {
     c.SlidP[i]->setPageStep(5);
     c.SlidP[i]->setToolTip(QStringLiteral("Valore di SMB%1, da 0 a 255").arg(28 + n));
     c.etPa[i] = Lettura(Con_Indice("etPa", n), QStringLiteral("0"), 4);
-    griglia->addWidget(new QLabel(QStringLiteral("SMB%1").arg(28 + n)), n, 0);
+    const QString sigla = QStringLiteral("SMB%1").arg(28 + n);
+    c.SlidP[i]->setAccessibleName(QStringLiteral("Potenziometro %1").arg(sigla));
+    Intitola(*c.etPa[i], sigla + ':');
+    griglia->addWidget(new QLabel(sigla), n, 0);
     griglia->addWidget(c.SlidP[i], n, 1);
     griglia->addWidget(c.etPa[i], n, 2);
   }

@@ -122,11 +122,17 @@ Lista_Programma::Lista_Programma(QWidget* parent) : QListWidget(parent) {
   setItemDelegate(new Con_Numero(this));
   setToolTip(QStringLiteral("Lista Istruzioni"));
   viewport()->setMouseTracking(true);
+  setAccessibleName(QStringLiteral("Programma nella CPU"));
 }
 
 void Lista_Programma::Riempi(const std::vector<std::string>& righe) {
   clear();
-  for (const std::string& riga : righe) addItem(Da_Byte(riga));
+  for (const std::string& riga : righe) {
+    addItem(Da_Byte(riga));
+    QListWidgetItem& voce = *item(count() - 1);
+    voce.setData(Qt::AccessibleTextRole,
+                 QStringLiteral("Riga %1: %2").arg(count() - 1).arg(voce.text().simplified()));
+  }
   Segni_Cambiati();
 }
 

@@ -172,6 +172,7 @@ void Quadro::Metti_Fuoco(const Figura& figura, bool in_vista) {
   fuoco_ = nome;
   fuoco_in_vista_ = in_vista;
   if (in_vista) Punta(&figura);
+  if (hasFocus()) Annuncia_Fuoco(*this, Pezzo_A_Fuoco());
   update();
 }
 

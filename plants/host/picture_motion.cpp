@@ -71,7 +71,10 @@ void Quadro::Nota(Vista& vista) {
   vista.Cambiata = tempo_;
   vista.Gruppo_Ora = Gruppo(*vista.Di);
   const QRectF meta = Rettangolo(*vista.Di);
-  if (meta == vista.Ora && vista.Trascorsi >= vista.Durata) return;
+  if (meta == vista.Ora && vista.Trascorsi >= vista.Durata) {
+    Annuncia_Aspetto(vista);  // what only travels has nothing new to say
+    return;
+  }
   const auto passo = std::clamp<qint64>(tempo_ - vista.Mossa, via_breve, via_lunga);
   vista.Mossa = tempo_;
   if (ridotte_ || !vista.Di->Visible() || Distanza(vista.Ora, meta) > salto) {

@@ -24,7 +24,7 @@ QRectF Rettangolo(const Figura& figura) {
 }  // namespace
 
 Quadro::Quadro(Impianto& impianto, const QString& file, QWidget* sopra)
-    : QWidget(sopra), impianto_(impianto), disegni_(file) {
+    : QWidget(sopra), impianto_(impianto), disegni_(file), annunci_(*this) {
   setObjectName(QStringLiteral("Quadro"));
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
@@ -41,6 +41,7 @@ Quadro::Quadro(Impianto& impianto, const QString& file, QWidget* sopra)
     vista.Morsetti = Leggi_Morsetti(figura);
     viste_.push_back(vista);
   }
+  Scegli_Letti();
 
   ritmo_.setInterval(Ritmo);
   ritmo_.setTimerType(Qt::PreciseTimer);

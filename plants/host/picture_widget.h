@@ -12,6 +12,7 @@
 #include "plants/host/drawings.h"
 #include "plants/plant.h"
 #include "plc/entries.h"
+#include "widgets/screen_reader.h"
 
 namespace tavorno {
 
@@ -21,7 +22,7 @@ namespace tavorno {
 ///
 /// What travels glides from one tick of the physics to the next, and what runs is drawn running:
 /// both by the view alone, which the physics does not know.
-class Quadro : public QWidget {
+class Quadro : public QWidget, public Per_Lettori {
  public:
   /// `file`: the plant's drawings. The plant must outlive its picture.
   Quadro(Impianto& impianto, const QString& file, QWidget* sopra = nullptr);
@@ -61,6 +62,15 @@ class Quadro : public QWidget {
   void Indica(const QStringList& morsetti);
   /// The pointer or the keys are on a part with these addresses now; an empty list is none.
   std::function<void(const QStringList& morsetti)> Indicata;
+
+  // picture_words.cpp: the pieces are the figures with a name or something to operate, in drawing
+  // order; those that are hidden say so.
+  Letto Leggi(int pezzo) const override;
+  int Pezzi() const override { return static_cast<int>(letti_.size()); }
+  int Pezzo_A_Fuoco() const override;
+  std::optional<Numero_Letto> Leggi_Numero(int pezzo) const override;
+  void Metti_Numero(int pezzo, double valore) override;
+  void Esegui(int pezzo) override;
 
   /// Asks for the file to save to, "svg" or "png"; an empty name is none.
   std::function<QString(const QString& tipo)> Chiedi_File = [this](const QString& tipo) {
@@ -123,6 +133,12 @@ class Quadro : public QWidget {
   bool Corre(const Vista& vista) const;
   const Vista* Vista_Di(const QString& nome) const;
   void Monta_Voci();
+  void Scegli_Letti();
+  Figura& Figura_Letta(int pezzo) const {
+    return *viste_[letti_[static_cast<std::size_t>(pezzo)]].Di;
+  }
+  QString Stato_Detto(const Figura& figura) const;
+  void Annuncia_Aspetto(const Vista& vista);
   void Salva(const QString& tipo);
   QString Chiedi_Con_Finestra(const QString& tipo);
   /// `mano`: `mouse_` or `spazio_`.
@@ -140,8 +156,10 @@ class Quadro : public QWidget {
 
   Impianto& impianto_;
   mutable Disegni disegni_;
-  std::vector<Vista> viste_;  // in drawing order
-  QPixmap sfondo_;            // what stands still, for the present size
+  std::vector<Vista> viste_;        // in drawing order
+  QPixmap sfondo_;                  // what stands still, for the present size
+  std::vector<std::size_t> letti_;  // those that screen readers are told of
+  Annunci_Parchi annunci_;
   QTimer ritmo_;
   QElapsedTimer orologio_;
   qint64 tempo_ = 0;  // of the view, ms
