@@ -111,7 +111,7 @@ std::vector<Voce_Menu> Menu_Pannello(Azioni_Pannello& azioni) {
        .Dove = &azioni.mnuViewDisponi},
       {.Livello = 1,
        .Nome = "mnuViewTavolo",
-       .Testo = "Ta&volo di lavoro",
+       .Testo = "Tavo&lo di lavoro",
        .Tasti = "Ctrl+L",
        .Dove = &azioni.mnuViewTavolo,
        .Aiuto = "Tutto in una finestra: impianto, CPU, lista, diagramma (Ctrl+L)"},

@@ -52,6 +52,8 @@ const std::vector<Voce> voci = {
     {"mnuView", "mnuViewVerifica", "&Verifica del programma", -1},
     {"mnuView", "", "", -1},
     {"mnuView", "mnuViewDisponi", "&Disponi finestre", -1},
+    {"mnuView", "mnuViewTavolo", "Tavo&lo di lavoro", -1},
+    {"mnuView", "mnuViewFinestre", "&Finestre separate", -1},
     {"MnuHLP", "mnuHlpGen", "&Indice", -1},
     {"MnuHLP", "mnuHlpSet", "&Set Istruzioni", -1},
     {"MnuHLP", "", "", -1},
@@ -95,11 +97,19 @@ TEST_F(Testi_Pannello, MenuEntriesInOrder) {
 }
 
 TEST_F(Testi_Pannello, ShortCuts) {
-  const std::map<QString, QString> attesi = {
-      {"mnuFileNew", "Ctrl+N"},     {"mnuFileOpen", "Ctrl+O"},  {"mnuFileEdit", "Ctrl+E"},
-      {"mnuFileEnd", "Ctrl+Q"},     {"mnuPlcRun", "F5"},        {"mnuViewTempi", "Ctrl+D"},
-      {"mnuViewOsserva", "Ctrl+T"}, {"mnuPlcStop", "Shift+F5"}, {"mnuPLCPiu", "F10"},
-      {"mnuHlpGen", "F1"},          {"mnuViewVerifica", "F9"}};
+  const std::map<QString, QString> attesi = {{"mnuFileNew", "Ctrl+N"},
+                                             {"mnuFileOpen", "Ctrl+O"},
+                                             {"mnuFileEdit", "Ctrl+E"},
+                                             {"mnuFileEnd", "Ctrl+Q"},
+                                             {"mnuPlcRun", "F5"},
+                                             {"mnuViewTempi", "Ctrl+D"},
+                                             {"mnuViewOsserva", "Ctrl+T"},
+                                             {"mnuPlcStop", "Shift+F5"},
+                                             {"mnuPLCPiu", "F10"},
+                                             {"mnuHlpGen", "F1"},
+                                             {"mnuViewVerifica", "F9"},
+                                             {"mnuViewTavolo", "Ctrl+L"},
+                                             {"mnuViewFinestre", "Ctrl+Shift+L"}};
   std::map<QString, QString> presenti;
   for (const QAction* azione : pannello.findChildren<QAction*>()) {
     if (!azione->shortcut().isEmpty())
