@@ -13,6 +13,7 @@
 #include "panel/controls/cpu_front.h"
 #include "panel/documents/about_window.h"
 #include "panel/documents/print_window.h"
+#include "panel/program_list.h"
 #include "panel/windows/analog_window.h"
 #include "panel/windows/debug_window.h"
 #include "panel/windows/settings_window.h"
@@ -51,6 +52,12 @@ void Finestre::Porta_Avanti(QWidget& finestra) {
   finestra.show();
   finestra.raise();
   finestra.activateWindow();
+}
+
+/// A window whose text can be enlarged, together with the others'.
+void Finestre::Segui_Testo(QWidget& finestra) {
+  finestra.addActions(pannello_.Comandi_Di_Testo());
+  testo_.Segui(finestra);
 }
 
 void Finestre::Avanti_Il_Pannello() {
@@ -95,6 +102,16 @@ Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
     else
       ordine_.Disponi(true);
   };
+  legami.Grandezza_Testo = [this](int passi) {
+    if (passi == 0)
+      testo_.Normale();
+    else
+      testo_.Cambia(passi);
+  };
+  legami.Proietta = [this] {
+    testo_.Proietta(testo_.Proiettata() ? nullptr : QApplication::activeWindow());
+  };
+  testo_.Segui(*pannello_.Controlli().listSrc);
   legami.Mostra_Tavolo = [this] { Mostra_Tavolo(); };
   legami.Separa_Finestre = [this] { Separa_Finestre(); };
   legami.Corsa_Cambiata = [this](bool acceso) {
@@ -170,6 +187,10 @@ FrmMain& Finestre::Editor() {
     auto* editor = new FrmMain(progetto_, plc_, std::move(legami));
     menu_file_.Metti_In(*editor);
     editor->Usa_Simboli(Simboli_Di(esercizio_));
+    editor->addActions(pannello_.Comandi_Di_Testo());
+    for (QWidget* parte : editor->findChildren<QWidget*>()) {
+      if (dynamic_cast<AwlEditor*>(parte) != nullptr) testo_.Segui(*parte);
+    }
     return editor;
   });
 }
@@ -221,6 +242,7 @@ FrmStatiL& Finestre::Stati(bool col_pannello) {
   return Trova(stati_, [this, col_pannello] {
     auto* finestra = new FrmStatiL(plc_, col_pannello ? &pannello_ : nullptr);
     finestra->addActions(pannello_.Comandi_Di_Vista());
+    Segui_Testo(*finestra);
     Prepara(*finestra, "Index.htm#stati");
     QObject::connect(finestra, &QObject::destroyed, &ascolto_, [this] {
       if (!impianto_) ordine_.Chiuse();
@@ -234,6 +256,7 @@ FrmTempi& Finestre::Tempi() {
     auto* nuovo = new FrmTempi(plc_, esercizio_);
     nuovo->setToolTip(QString::fromUtf8(tasti_ovunque));
     nuovo->addActions(pannello_.Comandi_Di_Vista());
+    Segui_Testo(*nuovo);
     nuovo->Mostra_Aiuto = [this] { Mostra_Aiuto(guida_.Dir_Help + "Tempi.htm"); };
     nuovo->Riporta = [this](std::int64_t ms) {
       if (Torna_A) Torna_A(ms);
@@ -307,6 +330,7 @@ void Finestre::Apri_Impianto(int indice) {
   finestra.Mostra_Corsa(plc_.PLC_Acceso != 0);
   finestra.setToolTip(QString::fromUtf8(tasti_ovunque));
   finestra.addActions(pannello_.Comandi_Di_Vista());
+  finestra.addActions(pannello_.Comandi_Di_Testo());
   finestra.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Panel + pagina); };
   finestra.Mostra_Tempi = [this] { Mostra_Tempi(); };
   finestra.Verifica = [this] {

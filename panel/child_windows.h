@@ -13,6 +13,7 @@
 #include "panel/documents/browser_window.h"
 #include "panel/file_menus.h"
 #include "panel/panel_window.h"
+#include "panel/text_size.h"
 #include "panel/window_order.h"
 #include "panel/workbench.h"
 #include "plants/link.h"
@@ -98,6 +99,7 @@ class Finestre {
   FrmOsserva& Osserva();
   static void Porta_Avanti(QWidget& finestra);
   void Avanti_Il_Pannello();
+  void Segui_Testo(QWidget& finestra);
   // workbench_windows.cpp
   void Nel_Tavolo(Vista_Tavolo chi, QWidget& vista);
   void Lascia_Tavolo(bool impianto_chiude);
@@ -124,6 +126,7 @@ class Finestre {
   QPointer<FrmDebug> debug_;
   QPointer<FrmScala> scala_;
   const Esercizio* esercizio_ = nullptr;  // that is open
+  Grandezza_Testo testo_;
   std::unique_ptr<Tavolo> tavolo_;
   std::vector<QPointer<QWidget>> solo_al_tavolo_;  // views that were not there before
   QPointer<FrmBrowser> aiuto_;

@@ -14,7 +14,7 @@ struct Azioni_Pannello {
   QAction *mnuPlc, *mnuPlcRun, *mnuPlcStop, *mnuPlcStep, *mnuPlcCont, *mnuPLCCiclo, *mnuPLCPiu;
   QAction *mnuView, *mnuViewTB, *mnuViewSTB, *mnuViewSet, *mnuViewKOP, *mnuViewIO, *mnuViewStati,
       *mnuViewTempi, *mnuViewOsserva, *mnuViewVerifica, *mnuViewDisponi, *mnuViewTavolo,
-      *mnuViewFinestre;
+      *mnuViewFinestre, *mnuViewPiu, *mnuViewMeno, *mnuViewNormale, *mnuViewProiettore;
   QAction *mnuProgetti, *MnuHLP, *mnuHlpGen, *mnuHlpSet, *mnuInfAb;
   std::vector<QAction*> mnuPrj;  ///< the exercises, by index
 

@@ -78,6 +78,10 @@ void FrmPLC::Collega_Finestre(Legami_Pannello legami) {
       {a_.mnuViewDisponi, legami_.Disponi_Finestre, bool(legami_.Disponi_Finestre)},
       {a_.mnuViewTavolo, legami_.Mostra_Tavolo, bool(legami_.Mostra_Tavolo)},
       {a_.mnuViewFinestre, legami_.Separa_Finestre, bool(legami_.Separa_Finestre)},
+      {a_.mnuViewPiu, [this] { legami_.Grandezza_Testo(1); }, bool(legami_.Grandezza_Testo)},
+      {a_.mnuViewMeno, [this] { legami_.Grandezza_Testo(-1); }, bool(legami_.Grandezza_Testo)},
+      {a_.mnuViewNormale, [this] { legami_.Grandezza_Testo(0); }, bool(legami_.Grandezza_Testo)},
+      {a_.mnuViewProiettore, legami_.Proietta, bool(legami_.Proietta)},
       {a_.mnuInfAb, legami_.Mostra_Info, bool(legami_.Mostra_Info)},
       {a_.mnuHlpGen, [this] { legami_.Mostra_Aiuto("Index.htm"); }, bool(legami_.Mostra_Aiuto)},
       {a_.mnuHlpSet, [this] { legami_.Mostra_Aiuto("SET_IST.htm"); }, bool(legami_.Mostra_Aiuto)},
@@ -118,6 +122,10 @@ QList<QAction*> FrmPLC::Comandi_Ovunque() const {
 
 QList<QAction*> FrmPLC::Comandi_Di_Vista() const {
   return {a_.mnuViewTavolo, a_.mnuViewFinestre};
+}
+
+QList<QAction*> FrmPLC::Comandi_Di_Testo() const {
+  return {a_.mnuViewPiu, a_.mnuViewMeno, a_.mnuViewNormale, a_.mnuViewProiettore};
 }
 
 /// A command that may start a run begins in an event of its own: the menu or button it was given

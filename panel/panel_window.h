@@ -34,6 +34,8 @@ struct Legami_Pannello {
   std::function<void()> Disponi_Finestre;
   std::function<void()> Mostra_Tavolo;
   std::function<void()> Separa_Finestre;
+  std::function<void(int passi)> Grandezza_Testo;   ///< 0: as told
+  std::function<void()> Proietta;                   ///< the window in front, or no longer
   std::function<void(bool acceso)> Corsa_Cambiata;  ///< the CPU runs or stands still
 };
 
@@ -74,6 +76,8 @@ class FrmPLC : public QMainWindow {
 
   /// The same for the windows that a workbench takes in.
   QList<QAction*> Comandi_Di_Vista() const;
+  /// The same for windows with a text that can be enlarged.
+  QList<QAction*> Comandi_Di_Testo() const;
 
   /// The process is about to end: offers to save what is not. False when it was to be saved and is
   /// not, so that the process should go on.

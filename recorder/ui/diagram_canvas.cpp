@@ -100,17 +100,25 @@ Tela_Tempi::Tela_Tempi(Diagramma_Tempi& diagramma) : d_(diagramma) {
   setAccessibleName(QStringLiteral("Diagramma dei tempi"));
 }
 
+void Tela_Tempi::Ingrandisci(double fattore) {
+  if (fattore == scala_) return;
+  scala_ = fattore;
+  d_.Larga(Misura().Onde());
+  Scorri(scorrimento_);
+  Di_Mossa();
+}
+
 Misura_Disegno Tela_Tempi::Misura() const {
   const QFontMetricsF lettere(Carattere(font(), 12, false));
-  return {.Larga = static_cast<double>(width()),
-          .Alta = static_cast<double>(height()),
-          .Nomi = std::min(nomi_, width() * 0.6),
+  return {.Larga = Larga(),
+          .Alta = Alta(),
+          .Nomi = std::min(nomi_, Larga() * 0.6),
           .Scorrimento = scorrimento_,
           .Per_Lettera = lettere.horizontalAdvance(QStringLiteral("0123456789,xso")) / 14};
 }
 
 double Tela_Tempi::Scorrimento_Massimo() const {
-  return std::max(0.0, d_.Alto() + Misura_Disegno::Asse - height());
+  return std::max(0.0, d_.Alto() + Misura_Disegno::Asse - Alta());
 }
 
 void Tela_Tempi::Scorri(double y) {
@@ -121,7 +129,7 @@ void Tela_Tempi::Scorri(double y) {
 void Tela_Tempi::Mostra_Scelta() {
   const auto riga = d_.Riga_Scelta();
   if (!riga) return;
-  const double alta = height() - Misura_Disegno::Asse;
+  const double alta = Alta() - Misura_Disegno::Asse;
   Scorri(std::clamp(scorrimento_, riga->Y + riga->Alta - alta, riga->Y));
 }
 
@@ -129,12 +137,13 @@ void Tela_Tempi::paintEvent(QPaintEvent*) {
   QElapsedTimer orologio;
   orologio.start();
   QPainter pittore(this);
+  pittore.scale(scala_, scala_);
   Dipingi(pittore, Disegna(d_, Misura()));
   if (d_.Gruppi().empty()) {
     pittore.setFont(Carattere(font(), 13, false));
     pittore.setPen(Colore_Di(Tinta_Tempi::Tenue));
     pittore.drawText(
-        rect().adjusted(20, 20, -20, -20), Qt::AlignCenter | Qt::TextWordWrap,
+        QRectF(20, 20, Larga() - 40, Alta() - 40), Qt::AlignCenter | Qt::TextWordWrap,
         QStringLiteral("Nessun segnale.\n\nApri un impianto, carica un programma nella "
                        "CPU, o scegli i segnali con Ins."));
   }
@@ -174,7 +183,7 @@ void Tela_Tempi::Porta_Cursore(const QPointF& punto, bool libero) {
 }
 
 void Tela_Tempi::mousePressEvent(QMouseEvent* evento) {
-  const QPointF punto = evento->position();
+  const QPointF punto = (evento->position() / scala_);
   const bool nei_nomi = punto.x() < Misura().Nomi;
   preso_ = punto;
   if (std::abs(punto.x() - Misura().Nomi) <= 3) {
@@ -213,7 +222,7 @@ void Tela_Tempi::mousePressEvent(QMouseEvent* evento) {
 }
 
 void Tela_Tempi::mouseMoveEvent(QMouseEvent* evento) {
-  const QPointF punto = evento->position();
+  const QPointF punto = (evento->position() / scala_);
   switch (trascina_) {
     case Trascina::Cursore:
       return Porta_Cursore(punto, evento->modifiers().testFlag(Qt::AltModifier));
@@ -222,7 +231,7 @@ void Tela_Tempi::mouseMoveEvent(QMouseEvent* evento) {
       preso_ = punto;
       return Di_Mossa();
     case Trascina::Colonna:
-      nomi_ = std::clamp(punto.x(), nomi_minimi, std::max(nomi_minimi, width() * 0.6));
+      nomi_ = std::clamp(punto.x(), nomi_minimi, std::max(nomi_minimi, Larga() * 0.6));
       d_.Larga(Misura().Onde());
       return Di_Mossa();
     case Trascina::Niente:
@@ -239,12 +248,12 @@ void Tela_Tempi::mouseReleaseEvent(QMouseEvent*) {
 }
 
 void Tela_Tempi::mouseDoubleClickEvent(QMouseEvent* evento) {
-  if (!Riga_Sotto(evento->position().y()) && Vuole_Segnali) Vuole_Segnali();
+  if (!Riga_Sotto((evento->position() / scala_).y()) && Vuole_Segnali) Vuole_Segnali();
 }
 
 void Tela_Tempi::wheelEvent(QWheelEvent* evento) {
   const QPoint giro = evento->angleDelta();
-  const double x = evento->position().x() - Misura().Nomi;
+  const double x = (evento->position() / scala_).x() - Misura().Nomi;
   const Qt::KeyboardModifiers tasti = evento->modifiers();
   if (x < 0 || tasti.testFlag(Qt::ControlModifier)) {
     Scorri(scorrimento_ - giro.y() / un_giro * 60);
@@ -261,14 +270,14 @@ void Tela_Tempi::wheelEvent(QWheelEvent* evento) {
 bool Tela_Tempi::event(QEvent* evento) {
   if (evento->type() != QEvent::ToolTip) return QWidget::event(evento);
   const auto* aiuto = static_cast<QHelpEvent*>(evento);
-  const auto riga = Riga_Sotto(aiuto->pos().y());
+  const auto riga = Riga_Sotto((QPointF(aiuto->pos()) / scala_).y());
   const Segnale* segnale = riga ? d_.Segnale_Di(*riga) : nullptr;
   QString testo = toolTip();
-  if (segnale != nullptr && aiuto->pos().x() < Misura().Nomi) {
+  if (segnale != nullptr && (QPointF(aiuto->pos()) / scala_).x() < Misura().Nomi) {
     testo = Q(segnale->Ha_Simbolo() ? segnale->Nome + "  " + segnale->Indirizzo : segnale->Nome);
   } else if (segnale != nullptr) {
-    const auto ms =
-        static_cast<std::int64_t>(std::floor(d_.Vista.Ms(aiuto->pos().x() - Misura().Nomi)));
+    const auto ms = static_cast<std::int64_t>(
+        std::floor(d_.Vista.Ms((QPointF(aiuto->pos()) / scala_).x() - Misura().Nomi)));
     const auto valore = d_.Onda_Di(*riga)->A(ms);
     if (valore)
       testo = Q(segnale->Nome + " = " + Testo_Valore(*segnale, *valore) + "\n" +

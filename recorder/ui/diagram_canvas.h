@@ -30,6 +30,9 @@ class Tela_Tempi : public QWidget {
   /// Scrolls so that the selected row is seen.
   void Mostra_Scelta();
 
+  /// Everything that is drawn, so many times as large; 1 at first.
+  void Ingrandisci(double fattore);
+
   /// Milliseconds that the last picture took.
   double Costo() const { return costo_; }
 
@@ -50,10 +53,13 @@ class Tela_Tempi : public QWidget {
   std::optional<Diagramma_Tempi::Cursore> Cursore_Sotto(double x) const;
   void Porta_Cursore(const QPointF& punto, bool libero);
   void Di_Mossa();
+  double Larga() const { return width() / scala_; }
+  double Alta() const { return height() / scala_; }
 
   Diagramma_Tempi& d_;
   double scorrimento_ = 0, nomi_ = 290;
   double costo_ = 0;
+  double scala_ = 1;
   Trascina trascina_ = Trascina::Niente;
   QPointF preso_;
 };

@@ -54,6 +54,11 @@ const std::vector<Voce> voci = {
     {"mnuView", "mnuViewDisponi", "&Disponi finestre", -1},
     {"mnuView", "mnuViewTavolo", "Tavo&lo di lavoro", -1},
     {"mnuView", "mnuViewFinestre", "&Finestre separate", -1},
+    {"mnuView", "", "", -1},
+    {"mnuView", "mnuViewPiu", "Testo &più grande", -1},
+    {"mnuView", "mnuViewMeno", "Testo più pi&ccolo", -1},
+    {"mnuView", "mnuViewNormale", "Testo no&rmale", -1},
+    {"mnuView", "mnuViewProiettore", "&Modo proiettore", -1},
     {"MnuHLP", "mnuHlpGen", "&Indice", -1},
     {"MnuHLP", "mnuHlpSet", "&Set Istruzioni", -1},
     {"MnuHLP", "", "", -1},
@@ -109,7 +114,11 @@ TEST_F(Testi_Pannello, ShortCuts) {
                                              {"mnuHlpGen", "F1"},
                                              {"mnuViewVerifica", "F9"},
                                              {"mnuViewTavolo", "Ctrl+L"},
-                                             {"mnuViewFinestre", "Ctrl+Shift+L"}};
+                                             {"mnuViewFinestre", "Ctrl+Shift+L"},
+                                             {"mnuViewPiu", "Ctrl++"},
+                                             {"mnuViewMeno", "Ctrl+-"},
+                                             {"mnuViewNormale", "Ctrl+0"},
+                                             {"mnuViewProiettore", "F11"}};
   std::map<QString, QString> presenti;
   for (const QAction* azione : pannello.findChildren<QAction*>()) {
     if (!azione->shortcut().isEmpty())

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Texts that grow together, and the window on the projector.
+#include "panel/text_size.h"
+
+#include <QLabel>
+#include <QWheelEvent>
+
+#include "awl/ui/awl_editor.h"
+#include "panel/child_windows.h"
+#include "panel/panel_bed.h"
+#include "recorder/ui/diagram_canvas.h"
+
+namespace tavorno {
+namespace {
+
+struct Testi : Banco_Pannello {
+  Guida guida;
+  Finestre finestre{pannello, plc, progetto, guida};
+
+  static QWidget* Finestra(const QString& nome) {
+    for (QWidget* finestra : QApplication::topLevelWidgets()) {
+      if (finestra->objectName() == nome && finestra->isVisible()) return finestra;
+    }
+    return nullptr;
+  }
+  void Comando(const char* voce) {
+    Azione(pannello, voce).trigger();
+    QCoreApplication::processEvents();
+  }
+  static AwlEditor& Testo() {
+    for (QWidget* parte : Finestra("frmMain")->findChildren<QWidget*>()) {
+      auto* testo = dynamic_cast<AwlEditor*>(parte);
+      if (testo != nullptr && testo->objectName() == "txtList") return *testo;
+    }
+    throw std::runtime_error("no text");
+  }
+  static Tela_Tempi& Tela() {
+    return dynamic_cast<Tela_Tempi&>(*Finestra("frmTempi")->findChild<QWidget*>("picTempi"));
+  }
+  static QLabel& Campo() { return *Finestra("frmStatiL")->findChild<QLabel*>("etTmrV(0)"); }
+
+  struct Misure {
+    double Lista, Stati;
+    int Editor, Margine, Campo;
+    double Diagramma;
+    bool operator==(const Misure&) const = default;
+  };
+  Misure Adesso() {
+    return {c.listSrc->font().pointSizeF(),
+            Campo().font().pointSizeF(),
+            static_cast<int>(Testo().SendScintilla(QsciScintillaBase::SCI_GETZOOM)),
+            Testo().marginWidth(0),
+            Campo().height(),
+            Tela().Misura().Larga};
+  }
+  void Apri_Tutte() {
+    finestre.Mostra_Stati();
+    finestre.Mostra_Tempi();
+    finestre.Mostra_Editor(Avvio::Nuovo);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return finestre.Ordine().Assestate(); }, 20000));
+  }
+};
+
+TEST_F(Testi, AllGrowAndShrinkTogetherAndComeBack) {
+  Apri_Tutte();
+  const Misure prima = Adesso();
+  for (int n = 0; n < 3; ++n) Comando("mnuViewPiu");
+  const Misure grandi = Adesso();
+  EXPECT_NEAR(grandi.Lista, prima.Lista * 1.331, 0.01);
+  EXPECT_NEAR(grandi.Stati, prima.Stati * 1.331, 0.01);
+  EXPECT_GT(grandi.Editor, 0);
+  EXPECT_GT(grandi.Margine, prima.Margine);
+  EXPECT_GT(grandi.Campo, prima.Campo) << "no digit is cut";
+  EXPECT_NEAR(grandi.Diagramma, prima.Diagramma / 1.331, 1);
+  Comando("mnuViewNormale");
+  EXPECT_EQ(Adesso(), prima);
+  Comando("mnuViewMeno");
+  EXPECT_LT(Adesso().Lista, prima.Lista);
+  EXPECT_LT(Adesso().Editor, 0);
+  for (int n = 0; n < 40; ++n) Comando("mnuViewMeno");
+  EXPECT_GE(Adesso().Lista, prima.Lista * 0.7) << "never too small to read";
+  Comando("mnuViewNormale");
+}
+
+TEST_F(Testi, AWindowThatOpensLaterHasTheSize) {
+  Comando("mnuViewPiu");
+  Apri_Tutte();
+  const Misure grandi = Adesso();
+  Comando("mnuViewNormale");
+  EXPECT_LT(Adesso().Stati, grandi.Stati);
+  EXPECT_LT(Adesso().Editor, grandi.Editor);
+}
+
+TEST_F(Testi, CtrlAndTheWheelOverAnyOfThem) {
+  Apri_Tutte();
+  const Misure prima = Adesso();
+  const auto gira = [](QWidget& dove, int quanto, Qt::KeyboardModifiers tasti) {
+    QWheelEvent giro(QPointF(5, 5), dove.mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, quanto),
+                     Qt::NoButton, tasti, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&dove, &giro);
+  };
+  gira(*c.listSrc->viewport(), 120, Qt::ControlModifier);
+  EXPECT_GT(Adesso().Diagramma, 0);
+  EXPECT_LT(Adesso().Diagramma, prima.Diagramma);
+  gira(Tela(), -120, Qt::ControlModifier);
+  EXPECT_EQ(Adesso(), prima);
+  gira(*c.listSrc->viewport(), 120, Qt::NoModifier);
+  gira(pannello, 120, Qt::ControlModifier);
+  EXPECT_EQ(Adesso(), prima);
+}
+
+TEST_F(Testi, TheKeysWorkWhileOneWritesAndTypeNothing) {
+  Apri_Tutte();
+  AwlEditor& testo = Testo();
+  testo.window()->activateWindow();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return testo.isActiveWindow(); }, 20000));
+  testo.setFocus();
+  const std::string byte = testo.Byte();
+  const double prima = c.listSrc->font().pointSizeF();
+  QTest::keyClick(&testo, Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_GT(c.listSrc->font().pointSizeF(), prima);
+  EXPECT_EQ(testo.SendScintilla(QsciScintillaBase::SCI_GETZOOM), 1);
+  QTest::keyClick(&testo, Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(c.listSrc->font().pointSizeF(), prima);
+  EXPECT_EQ(testo.Byte(), byte);
+}
+
+TEST_F(Testi, TheProjectorTakesTheWindowInFrontAndGivesItBack) {
+  Apri_Tutte();
+  QWidget& stati = *Finestra("frmStatiL");
+  stati.activateWindow();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return stati.isActiveWindow(); }, 20000));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return finestre.Ordine().Assestate(); }, 20000));
+  const Misure prima = Adesso();
+  const QRect posto(stati.pos(), stati.size());
+  QTest::keyClick(&stati, Qt::Key_F11);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(stati.isFullScreen());
+  EXPECT_NEAR(Adesso().Stati, prima.Stati * 1.5, 0.01);
+  EXPECT_EQ(Adesso().Lista, prima.Lista) << "the others stay";
+  QTest::keyClick(&stati, Qt::Key_F11);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(stati.isFullScreen());
+  EXPECT_EQ(QRect(stati.pos(), stati.size()), posto);
+  EXPECT_EQ(Adesso(), prima);
+}
+
+}  // namespace
+}  // namespace tavorno
