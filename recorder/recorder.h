@@ -148,9 +148,9 @@ class Registratore {
   bool chiuso_ = false;       // a plant has just gone
   bool in_avviso_ = false;    // a message box stands open, maybe in the middle of a line
   Leve interruttori_{"00000000", "00000000"};
-  Posto_Giornale qui_;        // in the past: what has been read
-  bool in_giro_ = false;      // in the past: a run loop was at work
-  Momento presente_;          // in the past: the moment that was left
+  Posto_Giornale qui_;    // in the past: what has been read
+  bool in_giro_ = false;  // in the past: a run loop was at work
+  Momento presente_;      // in the past: the moment that was left
   /// In the past: the replay that stands where the CPU does, so that going on costs what lies
   /// between.
   std::unique_ptr<Replica> replica_;

@@ -67,8 +67,7 @@ Riga_Comandi::Riga_Comandi(const QString& voce_io, QWidget* sopra)
   etRun_->setFont(Grassetto(etRun_->font()));
   etRun_->setAlignment(Qt::AlignCenter);
   etRun_->setAutoFillBackground(true);
-  etRun_->setMinimumWidth(etRun_->fontMetrics().horizontalAdvance(QStringLiteral("CPU in STOP")) +
-                          12);
+  etRun_->setMinimumWidth(etRun_->fontMetrics().horizontalAdvance(QStringLiteral("STOP")) + 12);
   mnuGuasti->setToolTipsVisible(true);
   cmdGuasti_->setPopupMode(QToolButton::InstantPopup);
   cmdGuasti_->setMenu(mnuGuasti);
@@ -90,7 +89,7 @@ Riga_Comandi::Riga_Comandi(const QString& voce_io, QWidget* sopra)
     destra_->addWidget(uno);
   for (QPushButton* tasto : {cmdVerifica, cmdTempi, cmdSch, cmdEnd})
     tasto->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-  posti_->setContentsMargins(10, 6, 10, 6);
+  posti_->setContentsMargins(7, 6, 7, 6);
   posti_->addLayout(spunte_);
   posti_->addLayout(destra_);
   Mostra_Corsa(false);
@@ -120,7 +119,10 @@ void Riga_Comandi::resizeEvent(QResizeEvent*) {
 }
 
 void Riga_Comandi::Mostra_Corsa(bool acceso) {
-  etRun_->setText(acceso ? QStringLiteral("CPU in RUN") : QStringLiteral("CPU in STOP"));
+  etRun_->setText(acceso ? QStringLiteral("RUN") : QStringLiteral("STOP"));
+  etRun_->setToolTip(acceso ? QStringLiteral("La CPU è in RUN")
+                            : QStringLiteral("La CPU è in STOP"));
+  etRun_->setAccessibleName(etRun_->toolTip());
   const colori::Coppia& tinta = acceso ? colori::In_Run : colori::In_Stop;
   QPalette tinte = etRun_->palette();
   tinte.setColor(QPalette::Window, tinta.Fondo);

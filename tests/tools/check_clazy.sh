@@ -28,5 +28,5 @@ check() {
   return $status
 }
 export -f check look
-printf '%s\0' assets awl/ui ladder/ui panel panel/controls panel/documents panel/windows plants/host recorder/ui widgets |
+printf '%s\0' assets awl/ui grading/ui ladder/ui panel panel/controls panel/documents panel/windows plants/host recorder/ui widgets |
   xargs -0 -P "$(nproc)" -I{} bash -c 'check {}'

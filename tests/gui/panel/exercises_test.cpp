@@ -273,8 +273,8 @@ TEST_F(Esercizi_Dal_Menu, RunStopAndStepWorkByTheirKeysFromEveryWindow) {
     QCoreApplication::processEvents();
     EXPECT_EQ(cicli, 3);
     EXPECT_EQ(plc.PLC_Acceso, 0);
-    EXPECT_EQ(in_corsa, "CPU in RUN");
-    EXPECT_EQ(etRun.text(), "CPU in STOP");
+    EXPECT_EQ(in_corsa, "RUN");
+    EXPECT_EQ(etRun.text(), "STOP");
     plc.mnuPlcStep();
     plc.mnuPlcRun();
     pannello.Aggiorna();
