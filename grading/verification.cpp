@@ -37,6 +37,7 @@ void Verifica_In_Corso::Lavora(const std::stop_token& ferma) {
   };
   esito_ = Verifica(programma_, verifiche_);
   finita_ = true;
+  finita_.notify_all();
 }
 
 void Verifica_In_Corso::Metti(const Caso_Giocato& giocato) {

@@ -41,6 +41,8 @@ class Verifica_In_Corso {
   void Annulla() { operaio_.request_stop(); }
   bool Annullata() const { return operaio_.get_stop_token().stop_requested(); }
   bool Finita() const { return finita_; }
+  /// Returns when it is finished.
+  void Aspetta() const { finita_.wait(false); }
 
   /// The cases that have been played since the last call, and how many there are in all; 0: nobody
   /// knows yet.
