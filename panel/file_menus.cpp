@@ -74,7 +74,7 @@ Menu_File::Menu_File(const File_Recenti& recenti, QString cartella_programma,
 
 void Menu_File::Metti_In(QMainWindow& finestra) const {
   QAction& fine = Azione(finestra, QStringLiteral("mnuFileEnd"));
-  QAction& apri = Azione(finestra, QStringLiteral("mnuFileOpen"));
+  const QAction* apri = &Azione(finestra, QStringLiteral("mnuFileOpen"));
   auto* file = Azione(finestra, QStringLiteral("mnuFile")).menu();
   const auto sotto = [&](const char* nome, const QString& testo, const QString& aiuto) {
     auto* menu = new QMenu(testo, file);
@@ -89,8 +89,8 @@ void Menu_File::Metti_In(QMainWindow& finestra) const {
   QMenu* recenti = sotto("mnuFileRecenti", QStringLiteral("File &recenti"),
                          QStringLiteral("Apre uno dei progetti usati per ultimi"));
   file->insertSeparator(&fine);
-  connect(file, &QMenu::aboutToShow, esempi, [esempi, recenti, &apri] {
-    for (QMenu* menu : {esempi, recenti}) menu->setEnabled(apri.isEnabled());
+  connect(file, &QMenu::aboutToShow, esempi, [esempi, recenti, apri] {
+    for (QMenu* menu : {esempi, recenti}) menu->setEnabled(apri->isEnabled());
   });
   connect(esempi, &QMenu::aboutToShow, this, [this, esempi] { Riempi_Esempi(*esempi); });
   connect(recenti, &QMenu::aboutToShow, this, [this, recenti] { Riempi_Recenti(*recenti); });

@@ -27,9 +27,13 @@ QMessageBox::Icon Icona_Qt(Icona simbolo) {
 
 QWidget* Finestra_Sotto(QWidget* sopra) {
   if (QWidget* modale = QApplication::activeModalWidget()) return modale;
-  // A dialog over a window that is hidden would not stand in front of those that are seen.
+  // A dialog over a window that was hidden would not stand in front of those that are seen; one
+  // that has not been shown yet is about to be.
   QWidget* attiva = QApplication::activeWindow();
-  if (sopra == nullptr || (!sopra->window()->isVisible() && attiva != nullptr)) return attiva;
+  const auto nascosta = [](const QWidget& finestra) {
+    return finestra.isHidden() && finestra.testAttribute(Qt::WA_WState_ExplicitShowHide);
+  };
+  if (sopra == nullptr || (attiva != nullptr && nascosta(*sopra->window()))) return attiva;
   return sopra;
 }
 

@@ -7,8 +7,8 @@ class QWidget;
 
 namespace tavorno {
 
-/// The window that a dialog belongs over: what is modal, else `sopra` where it is seen, else the
-/// active window. What is modal would hide a dialog that belongs to a window behind it.
+/// The window that a dialog belongs over: what is modal, else `sopra` unless it was hidden, else
+/// the active window. What is modal would hide a dialog that belongs to a window behind it.
 QWidget* Finestra_Sotto(QWidget* sopra);
 
 /// One message box, over the active window if `sopra` is null; returns when the user has answered.

@@ -46,7 +46,7 @@ std::string TestName(const ::testing::TestParamInfo<std::string>& info) {
   return name;
 }
 
-constexpr std::array Numbers = {-32768, -1, 0,  1,  2,  3,  4,  5,  6,   20,  21,  28,  29,
+constexpr std::array Samples = {-32768, -1, 0,  1,  2,  3,  4,  5,  6,   20,  21,  28,  29,
                                 30,     34, 35, 36, 40, 41, 63, 64, 100, 101, 255, 256, 32767};
 
 /// A number that the area has, and where it has bounds one that it has not.
@@ -68,7 +68,7 @@ const std::vector<Operand>& GoodAndBad() {
 std::vector<Operand> AllOperands() {
   std::vector<Operand> list;
   for (const std::string& area : AllAreas()) {
-    for (const int number : Numbers) {
+    for (const int number : Samples) {
       list.push_back({area, number});
       if (area.empty()) break;  // without an area there is no number
     }
