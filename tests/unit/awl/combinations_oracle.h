@@ -17,7 +17,7 @@
 // How a line ends, worked out from its texts and the memory before it, with none of the CPU's code.
 namespace tavorno::prova {
 
-enum class Ending { Ok, RunTimeError, Fatal, Unknown, Inconsistent };
+enum class Ending { Ok, RunTimeError, Fatal, Unforeseen, Inconsistent };
 
 struct Outcome {
   Ending ending = Ending::Ok;
@@ -87,7 +87,7 @@ class Oracle {
     outcome = {};
     try {
       if (IsIn(mnemonic, "RETI INT INT0 XORD"))
-        outcome.ending = Ending::Unknown;
+        outcome.ending = Ending::Unforeseen;
       else if (mnemonic == "LSCR")
         Bit(4, op1.num, op1.bit);
       else if (IsIn(mnemonic, "LD LDN LDI LDNI A AN AI ANI O ON OI ONI"))

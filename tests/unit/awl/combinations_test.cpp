@@ -164,7 +164,7 @@ struct Execution {
     if (boxes.empty()) return plc.PLC_Acceso == -1 ? Ending::Ok : Ending::Inconsistent;
     if (boxes.size() > 1 || !stopped) return Ending::Inconsistent;
     if (boxes[0] == "Run Time Error" && plc.PC == 1) return Ending::RunTimeError;
-    if (boxes[0] == "Errore in Esecuzione!" && plc.PC == 2) return Ending::Unknown;
+    if (boxes[0] == "Errore in Esecuzione!" && plc.PC == 2) return Ending::Unforeseen;
     return Ending::Inconsistent;
   }
 };

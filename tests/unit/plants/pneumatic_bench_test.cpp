@@ -211,7 +211,7 @@ TEST_P(PneumaticBench, OutputsWithoutUseChangeNothing) {
     Spegni(riga.Set);
     Spegni(riga.Reset);
   }
-  for (const auto& lampada : atteso.Lampade) Spegni(std::get<0>(lampada));
+  for (const auto& una : atteso.Lampade) Spegni(std::get<0>(una));
   const auto prima = Aspetto(macchina);
   macchina.Stato_Q(altri);
   EXPECT_EQ(Aspetto(macchina), prima);
