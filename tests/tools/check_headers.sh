@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Every header compiles alone. Where a source includes its own header first and its folder has no
-# precompiled header, the build has proved it; the others are compiled here.
+# Every header of the program compiles alone. Where a source includes its own header first and its
+# folder has no precompiled header, the build has proved it; the others are compiled here.
 # Usage: check_headers.sh SOURCE_DIR BUILD_DIR
 set -euo pipefail
 cd "$1"
-found=$(find . -path './build*' -prune -o -name '*.h' -printf '%P\n' | sort)
+found=$(find . -path './build*' -prune -o -path ./tests -prune -o -name '*.h' -printf '%P\n' | sort)
 system=$(grep -ohE -- '-isystem [^ "]+' "$2/compile_commands.json" | sort -u | tr '\n' ' ')
-options="-std=c++20 -fPIC -DQT_NO_KEYWORDS -DQT_GUI_LIB -DQT_WIDGETS_LIB -I. -I$2 -Itests/support -Itests/gui $system"
+options="-std=c++20 -fPIC -DQT_NO_KEYWORDS -DQT_GUI_LIB -DQT_WIDGETS_LIB -I. -I$2 $system"
 # Without windows there is no window library.
 [[ $system == *QtWidgets* ]] || found=$(printf '%s\n' "$found" | xargs grep -L '#include <Q')
 export options
