@@ -222,6 +222,7 @@ Disegno Impagina(const Diagramma& diagramma) {
 std::vector<bool> Correnti(const Disegno& disegno,
                            const std::function<bool(const Riquadro&, bool arriva)>& passa) {
   std::vector<bool> vivi(disegno.Legami.size());
+  if (vivi.empty()) return vivi;
   vivi[0] = true;
   for (std::size_t n = 1; n < vivi.size(); ++n) {
     const Legame& legame = disegno.Legami[n];

@@ -85,6 +85,17 @@ TEST_F(Scala, FlowAndNumbersAreThoseOfTheRunningCpu) {
   EXPECT_FALSE(Vista().Stato(0).Viva);
 }
 
+TEST_F(Scala, AnEmptyNetworkIsShownWhileTheCpuRuns) {
+  Apri("NETWORK 1\nLD I0.0\n= Q0.0\n", false);
+  Compila();
+  Avvia();
+  seduta.progetto.Scrivi_Main(A_Capo("NETWORK 1\nLD I0.0\n= Q0.0\nNETWORK 2\n"));
+  Scansione();
+  ASSERT_EQ(Vista().Foglio().Reti().size(), 2U);
+  EXPECT_EQ(Vista().Foglio().Reti()[1].Simboli(), 0);
+  EXPECT_TRUE(Vista().Stato(0).Viva);
+}
+
 TEST_F(Scala, ALiveWireHasItsColourOnTheScreen) {
   Apri("NETWORK 1\nLD I0.0\n= Q0.0\n", false);
   Compila();

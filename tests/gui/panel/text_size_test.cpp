@@ -125,6 +125,38 @@ TEST_F(Testi, TheKeysWorkWhileOneWritesAndTypeNothing) {
   EXPECT_EQ(testo.Byte(), byte);
 }
 
+/// Counts what Qt complains of as long as it lives.
+struct Rimproveri {
+  Rimproveri() {
+    Quanti = 0;
+    prima = qInstallMessageHandler([](QtMsgType tipo, const QMessageLogContext&, const QString&) {
+      Quanti += tipo == QtWarningMsg ? 1 : 0;
+    });
+  }
+  ~Rimproveri() { qInstallMessageHandler(prima); }
+  Rimproveri(const Rimproveri&) = delete;
+  Rimproveri& operator=(const Rimproveri&) = delete;
+
+  static inline int Quanti = 0;
+  QtMessageHandler prima;
+};
+
+TEST_F(Testi, AFontInPixelsFollowsItsOwnBox) {
+  Grandezza_Testo grandezza;
+  QWidget vista;
+  QLabel etichetta(&vista);
+  QFont in_pixel;
+  in_pixel.setPixelSize(20);
+  etichetta.setFont(in_pixel);
+  grandezza.Segui(vista);
+  const Rimproveri rimproveri;
+  grandezza.Cambia(5);
+  EXPECT_EQ(etichetta.font().pixelSize(), 20);
+  grandezza.Normale();
+  EXPECT_EQ(etichetta.font().pixelSize(), 20);
+  EXPECT_EQ(Rimproveri::Quanti, 0);
+}
+
 TEST_F(Testi, TheProjectorTakesTheWindowInFrontAndGivesItBack) {
   Apri_Tutte();
   QWidget& stati = *Finestra("frmStatiL");

@@ -254,6 +254,13 @@ TEST(Valore_Di, BoxesAndComparisonsShowTheirNumbers) {
   EXPECT_EQ(valore(3, 1), "") << "no number of the CPU";
 }
 
+TEST(Flusso_Di, ANetworkThatIsStillEmptyHasNoFlow) {
+  Banco_Flusso banco("LD I0.0\n= Q0.0\n");
+  const Flusso_Rete flusso = Flusso_Di(Disegno(), banco.plc);
+  EXPECT_TRUE(flusso.Vivi.empty());
+  EXPECT_TRUE(flusso.Attivi.empty());
+}
+
 // ---- the same program -------------------------------------------------------------------------
 
 TEST(In_Cpu, OnlyTheVeryInstructionsCount) {
