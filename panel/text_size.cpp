@@ -61,7 +61,9 @@ void Ingrandisci(QWidget& parte, bool radice, double fattore) {
   if (auto* tela = dynamic_cast<Tela_Tempi*>(&parte)) return tela->Ingrandisci(fattore);
   if (!radice && !parte.property(punti).isValid() && fattore == 1) return;
   Annota(parte);
-  if (radice || parte.property(suo).toBool()) {
+  // A font in pixels follows the height of its own part, which grows below.
+  const bool in_punti = parte.property(punti).toDouble() > 0;
+  if (in_punti && (radice || parte.property(suo).toBool())) {
     QFont carattere = parte.font();
     carattere.setPointSizeF(parte.property(punti).toDouble() * fattore);
     parte.setFont(carattere);
