@@ -23,6 +23,8 @@ options="-std=c++20 -fPIC -DQT_NO_KEYWORDS -I. -I$2 $system -DTAVORNO_VERSION=\"
 # Of a function's paths a third of the usual number: all that was ever found lies in these, and the
 # rest costs as much as everything else together.
 options+=" -Xclang -analyzer-config -Xclang max-nodes=75000"
+# Nor does it follow the calls into the standard library, which is not ours to mend.
+options+=" -Xclang -analyzer-config -Xclang c++-stdlib-inlining=false"
 windows='^(awl/ui|[a-z]+/ui|plants/host|panel|widgets)/'
 export options common windows
 

@@ -11,6 +11,7 @@
 #include <random>
 #include <set>
 
+#include "host/host_bed.h"
 #include "plants/exercises.h"
 #include "plants/host/picture_widget.h"
 #include "widgets/text.h"
@@ -138,14 +139,6 @@ TEST_P(Disegni_Di, EverySymbolIsOfItsOwnFileOrOfTheSharedSheet) {
     const QString id = trovati.next().captured(1);
     EXPECT_TRUE(testo.contains("id=\"" + id + '"')) << "nothing is drawn by " << id.toStdString();
   }
-}
-
-std::vector<int> Con_Impianto() {
-  std::vector<int> indici;
-  for (const Esercizio& esercizio : Tabella_Esercizi()) {
-    if (esercizio.Crea != nullptr) indici.push_back(esercizio.Indice);
-  }
-  return indici;
 }
 
 INSTANTIATE_TEST_SUITE_P(Esercizi, Disegni_Di, ::testing::ValuesIn(Con_Impianto()));

@@ -13,6 +13,15 @@
 
 namespace tavorno {
 
+/// The indices of the exercises that have a plant.
+inline std::vector<int> Con_Impianto() {
+  std::vector<int> indici;
+  for (const Esercizio& esercizio : Tabella_Esercizi()) {
+    if (esercizio.Crea != nullptr) indici.push_back(esercizio.Indice);
+  }
+  return indici;
+}
+
 /// One exercise open in its host window, on a virtual clock, without a panel.
 struct Banco_Host {
   Orologio orologio;

@@ -16,14 +16,6 @@
 namespace tavorno {
 namespace {
 
-std::vector<int> Con_Impianto() {
-  std::vector<int> indici;
-  for (const Esercizio& esercizio : Tabella_Esercizi()) {
-    if (esercizio.Crea != nullptr) indici.push_back(esercizio.Indice);
-  }
-  return indici;
-}
-
 struct Host : ::testing::TestWithParam<int> {
   Banco_Host banco{GetParam()};
   const Esercizio& esercizio = Tabella_Esercizi()[static_cast<std::size_t>(GetParam())];

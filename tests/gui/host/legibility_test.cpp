@@ -14,6 +14,7 @@
 #include <random>
 #include <set>
 
+#include "host/host_bed.h"
 #include "plants/exercises.h"
 #include "plants/host/picture_widget.h"
 #include "widgets/text.h"
@@ -325,13 +326,6 @@ TEST_P(Vasca, TheNumbersInATankAreReadAtEveryLevel) {
 }
 INSTANTIATE_TEST_SUITE_P(Esercizi, Vasca, ::testing::Values(8, 10, 12, 13));
 
-std::vector<int> Con_Impianto() {
-  std::vector<int> indici;
-  for (const Esercizio& esercizio : Tabella_Esercizi()) {
-    if (esercizio.Crea != nullptr) indici.push_back(esercizio.Indice);
-  }
-  return indici;
-}
 INSTANTIATE_TEST_SUITE_P(Esercizi, Leggibilita, ::testing::ValuesIn(Con_Impianto()));
 
 }  // namespace
