@@ -54,7 +54,7 @@ std::vector<std::string> Diagrammi(const Esito_Progetto& esito, const std::strin
     const Caso& caso = esito.Casi[n];
     if (caso.Superato() || caso.Script_Errato) continue;
     verifiche.Solo_Caso = caso.Nome;
-    Traccia traccia(verifiche.Impianto);
+    Traccia traccia(Righe_Di(verifiche.Impianto));
     Esamina(percorso, verifiche, &traccia);
     const std::string svg = Diagramma_Svg(traccia, caso.Nome, caso.Rilievi.front().Ms);
     diagrammi[n] = svg.substr(std::min(svg.find("<svg"), svg.size()));

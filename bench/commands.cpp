@@ -18,6 +18,7 @@
 #include "bench/trace_options.h"
 #include "grading/reports.h"
 #include "manual/manuals.h"
+#include "plants/exercises.h"
 #include "plants/link.h"
 #include "plc/codepage.h"
 #include "recorder/session.h"
@@ -123,7 +124,7 @@ int Comando_Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& 
     out << std::setw(8) << ms << " ms  " << gesto.Come_Testo()
         << ": nessun effetto, la figura ora è nascosta\n";
   };
-  Traccia traccia(esercizio);
+  Traccia traccia(Righe_Di(esercizio));
   if (Vuole_Traccia(argomenti)) corsa.Registra = &traccia;
   const Fine_Corsa fine = corsa.Esegui();
   Scrivi_Traccia(argomenti, traccia, file);

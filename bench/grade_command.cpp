@@ -19,6 +19,7 @@
 #include "grading/reports.h"
 #include "grading/script_functions.h"
 #include "manual/manuals.h"
+#include "plants/exercises.h"
 
 namespace tavorno {
 
@@ -164,7 +165,7 @@ int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
     esiti = Esamina_Molti(incarico, processi, !json, out, err);
     if (!json) Stampa_Somma(out, esiti);
   } else {
-    Traccia traccia(incarico.Con.Impianto);
+    Traccia traccia(Righe_Di(incarico.Con.Impianto));
     const std::string& progetto = incarico.Progetti.front();
     esiti.push_back(Esamina(progetto, incarico.Con, tracce ? &traccia : nullptr));
     if (!json) Stampa_Progetto(out, esiti.front());

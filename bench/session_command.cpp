@@ -9,6 +9,7 @@
 #include "bench/plant_options.h"
 #include "bench/report_files.h"
 #include "bench/trace_options.h"
+#include "plants/exercises.h"
 #include "recorder/session_file.h"
 #include "recorder/session_script.h"
 #include "recorder/whole_state.h"
@@ -120,7 +121,7 @@ int Comando_Rivivi(const Argomenti& argomenti, std::ostream& out) {
     out << std::setw(8) << rivissuta.Tempo() << " ms  " << avviso.Titolo << ": " << avviso.Testo
         << '\n';
   });
-  Traccia traccia(esercizio);
+  Traccia traccia(Righe_Di(esercizio));
   if (Vuole_Traccia(argomenti)) {
     traccia.Inizia_Caso("esecuzione");
     rivissuta.replica.Guarda = [&] {

@@ -7,6 +7,7 @@
 #include <filesystem>
 
 #include "awl/file_io.h"
+#include "grading/script_functions.h"
 #include "plc/codepage.h"
 #include "recorder/session.h"
 
@@ -91,7 +92,7 @@ template <class Fallimento>
 void Esegui_Script(const Verifiche& verifiche, const Ambiente_Script& ambiente,
                    const Fallimento& fallisci, Esito_Progetto& esito) {
   for (const Sorgente_Script& script : verifiche.Script) {
-    Esame esame(script, ambiente);
+    Esame esame(script, ambiente, Registra_Funzioni);
     for (Caso& caso : esame.Esegui()) esito.Casi.push_back(std::move(caso));
   }
   if (!ambiente.Programma && esito.Superato()) fallisci(ambiente.Motivo);
@@ -99,6 +100,16 @@ void Esegui_Script(const Verifiche& verifiche, const Ambiente_Script& ambiente,
 }
 
 }  // namespace
+
+const Esercizio* Impianto_Nominato(const std::vector<Sorgente_Script>& script) {
+  Ambiente_Script ambiente;
+  ambiente.Motivo = "lo script si legge soltanto";
+  for (const Sorgente_Script& uno : script) {
+    if (const Esercizio* impianto = Esame(uno, ambiente, Registra_Funzioni).Leggi())
+      return impianto;
+  }
+  return nullptr;
+}
 
 Esito_Progetto Esamina_Programma(const Memoria& programma, const Verifiche& verifiche,
                                  Traccia* traccia) {

@@ -31,6 +31,9 @@ Esito_Progetto Esamina_Programma(const Memoria& programma, const Verifiche& veri
 Esito_Progetto Esamina(const std::string& percorso, const Verifiche& verifiche,
                        Traccia* traccia = nullptr);
 
+/// The plant that the first of these scripts names; nullptr when none does.
+const Esercizio* Impianto_Nominato(const std::vector<Sorgente_Script>& script);
+
 /// The outcome of a hand-in that was found and not graded.
 Esito_Progetto Non_Esaminata(const std::string& percorso, const std::string& motivo);
 

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "grading/lua_messages.h"
-#include "grading/script_functions.h"
+#include "plants/exercises.h"
 
 namespace tavorno {
 
@@ -61,18 +61,11 @@ std::string Errore_Di_Sintassi(const Sorgente_Script& script) {
   return Carica(recinto.Stato(), script) == LUA_OK ? "" : Messaggio(recinto.Stato());
 }
 
-const Esercizio* Impianto_Nominato(const std::vector<Sorgente_Script>& script) {
-  Ambiente_Script ambiente;
-  ambiente.Motivo = "lo script si legge soltanto";
-  for (const Sorgente_Script& uno : script) {
-    if (const Esercizio* impianto = Esame(uno, ambiente).Leggi()) return impianto;
-  }
-  return nullptr;
-}
-
-Esame::Esame(const Sorgente_Script& script, const Ambiente_Script& ambiente)
+Esame::Esame(const Sorgente_Script& script, const Ambiente_Script& ambiente,
+             int (*funzioni)(lua_State*))
     : script_(script),
       ambiente_(ambiente),
+      funzioni_(funzioni),
       impianto_(ambiente.Impianto),
       scorte_(ambiente.Inizio),
       recinto_(ambiente.Limiti) {
@@ -85,7 +78,7 @@ Esame& Esame::Di(lua_State* stato) {
 
 const Esercizio* Esame::Leggi() {
   lua_State* stato = recinto_.Stato();
-  lua_pushcfunction(stato, Registra_Funzioni);
+  lua_pushcfunction(stato, funzioni_);
   int esito = lua_pcall(stato, 0, 0, 0);
   if (esito == LUA_OK) esito = Carica(stato, script_);
   if (esito == LUA_OK) esito = lua_pcall(stato, 0, 0, 0);
@@ -167,7 +160,7 @@ void Esame::Inizia(const std::string& nome, std::optional<double> massimo) {
 }
 
 void Esame::Registra_Tempi() {
-  if (ambiente_.Riprendi) tempi_.emplace(impianto_);
+  if (ambiente_.Riprendi) tempi_.emplace(Righe_Di(impianto_));
   std::vector<Traccia*> tracce;
   if (ambiente_.Registra) tracce.push_back(ambiente_.Registra);
   if (tempi_) tracce.push_back(&*tempi_);

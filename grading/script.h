@@ -44,7 +44,9 @@ struct Ambiente_Script {
 /// One script at work on one program.
 class Esame {
  public:
-  Esame(const Sorgente_Script& script, const Ambiente_Script& ambiente);
+  /// `funzioni` makes known what the script may call.
+  Esame(const Sorgente_Script& script, const Ambiente_Script& ambiente,
+        int (*funzioni)(lua_State*));
   Esame(const Esame&) = delete;
   Esame& operator=(const Esame&) = delete;
 
@@ -110,6 +112,7 @@ class Esame {
 
   const Sorgente_Script& script_;
   const Ambiente_Script& ambiente_;
+  int (*funzioni_)(lua_State*);
   const Esercizio* impianto_;
   Scorte scorte_;
   std::set<std::string> usati_;  // files beside the script
@@ -124,8 +127,5 @@ class Esame {
 
 /// The mistake in the text of a script, in Italian; empty when it can be run.
 std::string Errore_Di_Sintassi(const Sorgente_Script& script);
-
-/// The plant that the first of these scripts names; nullptr when none does.
-const Esercizio* Impianto_Nominato(const std::vector<Sorgente_Script>& script);
 
 }  // namespace tavorno

@@ -44,7 +44,7 @@ struct Esercizio {
   bool Analogici;        ///< analog values of the plant go to `Volt_AI`
   bool Ascolta_chkSim;   ///< a click on `chkSim` has a handler
   const char* Attivare;  ///< a property that the host sets to True on load, or nullptr
-  std::span<const Riga_IO> Righe_IO;
+  Elenco_IO Righe_IO;
   std::unique_ptr<Impianto> (*Crea)(Plc&);  ///< nullptr while there is no such plant
 };
 
@@ -53,6 +53,11 @@ inline constexpr const char* Scheda_1 = " Assegnazioni I/0";
 
 /// The exercises in the order of the menu, `Indice` 0 to 17.
 std::span<const Esercizio> Tabella_Esercizi();
+
+/// The table of an exercise; empty without one.
+inline Elenco_IO Righe_Di(const Esercizio* esercizio) {
+  return esercizio ? esercizio->Righe_IO : Elenco_IO();
+}
 
 /// What the table of an exercise calls an address, "SB2"; empty where it has no row for it, or
 /// without an exercise.

@@ -138,19 +138,19 @@ constexpr Riga_IO righe_17[] = {
 
 }  // namespace
 
-std::span<const Riga_IO> Righe_IO_09() {
+Elenco_IO Righe_IO_09() {
   return righe_09;
 }
-std::span<const Riga_IO> Righe_IO_11() {
+Elenco_IO Righe_IO_11() {
   return righe_11;
 }
-std::span<const Riga_IO> Righe_IO_14() {
+Elenco_IO Righe_IO_14() {
   return righe_14;
 }
-std::span<const Riga_IO> Righe_IO_16() {
+Elenco_IO Righe_IO_16() {
   return righe_16;
 }
-std::span<const Riga_IO> Righe_IO_17() {
+Elenco_IO Righe_IO_17() {
   return righe_17;
 }
 

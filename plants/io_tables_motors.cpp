@@ -86,16 +86,16 @@ constexpr Riga_IO righe_03[] = {
 
 }  // namespace
 
-std::span<const Riga_IO> Righe_IO_00() {
+Elenco_IO Righe_IO_00() {
   return righe_00;
 }
-std::span<const Riga_IO> Righe_IO_01() {
+Elenco_IO Righe_IO_01() {
   return righe_01;
 }
-std::span<const Riga_IO> Righe_IO_02() {
+Elenco_IO Righe_IO_02() {
   return righe_02;
 }
-std::span<const Riga_IO> Righe_IO_03() {
+Elenco_IO Righe_IO_03() {
   return righe_03;
 }
 

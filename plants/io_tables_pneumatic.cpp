@@ -137,19 +137,19 @@ constexpr Riga_IO righe_15[] = {
 
 }  // namespace
 
-std::span<const Riga_IO> Righe_IO_04() {
+Elenco_IO Righe_IO_04() {
   return righe_04;
 }
-std::span<const Riga_IO> Righe_IO_05() {
+Elenco_IO Righe_IO_05() {
   return righe_05;
 }
-std::span<const Riga_IO> Righe_IO_06() {
+Elenco_IO Righe_IO_06() {
   return righe_06;
 }
-std::span<const Riga_IO> Righe_IO_07() {
+Elenco_IO Righe_IO_07() {
   return righe_07;
 }
-std::span<const Riga_IO> Righe_IO_15() {
+Elenco_IO Righe_IO_15() {
   return righe_15;
 }
 

@@ -147,16 +147,16 @@ constexpr Riga_IO righe_13[] = {
 
 }  // namespace
 
-std::span<const Riga_IO> Righe_IO_08() {
+Elenco_IO Righe_IO_08() {
   return righe_08;
 }
-std::span<const Riga_IO> Righe_IO_10() {
+Elenco_IO Righe_IO_10() {
   return righe_10;
 }
-std::span<const Riga_IO> Righe_IO_12() {
+Elenco_IO Righe_IO_12() {
   return righe_12;
 }
-std::span<const Riga_IO> Righe_IO_13() {
+Elenco_IO Righe_IO_13() {
   return righe_13;
 }
 

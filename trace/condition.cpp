@@ -113,7 +113,7 @@ bool Termine::Vale(double prima, double adesso) const {
   }
 }
 
-std::optional<Condizione> Leggi_Condizione(const std::string& testo, const Esercizio* esercizio,
+std::optional<Condizione> Leggi_Condizione(const std::string& testo, Elenco_IO impianto,
                                            std::string& errore) {
   const std::vector<std::string> parole = Parole(testo);
   Condizione condizione;
@@ -122,10 +122,10 @@ std::optional<Condizione> Leggi_Condizione(const std::string& testo, const Eserc
     return {};
   }
   for (std::size_t n = 0; n < parole.size();) {
-    const auto segnale = Cerca_Segnale(parole[n], esercizio);
+    const auto segnale = Cerca_Segnale(parole[n], impianto);
     if (!segnale) {
       errore = "\"" + parole[n] + "\" non è un indirizzo" +
-               (esercizio ? " né un simbolo dell'impianto." : " della CPU.");
+               (!impianto.empty() ? " né un simbolo dell'impianto." : " della CPU.");
       return {};
     }
     Termine termine{*segnale, Prova::Uguale, 1};

@@ -39,7 +39,7 @@ using Condizione = std::vector<Termine>;
 /// Reads "Q0.1 sale", "KM1 scende e VW10 > 300", "T37.Val cambia", "I0.0 = 1", or a name alone,
 /// which means "= 1"; decimals with a comma or a point. Names are addresses, or symbols of the
 /// plant where one is given. On a mistake it is empty and `errore` says in Italian what is wrong.
-std::optional<Condizione> Leggi_Condizione(const std::string& testo, const Esercizio* esercizio,
+std::optional<Condizione> Leggi_Condizione(const std::string& testo, Elenco_IO impianto,
                                            std::string& errore);
 
 /// The first moment after `da` (the last one before it) at which the condition becomes true; its

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstdio>
 
-#include "plants/exercises.h"
 #include "plc/codepage.h"
 
 namespace tavorno {
@@ -81,12 +80,9 @@ std::string Testo_Valore(const Segnale& segnale, double valore) {
   return cifre;
 }
 
-std::vector<Segnale> Segnali_Di(const Esercizio* esercizio, const Memoria& memoria,
-                                std::size_t massimi) {
+std::vector<Segnale> Segnali_Di(Elenco_IO impianto, const Memoria& memoria, std::size_t massimi) {
   Raccolta raccolta(massimi);
-  if (esercizio) {
-    for (const Riga_IO& riga : esercizio->Righe_IO) raccolta.Metti(riga.Simbolo, riga.Indirizzo);
-  }
+  for (const Riga_IO& riga : impianto) raccolta.Metti(riga.Simbolo, riga.Indirizzo);
   for (const Riga_PLC& riga : memoria.Prog) {
     // Further operands are numbers in nearly all instructions; those that are cells appear in
     // other lines too.
@@ -118,13 +114,11 @@ std::vector<Segnale> Tutte_Le_Celle() {
   return celle;
 }
 
-std::optional<Segnale> Cerca_Segnale(const std::string& testo, const Esercizio* esercizio) {
+std::optional<Segnale> Cerca_Segnale(const std::string& testo, Elenco_IO impianto) {
   const std::string cercato = Maiuscole(testo);
-  if (esercizio) {
-    for (const Riga_IO& riga : esercizio->Righe_IO) {
-      if (Maiuscole(riga.Simbolo) == cercato || Maiuscole(riga.Indirizzo) == cercato)
-        return Fai_Segnale(riga.Simbolo, riga.Indirizzo);
-    }
+  for (const Riga_IO& riga : impianto) {
+    if (Maiuscole(riga.Simbolo) == cercato || Maiuscole(riga.Indirizzo) == cercato)
+      return Fai_Segnale(riga.Simbolo, riga.Indirizzo);
   }
   const auto letto = Leggi_Indirizzo(testo);
   if (!letto) return {};

@@ -5,11 +5,10 @@
 #include <vector>
 
 #include "plc/plc.h"
+#include "plc/symbol_row.h"
 #include "trace/address.h"
 
 namespace tavorno {
-
-struct Esercizio;
 
 /// A cell that is recorded. Analog ones are in volts or milliamperes.
 struct Segnale {
@@ -37,10 +36,10 @@ double Valore(const Segnale& segnale, const Plc& plc);
 /// A value as it is shown: "1", "-12", "3,30 V".
 std::string Testo_Valore(const Segnale& segnale, double valore);
 
-/// The symbols of a plant (null: none), then what the program in the memory names besides: its
+/// The symbols of a plant, then what the program in the memory names besides: its
 /// inputs, outputs, markers, elements with their value, and words. Each cell once; at most
 /// `massimi`.
-std::vector<Segnale> Segnali_Di(const Esercizio* esercizio, const Memoria& memoria,
+std::vector<Segnale> Segnali_Di(Elenco_IO impianto, const Memoria& memoria,
                                 std::size_t massimi = 64);
 
 /// Every cell that there is, in the order of the areas.
@@ -48,6 +47,6 @@ std::vector<Segnale> Tutte_Le_Celle();
 
 /// The signal of an address or of a plant's symbol; capitals do not matter. Empty when it is
 /// neither.
-std::optional<Segnale> Cerca_Segnale(const std::string& testo, const Esercizio* esercizio);
+std::optional<Segnale> Cerca_Segnale(const std::string& testo, Elenco_IO impianto);
 
 }  // namespace tavorno

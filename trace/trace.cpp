@@ -5,9 +5,9 @@
 
 namespace tavorno {
 
-Traccia::Traccia(const Esercizio* esercizio) {
-  if (esercizio) {
-    for (const Riga_IO& riga : esercizio->Righe_IO)
+Traccia::Traccia(Elenco_IO impianto) {
+  if (!impianto.empty()) {
+    for (const Riga_IO& riga : impianto)
       segnali_.push_back(Fai_Segnale(riga.Simbolo, riga.Indirizzo));
   } else {
     for (const char* area : {"I", "Q"}) {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "plants/exercises.h"
+#include "plc/symbol_row.h"
 #include "trace/signal.h"
 
 namespace tavorno {
@@ -25,7 +25,7 @@ struct Caso_Registrato {
 /// plant's table: all 32 digital points and the five analog words.
 class Traccia {
  public:
-  explicit Traccia(const Esercizio* esercizio);
+  explicit Traccia(Elenco_IO impianto);
   /// What was recorded elsewhere, as one case; `cambi` sorted by time, `durata` in ms.
   Traccia(std::vector<Segnale> segnali, std::vector<Cambio_Segnale> cambi, std::int64_t durata);
 

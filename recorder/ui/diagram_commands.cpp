@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 
+#include "plants/exercises.h"
 #include "recorder/ui/diagram_window.h"
 #include "trace/time_scale.h"
 #include "widgets/text.h"
@@ -190,7 +191,7 @@ void FrmTempi::Vai_A_Ricerca() {
 
 std::optional<Condizione> FrmTempi::Leggi() {
   std::string errore;
-  auto condizione = Leggi_Condizione(Utf8(txtCerca_->text()), impianto_, errore);
+  auto condizione = Leggi_Condizione(Utf8(txtCerca_->text()), Righe_Di(impianto_), errore);
   if (!condizione) Di(Q(errore));
   return condizione;
 }

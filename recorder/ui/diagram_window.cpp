@@ -17,6 +17,7 @@
 #include <cmath>
 #include <utility>
 
+#include "plants/exercises.h"
 #include "recorder/ui/signal_choice.h"
 #include "widgets/message_box.h"
 #include "widgets/naming.h"
@@ -115,7 +116,7 @@ FrmTempi::FrmTempi(Plc& plc, const Esercizio* impianto)
 
 void FrmTempi::Riparti(const Esercizio* impianto) {
   impianto_ = impianto;
-  diagramma_.Mostra_Solo(Segnali_Di(impianto_, plc_));
+  diagramma_.Mostra_Solo(Segnali_Di(Righe_Di(impianto_), plc_));
   iniziali_ = diagramma_.Mostrati();
   sonda_.Guarda();
   Ridisegna();

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "plants/exercises.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
 
@@ -29,7 +30,7 @@ Scelta_Segnali::Scelta_Segnali(QWidget* sopra, const Esercizio* impianto, const 
   setObjectName(QStringLiteral("frmSegnali"));
   setWindowTitle(QStringLiteral("Segnali del diagramma"));
   for (const Segnale& segnale : scelti) Metti(tutti_, segnale);
-  const std::vector<Segnale> propri = Segnali_Di(impianto, memoria);
+  const std::vector<Segnale> propri = Segnali_Di(Righe_Di(impianto), memoria);
   for (const Segnale& segnale : propri) Metti(tutti_, segnale);
   propri_ = tutti_.size();
   for (const Segnale& segnale : Tutte_Le_Celle()) {

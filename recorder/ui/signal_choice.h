@@ -10,6 +10,8 @@ class QListWidget;
 
 namespace tavorno {
 
+struct Esercizio;
+
 /// Chooses signals: those of the plant and of the program first, then every cell of the CPU, found
 /// by typing a part of its name or address.
 class Scelta_Segnali : public QDialog {

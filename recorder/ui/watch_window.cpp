@@ -107,7 +107,8 @@ FrmOsserva::FrmOsserva(Plc& plc, const Esercizio* impianto)
     if (voce->column() == Forzato) Forza(voce->row(), voce->text());
   });
   tabella_->installEventFilter(this);
-  for (const Segnale& segnale : Segnali_Di(impianto_, plc_, celle_iniziali)) Metti(segnale);
+  for (const Segnale& segnale : Segnali_Di(Righe_Di(impianto_), plc_, celle_iniziali))
+    Metti(segnale);
   tabella_->setCurrentCell(0, Nome);
 
   timO_->setObjectName(QStringLiteral("timO"));
@@ -119,7 +120,7 @@ FrmOsserva::FrmOsserva(Plc& plc, const Esercizio* impianto)
 void FrmOsserva::Riparti(const Esercizio* impianto) {
   impianto_ = impianto;
   for (std::size_t n = 0; n < righe_.size(); ++n) {
-    righe_[n].Chi = *Cerca_Segnale(righe_[n].Chi.Indirizzo, impianto_);
+    righe_[n].Chi = *Cerca_Segnale(righe_[n].Chi.Indirizzo, Righe_Di(impianto_));
     Scrivi(static_cast<int>(n));
   }
 }
@@ -131,7 +132,7 @@ Indirizzo FrmOsserva::Cella(const Riga& riga) {
 // ---- rows ---------------------------------------------------------------------------------------
 
 bool FrmOsserva::Aggiungi(const QString& testo) {
-  const auto segnale = Cerca_Segnale(Utf8(testo.trimmed()), impianto_);
+  const auto segnale = Cerca_Segnale(Utf8(testo.trimmed()), Righe_Di(impianto_));
   if (!segnale) {
     Di("\"" + testo.trimmed() + "\" non è una cella. Si possono osservare " +
        Q(Indirizzi_Ammessi()) + (impianto_ ? ", e i simboli dell'impianto." : "."));

@@ -17,6 +17,8 @@ class QTimer;
 
 namespace tavorno {
 
+struct Esercizio;
+
 /// "Finestra di osservazione": cells of one's choice, each in its format. A value that changes
 /// lights up for a moment; while the CPU stands a value can be set, and is shown as forced as long
 /// as it stands. The window reads only while it is open.

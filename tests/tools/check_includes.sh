@@ -1,12 +1,10 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# The folders know each other in one direction only, and no files in a circle: see folders.txt and
-# known_knots.txt. Tests may include anything, and nothing includes them.
-# Usage: check_includes.sh SOURCE_DIR [FOLDERS KNOWN_KNOTS]
+# The folders know each other in one direction only, and no files in a circle: see folders.txt.
+# Tests may include anything, and nothing includes them. Usage: check_includes.sh SOURCE_DIR [FOLDERS]
 set -euo pipefail
 tools=$(cd "$(dirname "$0")" && pwd)
 folders=${2:-$tools/folders.txt}
-known=${3:-$tools/known_knots.txt}
 cd "$1"
 
 # An include is looked for beside the file, then from the root.
@@ -22,4 +20,4 @@ includes() {
     done
 }
 
-awk -f "$tools/includes.awk" part=1 "$folders" part=2 "$known" part=3 <(includes)
+awk -f "$tools/includes.awk" part=1 "$folders" part=2 <(includes)

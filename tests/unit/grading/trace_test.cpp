@@ -7,6 +7,7 @@
 #include <map>
 
 #include "grading_bed.h"
+#include "plants/exercises.h"
 #include "xml_reader.h"
 
 namespace tavorno::prova {
@@ -112,7 +113,7 @@ TEST_F(Trace, WithoutAPlantHasAllPointsAndAnalogValuesAsReals) {
 
 TEST_F(Trace, EveryExerciseHasNamesThatDiffer) {
   for (const Esercizio& esercizio : Tabella_Esercizi()) {
-    const Vcd vcd(Testo_Vcd(Traccia(&esercizio)));
+    const Vcd vcd(Testo_Vcd(Traccia(esercizio.Righe_IO)));
     EXPECT_EQ(vcd.Tipi.size(), 1 + esercizio.Righe_IO.size()) << esercizio.Indice;
   }
 }
@@ -164,7 +165,7 @@ TEST_F(Trace, ACurveThatGoesBelowZeroHasItsZeroLine) {
 }
 
 TEST_F(Trace, AnEmptyOneIsStillAFile) {
-  const Traccia traccia(nullptr);
+  const Traccia traccia(Righe_Di(nullptr));
   EXPECT_THAT(Diagramma_Svg(traccia, "x"), HasSubstr("</svg>"));
   EXPECT_EQ(Vcd(Testo_Vcd(traccia)).Ultimo, 0);
 }

@@ -7,6 +7,7 @@
 #include <random>
 #include <sstream>
 
+#include "plants/exercises.h"
 #include "plants/link.h"
 #include "plc/instructions.h"
 #include "random_program.h"
@@ -43,7 +44,7 @@ Uscita Corri(const Entrate& entrate, bool ogni_scansione) {
   Stato_Impianto stato;
   std::optional<Collegamento> impianto;
   if (entrate.Impianto) impianto.emplace(plc, stato, *entrate.Impianto);
-  Traccia traccia(entrate.Impianto);
+  Traccia traccia(Righe_Di(entrate.Impianto));
   Limiti limiti = entrate.Confini;
   limiti.Ogni_Scansione = ogni_scansione;
   Corsa corsa(plc, limiti);

@@ -27,7 +27,7 @@ class Condition : public Banco_Tracce {
   }
   std::vector<std::int64_t> Avanti(const std::string& testo) {
     std::string errore;
-    const auto condizione = Leggi_Condizione(testo, nullptr, errore);
+    const auto condizione = Leggi_Condizione(testo, {}, errore);
     EXPECT_TRUE(condizione) << errore;
     std::vector<std::int64_t> trovati;
     for (auto ms = Cerca_Avanti(registrazione, *condizione, -1); ms;
@@ -71,7 +71,7 @@ class Wrong_Condition : public ::testing::TestWithParam<Errata> {};
 
 TEST_P(Wrong_Condition, SaysWhatIsWrong) {
   std::string errore;
-  EXPECT_FALSE(Leggi_Condizione(GetParam().Testo, nullptr, errore));
+  EXPECT_FALSE(Leggi_Condizione(GetParam().Testo, {}, errore));
   EXPECT_THAT(errore, ::testing::HasSubstr(GetParam().Perche));
 }
 INSTANTIATE_TEST_SUITE_P(All, Wrong_Condition,
@@ -90,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(All, Wrong_Condition,
 TEST(Condition_Of_A_Plant, KnowsTheSymbols) {
   const Esercizio& primo = Tabella_Esercizi()[0];
   std::string errore;
-  const auto condizione = Leggi_Condizione("km sale e SB2 = 0", &primo, errore);
+  const auto condizione = Leggi_Condizione("km sale e SB2 = 0", primo.Righe_IO, errore);
   ASSERT_TRUE(condizione) << errore;
   EXPECT_EQ((*condizione)[0].Chi.Indirizzo, "Q0.0");
   EXPECT_EQ((*condizione)[1].Chi.Indirizzo, "I0.1");
@@ -102,7 +102,7 @@ TEST(Condition_Of_A_Plant, TheExamplesOfTheGuideCanBeRead) {
   for (const char* testo : {"Q0.1 sale", "KM1 scende", "SQ1 cambia", "VW10 > 300", "T37.Val >= 20",
                             "C5.PV <> 3", "KM1 e KM2", "SB2 sale e SQ1 = 0"}) {
     std::string errore;
-    EXPECT_TRUE(Leggi_Condizione(testo, &cancello, errore)) << testo << ": " << errore;
+    EXPECT_TRUE(Leggi_Condizione(testo, cancello.Righe_IO, errore)) << testo << ": " << errore;
   }
 }
 

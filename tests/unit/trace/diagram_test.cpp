@@ -230,7 +230,7 @@ TEST_F(Diagram, TwoCursorsShowTwoValues) {
 
 Condizione Cosa(const std::string& testo) {
   std::string errore;
-  return *Leggi_Condizione(testo, nullptr, errore);
+  return *Leggi_Condizione(testo, {}, errore);
 }
 
 TEST_F(Diagram, ASearchGoesFromTheCursor) {

@@ -156,25 +156,25 @@ std::vector<std::string> Nomi(const std::vector<Segnale>& segnali) {
 TEST_F(Recording, TheProgramNamesItsSignals) {
   Carica({"LD I0.0", "A M1.2", "TON T37, +50", "LDW>= T37, VW10", "= Q0.3", "LD SM0.5",
           "MOVW VW10, VW12"});
-  EXPECT_THAT(Nomi(Segnali_Di(nullptr, plc)),
+  EXPECT_THAT(Nomi(Segnali_Di({}, plc)),
               ::testing::ElementsAre("I0.0/I0.0", "M1.2/M1.2", "T37/T37", "T37.Val/T37.Val",
                                      "VW10/VW10", "Q0.3/Q0.3", "VW12/VW12"));
-  EXPECT_EQ(Segnali_Di(nullptr, plc, 3).size(), 3U);
+  EXPECT_EQ(Segnali_Di({}, plc, 3).size(), 3U);
 }
 
 TEST_F(Recording, ThePlantsSymbolsComeFirst) {
   Carica({"LD I0.0", "= M0.0"});
   const Esercizio& cancello = Tabella_Esercizi()[9];
-  const auto segnali = Segnali_Di(&cancello, plc);
+  const auto segnali = Segnali_Di(cancello.Righe_IO, plc);
   ASSERT_EQ(segnali.size(), cancello.Righe_IO.size() + 1);
   EXPECT_EQ(segnali[0].Nome, cancello.Righe_IO[0].Simbolo);
   EXPECT_EQ(segnali.back().Indirizzo, "M0.0");
   const std::string simbolo = cancello.Righe_IO[0].Simbolo;
-  ASSERT_TRUE(Cerca_Segnale(simbolo, &cancello));
-  EXPECT_EQ(Cerca_Segnale(simbolo, &cancello)->Indirizzo, cancello.Righe_IO[0].Indirizzo);
-  EXPECT_EQ(Cerca_Segnale("vw7", &cancello)->Indirizzo, "VW7");
-  EXPECT_FALSE(Cerca_Segnale("VW777", &cancello));
-  EXPECT_FALSE(Cerca_Segnale("", nullptr));
+  ASSERT_TRUE(Cerca_Segnale(simbolo, cancello.Righe_IO));
+  EXPECT_EQ(Cerca_Segnale(simbolo, cancello.Righe_IO)->Indirizzo, cancello.Righe_IO[0].Indirizzo);
+  EXPECT_EQ(Cerca_Segnale("vw7", cancello.Righe_IO)->Indirizzo, "VW7");
+  EXPECT_FALSE(Cerca_Segnale("VW777", cancello.Righe_IO));
+  EXPECT_FALSE(Cerca_Segnale("", {}));
 }
 
 TEST(Address, IsWrittenAsItIsRead) {
