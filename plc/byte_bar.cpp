@@ -18,7 +18,7 @@ Barra::Barra(Orologio& orologio, bool riparla)
 
 void Barra::Assegna(std::string_view testo) {
   // At the end of most scans the text is the one that is there already.
-  if (!derivati_ || testo != stato_) {
+  if (!derivati_ || !Stesso_Byte(testo, stato_)) {
     stato_ = testo;
     unsigned byte = 0;
     for (unsigned bit = 0; bit < 8 && bit < stato_.size(); ++bit) {
@@ -29,7 +29,7 @@ void Barra::Assegna(std::string_view testo) {
     derivati_ = true;
     Mostra(byte_);
   }
-  if (INT_ON && passato_ != stato_) {
+  if (INT_ON && !Stesso_Byte(passato_, stato_)) {
     passato_ = stato_;
     Change();
   }

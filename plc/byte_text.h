@@ -34,6 +34,13 @@ inline std::string_view Testo_Lettura(std::uint8_t byte) {
   return {dettaglio::testi_lettura[byte].data(), 8};
 }
 
+/// Equality of two texts that are mostly those of a byte: eight characters are one comparison.
+inline bool Stesso_Byte(std::string_view uno, std::string_view altro) {
+  constexpr std::size_t bit = 8;
+  if (uno.size() != altro.size()) return false;
+  return uno.size() == bit ? std::memcmp(uno.data(), altro.data(), bit) == 0 : uno == altro;
+}
+
 /// Sets `testo` to the reading-order text of a byte. In place, because markers and outputs are
 /// written again and again during a scan.
 inline void Scrivi_Lettura(std::string& testo, std::uint8_t byte) {

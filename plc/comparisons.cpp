@@ -15,21 +15,22 @@ bool Vale(Relazione relazione, std::int32_t primo, std::int32_t secondo) {
   return (static_cast<unsigned>(relazione) >> (confronto + 1) & 1U) != 0;
 }
 
-/// The second operand is read first.
+/// The second operand is read first, and the first one in any case. `letti`: both could be read.
 template <auto Lettura>
 [[gnu::always_inline]] inline bool Tiene(const Memoria& memoria, const Riga_PLC& riga,
-                                         std::int16_t& err) {
-  const std::int32_t secondo = (memoria.*Lettura)(riga.Codice2, riga.Num2, err);
-  const std::int32_t primo = (memoria.*Lettura)(riga.Codice1, riga.Num1, err);
-  return err == 0 && Vale(riga.Confronto, primo, secondo);
+                                         bool& letti) {
+  std::int32_t primo = 0, secondo = 0;
+  letti = Lettura(memoria, riga.Codice2, riga.Num2, secondo);
+  letti = Lettura(memoria, riga.Codice1, riga.Num1, primo) && letti;
+  return letti && Vale(riga.Confronto, primo, secondo);
 }
 
 /// A failure of either operand leaves the stack alone.
 template <auto Lettura>
 Esito Confronto(Plc& plc, const Riga_PLC& riga) {
-  std::int16_t err = 0;
-  const std::int16_t r = Tiene<Lettura>(plc, riga, err) ? 1 : 0;
-  if (err) return Esito::Errore;
+  bool letti = false;
+  const std::int16_t r = Tiene<Lettura>(plc, riga, letti) ? 1 : 0;
+  if (!letti) return Esito::Errore;
   switch (riga.Unione) {
     case Connessione::LD:
       plc.GestStak(Op_Pila::Spingi, r);
@@ -44,26 +45,34 @@ Esito Confronto(Plc& plc, const Riga_PLC& riga) {
   return Esito::Avanti;
 }
 
+template <auto Lettura>
+bool Confronta(const Memoria& memoria, const Riga_PLC& riga, std::int16_t& err) {
+  bool letti = false;
+  const bool tiene = Tiene<Lettura>(memoria, riga, letti);
+  if (!letti) err = -1;
+  return tiene;
+}
+
 Esito Istr_Confronto_B(Plc& plc, Riga_PLC& riga) {
-  return Confronto<&Memoria::Leggi_B>(plc, riga);
+  return Confronto<Operando_B>(plc, riga);
 }
 Esito Istr_Confronto_W(Plc& plc, Riga_PLC& riga) {
-  return Confronto<&Memoria::Leggi_W>(plc, riga);
+  return Confronto<Operando_W>(plc, riga);
 }
 Esito Istr_Confronto_D(Plc& plc, Riga_PLC& riga) {
-  return Confronto<&Memoria::Leggi_D>(plc, riga);
+  return Confronto<Operando_D>(plc, riga);
 }
 
 }  // namespace
 
 bool Memoria::Confronta_B(const Riga_PLC& riga, std::int16_t& err) const {
-  return Tiene<&Memoria::Leggi_B>(*this, riga, err);
+  return Confronta<Operando_B>(*this, riga, err);
 }
 bool Memoria::Confronta_W(const Riga_PLC& riga, std::int16_t& err) const {
-  return Tiene<&Memoria::Leggi_W>(*this, riga, err);
+  return Confronta<Operando_W>(*this, riga, err);
 }
 bool Memoria::Confronta_D(const Riga_PLC& riga, std::int16_t& err) const {
-  return Tiene<&Memoria::Leggi_D>(*this, riga, err);
+  return Confronta<Operando_D>(*this, riga, err);
 }
 
 // ---- rows of the table --------------------------------------------------------------------------

@@ -36,6 +36,7 @@ class Pila_Logica {
 
  private:
   unsigned Posto(int cella) const {
+    if (cella == 0) return cima_;  // which nearly every line reads, and which is never past the end
     if (static_cast<unsigned>(cella) > 7) [[unlikely]]
       Fatale_Indice("Stak", cella);
     return (cima_ + static_cast<unsigned>(cella)) % 8;

@@ -2,25 +2,18 @@
 #pragma once
 
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <vector>
 
 #include "plc/area.h"
 #include "plc/branch.h"
+#include "plc/byte_text.h"
 #include "plc/logic_stack.h"
 #include "plc/table.h"
 
 // The memory of the simulated CPU and the compiled program. Areas do not overlap: VB3, VW3 and VD3
 // are three unrelated cells. Flags are -1 for true in 16-bit words; bit cells hold 0 or 1.
 namespace tavorno {
-
-/// Equality of two texts that are mostly those of a byte: eight characters are one comparison.
-inline bool Stesso_Byte(const std::string& uno, const std::string& altro) {
-  constexpr std::size_t bit = 8;
-  if (uno.size() != altro.size()) return false;
-  return uno.size() == bit ? std::memcmp(uno.data(), altro.data(), bit) == 0 : uno == altro;
-}
 
 /// One byte of inputs or outputs. Cells 0..7 are its bits; cell 8 exists and takes writes, and
 /// nothing reads it into a byte value.

@@ -15,23 +15,21 @@ std::int32_t Parola(const std::string& testo, const char* tabella, int riga) {
 
 std::int16_t Memoria::Leggi_B(Area area, int num, std::int16_t& err) const {
   std::int32_t valore = 0;
-  if (Leggi(*this, operandi::byte, area, num, valore) && valore <= 255)
-    return A_16(valore, "Leggi_B");
+  if (Operando_B(*this, area, num, valore)) return static_cast<std::int16_t>(valore);
   err = -1;
   return 0;
 }
 
 std::int16_t Memoria::Leggi_W(Area area, int num, std::int16_t& err) const {
   std::int32_t valore = 0;
-  if (Leggi(*this, operandi::parola, area, num, valore) && valore <= 32767)
-    return A_16(valore, "Leggi_W");
+  if (Operando_W(*this, area, num, valore)) return static_cast<std::int16_t>(valore);
   err = -1;
   return 0;
 }
 
 std::int32_t Memoria::Leggi_D(Area area, int num, std::int16_t& err) const {
   std::int32_t valore = 0;
-  if (Leggi(*this, operandi::doppia, area, num, valore)) return valore;
+  if (Operando_D(*this, area, num, valore)) return valore;
   err = -1;
   return 0;
 }

@@ -124,6 +124,25 @@ std::int32_t Parola(const std::string& testo, const char* tabella, int riga);
   return true;
 }
 
+/// Operands of comparisons, as `Leggi` from the sets `byte`, `parola` and `doppia`; false too for a
+/// byte above 255 and a word above 32767. Throws `Fatale` for one below -32768 as well.
+[[gnu::always_inline]] inline bool Operando_B(const Memoria& m, Area area, int num,
+                                              std::int32_t& valore) {
+  if (!Leggi(m, operandi::byte, area, num, valore) || valore > 255) return false;
+  valore = A_16(valore, "Leggi_B");
+  return true;
+}
+[[gnu::always_inline]] inline bool Operando_W(const Memoria& m, Area area, int num,
+                                              std::int32_t& valore) {
+  if (!Leggi(m, operandi::parola, area, num, valore) || valore > 32767) return false;
+  valore = A_16(valore, "Leggi_W");
+  return true;
+}
+[[gnu::always_inline]] inline bool Operando_D(const Memoria& m, Area area, int num,
+                                              std::int32_t& valore) {
+  return Leggi(m, operandi::doppia, area, num, valore);
+}
+
 /// The first or second operand of a line, as `Leggi`.
 [[gnu::always_inline]] inline bool Primo(const Memoria& m, const Riga_PLC& riga, Insieme ammesse,
                                          std::int32_t& valore) {

@@ -142,7 +142,7 @@ void Plc::Aggiorna_IP_Ing() {
       Segna(Segno_Immagini);
     }
     ingressi.Val_B = barra.Stato_IB();
-    if (ingressi.Txt_B != barra.Stato_BitI()) ingressi.Txt_B = barra.Stato_BitI();
+    if (!Stesso_Byte(ingressi.Txt_B, barra.Stato_BitI())) ingressi.Txt_B = barra.Stato_BitI();
   }
 }
 

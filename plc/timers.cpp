@@ -10,7 +10,7 @@ namespace {
 
 /// The timer of a line with its preset, which is taken at every execution, so one in VW or AC
 /// follows its variable. None when the preset cannot be read.
-Riga_Timer* Prendi_Timer(Plc& plc, const Riga_PLC& riga) {
+[[gnu::always_inline]] inline Riga_Timer* Prendi_Timer(Plc& plc, const Riga_PLC& riga) {
   std::int32_t preset = 0;
   if (!Secondo(plc, riga, operandi::preset_timer, preset)) return nullptr;
   const std::int16_t tick = A_16(preset, "PT");
@@ -20,7 +20,8 @@ Riga_Timer* Prendi_Timer(Plc& plc, const Riga_PLC& riga) {
 }
 
 /// TON and TONR differ in what they do without power flow.
-Esito Ritardo_Inserzione(Plc& plc, const Riga_PLC& riga, bool con_memoria) {
+[[gnu::always_inline]] inline Esito Ritardo_Inserzione(Plc& plc, const Riga_PLC& riga,
+                                                       bool con_memoria) {
   Riga_Timer* const timer = Prendi_Timer(plc, riga);
   if (!timer) return Esito::Errore;
   if (timer->Val >= timer->PT) timer->Uscita = 1;
