@@ -39,8 +39,8 @@ enum class Cosa : std::uint8_t {
   Doppio_Clic,
   Regola,  ///< up/down `Testo` is turned to `Valore`
 
-  /// Nothing that enters: output bar `Indice` told the plant the byte `Numero`, so that a plant can
-  /// be played again without the CPU.
+  /// Nothing that enters: output bar `Indice` told the plant the byte `Numero` (from 2 on: analog
+  /// outputs), so that a plant can be played again without the CPU.
   Uscita,
 
   Guasto,  ///< the wire of an input, "filo(I0.3)" in `Testo`, breaks (`Numero` 1) or is mended

@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "recorder/analog_exchange.h"
 #include "trace/address.h"
 
 namespace tavorno {
@@ -95,7 +96,8 @@ std::string Motivo_Di_Rifiuto(const Atto& e, const Collegamento* impianto) {
         return Tra(e.Indice, 0, std::ssize(cursori) - 1) && Tra(e.Numero, INT32_MIN, INT32_MAX);
       }
       case Cosa::Uscita:
-        return Tra(e.Indice, 0, 1) && Tra(e.Numero, 0, 255);
+        return Dello_Scambio(e) ? Scambio_Possibile(e)
+                                : Tra(e.Indice, 0, 1) && Tra(e.Numero, 0, 255);
       case Cosa::Regola:
         return impianto && std::isfinite(e.Valore);
       default:

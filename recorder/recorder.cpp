@@ -2,21 +2,12 @@
 #include "recorder/recorder.h"
 
 #include <algorithm>
-#include <string_view>
 
 #include "recorder/door.h"
 
 namespace tavorno {
 
 namespace {
-
-/// What the outputs alone do not tell: it reads analog words of the CPU.
-bool Legge_Analogiche(int indice) {
-  const auto righe = Tabella_Esercizi()[static_cast<std::size_t>(indice)].Righe_IO;
-  return std::ranges::any_of(righe, [](const Riga_IO& riga) {
-    return std::string_view(riga.Indirizzo).starts_with("AQ");
-  });
-}
 
 /// How many lines back the beginning of a scan is looked for at first.
 constexpr std::int64_t ricerca_scansione = 4000;
@@ -53,7 +44,7 @@ void Registratore::Ricomincia() {
   giornale_ = Giornale(plc_.Righe_Fatte, plc_.Tempo.Adesso());
   tappe_.clear();
   apertura_ = -1;
-  senza_tappe_ = false;
+  analogiche_ = senza_tappe_ = false;
   primo_ = Adesso();
   Metti_Tappa();
 }
@@ -77,7 +68,7 @@ void Registratore::Programma_Nuovo() {
   programma_ = std::make_shared<const Stesura>(Copia_Programma(plc_));
   giornale_.Scrivi(plc_.Righe_Fatte, {.Che = Cosa::Programma}, programma_);
   primo_ = Adesso();
-  if (!in_avviso_) Metti_Tappa();
+  if (!in_avviso_ && !senza_tappe_) Metti_Tappa();
 }
 
 void Registratore::Annota(const Atto& entrata) {
@@ -92,16 +83,19 @@ void Registratore::Annota(const Atto& entrata) {
     Metti_Tappa();
     chiuso_ = false;
   }
+  const bool tempo = entrata.Che == Cosa::Presente || entrata.Che == Cosa::Passano;
+  if (analogiche_ && tempo) scambio_.Prima_Di(entrata, plc_, giornale_);
   giornale_.Scrivi(plc_.Righe_Fatte, entrata);
   if (entrata.Che == Cosa::Ingresso)
     interruttori_.at(static_cast<std::size_t>(entrata.Indice)) = entrata.Testo;
   if (entrata.Che == Cosa::Apri) {
     apertura_ = static_cast<int>(std::ssize(tappe_)) - 1;
-    senza_tappe_ = Legge_Analogiche(entrata.Indice);
+    analogiche_ = Legge_Analogiche(entrata.Indice);
+    scambio_.Da_Capo();
     primo_ = Adesso();
   } else if (entrata.Che == Cosa::Chiudi) {
     apertura_ = -1;
-    senza_tappe_ = false;
+    analogiche_ = senza_tappe_ = false;
     chiuso_ = true;
     primo_ = Adesso();
   }
@@ -157,7 +151,10 @@ void Registratore::Prendi(const Seduta_Registrata& registrazione) {
   const auto& barre = registrazione.Stato.SI;
   tappe_ = {{programma_, registrazione.Stato, giornale_.Inizio, -1,
              Leve{barre[0].Testo, barre[1].Testo}}};
-  apertura_ = Impianto_Di(registrazione) >= 0 ? 0 : -1;
+  const int impianto = Impianto_Di(registrazione);
+  apertura_ = impianto >= 0 ? 0 : -1;
+  analogiche_ = impianto >= 0 && Legge_Analogiche(impianto);
+  senza_tappe_ = analogiche_ && !Racconta_Lo_Scambio(giornale_);
   primo_ = {registrazione.Stato.Corsa.Righe_Fatte, registrazione.Stato.Adesso};
   presente_ = {giornale_.Ultima_Riga, ms};
   plc_.Hook.Adesso = Vissuto::Passato;
@@ -167,8 +164,8 @@ void Registratore::Prendi(const Seduta_Registrata& registrazione) {
 void Registratore::Proietta(const Seduta_Registrata& film) {
   Torna_Al_Presente();
   giornale_.Ultima_Riga = plc_.Righe_Fatte;
-  messo_via_ = Scritto{Titolo,   programma_, tappe_,       giornale_, primo_,
-                       Adesso(), apertura_,  senza_tappe_, chiuso_};
+  messo_via_ = Scritto{Titolo,   programma_, tappe_,      giornale_,    primo_,
+                       Adesso(), apertura_,  analogiche_, senza_tappe_, chiuso_};
   try {
     Prendi(film);
   } catch (...) {
@@ -190,7 +187,9 @@ void Registratore::Rimetti() {
   giornale_ = std::move(scritto.Voci);
   primo_ = scritto.Primo;
   presente_ = scritto.Presente;
+  scambio_.Da_Capo();
   apertura_ = scritto.Apertura;
+  analogiche_ = scritto.Analogiche;
   senza_tappe_ = scritto.Senza_Tappe;
   chiuso_ = scritto.Chiuso;
   messo_via_.reset();
@@ -304,6 +303,7 @@ void Registratore::Riprendi_Da_Qui() {
   if (In_Proiezione()) return Torna_Al_Presente();
   replica_.reset();
   giornale_.Tronca(qui_);
+  scambio_.Da_Capo();
   std::erase_if(tappe_, [&](const Tappa& tappa) {
     return tappa.Stato.Corsa.Righe_Fatte > plc_.Righe_Fatte ||
            tappa.Stato.Adesso > plc_.Tempo.Adesso() || tappa.Dove.Byte > qui_.Byte;

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "recorder/analog_exchange.h"
 #include "recorder/journal.h"
 #include "recorder/replay.h"
 
@@ -142,9 +143,11 @@ class Registratore {
   std::shared_ptr<const Stesura> programma_;
   std::vector<Tappa> tappe_;
   Giornale giornale_;
+  Scambio_Annotato scambio_;
   Momento primo_;
   int apertura_ = -1;         // the place before the open plant was made
-  bool senza_tappe_ = false;  // the open plant reads more of the CPU than its outputs
+  bool analogiche_ = false;   // the open plant reads more of the CPU than its output bars
+  bool senza_tappe_ = false;  // and the journal, an early one, does not tell of it
   bool chiuso_ = false;       // a plant has just gone
   bool in_avviso_ = false;    // a message box stands open, maybe in the middle of a line
   Leve interruttori_{"00000000", "00000000"};
@@ -163,7 +166,7 @@ class Registratore {
     Giornale Voci;
     Momento Primo, Presente;
     int Apertura;
-    bool Senza_Tappe, Chiuso;
+    bool Analogiche, Senza_Tappe, Chiuso;
   };
   std::optional<Scritto> messo_via_;
   std::vector<Iscrizione> ascolti_;

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "plc/byte_text.h"
+#include "recorder/analog_exchange.h"
 #include "recorder/door.h"
 
 namespace tavorno {
@@ -90,6 +91,7 @@ void Replica::Applica(const Atto& entrata) {
       Impianto = nullptr;
       return Chiudi();
     case Cosa::Uscita:
+      if (Dello_Scambio(entrata)) return;  // the CPU does it by itself
       if (non_dette_ > 0)
         --non_dette_;
       else
@@ -163,11 +165,13 @@ void Replica::Solo_Impianto(const Posto_Giornale& fine) {
     if (!prossima_) break;
     const Atto entrata = prossima_->Entra;
     prossima_.reset();
-    if (entrata.Che == Cosa::Uscita)
+    if (Dello_Scambio(entrata) && Scambio_Possibile(entrata))
+      Rifai_Scambio(entrata, plc_);
+    else if (entrata.Che == Cosa::Uscita)
       plc_.SQ.at(static_cast<std::size_t>(entrata.Indice))
           .Stato_Q(Testo_Bit(static_cast<std::uint8_t>(entrata.Numero)));
     else if (entrata.Che == Cosa::Presente || entrata.Che == Cosa::Passano ||
-             Dell_Impianto(entrata.Che))
+             entrata.Che == Cosa::Scelta || Dell_Impianto(entrata.Che))
       Applica(entrata);
   }
   attese_.clear();

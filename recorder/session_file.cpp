@@ -16,7 +16,7 @@ namespace tavorno {
 namespace {
 
 constexpr std::string_view segno = "TAVORNO-SEDUTA ";
-constexpr std::uint8_t versione = 1;
+constexpr std::uint8_t versione = 2;  // what is written; 1 tells nothing of analog outputs
 constexpr std::size_t grandezza_massima = 512UL * 1024 * 1024;
 constexpr std::size_t righe_massime = 32'767, programmi_massimi = 10'000;
 constexpr std::size_t testo_massimo = 4096;
@@ -280,7 +280,7 @@ std::optional<Seduta_Registrata> Leggi_Registrazione(std::string_view byte, std:
   const std::size_t a_capo = byte.substr(0, 40).find('\n');
   if (a_capo == std::string_view::npos) return rifiuta("non è una seduta registrata");
   const std::string_view numero = byte.substr(segno.size(), a_capo - segno.size());
-  if (numero != std::to_string(versione))
+  if (numero != "1" && numero != std::to_string(versione))
     return rifiuta("è una seduta della versione " + std::string(numero) +
                    ", che questo programma non conosce");
   constexpr std::size_t coda = 8;
