@@ -22,6 +22,8 @@ text { font-family: "DejaVu Sans", "Liberation Sans", sans-serif; fill: #1a1a1a 
 path, rect { fill: none; stroke: #1a1a1a; stroke-width: 1.5 }
 .foglio { fill: #ffffff; stroke: none }
 .vivo { stroke: #c00000; stroke-width: 2.5 }
+circle { fill: #1a1a1a }
+circle.vivo { fill: #c00000; stroke: none }
 .progetto { font-size: 18px; font-weight: bold }
 .blocco { font-size: 15px; font-weight: bold }
 .rete, .nome { font-weight: bold }

@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <string_view>
+#include <utility>
 
 #include "plc/codepage.h"
 
@@ -65,19 +67,67 @@ class Tracciatore {
     forme_.Larghezza = X(disegno_.Colonne) + margine_forme;
     forme_.Altezza = disegno_.Righe * altezza_cella;
     for (const Filo& filo : disegno_.Fili)
-      forme_.Tratti.push_back(
-          {X(filo.Colonna), Y(filo.Riga), X(filo.Colonna_Fine), Y(filo.Riga_Fine), filo.Nodo, -1});
+      if (!Ripassa(filo))
+        forme_.Tratti.push_back({X(filo.Colonna), Y(filo.Riga), X(filo.Colonna_Fine),
+                                 Y(filo.Riga_Fine), filo.Nodo, -1});
     for (std::size_t n = 0; n < disegno_.Riquadri.size(); ++n) {
       indice_ = static_cast<int>(n);
       Metti(disegno_.Riquadri[n]);
     }
     forme_.Tratti.push_back({X(0), 0, X(0), forme_.Altezza, 0, -1});
+    Metti_Giunti();
     return std::move(forme_);
   }
 
  private:
   static double X(int colonna) { return margine_forme + colonna * larghezza_cella; }
   static double Y(int riga) { return riga * altezza_cella + quota_filo; }
+
+  /// An upright wire on the rail or within a longer one of its point: drawn twice it would be
+  /// thicker than the others.
+  bool Ripassa(const Filo& filo) const {
+    if (filo.Colonna != filo.Colonna_Fine) return false;
+    if (filo.Colonna == 0) return filo.Nodo == 0;
+    return std::ranges::any_of(disegno_.Fili, [&](const Filo& altro) {
+      if (altro.Colonna != filo.Colonna || altro.Colonna_Fine != filo.Colonna ||
+          altro.Nodo != filo.Nodo || altro.Riga > filo.Riga || altro.Riga_Fine < filo.Riga_Fine)
+        return false;
+      const bool uguale = altro.Riga == filo.Riga && altro.Riga_Fine == filo.Riga_Fine;
+      return !uguale || &altro < &filo;
+    });
+  }
+
+  /// No two wires cross that are not joined: each part of a network has cells of its own.
+  void Metti_Giunti() {
+    enum { Destra = 1, Sinistra = 2, Sotto = 4, Sopra = 8, Tutte = 15 };
+    struct Angolo {
+      int Vie = 0;
+      Nodo_Elettrico Nodo = 0;  // of the upright wire, which all others end at
+    };
+    std::map<std::pair<int, int>, Angolo> angoli;  // column and row
+    for (const Filo& filo : disegno_.Fili) {
+      for (int c = filo.Colonna; c < filo.Colonna_Fine; ++c) {
+        angoli[{c, filo.Riga}].Vie |= Destra;
+        angoli[{c + 1, filo.Riga}].Vie |= Sinistra;
+      }
+      for (int r = filo.Riga; r < filo.Riga_Fine; ++r) {
+        Angolo& sopra = angoli[{filo.Colonna, r}];
+        Angolo& sotto = angoli[{filo.Colonna, r + 1}];
+        sopra = {sopra.Vie | Sotto, filo.Nodo};
+        sotto = {sotto.Vie | Sopra, filo.Nodo};
+      }
+    }
+    for (const Riquadro& r : disegno_.Riquadri) {
+      if (r.Come.Cosa == Ruolo::Da_Solo) continue;
+      angoli[{r.Colonna, r.Riga}].Vie |= Destra;
+      for (const Entrata& entrata : r.Entrate) angoli[{r.Colonna, entrata.Riga}].Vie |= Destra;
+      if (r.Come.Cosa == Ruolo::Contatto || r.Come.Cosa == Ruolo::Trasforma)
+        angoli[{r.Colonna + 1, r.Riga}].Vie |= Sinistra;
+    }
+    for (const auto& [dove, angolo] : angoli)
+      if (angolo.Vie == Tutte)
+        forme_.Giunti.push_back({X(dove.first), Y(dove.second), angolo.Nodo});
+  }
 
   void Linea(double x1, double y1, double x2, double y2, Nodo_Elettrico nodo) {
     forme_.Tratti.push_back({x1, y1, x2, y2, nodo, indice_});
@@ -157,7 +207,8 @@ class Tracciatore {
     const double sinistra = X(r.Colonna) + rientro_scatola;
     const double larghezza = r.Larghezza * larghezza_cella - 2 * rientro_scatola;
     const double sopra = Y(r.Riga) - 20;
-    const double altezza = r.Altezza * altezza_cella - quota_filo + 24;
+    // Its lower edge leaves the names of the row below their place.
+    const double altezza = r.Altezza * altezza_cella - quota_filo + 14;
     forme_.Cornici.push_back({sinistra, sopra, larghezza, altezza, r.Prima, indice_});
     const double centro = sinistra + larghezza / 2;
     Scrivi(centro, sopra + 15, A_Utf8(r.Come.Segno), Stile_Scritta::Nome);
@@ -182,6 +233,10 @@ class Tracciatore {
       Scrivi(sinistra + 5, y, nome, Stile_Scritta::Piedino, Ancora::Sinistra);
       Scrivi_Operando(sinistra + larghezza - 5, y, r.Passo, n, Ancora::Destra);
       y -= 16;
+      const std::string simbolo = nome_ ? nome_(Operando(r.Passo, n)) : std::string();
+      if (simbolo.empty()) continue;
+      Scrivi(sinistra + larghezza - 5, y + 3, simbolo, Stile_Scritta::Simbolo, Ancora::Destra);
+      y -= 13;
     }
   }
 

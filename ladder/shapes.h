@@ -33,6 +33,13 @@ struct Cornice {
   int Riquadro = -1;
 };
 
+/// Where wires of one point cross: without it they would look as if they only passed each other.
+struct Giunto {
+  double X = 0, Y = 0;
+  Nodo_Elettrico Nodo = 0;
+};
+inline constexpr double raggio_giunto = 3;
+
 enum class Stile_Scritta { Indirizzo, Simbolo, Segno, Nome, Piedino };
 enum class Ancora { Sinistra, Centro, Destra };
 
@@ -51,6 +58,7 @@ struct Tratteggio_Rete {
   std::vector<Asta> Tratti;
   std::vector<Parentesi> Curve;
   std::vector<Cornice> Cornici;
+  std::vector<Giunto> Giunti;
   std::vector<Scritta> Scritte;
 };
 

@@ -67,6 +67,9 @@ std::string Come_Svg(const Tratteggio_Rete& forme, const std::vector<bool>& vivi
     testo += "<path d=\"M" + Punto_Svg(p.X + p.Larghezza, p.Y - p.Altezza / 2) + " Q" +
              Punto_Svg(p.X - p.Larghezza, p.Y) + " " +
              Punto_Svg(p.X + p.Larghezza, p.Y + p.Altezza / 2) + "\"" + classe(p.Nodo) + "/>\n";
+  for (const Giunto& g : forme.Giunti)
+    testo += "<circle cx=\"" + Cifre(g.X) + "\" cy=\"" + Cifre(g.Y) + "\" r=\"" +
+             Cifre(raggio_giunto) + "\"" + classe(g.Nodo) + "/>\n";
   for (const Scritta& s : forme.Scritte)
     testo += "<text x=\"" + Cifre(s.X) + "\" y=\"" + Cifre(s.Y) + "\" class=\"" + Classe(s.Stile) +
              "\" text-anchor=\"" + Ancora_Svg(s.Posto) + "\">" + In_Xml(s.Testo) + "</text>\n";

@@ -66,6 +66,7 @@ class Pittura {
       Penna(viva, Qt::SquareCap);
       p_.drawLines(altre);
       Curve(viva);
+      Giunti(viva);
     }
   }
 
@@ -127,6 +128,14 @@ class Pittura {
                  curva.Y + curva.Altezza / 2);
       p_.drawPath(via);
     }
+  }
+
+  void Giunti(bool vivi) {
+    p_.setPen(Qt::NoPen);
+    p_.setBrush(vivi ? colori::Scala_Vivo.Testo : colori::Scala_Testo.Testo);
+    for (const Giunto& giunto : rete_.Forme.Giunti)
+      if (Vivo(giunto.Nodo) == vivi)
+        p_.drawEllipse(QPointF(giunto.X, giunto.Y), raggio_giunto, raggio_giunto);
   }
 
   QPainter& p_;

@@ -141,6 +141,48 @@ TEST(Traccia_Forme, EveryAddressStandsBesideItsSymbolAndThePlantsNameAboveIt) {
             (std::vector<std::string>{"+20", "2", ">=W", "I0.0", "Q0.0", "S", "SB1", "VW1"}));
 }
 
+/// Two coils behind two branches: the second branch meets the wire of the second coil.
+TEST(Traccia_Forme, WiresOfOnePointThatCrossAreJoinedByADot) {
+  const Tratteggio_Rete forme =
+      Traccia_Forme(Impaginata("LD I0.0\nO I0.1\n= Q0.0\nS M0.0 1\nR M0.1 1\n"), {});
+  ASSERT_EQ(forme.Giunti.size(), 1);
+  EXPECT_EQ(forme.Giunti[0].X, margine_forme + larghezza_cella);
+  EXPECT_EQ(forme.Giunti[0].Y, altezza_cella + quota_filo);
+  EXPECT_NE(Come_Svg(forme, {}).find("<circle "), std::string::npos);
+  // Where a wire only turns off nothing can be mistaken.
+  EXPECT_TRUE(Traccia_Forme(Impaginata("LD I0.0\nO I0.1\n= Q0.0\n"), {}).Giunti.empty());
+}
+
+TEST(Traccia_Forme, NoUprightWireIsDrawnTwice) {
+  const Tratteggio_Rete forme =
+      Traccia_Forme(Impaginata("LD I0.0\nO I0.1\n= Q0.0\nS M0.0 1\nR M0.1 1\n"), {});
+  const auto diritta = [&](double x) {
+    return std::ranges::count_if(forme.Tratti, [x](const Asta& asta) {
+      return asta.Riquadro < 0 && asta.X1 == x && asta.X2 == x;
+    });
+  };
+  EXPECT_EQ(diritta(margine_forme), 1);
+  EXPECT_EQ(diritta(margine_forme + larghezza_cella), 1);
+}
+
+TEST(Traccia_Forme, ABoxStaysInItsRowsAndNamesItsOperands) {
+  const Disegno disegno = Impaginata("LD I0.0\nMOVW AIW0 VW2\nLD I0.1\n= Q0.0\n");
+  const Tratteggio_Rete forme = Traccia_Forme(
+      disegno, [](const std::string& operando) { return operando == "AIW0" ? "Pos" : ""; });
+  ASSERT_EQ(forme.Cornici.size(), 1);
+  const Cornice& scatola = forme.Cornici[0];
+  const double fondo = scatola.Y + scatola.Altezza;
+  EXPECT_LT(fondo, 2 * altezza_cella);
+  const auto trova = [&](const char* testo) {
+    return *std::ranges::find(forme.Scritte, testo, &Scritta::Testo);
+  };
+  const Scritta nome = trova("Pos");
+  EXPECT_EQ(nome.X, trova("AIW0").X);
+  EXPECT_LT(nome.Y, trova("AIW0").Y);
+  EXPECT_LT(trova("AIW0").Y, trova("VW2").Y);
+  EXPECT_GT(nome.Y, trova("EN").Y + 12);
+}
+
 TEST(Come_Svg, LiveWiresHaveTheirClass) {
   const Disegno disegno = Impaginata("LD I0.0\n= Q0.0\n");
   const Tratteggio_Rete forme = Traccia_Forme(disegno, {});
