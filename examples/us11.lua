@@ -207,7 +207,9 @@ for _, sbarra in ipairs { entrata, uscita } do
     serve(acceso(sbarra.apre), "una manovra può durare fino a 15 secondi")
     guarda(6500)
     sicuro(2, va, ferma(sbarra), "dopo 15 secondi di manovra (da 10 a 16,5) il motore della sbarra di " .. nome .. " deve fermarsi")
-    sicuro(1, va, resta_ferma(sbarra, 20000), "superato il tempo massimo il motore di " .. nome .. " non deve ripartire da solo")
+    local fermo = resta_ferma(sbarra, 20000)
+    premi_e_guarda(sbarra.pulsante)
+    sicuro(1, va, fermo and resta_ferma(sbarra, 1000), "superato il tempo massimo il motore di " .. nome .. " non deve ripartire da solo, né con il suo solo pulsante")
     azzera()
     local si_muove = si_e_mossa(sbarra)
     if not si_muove then
