@@ -5,6 +5,7 @@
 #include <archive_entry.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <fstream>
 #include <memory>
@@ -46,18 +47,21 @@ std::string Nome_Della_Voce(archive_entry* voce) {
   return testo ? testo : "";
 }
 
-/// No project in it may be larger; false beyond that, or when the data is broken.
-bool Estrai(archive* zip, const fs::path& file) {
+/// Why an entry did not become a file; empty when it did. No project may be larger than the limit.
+std::string Estrai(archive* zip, const fs::path& file) {
   std::string byte;
   char blocco[16'384];
   la_ssize_t letti = 0;
   while ((letti = archive_read_data(zip, blocco, sizeof blocco)) > 0) {
     byte.append(blocco, static_cast<std::size_t>(letti));
-    if (byte.size() > consegna_massima) return false;
+    if (byte.size() > consegna_massima) return "è troppo grande";
   }
-  if (letti < 0) return false;
+  if (letti < 0) return "l'archivio è rovinato";
+  errno = 0;
   std::ofstream uscita(file, std::ios::binary);
-  return static_cast<bool>(uscita << byte << std::flush);
+  if (uscita << byte << std::flush) return "";
+  return "impossibile scriverne una copia di lavoro: " +
+         Causa_Disco(std::error_code(errno, std::generic_category()));
 }
 
 /// A path that stays inside its folder.
@@ -96,15 +100,14 @@ std::vector<Consegna> Leggi_Zip(const std::string& file, const fs::path& scratch
     if (!progetto && consegna.Motivo.empty()) continue;
     if (consegna.Motivo.empty()) {
       const fs::path estratto = scratch / (std::to_string(numero) + ".AWL");
-      if (Estrai(zip.get(), estratto)) {
+      consegna.Motivo = Estrai(zip.get(), estratto);
+      if (consegna.Motivo.empty()) {
         std::error_code nessuno;
         fs::last_write_time(estratto,
                             std::chrono::file_clock::from_sys(std::chrono::sys_seconds(
                                 std::chrono::seconds(archive_entry_mtime(voce)))),
                             nessuno);
         consegna.Percorso = Testo_Percorso(estratto);
-      } else {
-        consegna.Motivo = "è troppo grande, o l'archivio è rovinato";
       }
     }
     consegne.push_back(std::move(consegna));

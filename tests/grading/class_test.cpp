@@ -169,6 +169,20 @@ TEST_F(Class, BombsAreNamedAndTheOthersGraded) {
   EXPECT_THAT(out, HasSubstr("ok       sano.AWL"));
 }
 
+TEST_F(Class, ADiskThatFailsWhileCopiesAreMadeIsNamed) {
+  const std::string zip = Zip({{"rossi.AWL", buono}, {"verdi.AWL", buono}});
+  fs::create_directory(cartella / "pieno");
+  fs::create_symlink("/dev/full", cartella / "pieno" / "1.AWL");
+  const auto meta = Leggi_Classe(zip, cartella / "pieno");
+  ASSERT_EQ(meta.size(), 2U);
+  EXPECT_EQ(meta[0].Motivo, "impossibile scriverne una copia di lavoro: il disco è pieno");
+  EXPECT_EQ(meta[0].Percorso, "");
+  EXPECT_EQ(meta[1].Motivo, "");
+  for (const Consegna& consegna : Leggi_Classe(zip, cartella / "manca"))
+    EXPECT_EQ(consegna.Motivo,
+              "impossibile scriverne una copia di lavoro: il file o la cartella non esiste");
+}
+
 TEST_F(Class, TenThousandEntriesAreEnough) {
   std::vector<Voce> voci;
   for (int n = 0; n < voci_massime + 5; ++n) voci.push_back({std::to_string(n) + ".txt", ""});

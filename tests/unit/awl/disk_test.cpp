@@ -6,10 +6,14 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
+#include <cerrno>
 #include <csignal>
+#include <cstring>
 #include <vector>
 
 #include "awl/file_io.h"
@@ -62,6 +66,38 @@ TEST_F(Disk, AReplacedFileKeepsItsGroupAndItsMode) {
   EXPECT_EQ(Leggi_Byte(cartella / "a.AWL"), "nuovo");
   EXPECT_EQ(Stato("a.AWL").st_gid, gruppo);
   EXPECT_EQ(Stato("a.AWL").st_mode & 07777U, 0664U);
+}
+
+// What an access list is on disk: a version, and rows of kind, rights and who.
+struct Voce_Lista {
+  std::uint16_t Genere, Diritti;
+  std::uint32_t Chi;
+};
+struct Lista_Diritti {
+  std::uint32_t Versione = 2;
+  std::array<Voce_Lista, 5> Voci = {{{0x01, 6, ~0U},   // owner
+                                     {0x02, 6, 4711},  // a colleague
+                                     {0x04, 4, ~0U},   // group
+                                     {0x10, 6, ~0U},   // mask
+                                     {0x20, 0, ~0U}}};
+};
+
+TEST_F(Disk, AReplacedFileKeepsItsAccessList) {
+  constexpr const char* nome = "system.posix_acl_access";
+  const Lista_Diritti data;
+  Scrivi_Byte(cartella / "a.AWL", "vecchio");
+  if (::setxattr(Percorso("a.AWL").c_str(), nome, &data, sizeof data, 0) != 0) {
+    ASSERT_EQ(errno, ENOTSUP) << "this file system has lists, and refused one";
+    EXPECT_EQ(Scrivi_File(Percorso("a.AWL"), "nuovo"), "") << "nor does a save need them";
+    return;
+  }
+  EXPECT_EQ(Scrivi_File(Percorso("a.AWL"), "nuovo"), "");
+  EXPECT_EQ(Leggi_Byte(cartella / "a.AWL"), "nuovo");
+  Lista_Diritti letta;
+  letta.Voci = {};
+  ASSERT_EQ(::getxattr(Percorso("a.AWL").c_str(), nome, &letta, sizeof letta),
+            static_cast<ssize_t>(sizeof letta));
+  EXPECT_EQ(std::memcmp(&letta, &data, sizeof data), 0);
 }
 
 TEST_F(Disk, AFileForTheUserAloneIsThatWhateverTheMaskSays) {
