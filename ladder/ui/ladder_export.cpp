@@ -5,13 +5,13 @@
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
-#include <QPdfWriter>
-#include <QSaveFile>
 #include <algorithm>
 #include <cmath>
 
+#include "awl/file_io.h"
 #include "ladder/ui/ladder_painter.h"
 #include "widgets/colours.h"
+#include "widgets/paper.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -99,24 +99,22 @@ QImage Immagine_Scala(const Foglio_Scala& foglio, double scala) {
 
 QString Salva_Scala(const QString& file, const Foglio_Scala& foglio, const QString& titolo,
                     const Nome_Simbolico& nome) {
-  QSaveFile aperto(file);
-  if (!aperto.open(QIODevice::WriteOnly)) return aperto.errorString();
-  bool riuscito = false;
+  QByteArray byte;
   if (file.endsWith(u".svg", Qt::CaseInsensitive)) {
-    const std::string svg = Documento_Svg(Blocchi_Di(foglio), Utf8(titolo), nome);
-    riuscito = aperto.write(svg.data(), static_cast<qint64>(svg.size())) >= 0;
+    byte = QByteArray::fromStdString(Documento_Svg(Blocchi_Di(foglio), Utf8(titolo), nome));
   } else if (file.endsWith(u".png", Qt::CaseInsensitive)) {
     constexpr double finezza = 2;
-    riuscito = Immagine_Scala(foglio, finezza).save(&aperto, "PNG");
+    QBuffer aperto(&byte);
+    aperto.open(QIODevice::WriteOnly);
+    if (!Immagine_Scala(foglio, finezza).save(&aperto, "PNG")) byte.clear();
   } else {
-    QPdfWriter carta(&aperto);
-    carta.setTitle(titolo);
-    carta.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
-    riuscito = Stampa_Scala(carta, foglio, titolo);
+    const QPageLayout carta(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                            QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
+    byte = Come_Pdf(carta, titolo,
+                    [&](QPagedPaintDevice& su) { return Stampa_Scala(su, foglio, titolo); });
   }
-  if (riuscito && aperto.commit()) return {};
-  const QString motivo = aperto.errorString();
-  return motivo.isEmpty() ? QStringLiteral("la scrittura non è riuscita") : motivo;
+  if (byte.isEmpty()) return QStringLiteral("lo schema non si può disegnare");
+  return Q(Scrivi_File(Utf8(file), {byte.data(), static_cast<std::size_t>(byte.size())}));
 }
 
 }  // namespace tavorno

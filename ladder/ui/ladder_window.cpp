@@ -13,11 +13,13 @@
 #include <QToolBar>
 #include <cmath>
 
+#include "awl/file_io.h"
 #include "ladder/typed.h"
 #include "ladder/ui/ladder_access.h"
 #include "ladder/ui/ladder_export.h"
 #include "widgets/file_choice.h"
 #include "widgets/naming.h"
+#include "widgets/paper.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -200,8 +202,16 @@ void FrmScala::Salva(const QString& tipo) {
 void FrmScala::Stampa() {
   QPrinter stampante;
   if (!servizi_.Scegli_Stampante(stampante, this)) return;
-  if (!Stampa_Scala(stampante, vista_->Foglio(), Titolo_Stampa()))
-    servizi_.Avvisa(QStringLiteral("La stampante non accetta la stampa dello schema."));
+  const auto disegna = [this](QPagedPaintDevice& carta) {
+    return Stampa_Scala(carta, vista_->Foglio(), Titolo_Stampa());
+  };
+  const auto scrivi = [](const std::string& file, std::string_view byte) {
+    return Scrivi_File(file, byte);
+  };
+  if (!Stampa_Su(stampante, Titolo_Stampa(), disegna, scrivi))
+    servizi_.Avvisa(
+        QStringLiteral("Lo schema non si può stampare. Controllare che la stampante "
+                       "sia accesa e che il file di stampa si possa scrivere."));
 }
 
 }  // namespace tavorno

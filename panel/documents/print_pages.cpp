@@ -4,7 +4,6 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPrinter>
 #include <algorithm>
 
 #include "widgets/text.h"
@@ -101,24 +100,23 @@ QVector<QStringList> Impagina(const QStringList& testo, int righe) {
   return pagine;
 }
 
-bool Stampa_Testo(QPrinter& stampante, const QString& titolo, const QString& testo) {
-  stampante.setDocName(titolo);
+bool Stampa_Testo(QPagedPaintDevice& carta, const QString& titolo, const QString& testo) {
   QPainter penna;
-  if (!penna.begin(&stampante)) return false;
+  if (!penna.begin(&carta)) return false;
   penna.setFont(Carattere());
-  const QFontMetricsF misure(penna.font(), &stampante);
-  const QRectF area(QPointF(0, 0), stampante.pageRect(QPrinter::DevicePixel).size());
+  const QFontMetricsF misure(penna.font(), &carta);
+  const QRectF area(0, 0, carta.width(), carta.height());
   const Foglio foglio{area, misure.height() * interlinea, misure.ascent()};
   const int colonne = std::max(1, static_cast<int>(area.width() / misure.horizontalAdvance('0')));
   const int righe =
       std::max(1, static_cast<int>(area.height() / foglio.Alto_Riga) - righe_intestazione);
   const QVector<QStringList> pagine = Impagina(Righe_A_Capo(testo, colonne), righe);
   for (qsizetype i = 0; i < pagine.size(); ++i) {
-    if (i > 0 && !stampante.newPage()) return false;
+    if (i > 0 && !carta.newPage()) return false;
     Intestazione(penna, foglio, titolo, Q("Pagina %1 di %2").arg(i + 1).arg(pagine.size()));
     Disegna_Pagina(penna, foglio, pagine[i]);
   }
-  return penna.end() && stampante.printerState() != QPrinter::Error;
+  return penna.end();
 }
 
 }  // namespace tavorno

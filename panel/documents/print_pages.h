@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QVector>
 
-class QPrinter;
+class QPagedPaintDevice;
 
 namespace tavorno {
 
@@ -18,8 +18,8 @@ QStringList Righe_A_Capo(const QString& testo, int colonne);
 /// Pages of at most `righe` lines each; at least one page, which may be empty.
 QVector<QStringList> Impagina(const QStringList& testo, int righe);
 
-/// Prints in a fixed-pitch face, each page headed by `titolo` and its number. False when the device
+/// Draws in a fixed-pitch face, each page headed by `titolo` and its number. False when the device
 /// cannot be opened or gives up a page.
-bool Stampa_Testo(QPrinter& stampante, const QString& titolo, const QString& testo);
+bool Stampa_Testo(QPagedPaintDevice& carta, const QString& titolo, const QString& testo);
 
 }  // namespace tavorno

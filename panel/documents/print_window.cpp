@@ -10,10 +10,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "awl/file_io.h"
 #include "awl/project.h"
 #include "panel/documents/print_pages.h"
 #include "panel/documents/print_text.h"
 #include "widgets/naming.h"
+#include "widgets/paper.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -137,7 +139,13 @@ void FrmStampe::Stampa() {
   // A user who closes the dialog of the printer may still want to change the ticks.
   if (!Chiedi_Stampante()) return;
   const QString titolo = progetto_.File_Titolo.empty() ? Q("NoName.AWL") : Q(progetto_.File_Titolo);
-  if (!Stampa_Testo(*stampante_, titolo, txtList_->toPlainText())) {
+  const auto disegna = [&](QPagedPaintDevice& carta) {
+    return Stampa_Testo(carta, titolo, txtList_->toPlainText());
+  };
+  const auto scrivi = [](const std::string& file, std::string_view byte) {
+    return Scrivi_File(file, byte);
+  };
+  if (!Stampa_Su(*stampante_, titolo, disegna, scrivi)) {
     Avviso avviso;
     avviso.Titolo = "Errore!";
     avviso.Testo =
