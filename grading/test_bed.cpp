@@ -200,7 +200,7 @@ std::int64_t Collaudo::Salta(std::int64_t ms) {
   if (!riposa_) return 0;
   constexpr std::int64_t due = 2;  // lines of two scans are known whatever the period is
   ms = riposo_.Saltabili(
-      std::min({ms, orologio_.Prossimo() - orologio_.Adesso() - 1, scorte_.Ms,
+      std::min({ms, riposo_.Prossimo() - orologio_.Adesso() - 1, scorte_.Ms,
                 scorte_.Righe / std::max<std::int64_t>(riposo_.Righe(due), 1) * due}));
   if (ms <= 0) return 0;
   Consuma(ms);

@@ -72,6 +72,14 @@ void Orologio::Porta_A(std::int64_t istante) {
   Ricalcola();
 }
 
+std::int64_t Orologio::Prossimo(std::initializer_list<const Temporizzatore*> senza) const {
+  std::int64_t primo = Mai;
+  for (const Temporizzatore* timer : timer_) {
+    if (std::ranges::find(senza, timer) == senza.end()) primo = std::min(primo, timer->scadenza_);
+  }
+  return primo;
+}
+
 std::vector<std::int64_t> Orologio::Scadenze() const {
   std::vector<std::int64_t> scadenze;
   for (const Temporizzatore* timer : timer_) {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <limits>
 #include <vector>
 
@@ -20,6 +21,9 @@ class Orologio {
   std::int64_t Adesso() const { return adesso_; }
   /// When the next timer is due; `Mai` when none runs.
   std::int64_t Prossimo() const { return prossimo_; }
+
+  /// The same among those that are not in `senza`.
+  std::int64_t Prossimo(std::initializer_list<const Temporizzatore*> senza) const;
 
   /// When each timer that runs is due, in the order of their making.
   std::vector<std::int64_t> Scadenze() const;

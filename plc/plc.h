@@ -111,6 +111,9 @@ struct Plc : Memoria, Stato_Corsa, Vista_Pannello {
   Giro In_Giro() const { return giro_; }
   /// Counts scans that would have left everything as it is, the last of them now.
   void Salta_Scansioni(std::int64_t scansioni);
+  /// When the next tick is due that changes something, as the CPU stands now: `T100m` ticks for
+  /// nothing while no timer counts, `timIO` while the analog words agree with their channels.
+  std::int64_t Prossimo_Tick() const;
 
   // ---- the whole state (plc_snapshot.cpp) ------------------------------------------------------
 
@@ -128,6 +131,8 @@ struct Plc : Memoria, Stato_Corsa, Vista_Pannello {
   void Scegli_Modo(Modo modo);
   void Fine_Giro();
 
+  bool Timer_Fermi() const;
+  bool Analogici_In_Pari() const;
   void Tick_T100m();
   void Tick_timIO();
 

@@ -51,6 +51,14 @@ class Riposo {
   /// next ones would change nothing.
   bool Scansione_Fatta(std::int64_t righe);
 
+  /// While it rests: when the next tick is due that may end it. A tick that would change nothing
+  /// needs no look behind it. Where what enters is written down, any tick is waited for, so that
+  /// the writing can be played again up to each of them.
+  std::int64_t Prossimo() const {
+    const bool uno_qualsiasi = periodo_ != 1 || plc_.Hook.Entra.Ascoltato();
+    return uno_qualsiasi ? plc_.Tempo.Prossimo() : plc_.Prossimo_Tick();
+  }
+
   /// How many of the next scans may be left out at once: 0 to `scansioni`, and no more than fit
   /// into `N_Cicli`.
   std::int64_t Saltabili(std::int64_t scansioni) const {

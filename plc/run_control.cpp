@@ -227,28 +227,62 @@ void Plc::Salta_Scansioni(std::int64_t scansioni) {
 
 // ---- system clocks ------------------------------------------------------------------------------
 
+namespace {
+constexpr int massimo_timer = 32760;
+constexpr int fondo_scala = 32000;
+constexpr int canali_AI = 3, canali_AQ = 2;
+
+int Portata(Scala scala) {
+  return scala == Scala::Volt_10 ? 10 : 20;
+}
+/// The word of an input channel; it may not fit its cell.
+long long Parola_Analogica(float volt, Scala scala) {
+  return static_cast<long long>(std::floor(volt * double{fondo_scala} / Portata(scala)));
+}
+/// A word times the range of its output channel, which may not fit 32 bits.
+long long Per_Portata(std::int32_t parola, Scala scala) {
+  return static_cast<long long>(parola) * Portata(scala);
+}
+float Volt_In_Uscita(std::int32_t per_portata) {
+  return static_cast<float>(per_portata) / fondo_scala;
+}
+}  // namespace
+
 void Plc::Tick_T100m() {
-  constexpr int massimo = 32760;
   for (Riga_Timer& timer : Mem_T) {
-    if (timer.Conta != 0) timer.Val = static_cast<std::int16_t>(std::min(timer.Val + 1, massimo));
+    if (timer.Conta != 0)
+      timer.Val = static_cast<std::int16_t>(std::min(timer.Val + 1, massimo_timer));
   }
 }
 
+bool Plc::Timer_Fermi() const {
+  return std::ranges::all_of(Mem_T, [](const Riga_Timer& timer) {
+    return timer.Conta == 0 || timer.Val == massimo_timer;
+  });
+}
+
 void Plc::Tick_timIO() {
-  constexpr int fondo_scala = 32000;
-  if (Scelte.opzAI != Scala::Nessuna) {
-    const double portata = Scelte.opzAI == Scala::Volt_10 ? 10 : 20;
-    for (int n = 0; n <= 2; ++n)
-      Mem_AIW[2 * n] =
-          A_32(static_cast<long long>(std::floor(Volt_AI[n] * double{fondo_scala} / portata)),
-               "Mem_AIW");
-  }
-  const int portata = Scelte.opzAQ == Scala::Volt_10 ? 10 : 20;
-  for (int n = 0; n <= 1; ++n)
-    Volt_AQ[n] =
-        static_cast<float>(A_32(static_cast<long long>(Mem_AQW[2 * n]) * portata, "Volt_AQ")) /
-        fondo_scala;
+  for (int n = 0; n < canali_AI && Scelte.opzAI != Scala::Nessuna; ++n)
+    Mem_AIW[2 * n] = A_32(Parola_Analogica(Volt_AI[n], Scelte.opzAI), "Mem_AIW");
+  for (int n = 0; n < canali_AQ; ++n)
+    Volt_AQ[n] = Volt_In_Uscita(A_32(Per_Portata(Mem_AQW[2 * n], Scelte.opzAQ), "Volt_AQ"));
   Segna(Segno_Analogici);
+}
+
+bool Plc::Analogici_In_Pari() const {
+  for (int n = 0; n < canali_AI && Scelte.opzAI != Scala::Nessuna; ++n) {
+    if (Mem_AIW[2 * n] != Parola_Analogica(Volt_AI[n], Scelte.opzAI)) return false;
+  }
+  for (int n = 0; n < canali_AQ; ++n) {
+    const long long prodotto = Per_Portata(Mem_AQW[2 * n], Scelte.opzAQ);
+    const auto uscita = static_cast<std::int32_t>(prodotto);
+    if (uscita != prodotto || Volt_AQ[n] != Volt_In_Uscita(uscita)) return false;
+  }
+  return true;
+}
+
+std::int64_t Plc::Prossimo_Tick() const {
+  return Tempo.Prossimo({Timer_Fermi() ? &T100m : nullptr, Analogici_In_Pari() ? &timIO : nullptr});
 }
 
 }  // namespace tavorno

@@ -81,7 +81,7 @@ bool Corsa::Fa_Passare(std::int64_t scansioni) {
 
 /// How many scans lie ahead before a timer ticks, a hand moves or the time is over.
 std::int64_t Corsa::Scansioni_Senza_Eventi() const {
-  std::int64_t fino_a = std::min(plc_.Tempo.Prossimo(), inizio_ + limiti_.Durata);
+  std::int64_t fino_a = std::min(riposo_.Prossimo(), inizio_ + limiti_.Durata);
   if (prossimo_ingresso_ < Ingressi.size())
     fino_a = std::min(fino_a, inizio_ + Ingressi[prossimo_ingresso_].Ms);
   if (Impianto_Collegato && prossimo_gesto_ < Mani.size())

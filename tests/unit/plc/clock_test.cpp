@@ -52,6 +52,18 @@ TEST_F(Clock, TicksOncePerPeriodWhateverTheSteps) {
   EXPECT_EQ(orologio.Prossimo(), 50);
 }
 
+TEST_F(Clock, TellsWhenTheFirstOfSomeTimersIsDue) {
+  const auto a = Fai('a', 10);
+  const auto b = Fai('b', 25);
+  EXPECT_EQ(orologio.Prossimo({a.get()}), Orologio::Mai);
+  a->Enabled(true);
+  b->Enabled(true);
+  EXPECT_EQ(orologio.Prossimo({}), 10);
+  EXPECT_EQ(orologio.Prossimo({nullptr, b.get()}), 10);
+  EXPECT_EQ(orologio.Prossimo({a.get()}), 25);
+  EXPECT_EQ(orologio.Prossimo({a.get(), b.get()}), Orologio::Mai);
+}
+
 TEST_F(Clock, EnablingAnEnabledTimerChangesNothing) {
   const auto a = Fai('a', 10);
   a->Enabled(true);

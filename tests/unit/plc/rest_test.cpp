@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plc/rest.h"
 
+#include <cstdint>
+
 #include "cpu.h"
 
 namespace tavorno::prova {
@@ -41,6 +43,53 @@ TEST_F(Rest, ComesOnceTwoScansHaveChangedNothing) {
   EXPECT_TRUE(riposo.Riposa());
   EXPECT_EQ(riposo.Righe(5), 15);
   EXPECT_EQ(riposo.Saltabili(5), 5);
+}
+
+TEST_F(Rest, WaitsForNoTickThatWouldChangeNothing) {
+  Avvia({"LD I0.0", "TON T37, +30"});
+  ASSERT_EQ(Scansioni_Fino_Al_Riposo(), 3);
+  EXPECT_EQ(riposo.Prossimo(), plc.tim1.Scadenza());
+  orologio.Avanza(plc.tim1.Scadenza() - orologio.Adesso() - 1);
+  EXPECT_TRUE(riposo.Riposa());
+}
+
+TEST_F(Rest, WaitsForTheTimersWhileOneCounts) {
+  Avvia({"LD SM0.0", "TON T37, +30"});
+  ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
+  EXPECT_EQ(riposo.Prossimo(), plc.T100m.Scadenza());
+  plc.Mem_T[37].Val = 32760;
+  EXPECT_EQ(riposo.Prossimo(), plc.tim1.Scadenza());
+  plc.Mem_T[37].Val = 32761;  // the tick takes it back
+  EXPECT_EQ(riposo.Prossimo(), plc.T100m.Scadenza());
+}
+
+TEST_F(Rest, WaitsForTheAnalogExchangeWhileItHasSomethingToDo) {
+  Avvia({"LD I0.0", "= Q0.0"});
+  ASSERT_EQ(Scansioni_Fino_Al_Riposo(), 3);
+  for (const float volt : {5.0F, -0.5F, 1.0e9F}) {
+    plc.Volt_AI[2] = volt;
+    EXPECT_EQ(riposo.Prossimo(), plc.timIO.Scadenza()) << volt;
+  }
+  plc.Volt_AI[2] = 5;
+  orologio.Avanza(20);
+  EXPECT_EQ(riposo.Prossimo(), plc.tim1.Scadenza());
+  for (const std::int32_t parola : {1, INT32_MAX}) {
+    plc.Mem_AQW[2] = parola;
+    EXPECT_EQ(riposo.Prossimo(), plc.timIO.Scadenza()) << parola;
+  }
+  plc.Mem_AQW[2] = 1;
+  orologio.Avanza(20);
+  EXPECT_EQ(riposo.Prossimo(), plc.tim1.Scadenza());
+}
+
+TEST_F(Rest, WaitsForEachTickWhereWhatEntersIsWrittenDown) {
+  Avvia({"LD I0.0", "= Q0.0"});
+  ASSERT_EQ(Scansioni_Fino_Al_Riposo(), 3);
+  {
+    const Iscrizione ascolto = plc.Hook.Entra.Ascolta([](const Atto&) {});
+    EXPECT_EQ(riposo.Prossimo(), plc.timIO.Scadenza());
+  }
+  EXPECT_EQ(riposo.Prossimo(), plc.tim1.Scadenza());
 }
 
 TEST_F(Rest, NeverComesToWhatGrowsOrTogglesByItself) {
