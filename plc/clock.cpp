@@ -33,26 +33,21 @@ void Orologio::Ricalcola() {
   for (const Temporizzatore* timer : timer_) prossimo_ = std::min(prossimo_, timer->scadenza_);
 }
 
-/// The timer that is due first, not later than `limite`; of several the one made first.
-Temporizzatore* Orologio::Scaduto(std::int64_t limite) const {
-  Temporizzatore* primo = nullptr;
-  for (Temporizzatore* timer : timer_) {
-    if (timer->scadenza_ <= limite && (!primo || timer->scadenza_ < primo->scadenza_))
-      primo = timer;
-  }
-  return primo;
+/// The timer that is due first, of which there must be one; of several the one made first.
+Temporizzatore* Orologio::Primo() const {
+  return *std::ranges::min_element(timer_, {}, &Temporizzatore::scadenza_);
 }
 
 /// Runs the ticks due up to `limite`, each at its own instant, and leaves the clock there.
 void Orologio::Avanza_Con_Tick(std::int64_t fino_a) {
   const Dentro_Un_Tick dentro(in_tick_);
-  while (Temporizzatore* timer = Scaduto(fino_a)) {
+  while (prossimo_ <= fino_a) {
+    Temporizzatore* const timer = Primo();
     adesso_ = std::max(adesso_, timer->scadenza_);
     timer->scadenza_ += timer->intervallo_;
     Esegui(*timer);
   }
   adesso_ = fino_a;
-  Ricalcola();
 }
 
 void Orologio::Porta_A(std::int64_t istante) {
@@ -64,12 +59,13 @@ void Orologio::Porta_A(std::int64_t istante) {
     if (timer->scadenza_ < istante)
       timer->scadenza_ += (istante - timer->scadenza_) / timer->intervallo_ * timer->intervallo_;
   }
+  Ricalcola();
   const Dentro_Un_Tick dentro(in_tick_);
-  while (Temporizzatore* timer = Scaduto(istante)) {
+  while (prossimo_ <= istante) {
+    Temporizzatore* const timer = Primo();
     timer->scadenza_ += timer->intervallo_;
     Esegui(*timer);
   }
-  Ricalcola();
 }
 
 std::int64_t Orologio::Prossimo(std::initializer_list<const Temporizzatore*> senza) const {

@@ -54,7 +54,7 @@ class Orologio {
   void Ricalcola();
   void Avanza_Con_Tick(std::int64_t fino_a);
   void Esegui(const Temporizzatore& timer);
-  Temporizzatore* Scaduto(std::int64_t limite) const;
+  Temporizzatore* Primo() const;
 
   std::int64_t adesso_ = 0;
   std::int64_t prossimo_ = Mai;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "trace/address.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -74,8 +75,9 @@ void Scrivi_Elemento(Elemento& elemento, std::int16_t& preset, Parte_Cella quale
 
 std::optional<Indirizzo> Leggi_Indirizzo(std::string_view testo) {
   const std::string maiuscolo = Maiuscole(testo);
-  const std::size_t lettere = maiuscolo.find_first_of("0123456789");
-  if (lettere == std::string::npos) return {};
+  const auto cifra = std::ranges::find_if(maiuscolo, [](char c) { return c >= '0' && c <= '9'; });
+  if (cifra == maiuscolo.end()) return {};
+  const auto lettere = static_cast<std::size_t>(cifra - maiuscolo.begin());
   const Riga_Area& riga = Riga_Di(Cerca_Area(std::string_view(maiuscolo).substr(0, lettere)));
   if (!Ha_Celle(riga)) return {};
   std::string_view resto = std::string_view(maiuscolo).substr(lettere);
