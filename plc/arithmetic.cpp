@@ -9,6 +9,8 @@ namespace tavorno {
 
 namespace {
 
+// What several instructions share is inlined into each: a call would cost as much as the sum.
+
 // ---- flags --------------------------------------------------------------------------------------
 
 /// Zero and negative, from the result before any limit.
@@ -31,7 +33,8 @@ bool In_16(long long valore) {
 
 // ---- +I, -I: an overflow is flagged and not written ---------------------------------------------
 
-Esito Somma_Algebrica_I(Plc& plc, const Riga_PLC& riga, int segno, const char* nome) {
+[[gnu::always_inline]] inline Esito Somma_Algebrica_I(Plc& plc, const Riga_PLC& riga, int segno,
+                                                      const char* nome) {
   if (!Flusso(plc, riga)) return Esito::Avanti;
   std::int32_t in = 0;
   std::int32_t out = 0;
@@ -59,7 +62,8 @@ Esito Istr_Sottrai_I(Plc& plc, Riga_PLC& riga) {
 
 // ---- *I, /I: an unknown area counts as 0, an overflow is flagged and written as 32767 -----------
 
-void Concludi_Prodotto_I(Plc& plc, const Riga_PLC& riga, std::int32_t risultato) {
+[[gnu::always_inline]] inline void Concludi_Prodotto_I(Plc& plc, const Riga_PLC& riga,
+                                                       std::int32_t risultato) {
   Flag_Z_N(plc, risultato);
   if (In_16(risultato)) {
     plc.Mem_SM[1].Bit[1] = 0;
@@ -95,7 +99,8 @@ Esito Istr_Divi_I(Plc& plc, Riga_PLC& riga) {
 
 // ---- double words: an unknown OUT counts as 0, an unknown IN only in *D and /D ------------------
 
-void Concludi_Doppia(Plc& plc, const Riga_PLC& riga, std::int32_t risultato) {
+[[gnu::always_inline]] inline void Concludi_Doppia(Plc& plc, const Riga_PLC& riga,
+                                                   std::int32_t risultato) {
   Flag_Z_N(plc, risultato);
   plc.Mem_SM[1].Bit[1] = 0;
   Scrivi_Secondo(plc, riga, operandi::doppia_OUT, risultato);

@@ -13,7 +13,7 @@ namespace tavorno {
 /// The line `numero`, which is that of `PC`, without its end.
 [[gnu::always_inline]] inline Esito Plc::Esegui_Ramo(int numero) {
   Riga_PLC& riga = Prog[numero];
-  if (numero == 0) {
+  if (numero == 0) [[unlikely]] {
     StartTimer();
     Aggiorna_IP_Ing();
   }
@@ -49,7 +49,7 @@ int Plc::Esegui_Righe(int massimo) {
       }
       riga = A_16(riga + 1, "PC");
       PC = riga;
-      if (Ferma || fatte >= massimo) {
+      if (Ferma || fatte >= massimo) [[unlikely]] {
         Conta();
         Mostra_Riga();
         return fatte;
