@@ -105,11 +105,11 @@ std::vector<Esito_Progetto> Esamina_Molti(const Incarico& incarico, unsigned pro
   const Interruzione interruzione;
   Esamina_Tutti(
       incarico.Progetti, incarico.Con, processi,
-      [&](const Esito_Progetto& esito) {
+      [&](Esito_Progetto esito) {
         if (terminale) err << "\r\033[K";
         if (righe) Stampa_Riga(out, esito);
         out.flush();
-        esiti.push_back(esito);
+        esiti.push_back(std::move(esito));
       },
       [&](std::size_t fatti) {
         if (!terminale) return;

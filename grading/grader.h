@@ -40,7 +40,7 @@ Esito_Progetto Non_Esaminata(const std::string& percorso, const std::string& mot
 /// Examines many on `processi` threads. `finito` is called in the order of the list, one at a time.
 /// Once `basta` says so no other is begun: those that are left are handed out as not graded.
 void Esamina_Tutti(const std::vector<std::string>& percorsi, const Verifiche& verifiche,
-                   unsigned processi, const std::function<void(const Esito_Progetto&)>& finito,
+                   unsigned processi, const std::function<void(Esito_Progetto)>& finito,
                    const std::function<void(std::size_t)>& avanzamento = {},
                    const std::function<bool()>& basta = {});
 

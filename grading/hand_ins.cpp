@@ -5,6 +5,7 @@
 #include <mutex>
 #include <optional>
 #include <thread>
+#include <utility>
 
 #include "grading/grader.h"
 
@@ -55,7 +56,7 @@ Esito_Progetto Non_Esaminata(const std::string& percorso, const std::string& mot
 }
 
 void Esamina_Tutti(const std::vector<std::string>& percorsi, const Verifiche& verifiche,
-                   unsigned processi, const std::function<void(const Esito_Progetto&)>& finito,
+                   unsigned processi, const std::function<void(Esito_Progetto)>& finito,
                    const std::function<void(std::size_t)>& avanzamento,
                    const std::function<bool()>& basta) {
   Banco_Di_Lavoro lavoro(percorsi.size());
