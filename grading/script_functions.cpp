@@ -4,9 +4,13 @@
 #include "grading/script_functions.h"
 
 #include <algorithm>
+#include <functional>
 #include <lua5.4/lua.hpp>
+#include <map>
 #include <new>
 #include <optional>
+#include <string>
+#include <string_view>
 
 #include "grading/lua_messages.h"
 #include "grading/script.h"
@@ -128,8 +132,15 @@ int Fa_Guasto(lua_State* stato, Esame& esame) {
 // ---- memory -------------------------------------------------------------------------------------
 
 Indirizzo Arg_Indirizzo(lua_State* stato, const char* funzione) {
+  // A script asks for the same few addresses again and again.
+  thread_local std::map<std::string, Indirizzo, std::less<>> letti;
+  constexpr std::size_t abbastanza = 100;
   const std::string_view testo = Arg_Testo(stato, 1, funzione);
-  if (const auto indirizzo = Leggi_Indirizzo(testo)) return *indirizzo;
+  if (const auto letto = letti.find(testo); letto != letti.end()) return letto->second;
+  if (const auto indirizzo = Leggi_Indirizzo(testo)) {
+    if (letti.size() < abbastanza) letti.emplace(testo, *indirizzo);
+    return *indirizzo;
+  }
   throw Errore_Script(std::string(funzione) + ": l'indirizzo \"" + std::string(testo) +
                       "\" non esiste; ci sono " + Indirizzi_Ammessi());
 }
