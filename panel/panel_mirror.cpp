@@ -14,6 +14,7 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QToolButton>
+#include <utility>
 
 #include "panel/controls/cpu_front.h"
 #include "panel/panel_window.h"
@@ -85,6 +86,7 @@ void FrmPLC::Mostra_Durate() {
 
 void FrmPLC::Guarda_Valori(bool accesi) {
   flusso_.Dimentica();
+  flusso_ritrovato_.reset();
   passo_visto_ = {plc_.Lista_Scelta, plc_.PC, plc_.N_Cicli};
   if (!accesi) return c_.listSrc->Mostra_Stati({});
   c_.listSrc->Mostra_Stati([this](int riga) {
@@ -96,12 +98,35 @@ void FrmPLC::Guarda_Valori(bool accesi) {
   Mostra_Valori();
 }
 
+/// The flow of a moment that nobody watched: of one in the past, of the present that was come back
+/// to, of a pause in the middle of a scan. False: the CPU is at no such moment.
+bool FrmPLC::Ritrova_Flusso() {
+  const bool passato = plc_.Hook.Adesso == Vissuto::Passato;
+  const bool tornato = std::exchange(era_passato_, passato) && !passato;
+  if (!Flusso_Al_Momento || plc_.In_Giro() != Giro::Nessuno ||
+      !(passato || tornato || plc_.In_Pausa())) {
+    flusso_ritrovato_.reset();
+    return false;
+  }
+  if (std::exchange(flusso_ritrovato_, plc_.Righe_Fatte) != plc_.Righe_Fatte || tornato)
+    flusso_.Prendi(Flusso_Al_Momento());
+  return true;
+}
+
 /// In a run the flow of one scan in so many is watched; a CPU that waits is watched at each step.
 void FrmPLC::Mostra_Valori() {
+  if (plc_.Hook.Adesso == Vissuto::Replica) return;  // on the way to the moment that will be shown
   constexpr int giri_fra_due = 5;
   const bool aspetta = plc_.PLC_Acceso && plc_.Attivi.CmdStep;
   const Posto_CPU adesso{plc_.Lista_Scelta, plc_.PC, plc_.N_Cicli};
+  const bool passato = plc_.Hook.Adesso == Vissuto::Passato;
   if (!plc_.PLC_Acceso) {
+    flusso_.Dimentica();
+    flusso_ritrovato_.reset();
+    era_passato_ = passato;
+  } else if (Ritrova_Flusso()) {
+    giri_di_valori_ = 0;
+  } else if (passato) {
     flusso_.Dimentica();
   } else if (aspetta) {
     flusso_.Fermo();
@@ -112,7 +137,8 @@ void FrmPLC::Mostra_Valori() {
     flusso_.Chiedi();
   }
   passo_visto_ = adesso;
-  c_.listSrc->Aggiorna_Stati(aspetta ? plc_.PC : -1);
+  const bool ferma = aspetta || (plc_.PLC_Acceso && (passato || plc_.In_Pausa()));
+  c_.listSrc->Aggiorna_Stati(ferma ? plc_.PC : -1);
 }
 
 void FrmPLC::Specchia_Scelte(const std::array<std::string, 2>& interruttori) {

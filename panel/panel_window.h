@@ -70,6 +70,8 @@ class FrmPLC : public QMainWindow {
 
   /// How long the scans take, asked four times a second at most; while it is empty nothing is told.
   std::function<Tempo_Scansioni()> Durate;
+  /// Where power flowed at the moment at which the CPU stands; empty: nobody knows.
+  std::function<std::vector<Flusso_Riga>()> Flusso_Al_Momento;
 
   /// The run commands that work by their keys from other windows of the program too.
   QList<QAction*> Comandi_Ovunque() const;
@@ -109,6 +111,7 @@ class FrmPLC : public QMainWindow {
   void Mostra_Modo();
   void Mostra_Tempo_Acceso();
   void Mostra_Durate();
+  bool Ritrova_Flusso();
   void Mostra_Valori();
   void Guarda_Valori(bool accesi);
 
@@ -126,6 +129,8 @@ class FrmPLC : public QMainWindow {
   };
   Flusso_Righe flusso_{plc_};
   Posto_CPU passo_visto_;
+  std::optional<std::int64_t> flusso_ritrovato_;  // lines executed by the moment it was found for
+  bool era_passato_ = false;
   QElapsedTimer durate_dette_;
   std::int64_t scansioni_dette_ = 0;
   int giri_di_valori_ = 0;  // refreshes since the flow was last asked for

@@ -13,6 +13,7 @@
 
 #include "panel/program_list.h"
 #include "plants/host/host_window.h"
+#include "recorder/past_flow.h"
 #include "recorder/session_file.h"
 #include "widgets/colours.h"
 #include "widgets/file_choice.h"
@@ -81,6 +82,7 @@ Barra_Seduta::Barra_Seduta(FrmPLC& pannello, Plc& plc, Registratore& registrator
     show();
   };
   fermate_.Avvisa = [this](const QString& testo) { Avvisa(testo); };
+  pannello_.Flusso_Al_Momento = [this] { return Flusso_Al_Momento(registratore_); };
   corsa_.Al_Battito = [this](int riga) { pannello_.Controlli().listSrc->Scegli(riga); };
 
   addWidget(riga_);

@@ -58,6 +58,23 @@ bool Ha_Flusso(const Riga_PLC& riga) {
   }
 }
 
+/// The line `prima` was executed, and those to which it jumped; the CPU stands at the next one.
+/// `cima_prima` is the top of the stack that it found.
+void Segna_Eseguita(const Plc& plc, int prima, std::int16_t cima_prima,
+                    std::vector<Flusso_Riga>& noti) {
+  const auto segna = [&](int riga, std::int16_t cima) {
+    if (riga < 0 || static_cast<std::size_t>(riga) >= noti.size()) return;
+    const Riga_PLC& qui = plc.Prog[riga];
+    if (!Ha_Flusso(qui)) return;
+    noti[static_cast<std::size_t>(riga)] =
+        (cima & qui.Abil_SCR) == 1 ? Flusso_Riga::Acceso : Flusso_Riga::Spento;
+  };
+  const int adesso = plc.PC;
+  const bool saltata = adesso != prima + 1 && adesso != 0;
+  segna(prima, saltata ? cima_prima : plc.Stak[0]);
+  if (saltata) segna(adesso - 1, plc.Stak[0]);
+}
+
 }  // namespace
 
 Stato_Operandi Leggi_Operandi(const Plc& plc, const Riga_PLC& riga) {
@@ -91,7 +108,7 @@ void Flusso_Righe::In_Cessione() {
   if (plc_.Hook.Adesso == Vissuto::Replica) return;
   const int riga = plc_.PC;
   if (in_scansione_) {
-    Segna_Eseguita(riga);
+    Segna_Eseguita(plc_, prima_, cima_prima_, nuovi_);
     if (riga == 0) {
       noti_ = std::move(nuovi_);
       ascolta_ = in_scansione_ = false;
@@ -102,20 +119,6 @@ void Flusso_Righe::In_Cessione() {
   if (riga == 0) in_scansione_ = true;
   prima_ = riga;
   cima_prima_ = plc_.Stak[0];
-}
-
-/// The line `prima_` was executed, and those to which it jumped; the next one is `adesso`.
-void Flusso_Righe::Segna_Eseguita(int adesso) {
-  const auto segna = [this](int riga, std::int16_t cima) {
-    if (riga < 0 || static_cast<std::size_t>(riga) >= nuovi_.size()) return;
-    const Riga_PLC& qui = plc_.Prog[riga];
-    if (!Ha_Flusso(qui)) return;
-    nuovi_[static_cast<std::size_t>(riga)] =
-        (cima & qui.Abil_SCR) == 1 ? Flusso_Riga::Acceso : Flusso_Riga::Spento;
-  };
-  const bool saltata = adesso != prima_ + 1 && adesso != 0;
-  segna(prima_, saltata ? cima_prima_ : plc_.Stak[0]);
-  if (saltata) segna(adesso - 1, plc_.Stak[0]);
 }
 
 void Flusso_Righe::Fermo() {
@@ -137,7 +140,7 @@ void Flusso_Righe::Passo() {
   if (eseguita == 0) nuovi_.assign(nuovi_.size(), Flusso_Riga::Ignoto);
   if (prima_ != eseguita) cima_prima_ = plc_.Stak[0];
   prima_ = eseguita;
-  Segna_Eseguita(plc_.PC);
+  Segna_Eseguita(plc_, prima_, cima_prima_, nuovi_);
   noti_ = std::move(nuovi_);
   prima_ = plc_.PC;
   cima_prima_ = plc_.Stak[0];
@@ -148,6 +151,25 @@ void Flusso_Righe::Dimentica() {
   ascolta_ = in_scansione_ = false;
   prima_ = -1;
   noti_.clear();
+}
+
+void Flusso_Righe::Prendi(std::vector<Flusso_Riga> noti) {
+  Dimentica();
+  noti_ = std::move(noti);
+}
+
+void Flusso_Scansione::Guarda(const Plc& plc) {
+  if (plc.Righe_Fatte != righe_ && righe_ >= 0) {
+    noti_.resize(static_cast<std::size_t>(plc.Prog.Righe()), Flusso_Riga::Ignoto);
+    if (prima_ == 0) {
+      std::ranges::fill(noti_, Flusso_Riga::Ignoto);
+      intera_ = true;
+    }
+    Segna_Eseguita(plc, prima_, cima_prima_, noti_);
+  }
+  righe_ = plc.Righe_Fatte;
+  prima_ = plc.PC;
+  cima_prima_ = plc.Stak[0];
 }
 
 }  // namespace tavorno

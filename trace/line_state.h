@@ -24,6 +24,24 @@ Stato_Operandi Leggi_Operandi(const Plc& plc, const Riga_PLC& riga);
 /// enabled. For a jump, what it found.
 enum class Flusso_Riga : std::uint8_t { Ignoto, Spento, Acceso };
 
+/// Where power flowed in the scan that executed the last line, for somebody who looks on between
+/// any two lines.
+class Flusso_Scansione {
+ public:
+  void Guarda(const Plc& plc);
+  /// The scan was watched from its first line on.
+  bool Intera() const { return intera_; }
+  /// By line; those that it did not execute, or not yet, are unknown.
+  const std::vector<Flusso_Riga>& Noti() const { return noti_; }
+
+ private:
+  std::vector<Flusso_Riga> noti_;
+  bool intera_ = false;
+  std::int64_t righe_ = -1;  // executed by then
+  int prima_ = -1;
+  std::int16_t cima_prima_ = 0;
+};
+
 /// Watches where power flows. A run is watched for one scan at a time, when asked to; between two
 /// such scans it costs nothing. Lines that were not executed in it are unknown.
 class Flusso_Righe {
@@ -40,13 +58,14 @@ class Flusso_Righe {
   void Passo();
   /// Nothing is known any more, and nobody listens.
   void Dimentica();
+  /// What somebody else has found out, by line; nobody listens.
+  void Prendi(std::vector<Flusso_Riga> noti);
 
   Flusso_Riga Di(int riga) const;
   bool In_Ascolto() const { return ascolta_; }
 
  private:
   void In_Cessione();
-  void Segna_Eseguita(int riga);
 
   Plc& plc_;
   std::vector<Flusso_Riga> noti_, nuovi_;
