@@ -258,8 +258,15 @@ FrmTempi& Finestre::Tempi() {
     nuovo->addActions(pannello_.Comandi_Di_Vista());
     Segui_Testo(*nuovo);
     nuovo->Mostra_Aiuto = [this] { Mostra_Aiuto(guida_.Dir_Help + "Tempi.htm"); };
+    nuovo->Rileggi = [this](const std::vector<Segnale>& segnali) {
+      return Rileggi ? Rileggi(segnali) : nullptr;
+    };
+    nuovo->Riempi();
     nuovo->Riporta = [this](std::int64_t ms) {
       if (Torna_A) Torna_A(ms);
+    };
+    nuovo->Chi_E_Stato = [this](std::int64_t ms, const std::string& indirizzo) {
+      if (Chi_E_Stato) Chi_E_Stato(ms, indirizzo);
     };
     return nuovo;
   });

@@ -34,6 +34,8 @@ class FrmSetPLC;
 class FrmSimAI;
 class FrmStatiL;
 class FrmTempi;
+class Rilettura;
+struct Segnale;
 
 /// The windows beside the panel. Each is made when it is first asked for and thrown away when it is
 /// closed, so it always starts from its defaults.
@@ -71,8 +73,12 @@ class Finestre {
 
   /// The host window of the open plant, or nullptr.
   Finestra_Impianto* Impianto() const;
+  /// What the session was up to now, for the timing diagram; empty: nobody knows.
+  std::function<std::unique_ptr<Rilettura>(const std::vector<Segnale>& segnali)> Rileggi;
   /// Takes the session back to what the timing diagram shows at a moment; empty: nobody can.
   std::function<void(std::int64_t ms)> Torna_A;
+  /// Takes it back to the last change of a cell before that moment.
+  std::function<void(std::int64_t ms, const std::string& indirizzo)> Chi_E_Stato;
   /// Where the active cursor of the open diagram stands.
   std::optional<std::int64_t> Cursore_Del_Diagramma() const;
   /// Windows that hold something of the CPU by themselves show it as it is now.

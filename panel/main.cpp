@@ -19,6 +19,7 @@
 #include "panel/session_bar.h"
 #include "panel/verification.h"
 #include "recorder/recorder.h"
+#include "recorder/rereading.h"
 #include "widgets/message_box.h"
 
 using namespace tavorno;
@@ -73,6 +74,14 @@ int main(int argc, char** argv) {
   seduta.Cursore_Del_Diagramma = [&finestre] { return finestre.Cursore_Del_Diagramma(); };
   seduta.Specchia_Altre = [&finestre] { finestre.Specchia(); };
   finestre.Torna_A = [&seduta](std::int64_t ms) { seduta.Torna_A(ms); };
+  finestre.Chi_E_Stato = [&seduta](std::int64_t ms, const std::string& indirizzo) {
+    seduta.Chi_E_Stato_A(ms, indirizzo);
+  };
+  finestre.Rileggi = [&registratore](const std::vector<Segnale>& segnali) {
+    // While a film is shown, the journal is that of the film.
+    return registratore.In_Proiezione() ? nullptr
+                                        : std::make_unique<Rilettura>(registratore, segnali);
+  };
   finestre.Al_Presente = [&seduta] { seduta.Al_Presente(); };
   const Sala_Verifica sala(pannello, plc, progetto, registratore, corsa, finestre, cartella,
                            guida.Dir_Help);

@@ -261,6 +261,15 @@ void Barra_Seduta::Torna_A(std::int64_t ms) {
   Indietro([this, ms] { return registratore_.Vai_A_Vista(ms); });
 }
 
+void Barra_Seduta::Chi_E_Stato_A(std::int64_t ms, const std::string& indirizzo) {
+  Indietro([this, ms, indirizzo] {
+    if (!registratore_.Vai_A_Vista(ms)) return false;
+    bit_->setText(Q(indirizzo));
+    QTimer::singleShot(0, this, [this] { Chi_E_Stato(); });
+    return true;
+  });
+}
+
 void Barra_Seduta::Chi_E_Stato() {
   const auto dove = Leggi_Indirizzo(Utf8(bit_->text().trimmed()));
   if (!dove)

@@ -37,6 +37,8 @@ class Barra_Seduta : public QToolBar {
 
   /// To what the timing diagram shows at that moment of the clock.
   void Torna_A(std::int64_t ms);
+  /// To the last change before it of the cell at that address, marking the line that made it.
+  void Chi_E_Stato_A(std::int64_t ms, const std::string& indirizzo);
   /// Where the cursor of the open diagram stands; empty: no diagram, or no cursor.
   std::function<std::optional<std::int64_t>()> Cursore_Del_Diagramma;
   /// Other windows that hold something by themselves are to show what the CPU is now.

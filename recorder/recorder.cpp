@@ -131,6 +131,17 @@ Seduta_Registrata Registratore::Registrata() {
   return {Titolo, tappe_.front().Programma, tappe_.front().Stato, giornale_};
 }
 
+Seduta_Registrata Registratore::Dal_Primo() {
+  Seduta_Registrata tutta = Registrata();
+  const Tappa& prima = Tappa_Prima(primo_);
+  const Tappa& inizio =
+      prima.Apertura >= 0 ? tappe_[static_cast<std::size_t>(prima.Apertura)] : prima;
+  tutta.Programma = inizio.Programma;
+  tutta.Stato = inizio.Stato;
+  tutta.Voci.Inizio = inizio.Dove;
+  return tutta;
+}
+
 int Registratore::Impianto_Di(const Seduta_Registrata& registrazione) {
   Lettore_Giornale lettore(registrazione.Voci, registrazione.Voci.Inizio);
   while (const auto voce = lettore.Prossima()) {

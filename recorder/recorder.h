@@ -71,6 +71,8 @@ class Registratore {
 
   /// What has been written down, up to now.
   Seduta_Registrata Registrata();
+  /// The same from the last place before `Primo` on at which no plant was open.
+  Seduta_Registrata Dal_Primo();
   std::string Titolo;
 
   // ---- the past --------------------------------------------------------------------------------

@@ -51,6 +51,30 @@ void Registrazione::Fai_Posto() {
   tenuti_ -= prima - onda.Cambi();
 }
 
+void Registrazione::Comincia(std::int64_t ms) {
+  const bool vuota = Vuota();
+  inizio_ = vuota ? ms : std::min(inizio_, ms);
+  if (vuota) fine_ = ms;
+}
+
+void Registrazione::Anteponi(const Registrazione& prima) {
+  if (prima.Vuota()) return;
+  fine_ = Vuota() ? prima.fine_ : std::max(fine_, prima.fine_);
+  inizio_ = std::min(inizio_, prima.inizio_);
+  for (Riga& riga : righe_) {
+    const auto sua = riga.Viva ? prima.Cerca(riga.Chi.Indirizzo) : std::nullopt;
+    if (!sua) continue;
+    const std::size_t cambi = riga.Quando.Cambi();
+    riga.Quando.Anteponi(prima.Quando(*sua));
+    tenuti_ += riga.Quando.Cambi() - cambi;
+    cambi_ += static_cast<std::int64_t>(riga.Quando.Cambi() - cambi);
+    if (cambi == 0 && !riga.Quando.Vuota())
+      riga.Ultimo = riga.Quando.Valore(riga.Quando.Cambi() - 1);
+  }
+  scansioni_.Anteponi(prima.scansioni_);
+  while (tenuti_ > Cambi_Massimi) Fai_Posto();
+}
+
 void Registrazione::Taglia(std::int64_t ms) {
   for (Riga& riga : righe_) {
     const std::size_t prima = riga.Quando.Cambi();

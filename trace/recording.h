@@ -38,6 +38,12 @@ class Registrazione {
   std::int64_t Fine() const { return Vuota() ? inizio_ : fine_; }
   std::int64_t Cambi() const { return cambi_; }  ///< in all that was ever recorded
 
+  /// It is said to begin at `ms`, of which something may be told later; not after it has begun.
+  void Comincia(std::int64_t ms);
+  /// What another one recorded of the same signals, by their addresses, before they were recorded
+  /// here.
+  void Anteponi(const Registrazione& prima);
+
   /// What came after `ms` did not happen: the run goes on from there.
   void Taglia(std::int64_t ms);
 

@@ -168,6 +168,24 @@ void Onda::Dimentica_Prima(std::int64_t ms) {
   Rifai_Da(0);
 }
 
+void Onda::Anteponi(const Onda& prima) {
+  if (Vuota()) {
+    *this = prima;
+    return;
+  }
+  if (prima.Vuota() || prima.Inizio() >= Inizio()) return;
+  Onda intera = prima;
+  intera.Taglia_Dopo(Inizio() - 1);
+  // Where this one began there is an edge only if the value was another one.
+  const std::size_t uguali = Uguali(intera.valori_.back(), valori_.front()) ? 1 : 0;
+  intera.ms_.insert(intera.ms_.end(), ms_.begin() + Posto(uguali, ms_), ms_.end());
+  intera.valori_.insert(intera.valori_.end(), valori_.begin() + Posto(uguali, valori_),
+                        valori_.end());
+  intera.livelli_.clear();
+  intera.Rifai_Da(0);
+  *this = std::move(intera);
+}
+
 // ---- scans --------------------------------------------------------------------------------------
 
 void Scansioni::Una(std::int64_t ms) {
@@ -227,6 +245,15 @@ void Scansioni::Taglia_Dopo(std::int64_t ms) {
   if (serie_.empty()) return;
   Serie& ultima = serie_.back();
   if (ultima.Ultimo() > ms) ultima.Quante = (ms - ultima.Primo) / ultima.Passo + 1;
+}
+
+void Scansioni::Anteponi(Scansioni prima) {
+  if (serie_.empty()) {
+    *this = std::move(prima);
+    return;
+  }
+  prima.Taglia_Dopo(serie_.front().Primo - 1);
+  serie_.insert(serie_.begin(), prima.serie_.begin(), prima.serie_.end());
 }
 
 }  // namespace tavorno

@@ -45,6 +45,8 @@ class Onda {
   /// Forgets what happened after `ms`, or what happened long before it.
   void Taglia_Dopo(std::int64_t ms);
   void Dimentica_Prima(std::int64_t ms);
+  /// What another one knows of the time before this one begins.
+  void Anteponi(const Onda& prima);
 
  private:
   using Coppia = std::pair<double, double>;
@@ -66,6 +68,8 @@ class Scansioni {
   /// The beginnings from `da` to `a`; none at all when there are more than `massime`.
   std::vector<std::int64_t> Fra(std::int64_t da, std::int64_t a, std::size_t massime) const;
   void Taglia_Dopo(std::int64_t ms);
+  /// Those that another one knows from before these.
+  void Anteponi(Scansioni prima);
 
  private:
   struct Serie {

@@ -182,10 +182,19 @@ void Tela_Tempi::Porta_Cursore(const QPointF& punto, bool libero) {
   Di_Mossa();
 }
 
+void Tela_Tempi::Scegli_Sotto(const QPointF& punto) {
+  const auto riga = Riga_Sotto(punto.y());
+  if (!riga) return;
+  const auto righe = d_.Righe();
+  for (std::size_t n = 0; n < righe.size(); ++n) {
+    if (righe[n].Gruppo == riga->Gruppo && righe[n].Voce == riga->Voce) d_.Scegli(n);
+  }
+}
+
 void Tela_Tempi::mousePressEvent(QMouseEvent* evento) {
   const QPointF punto = (evento->position() / scala_);
   const bool nei_nomi = punto.x() < Misura().Nomi;
-  preso_ = punto;
+  preso_ = premuto_ = punto;
   if (std::abs(punto.x() - Misura().Nomi) <= 3) {
     trascina_ = Trascina::Colonna;
     return;
@@ -196,16 +205,11 @@ void Tela_Tempi::mousePressEvent(QMouseEvent* evento) {
     return;
   }
   if (evento->button() != Qt::LeftButton) return;
+  Scegli_Sotto(punto);
   const auto riga = Riga_Sotto(punto.y());
-  if (riga) {
-    const auto righe = d_.Righe();
-    for (std::size_t n = 0; n < righe.size(); ++n) {
-      if (righe[n].Gruppo == riga->Gruppo && righe[n].Voce == riga->Voce) d_.Scegli(n);
-    }
-    if (riga->Titolo() && nei_nomi) {
-      d_.Piega();
-      Scorri(scorrimento_);
-    }
+  if (riga && riga->Titolo() && nei_nomi) {
+    d_.Piega();
+    Scorri(scorrimento_);
   }
   if (nei_nomi) return Di_Mossa();
   const auto preso = Cursore_Sotto(punto.x());
@@ -242,9 +246,30 @@ void Tela_Tempi::mouseMoveEvent(QMouseEvent* evento) {
   setCursor(confine || cursore ? Qt::SplitHCursor : Qt::ArrowCursor);
 }
 
-void Tela_Tempi::mouseReleaseEvent(QMouseEvent*) {
+/// The right button moves time when it is dragged, and asks for the menu when it is not.
+void Tela_Tempi::mouseReleaseEvent(QMouseEvent* evento) {
   trascina_ = Trascina::Niente;
   unsetCursor();
+  const QPointF punto = (evento->position() / scala_);
+  const bool fermo = (punto - premuto_).manhattanLength() <= presa;
+  if (evento->button() != Qt::RightButton || !fermo || !Vuole_Menu) return;
+  Scegli_Sotto(punto);
+  if (punto.x() >= Misura().Nomi) Porta_Cursore(punto, false);
+  Di_Mossa();
+  Vuole_Menu(evento->globalPosition().toPoint());
+}
+
+/// The mouse has its say above; this is the key.
+void Tela_Tempi::contextMenuEvent(QContextMenuEvent* evento) {
+  if (evento->reason() != QContextMenuEvent::Keyboard || !Vuole_Menu) return;
+  const double x = d_.Posto(d_.Attivo) ? d_.Vista.X(static_cast<double>(*d_.Posto(d_.Attivo)))
+                                       : d_.Vista.Larga / 2;
+  const auto riga = d_.Riga_Scelta();
+  const double y = riga ? riga->Y + riga->Alta - scorrimento_ : 0;
+  Vuole_Menu(mapToGlobal((QPointF(Misura().Nomi + std::clamp(x, 0.0, d_.Vista.Larga),
+                                  std::clamp(Misura_Disegno::Asse + y, 0.0, Alta())) *
+                          scala_)
+                             .toPoint()));
 }
 
 void Tela_Tempi::mouseDoubleClickEvent(QMouseEvent* evento) {

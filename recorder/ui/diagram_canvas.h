@@ -21,6 +21,9 @@ class Tela_Tempi : public QWidget {
 
   std::function<void()> Mossa;          ///< time, a cursor, the selection or the rows changed
   std::function<void()> Vuole_Segnali;  ///< a double click where there is nothing
+  /// A click of the right button, or the Menu key, at a point of the screen. Row and moment under
+  /// the mouse are selected already.
+  std::function<void(QPoint dove)> Vuole_Menu;
 
   Misura_Disegno Misura() const;
   /// Of the rows, pixels; held within what there is.
@@ -45,12 +48,14 @@ class Tela_Tempi : public QWidget {
   void mouseReleaseEvent(QMouseEvent* evento) override;
   void mouseDoubleClickEvent(QMouseEvent* evento) override;
   void wheelEvent(QWheelEvent* evento) override;
+  void contextMenuEvent(QContextMenuEvent* evento) override;
 
  private:
   enum class Trascina : std::uint8_t { Niente, Cursore, Tempo, Colonna };
 
   std::optional<Riga_Diagramma> Riga_Sotto(double y) const;
   std::optional<Diagramma_Tempi::Cursore> Cursore_Sotto(double x) const;
+  void Scegli_Sotto(const QPointF& punto);
   void Porta_Cursore(const QPointF& punto, bool libero);
   void Di_Mossa();
   double Larga() const { return width() / scala_; }
@@ -61,7 +66,7 @@ class Tela_Tempi : public QWidget {
   double costo_ = 0;
   double scala_ = 1;
   Trascina trascina_ = Trascina::Niente;
-  QPointF preso_;
+  QPointF preso_, premuto_;
 };
 
 }  // namespace tavorno

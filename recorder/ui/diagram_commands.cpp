@@ -3,8 +3,10 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 #include "plants/exercises.h"
 #include "recorder/ui/diagram_window.h"
@@ -20,7 +22,7 @@ constexpr double parte_di_pagina = 10;  // of the width, that an arrow moves
 }  // namespace
 
 struct Tabella_Comandi_Tempi {
-  static constexpr std::array<Comando_Tempi, 35> Righe = {{
+  static constexpr std::array<Comando_Tempi, 36> Righe = {{
       {"cmdDiretta", "Tempi_Diretta", "Space", "Segue il presente, o si ferma", &FrmTempi::Diretta,
        true},
       {"cmdTrigger", "Tempi_Trigger", "T",
@@ -38,6 +40,9 @@ struct Tabella_Comandi_Tempi {
       {"cmdB", "Tempi_B", "B", "Cursore B in mezzo alla finestra", &FrmTempi::Cursore_B},
       {"cmdTorna", "Tempi_Torna", "V", "Riporta la CPU e l'impianto all'istante del cursore",
        &FrmTempi::Torna},
+      {"cmdChi", "Tempi_Chi", "W",
+       "Chi è stato? Torna all'ultimo cambiamento del segnale scelto, e segna la riga",
+       &FrmTempi::Chi},
       {"cmdScansioni", "Tempi_Scansioni", "G", "Linee dove inizia ogni scansione",
        &FrmTempi::Scansioni_Si_No, true, true},
       {"cmdForma", "Tempi_Forma", "C", "Il valore scelto come curva, o come numeri",
@@ -170,6 +175,46 @@ void FrmTempi::Torna() {
   if (Riporta) Riporta(std::clamp(*cursore, registrazione_.Inizio(), registrazione_.Fine()));
 }
 
+void FrmTempi::Chi() {
+  const auto riga = diagramma_.Riga_Scelta();
+  const Segnale* segnale = riga ? diagramma_.Segnale_Di(*riga) : nullptr;
+  if (segnale == nullptr) return Di(QStringLiteral("Prima scegli un segnale, con un clic."));
+  const std::int64_t ms = diagramma_.Posto(diagramma_.Attivo)
+                              .value_or(diagramma_.Passato.value_or(plc_.Tempo.Adesso()));
+  if (Chi_E_Stato)
+    Chi_E_Stato(std::clamp(ms, registrazione_.Inizio(), registrazione_.Fine()), segnale->Indirizzo);
+}
+
+/// What one asks of the row and the moment under the mouse.
+void FrmTempi::Mostra_Menu(QPoint dove) {
+  auto* menu = new QMenu(this);
+  menu->setObjectName(QStringLiteral("menuTempi"));
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->setToolTipsVisible(true);
+  const struct {
+    const char *Nome, *Testo;
+  } voci[] = {
+      {"cmdChi", "&Chi è stato?"},
+      {"cmdTorna", "&Torna a questo istante"},
+      {"cmdPrima", "Fronte &precedente"},
+      {"cmdDopo", "Prossimo &fronte"},
+      {"cmdForma", "Come cur&va o come numeri"},
+      {"cmdTogli", "T&oglie il segnale"},
+      {"cmdSegnali", "&Segnali..."},
+  };
+  for (const auto& riga : voci) {
+    const auto& comandi = Comandi();
+    const auto comando = std::ranges::find_if(
+        comandi, [&](const Comando_Tempi& uno) { return std::string_view(uno.Nome) == riga.Nome; });
+    QAction* sua = azioni_[static_cast<std::size_t>(comando - comandi.begin())];
+    QAction* voce = menu->addAction(sua->icon(), Q(riga.Testo), sua, &QAction::trigger);
+    voce->setObjectName(Q(riga.Nome));
+    voce->setShortcut(QKeySequence(Q(comando->Tasti).split(' ').first()));
+    voce->setToolTip(sua->toolTip());
+  }
+  menu->popup(dove);
+}
+
 void FrmTempi::Senza_Cursori() {
   diagramma_.Togli_Cursori();
 }
@@ -199,11 +244,13 @@ std::optional<Condizione> FrmTempi::Leggi() {
 void FrmTempi::Cerca(int verso) {
   const auto condizione = Leggi();
   if (!condizione) return;
+  const std::size_t prima = diagramma_.Mostrati().size();
   if (diagramma_.Cerca(*condizione, verso))
     Di("Trovato a " + Q(Testo_Istante(*diagramma_.Trovato - registrazione_.Inizio())) + ".");
   else
     Di(verso > 0 ? QStringLiteral("Dopo il cursore non diventa mai vera.")
                  : QStringLiteral("Prima del cursore non diventa mai vera."));
+  if (diagramma_.Mostrati().size() != prima) Riempi();
 }
 
 void FrmTempi::Cerca_Dopo() {
@@ -284,6 +331,7 @@ void FrmTempi::Segnali() {
   if (!Scegli_Segnali(scelti)) return;
   diagramma_.Mostra_Solo(scelti);
   sonda_.Guarda();
+  Riempi();
 }
 
 // ---- the rest -----------------------------------------------------------------------------------

@@ -29,6 +29,9 @@ namespace {
 
 // A running program shares its thread with the pictures: they take one part in so many of it.
 constexpr double parte_del_tempo = 50;
+// And with the replay of what went before, which has more where nothing else is to be done.
+constexpr auto fetta_in_corsa = std::chrono::microseconds{1500};
+constexpr auto fetta_da_ferma = std::chrono::milliseconds{20};
 constexpr double secondi_iniziali = 10;
 constexpr double punti_di_barra = 10'000;  // of the scroll bar of time, for the whole recording
 
@@ -91,6 +94,7 @@ FrmTempi::FrmTempi(Plc& plc, const Esercizio* impianto)
 
   tela_->Mossa = [this] { Mosso(); };
   tela_->Vuole_Segnali = [this] { Segnali(); };
+  tela_->Vuole_Menu = [this](QPoint dove) { Mostra_Menu(dove); };
   connect(scorri_righe_, &QScrollBar::valueChanged, this, [this](int y) { tela_->Scorri(y); });
   connect(scorri_tempo_, &QScrollBar::valueChanged, this, [this](int posto) {
     const auto durata = static_cast<double>(registrazione_.Fine() - registrazione_.Inizio());
@@ -119,6 +123,7 @@ void FrmTempi::Riparti(const Esercizio* impianto) {
   diagramma_.Mostra_Solo(Segnali_Di(Righe_Di(impianto_), plc_));
   iniziali_ = diagramma_.Mostrati();
   sonda_.Guarda();
+  Riempi();
   Ridisegna();
 }
 
@@ -203,10 +208,32 @@ QWidget* FrmTempi::Crea_Ricerca() {
   return ricerca;
 }
 
+// ---- what went before ---------------------------------------------------------------------------
+
+void FrmTempi::Riempi() {
+  rilettura_ = Rileggi ? Rileggi(diagramma_.Mostrati()) : nullptr;
+  if (!rilettura_) return;
+  registrazione_.Comincia(rilettura_->Da());
+  diagramma_.Segui();
+}
+
+void FrmTempi::Riempi_Ancora() {
+  if (!rilettura_ || plc_.Hook.Adesso == Vissuto::Replica) return;
+  const bool in_corsa = plc_.In_Giro() != Giro::Nessuno;
+  if (!rilettura_->Avanti(in_corsa ? std::chrono::nanoseconds{fetta_in_corsa} : fetta_da_ferma)) {
+    registrazione_.Anteponi(rilettura_->Dati());
+    rilettura_.reset();
+    diagramma_.Segui();
+    Ridisegna();
+  }
+  Scrivi_Stato();
+}
+
 // ---- showing ------------------------------------------------------------------------------------
 
 void FrmTempi::Aggiorna() {
   sonda_.Guarda();
+  Riempi_Ancora();
   std::optional<std::int64_t> visto;
   if (plc_.Hook.Adesso == Vissuto::Passato) visto = plc_.Tempo.Adesso();
   if (std::exchange(diagramma_.Passato, visto) != visto) Ridisegna();
@@ -287,7 +314,10 @@ void FrmTempi::Scrivi_Stato() {
   etCursori_->setToolTip(etCursori_->text());
   const auto larga =
       static_cast<std::int64_t>(std::llround(diagramma_.Vista.A() - diagramma_.Vista.Da));
-  etVista_->setText("finestra di " + Q(Testo_Durata(larga)) + "  ·  " +
+  const QString riempie = rilettura_ ? QStringLiteral("rilegge il passato: %1 %  ·  ")
+                                           .arg(rilettura_->Fatta() * 100, 0, 'f', 0)
+                                     : QString();
+  etVista_->setText(riempie + "finestra di " + Q(Testo_Durata(larga)) + "  ·  " +
                     (diagramma_.Armato()     ? QStringLiteral("trigger armato")
                      : diagramma_.In_Diretta ? QStringLiteral("in diretta")
                                              : QStringLiteral("ferma")));

@@ -3,9 +3,11 @@
 
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <span>
 
 #include "plc/hooks.h"
+#include "recorder/rereading.h"
 #include "recorder/ui/diagram_canvas.h"
 #include "trace/probe.h"
 
@@ -44,9 +46,18 @@ class FrmTempi : public QWidget {
   /// Another program was loaded: its signals, unless others were chosen meanwhile.
   void Programma_Caricato();
 
+  /// What the session was before these signals were recorded: a replay of it, or nullptr where
+  /// there is none. Empty: nobody knows.
+  std::function<std::unique_ptr<Rilettura>(const std::vector<Segnale>& segnali)> Rileggi;
+  /// Begins to fill in what is not recorded yet; `Aggiorna` goes on with it, a slice at a time.
+  void Riempi();
+  bool Si_Riempie() const { return rilettura_ != nullptr; }
+
   std::function<void()> Mostra_Aiuto;
   /// Takes CPU and plant back to what is seen at that moment. Empty: nobody can.
   std::function<void(std::int64_t ms)> Riporta;
+  /// Takes them back to the last change of that cell before it, and marks the line that made it.
+  std::function<void(std::int64_t ms, const std::string& indirizzo)> Chi_E_Stato;
   /// Asks where to save a file of a type ("svg", "png", "vcd"); empty: nowhere.
   std::function<QString(const QString& tipo)> Chiedi_File;
   std::function<void(const Avviso&)> Avvisa;
@@ -77,6 +88,7 @@ class FrmTempi : public QWidget {
   QToolBar* Crea_Barra_Tempi();
   QWidget* Crea_Ricerca();
   void Mosso();
+  void Riempi_Ancora();
   void Scrivi_Stato();
   void Mostra_Barre();
   void Di(const QString& messaggio);
@@ -94,6 +106,7 @@ class FrmTempi : public QWidget {
   void Cursore_A();
   void Cursore_B();
   void Torna();
+  void Chi();
   void Senza_Cursori();
   void Cerca_Dopo();
   void Cerca_Prima();
@@ -121,6 +134,7 @@ class FrmTempi : public QWidget {
   std::optional<Condizione> Leggi();
   void Cerca(int verso);
   void Salva_Come(const QString& tipo);
+  void Mostra_Menu(QPoint dove);
 
   Plc& plc_;
   const Esercizio* impianto_;
@@ -137,6 +151,7 @@ class FrmTempi : public QWidget {
   QString messaggio_;             // of the last search, until something else is done
   std::int64_t visti_ = -1, fine_vista_ = -1;
   std::vector<Segnale> iniziali_;  // as `Riparti` chose them
+  std::unique_ptr<Rilettura> rilettura_;
 };
 
 }  // namespace tavorno

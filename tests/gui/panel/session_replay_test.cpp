@@ -17,7 +17,9 @@
 #include <QToolButton>
 #include <cstdlib>
 #include <random>
+#include <set>
 
+#include "ladder/ui/ladder_window.h"
 #include "panel/child_windows.h"
 #include "panel/controls/cpu_front.h"
 #include "panel/panel_window.h"
@@ -28,6 +30,7 @@
 #include "plants/host/fault_panel.h"
 #include "plants/host/host_window.h"
 #include "plants/host/picture_widget.h"
+#include "recorder/rereading.h"
 #include "recorder/session.h"
 #include "recorder/session_file.h"
 #include "recorder/ui/diagram_window.h"
@@ -50,6 +53,12 @@ class Finestre_A_Caso {
     barra.Cursore_Del_Diagramma = [this] { return finestre.Cursore_Del_Diagramma(); };
     barra.Specchia_Altre = [this] { finestre.Specchia(); };
     finestre.Torna_A = [this](std::int64_t ms) { barra.Torna_A(ms); };
+    finestre.Chi_E_Stato = [this](std::int64_t ms, const std::string& indirizzo) {
+      barra.Chi_E_Stato_A(ms, indirizzo);
+    };
+    finestre.Rileggi = [this](const std::vector<Segnale>& segnali) {
+      return std::make_unique<Rilettura>(registratore, segnali);
+    };
     finestre.Al_Presente = [this] { barra.Al_Presente(); };
     corsa.Ferma();  // its clock is the real one; ours is moved by hand
     corsa.Attesa = false;
@@ -92,6 +101,7 @@ class Finestre_A_Caso {
   Finestre finestre{pannello, plc, seduta.progetto, guida};
   Barra_Seduta barra{pannello, plc, registratore, corsa};
   std::vector<std::string> avvisi;
+  bool Senza_Caso = false;                         ///< a run whose hands are somebody else's
   std::function<void()> Dopo_Una_Mossa = [] {};    // while the CPU stands
   int forzate = 0, guasti_messi = 0, passati = 0;  // so often it was done
 
@@ -237,6 +247,7 @@ class Finestre_A_Caso {
   int Cedi() {
     if (plc.Hook.Adesso != Vissuto::Presente) return 1'000'000;
     Tempo();
+    if (Senza_Caso) return 1;
     if (Numero(3) == 0) Mossa();
     if (--rimaste_ <= 0 || Numero(50) == 0) plc.Entra(Comando_Corsa::Pausa);
     return static_cast<int>(1 + Numero(20));
@@ -368,6 +379,18 @@ TEST(SessionInTheWindows, GoesBackToWhatTheDiagramShowsAtItsCursor) {
     }
   }
   EXPECT_GT(guardati, 100);
+  // Who did that? From the diagram, of the signal that is selected there.
+  tempi->Dati().Scegli(0);
+  while (tempi->Dati().Riga_Scelta() &&
+         (tempi->Dati().Segnale_Di(*tempi->Dati().Riga_Scelta()) == nullptr ||
+          tempi->Dati().Segnale_Di(*tempi->Dati().Riga_Scelta())->Indirizzo != "VW10"))
+    tempi->Dati().Scegli_Accanto(1);
+  tempi->Dati().Metti(Diagramma_Tempi::Cursore::A, dati.Fine());
+  QTest::keyClick(tempi, Qt::Key_W);
+  auto& bit = *finestre.pannello.findChild<QLineEdit*>("txtBit");
+  EXPECT_EQ(bit.text(), "VW10");
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] { return finestre.pannello.findChild<QLabel*>("etSeduta")->text().contains("VW10"); }));
   tempi->Aggiorna();
   EXPECT_EQ(tempi->Dati().Passato, finestre.plc.Tempo.Adesso());
   const std::int64_t qui = finestre.plc.Tempo.Adesso();
@@ -375,6 +398,138 @@ TEST(SessionInTheWindows, GoesBackToWhatTheDiagramShowsAtItsCursor) {
   tempi->Aggiorna();
   EXPECT_FALSE(tempi->Dati().Passato);
   EXPECT_LE(dati.Fine(), qui + 1) << "what came after did not happen";
+}
+
+namespace {
+FrmTempi* Diagramma_Aperto() {
+  for (QWidget* una : QApplication::topLevelWidgets()) {
+    if (auto* questa = dynamic_cast<FrmTempi*>(una)) return questa;
+  }
+  return nullptr;
+}
+}  // namespace
+
+TEST(SessionInTheWindows, ADiagramThatIsOpenedLateShowsWhatWentBefore) {
+  Finestre_A_Caso finestre(5);
+  finestre.Carica(programma);
+  finestre.Gioca(400);
+  finestre.finestre.Mostra_Tempi();
+  FrmTempi* tempi = Diagramma_Aperto();
+  ASSERT_NE(tempi, nullptr);
+  tempi->findChild<QTimer*>("timT")->stop();
+  EXPECT_TRUE(tempi->Si_Riempie());
+  EXPECT_TRUE(tempi->findChild<QLabel*>("etVista")->text().contains("rilegge il passato"));
+  const Registrazione& dati = tempi->Registrati();
+  EXPECT_EQ(dati.Inizio(), finestre.registratore.Primo().Ms);
+  for (int volta = 0; volta < 10'000 && tempi->Si_Riempie(); ++volta) tempi->Aggiorna();
+  ASSERT_FALSE(tempi->Si_Riempie());
+  EXPECT_FALSE(tempi->findChild<QLabel*>("etVista")->text().contains("rilegge il passato"));
+  ASSERT_GT(dati.Cambi(), 20);
+  int guardati = 0;
+  const std::int64_t da = finestre.registratore.Primo().Ms;
+  for (std::int64_t ms = dati.Fine(); ms > da;
+       ms -= std::max<std::int64_t>(1, (dati.Fine() - da) / 40)) {
+    tempi->Dati().Metti(Diagramma_Tempi::Cursore::A, ms);
+    QTest::keyClick(tempi, Qt::Key_V);
+    ASSERT_TRUE(finestre.registratore.Nel_Passato());
+    if (finestre.plc.PC != 0) continue;  // nobody samples half a scan
+    for (const Riga_Diagramma& riga : tempi->Dati().Righe()) {
+      const Segnale* segnale = tempi->Dati().Segnale_Di(riga);
+      if (segnale == nullptr) continue;
+      const auto visto = tempi->Dati().Onda_Di(riga)->A(ms);
+      ASSERT_TRUE(visto) << segnale->Nome << " at " << ms;
+      EXPECT_EQ(Valore(*segnale, finestre.plc), *visto) << segnale->Nome << " at " << ms;
+      ++guardati;
+    }
+  }
+  EXPECT_GT(guardati, 100);
+  finestre.registratore.Torna_Al_Presente();
+  // A signal that is added later has a past too.
+  tempi->Scegli_Segnali = [](std::vector<Segnale>& scelti) {
+    scelti.push_back(*Cerca_Segnale("VW2", nullptr));
+    return true;
+  };
+  QTest::keyClick(tempi, Qt::Key_Insert);
+  for (int volta = 0; volta < 10'000 && tempi->Si_Riempie(); ++volta) tempi->Aggiorna();
+  const auto nuova = dati.Cerca("VW2");
+  ASSERT_TRUE(nuova);
+  EXPECT_TRUE(dati.Quando(*nuova).A(da + 1));
+}
+
+TEST(SessionInTheWindows, ThePowerBesideTheLinesIsThatOfTheMomentShown) {
+  Finestre_A_Caso finestre(1);
+  finestre.Carica({"LD I0.0", "= Q0.0", "LDN I0.0", "= Q0.1"});
+  Controlli_Pannello& c = finestre.pannello.Controlli();
+  c.chkVal->setChecked(true);
+  const auto flussi = [&] {
+    std::string testo;
+    for (int riga = 0; riga < c.listSrc->count(); ++riga) {
+      const auto flusso = c.listSrc->Stato(riga).Corrente;
+      using Flusso = Stato_Riga::Flusso;
+      testo += flusso == Flusso::Ignoto ? '.' : flusso == Flusso::Acceso ? '1' : '0';
+    }
+    return testo;
+  };
+  Plc& plc = finestre.plc;
+  int scansioni = 0;
+  const Iscrizione cessione = plc.Hook.Ascolta_Cedi([&] {
+    if (plc.Hook.Adesso != Vissuto::Presente || plc.PC != 0) return;
+    if (++scansioni == 40) plc.Entra(Di_Ingresso(0, "10000000"));
+    if (scansioni > 60) plc.Entra(Comando_Corsa::Pausa);
+    finestre.pannello.Aggiorna();
+  });
+  finestre.Senza_Caso = true;
+  plc.Entra(Comando_Corsa::Run);
+  ASSERT_TRUE(plc.In_Pausa());
+  finestre.pannello.Aggiorna();
+  EXPECT_EQ(flussi(), "1100.");
+  std::set<std::string> visti;
+  for (int volta = 0; volta < 45; ++volta) {
+    Azione(finestre.pannello, "mnuScansioneIndietro").trigger();
+    ASSERT_TRUE(finestre.registratore.Nel_Passato());
+    if (plc.Righe_Fatte == finestre.registratore.Primo().Righe) break;
+    EXPECT_EQ(flussi(), plc.IP_I[0].Bit_Img[0] != 0 ? "1100." : "0011.") << volta;
+    visti.insert(flussi());
+  }
+  EXPECT_EQ(visti.size(), 2U);
+  EXPECT_EQ(flussi(), "0011.");
+  EXPECT_EQ(c.listSrc->Prossima(), 0);
+  // Half a scan further: the lines to come are not said to have power.
+  for (int riga = 0; riga < 3; ++riga) Azione(finestre.pannello, "mnuRigaAvanti").trigger();
+  EXPECT_EQ(flussi(), "001..");
+  EXPECT_EQ(c.listSrc->Prossima(), 3);
+  Azione(finestre.pannello, "mnuPresente").trigger();
+  EXPECT_EQ(flussi(), "1100.");
+}
+
+TEST(SessionInTheWindows, TheLadderShowsThePowerOfThePastMoment) {
+  Finestre_A_Caso finestre(1);
+  finestre.Carica({"LD I0.0", "= Q0.0"});
+  Plc& plc = finestre.plc;
+  int scansioni = 0;
+  const Iscrizione cessione = plc.Hook.Ascolta_Cedi([&] {
+    if (plc.Hook.Adesso != Vissuto::Presente || plc.PC != 0) return;
+    if (++scansioni == 10) plc.Entra(Di_Ingresso(0, "10000000"));
+    if (scansioni > 20) plc.Entra(Comando_Corsa::Pausa);
+  });
+  finestre.Senza_Caso = true;
+  plc.Entra(Comando_Corsa::Run);
+  finestre.finestre.Mostra_Scala();
+  FrmScala* scala = nullptr;
+  for (QWidget* una : QApplication::topLevelWidgets()) {
+    if (auto* questa = dynamic_cast<FrmScala*>(una)) scala = questa;
+  }
+  ASSERT_NE(scala, nullptr);
+  scala->Aggiorna();
+  const QImage presente = scala->Vista().grab().toImage();
+  for (int volta = 0; volta < 15; ++volta)
+    Azione(finestre.pannello, "mnuScansioneIndietro").trigger();
+  ASSERT_EQ(plc.IP_I[0].Bit_Img[0], 0);
+  scala->Aggiorna();
+  EXPECT_NE(scala->Vista().grab().toImage(), presente);
+  Azione(finestre.pannello, "mnuPresente").trigger();
+  scala->Aggiorna();
+  EXPECT_EQ(scala->Vista().grab().toImage(), presente);
 }
 
 TEST(SessionInTheWindows, GoesBackAndForthAndOnFromThere) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The diagram in its window: keys, mouse, what it records and what it costs when it is closed.
 #include <QImage>
+#include <QMenu>
 #include <QScrollBar>
 #include <QSvgRenderer>
 #include <QTemporaryDir>
@@ -231,6 +232,57 @@ TEST_F(Diagram_Window, TheMousePutsCursorsOnEdges) {
   QTest::mouseClick(&Tela(), Qt::LeftButton, Qt::ShiftModifier | Qt::AltModifier,
                     Punto("Q0.0", fronte + 300) + QPoint(-3, 0));
   EXPECT_NE(*D().B, fronte + 300) << "with Alt it stays where it is put";
+}
+
+TEST_F(Diagram_Window, TheRightButtonAsksWhoDidWhatIsUnderIt) {
+  Corri(700);
+  Premi(Qt::Key_0);
+  Scegli("Q0.0");
+  ASSERT_TRUE(D().Al_Fronte(-1));
+  const std::int64_t fronte = *D().A;
+  D().Togli_Cursori();
+  D().Scegli({});
+  std::int64_t chiesto = -1;
+  std::string di_chi;
+  finestra->Chi_E_Stato = [&](std::int64_t ms, const std::string& indirizzo) {
+    chiesto = ms;
+    di_chi = indirizzo;
+  };
+  QTest::mouseClick(&Tela(), Qt::RightButton, {}, Punto("Q0.0", fronte) + QPoint(3, 0));
+  auto* menu = finestra->findChild<QMenu*>("menuTempi");
+  ASSERT_NE(menu, nullptr);
+  EXPECT_TRUE(menu->isVisible());
+  for (const QAction* voce : menu->actions()) EXPECT_FALSE(voce->text().isEmpty());
+  menu->findChild<QAction*>("cmdChi")->trigger();
+  menu->close();
+  EXPECT_EQ(di_chi, "Q0.0");
+  EXPECT_EQ(D().A, fronte) << "the edge beside the mouse";
+  EXPECT_EQ(chiesto, fronte);
+  // Dragged, it moves time and asks nothing.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QTest::mousePress(&Tela(), Qt::RightButton, {}, Punto("Q0.0", 500));
+  QTest::mouseMove(&Tela(), Punto("Q0.0", 500) + QPoint(80, 0));
+  QTest::mouseRelease(&Tela(), Qt::RightButton, {}, Punto("Q0.0", 500) + QPoint(80, 0));
+  EXPECT_EQ(finestra->findChild<QMenu*>("menuTempi"), nullptr);
+}
+
+TEST_F(Diagram_Window, TheKeyWAsksWhoDidItAtTheCursor) {
+  Corri(300);
+  std::vector<std::pair<std::int64_t, std::string>> chiesti;
+  finestra->Chi_E_Stato = [&](std::int64_t ms, const std::string& indirizzo) {
+    chiesti.emplace_back(ms, indirizzo);
+  };
+  Premi(Qt::Key_W);
+  EXPECT_TRUE(chiesti.empty());
+  EXPECT_TRUE(Stato().contains("scegli un segnale")) << Stato().toStdString();
+  Scegli("VW0");
+  Premi(Qt::Key_W);
+  ASSERT_EQ(chiesti.size(), 1U);
+  EXPECT_EQ(chiesti[0], std::pair(plc.Tempo.Adesso(), std::string("VW0"))) << "no cursor: now";
+  D().Metti(Diagramma_Tempi::Cursore::A, 120);
+  Premi(Qt::Key_W);
+  ASSERT_EQ(chiesti.size(), 2U);
+  EXPECT_EQ(chiesti[1], std::pair(std::int64_t{120}, std::string("VW0")));
 }
 
 TEST_F(Diagram_Window, TheWheelZoomsAtTheMouse) {
