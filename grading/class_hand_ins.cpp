@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <clocale>
 #include <fstream>
 #include <memory>
 #include <set>
@@ -36,6 +37,27 @@ int Apri(archive* zip, const fs::path& file) {
     return archive_read_open_filename_w(zip, file.wstring().c_str(), blocco);
   return archive_read_open_filename(zip, file.string().c_str(), blocco);
 }
+
+/// Names that an archive marks as UTF-8 come out of the library in the locale's own bytes, and not
+/// at all where that has no accents. Holds for this thread and as long as it lives.
+class Nomi_In_Utf8 {
+#ifndef _WIN32
+ public:
+  Nomi_In_Utf8() : nomi_(newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr)) {
+    if (nomi_) prima_ = uselocale(nomi_);
+  }
+  ~Nomi_In_Utf8() {
+    if (!nomi_) return;
+    uselocale(prima_);
+    freelocale(nomi_);
+  }
+  Nomi_In_Utf8(const Nomi_In_Utf8&) = delete;
+  Nomi_In_Utf8& operator=(const Nomi_In_Utf8&) = delete;
+
+ private:
+  locale_t nomi_, prima_ = nullptr;
+#endif
+};
 
 /// The path of an entry, "" for one without.
 std::string Nome_Della_Voce(archive_entry* voce) {
@@ -77,12 +99,25 @@ std::string Motivo_Della_Voce(const std::string& nome, archive_entry* voce) {
   return Motivo_Del_Nome(nome);
 }
 
+/// A student's folder without any project is a hand-in too. `cartelle`: the folders at the top.
+void Aggiungi_Senza_Progetto(std::vector<Consegna>& consegne,
+                             const std::set<std::string>& cartelle) {
+  std::set<std::string> presenti;
+  for (const Consegna& consegna : consegne) presenti.insert(consegna.Studente);
+  for (const std::string& nome : cartelle)
+    if (!presenti.contains(Nome_Studente(nome + "/")))
+      consegne.push_back(
+          {Nome_Studente(nome + "/"), nome, "", "nella cartella non c'è un progetto .AWL"});
+}
+
 std::vector<Consegna> Leggi_Zip(const std::string& file, const fs::path& scratch) {
+  [[maybe_unused]] const Nomi_In_Utf8 nomi;
   const std::unique_ptr<archive, Chiudi> zip(archive_read_new());
   archive_read_support_format_zip(zip.get());
   if (Apri(zip.get(), Percorso_Disco(file)) != ARCHIVE_OK)
     throw std::runtime_error(file + ": non è una cartella e non è un archivio zip");
   std::vector<Consegna> consegne;
+  std::set<std::string> cartelle;
   archive_entry* voce = nullptr;
   int numero = 0, esito = ARCHIVE_OK;
   while ((esito = archive_read_next_header(zip.get(), &voce)) == ARCHIVE_OK ||
@@ -93,7 +128,15 @@ std::vector<Consegna> Leggi_Zip(const std::string& file, const fs::path& scratch
       break;
     }
     const std::string nome = Nome_Della_Voce(voce);
-    if (archive_entry_filetype(voce) == AE_IFDIR || nome.empty()) continue;
+    if (nome.empty()) {
+      consegne.push_back({"", "voce " + std::to_string(numero) + " dell'archivio", "",
+                          "il nome non si può leggere"});
+      continue;
+    }
+    if (const std::size_t barra = nome.find('/');
+        barra != std::string::npos && barra > 0 && Sta_Dentro(Percorso_Disco(nome)))
+      cartelle.insert(Utf8_Valido(nome.substr(0, barra)));
+    if (archive_entry_filetype(voce) == AE_IFDIR) continue;
     const bool progetto = Estensione(nome) == ".awl";
     Consegna consegna{Nome_Studente(Utf8_Valido(nome)), Utf8_Valido(nome), "",
                       Motivo_Della_Voce(nome, voce)};
@@ -114,6 +157,7 @@ std::vector<Consegna> Leggi_Zip(const std::string& file, const fs::path& scratch
   }
   if (esito == ARCHIVE_FATAL && numero == 0)
     throw std::runtime_error(file + ": non è una cartella e non è un archivio zip");
+  Aggiungi_Senza_Progetto(consegne, cartelle);
   if (esito == ARCHIVE_FATAL)
     consegne.push_back({"", Utf8_Valido(file), "", "l'archivio è rovinato: il resto non si legge"});
   return consegne;
@@ -129,19 +173,15 @@ std::vector<Consegna> Leggi_Cartella(const std::string& cartella) {
   const Consegne_Trovate trovate = Cerca_Consegne(cartella);
   for (const std::string& progetto : trovate.Progetti) Aggiungi(progetto, "");
   for (const Scartata& scartata : trovate.Scartate) Aggiungi(scartata.Percorso, scartata.Motivo);
-  // A student's folder without any project is a hand-in too.
-  std::set<std::string> presenti;
-  for (const Consegna& consegna : consegne) presenti.insert(consegna.Studente);
+  std::set<std::string> cartelle;
   std::error_code errore;
   for (fs::directory_iterator voce(Percorso_Disco(cartella), errore), fine; !errore && voce != fine;
        voce.increment(errore)) {
     std::error_code ignoto;
-    const std::string nome = Utf8_Valido(Testo_Percorso(voce->path().filename()));
-    if (voce->symlink_status(ignoto).type() == fs::file_type::directory &&
-        !presenti.contains(Nome_Studente(nome + "/")))
-      consegne.push_back(
-          {Nome_Studente(nome + "/"), nome, "", "nella cartella non c'è un progetto .AWL"});
+    if (voce->symlink_status(ignoto).type() == fs::file_type::directory)
+      cartelle.insert(Utf8_Valido(Testo_Percorso(voce->path().filename())));
   }
+  Aggiungi_Senza_Progetto(consegne, cartelle);
   return consegne;
 }
 

@@ -141,6 +141,32 @@ TEST_F(Class, AFolderNamesWhoHandedInNothing) {
   EXPECT_THAT(out, HasSubstr("ok       Rossi Anna"));
 }
 
+/// As most programs write it: a name that is not plain letters carries the mark of UTF-8.
+TEST_F(Class, NamesWithAccentsInAnArchiveAreRead) {
+  const std::string zip = Zip({{"Però Zoë_12_assignsubmission_file_/us.AWL", buono},
+                               {"Rossi Anna_13_assignsubmission_file_/us.AWL", buono}});
+  std::string byte = Leggi_Byte(zip);
+  for (const auto& [segno, dopo] : {std::pair{"PK\3\4", 7}, std::pair{"PK\1\2", 9}})
+    for (auto dove = byte.find(segno); dove != std::string::npos; dove = byte.find(segno, dove + 1))
+      byte[dove + static_cast<std::size_t>(dopo)] |= 8;
+  Scrivi_Byte(zip, byte);
+  EXPECT_EQ(Classe(zip), 0);
+  EXPECT_THAT(out, HasSubstr("ok       Però Zoë"));
+  EXPECT_THAT(Letto("esiti/punti.csv"), HasSubstr("\nPerò Zoë;"));
+  EXPECT_THAT(Letto("esiti/indice.html"), HasSubstr("Consegne: 2"));
+}
+
+TEST_F(Class, AnArchiveNamesWhoHandedInNoProject) {
+  EXPECT_EQ(Classe(Zip({{"Rossi Anna_12_assignsubmission_file_/us.AWL", buono},
+                        {"Rossi Anna_12_assignsubmission_file_/nota.txt", "x"},
+                        {"Bianchi Ugo_7_assignsubmission_file_/relazione.pdf", "x"},
+                        {"leggimi.txt", "x"}})),
+            1);
+  EXPECT_THAT(Letto("esiti/studente-001.html"),
+              HasSubstr("nella cartella non c'è un progetto .AWL"));
+  EXPECT_THAT(Letto("esiti/indice.html"), HasSubstr("Consegne: 2"));
+}
+
 TEST_F(Class, ReportsReplaceNothing) {
   File("esiti/appunti.txt", "miei");
   EXPECT_EQ(Classe(Zip({{"a.AWL", buono}})), 64);
