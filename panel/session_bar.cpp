@@ -12,6 +12,7 @@
 #include <array>
 
 #include "panel/program_list.h"
+#include "panel/session_mirror.h"
 #include "plants/host/host_window.h"
 #include "recorder/past_flow.h"
 #include "recorder/session_file.h"
@@ -335,10 +336,7 @@ bool Barra_Seduta::Progresso(double parte) {
 /// All windows show what the CPU is now.
 void Barra_Seduta::Specchia() {
   da_quando_.invalidate();
-  plc_.Segna(Segno_Immagini | Segno_PC | Segno_Tempo | Segno_Lista | Segno_Comandi |
-             Segno_Analogici);
-  pannello_.Aggiorna();
-  pannello_.Specchia_Scelte(registratore_.Interruttori());
+  Specchia_Salto(pannello_, plc_, registratore_);
   if (registratore_.Nel_Passato()) pannello_.Controlli().listSrc->Scegli(plc_.PC);
   if (Finestra_Impianto* finestra = Impianto ? Impianto() : nullptr) finestra->Specchia();
   if (Specchia_Altre) Specchia_Altre();

@@ -9,6 +9,7 @@
 #include "grading/ui/film_window.h"
 #include "grading/ui/verification_window.h"
 #include "panel/program_list.h"
+#include "panel/session_mirror.h"
 #include "plants/host/host_window.h"
 #include "widgets/message_box.h"
 #include "widgets/text.h"
@@ -143,14 +144,12 @@ void Sala_Verifica::Torna() {
 /// All windows show what the CPU is now.
 void Sala_Verifica::Specchia(bool passo) {
   if (passo) {
-    plc_.Segna(Segno_Immagini | Segno_PC | Segno_Tempo | Segno_Lista | Segno_Comandi |
-               Segno_Analogici);
-    pannello_.Specchia_Scelte(registratore_.Interruttori());
-  }
-  pannello_.Aggiorna();
-  if (passo)
+    Specchia_Salto(pannello_, plc_, registratore_);
     pannello_.Controlli().listSrc->Scegli(registratore_.Nel_Passato() ? plc_.PC
                                                                       : plc_.Lista_Scelta);
+  } else {
+    pannello_.Aggiorna();
+  }
   if (Finestra_Impianto* finestra = finestre_.Impianto()) finestra->Specchia();
 }
 
