@@ -9,7 +9,6 @@
 #include "awl/ui/main_window.h"
 #include "ladder/ui/ladder_window.h"
 #include "panel/application.h"
-#include "panel/child_windows.h"
 #include "panel/panel_bed.h"
 #include "panel/windows/status_window.h"
 #include "recorder/ui/diagram_window.h"
@@ -18,16 +17,7 @@
 namespace tavorno {
 namespace {
 
-struct Esercizi_Dal_Menu : Banco_Pannello {
-  Guida guida;
-  Finestre finestre{pannello, plc, progetto, guida};
-
-  static QWidget* Finestra(const QString& nome) {
-    for (QWidget* finestra : QApplication::topLevelWidgets()) {
-      if (finestra->objectName() == nome && finestra->isVisible()) return finestra;
-    }
-    return nullptr;
-  }
+struct Esercizi_Dal_Menu : Banco_Finestre {
   QString Voce(int indice) { return QStringLiteral("mnuPrj(%1)").arg(indice); }
 };
 

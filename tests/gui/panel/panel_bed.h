@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 
+#include "panel/child_windows.h"
 #include "panel/controls/cpu_front.h"
 #include "panel/panel_window.h"
 #include "panel/program_list.h"
@@ -72,6 +73,20 @@ struct Banco_Pannello : ::testing::Test {
   }
   bool Attiva(const char* voce) { return Azione(pannello, voce).isEnabled(); }
   bool Spuntata(const char* voce) { return Azione(pannello, voce).isChecked(); }
+};
+
+/// The same with the windows that the panel opens.
+struct Banco_Finestre : Banco_Pannello {
+  Guida guida;
+  Finestre finestre{pannello, plc, progetto, guida};
+
+  /// A window in sight by its name; none: a null pointer.
+  static QWidget* Finestra(const QString& nome) {
+    for (QWidget* finestra : QApplication::topLevelWidgets()) {
+      if (finestra->objectName() == nome && finestra->isVisible()) return finestra;
+    }
+    return nullptr;
+  }
 };
 
 }  // namespace tavorno

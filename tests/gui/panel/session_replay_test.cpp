@@ -20,18 +20,14 @@
 #include <set>
 
 #include "ladder/ui/ladder_window.h"
-#include "panel/child_windows.h"
 #include "panel/controls/cpu_front.h"
-#include "panel/panel_window.h"
 #include "panel/program_list.h"
-#include "panel/run_driver.h"
-#include "panel/session_bar.h"
+#include "panel/session_bed.h"
 #include "plants/faults.h"
 #include "plants/host/fault_panel.h"
 #include "plants/host/host_window.h"
 #include "plants/host/picture_widget.h"
 #include "recorder/rereading.h"
-#include "recorder/session.h"
 #include "recorder/session_file.h"
 #include "recorder/ui/diagram_window.h"
 #include "recorder/ui/watch_window.h"
@@ -43,12 +39,10 @@ namespace tavorno::prova {
 
 namespace {
 
-class Finestre_A_Caso {
+class Finestre_A_Caso : public Banco_Seduta {
  public:
   explicit Finestre_A_Caso(unsigned seme) : caso_(seme) {
     cessione_ = plc.Hook.Ascolta_Cedi_Righe([this] { return Cedi(); });
-    barra.Impianto = [this] { return finestre.Impianto(); };
-    barra.Apri_Impianto = [this](int indice) { finestre.Apri_Impianto(indice); };
     barra.Avvisa = [this](const QString& testo) { avvisi.push_back(testo.toStdString()); };
     barra.Cursore_Del_Diagramma = [this] { return finestre.Cursore_Del_Diagramma(); };
     barra.Specchia_Altre = [this] { finestre.Specchia(); };
@@ -59,21 +53,8 @@ class Finestre_A_Caso {
     finestre.Rileggi = [this](const std::vector<Segnale>& segnali) {
       return std::make_unique<Rilettura>(registratore, segnali);
     };
-    finestre.Al_Presente = [this] { barra.Al_Presente(); };
-    corsa.Ferma();  // its clock is the real one; ours is moved by hand
     corsa.Attesa = false;
     registratore.Ms_Tra_Tappe = 500;
-  }
-
-  void Carica(const std::vector<std::string>& righe) {
-    const Cartella_Temporanea cartella;
-    Scrivi_Byte(cartella / "prova.AWL", Byte_Di_Progetto(righe));
-    ASSERT_TRUE(seduta.Apri((cartella / "prova.AWL").string()));
-    seduta.progetto.Compila();
-    ASSERT_EQ(seduta.progetto.Errori, 0) << seduta.progetto.Lista_Comp;
-    seduta.progetto.Consegna();
-    pannello.show();
-    pannello.Attivata();
   }
 
   void Gioca(int mosse) {
@@ -90,17 +71,6 @@ class Finestre_A_Caso {
 
   unsigned Numero(unsigned massimo) { return static_cast<unsigned>(caso_() % (massimo + 1)); }
 
-  Seduta seduta;
-  Plc& plc = seduta.plc;
-  Guida guida{QString(), QString(), {}};
-  Registratore registratore{plc};
-  Iscrizione programmi =
-      seduta.progetto.Programma_Cambiato.Ascolta([this] { registratore.Programma_Nuovo(); });
-  FrmPLC pannello{plc, seduta.progetto};
-  Guida_Corsa corsa{plc, [] {}};
-  Finestre finestre{pannello, plc, seduta.progetto, guida};
-  Barra_Seduta barra{pannello, plc, registratore, corsa};
-  std::vector<std::string> avvisi;
   bool Senza_Caso = false;                         ///< a run whose hands are somebody else's
   std::function<void()> Dopo_Una_Mossa = [] {};    // while the CPU stands
   int forzate = 0, guasti_messi = 0, passati = 0;  // so often it was done
@@ -446,7 +416,7 @@ TEST(SessionInTheWindows, ADiagramThatIsOpenedLateShowsWhatWentBefore) {
   finestre.registratore.Torna_Al_Presente();
   // A signal that is added later has a past too.
   tempi->Scegli_Segnali = [](std::vector<Segnale>& scelti) {
-    scelti.push_back(*Cerca_Segnale("VW2", nullptr));
+    scelti.push_back(*Cerca_Segnale("VW2", {}));
     return true;
   };
   QTest::keyClick(tempi, Qt::Key_Insert);

@@ -6,23 +6,13 @@
 #include <QWheelEvent>
 
 #include "awl/ui/awl_editor.h"
-#include "panel/child_windows.h"
 #include "panel/panel_bed.h"
 #include "recorder/ui/diagram_canvas.h"
 
 namespace tavorno {
 namespace {
 
-struct Testi : Banco_Pannello {
-  Guida guida;
-  Finestre finestre{pannello, plc, progetto, guida};
-
-  static QWidget* Finestra(const QString& nome) {
-    for (QWidget* finestra : QApplication::topLevelWidgets()) {
-      if (finestra->objectName() == nome && finestra->isVisible()) return finestra;
-    }
-    return nullptr;
-  }
+struct Testi : Banco_Finestre {
   void Comando(const char* voce) {
     Azione(pannello, voce).trigger();
     QCoreApplication::processEvents();

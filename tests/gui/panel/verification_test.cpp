@@ -21,29 +21,17 @@
 #include "grading/ui/time_sheet.h"
 #include "grading/ui/verification_window.h"
 #include "panel/program_list.h"
-#include "panel/session_bar.h"
+#include "panel/session_bed.h"
 #include "plants/host/host_window.h"
 #include "plants/host/picture_widget.h"
-#include "recorder/session.h"
 #include "recorder/whole_state.h"
-#include "tests/support/temporary_folder.h"
 #include "widgets/command_tables.h"
 
 namespace tavorno::prova {
 
 namespace {
 
-struct Prova_Verifica : ::testing::Test {
-  Seduta seduta;
-  Plc& plc = seduta.plc;
-  Guida guida{QString(), QString(), {}};
-  Registratore registratore{plc};
-  Iscrizione programmi =
-      seduta.progetto.Programma_Cambiato.Ascolta([this] { registratore.Programma_Nuovo(); });
-  FrmPLC pannello{plc, seduta.progetto};
-  Guida_Corsa corsa{plc, [] {}};
-  Finestre finestre{pannello, plc, seduta.progetto, guida};
-  Barra_Seduta barra{pannello, plc, registratore, corsa};
+struct Prova_Verifica : ::testing::Test, Banco_Seduta {
   Cartella_Temporanea programma;  // where the scripts lie
   Sala_Verifica sala{pannello,
                      plc,
@@ -53,14 +41,9 @@ struct Prova_Verifica : ::testing::Test {
                      finestre,
                      QString::fromStdString(programma.string()),
                      {}};
-  std::vector<std::string> avvisi;
 
   Prova_Verifica() {
-    barra.Impianto = [this] { return finestre.Impianto(); };
-    barra.Apri_Impianto = [this](int indice) { finestre.Apri_Impianto(indice); };
-    finestre.Al_Presente = [this] { barra.Al_Presente(); };
     sala.Avvisa = [this](const QString& testo) { avvisi.push_back(testo.toStdString()); };
-    corsa.Ferma();  // its clock is the real one; ours is moved by hand
     std::filesystem::create_directories(programma / "examples");
     Script("us00.lua", R"(
       prova('marcia', 4, function()
@@ -75,15 +58,6 @@ struct Prova_Verifica : ::testing::Test {
 
   void Script(const std::string& nome, const std::string& testo) const {
     Scrivi_Byte(programma / ("examples/" + nome), testo);
-  }
-  void Carica(const std::vector<std::string>& righe) {
-    const Cartella_Temporanea cartella;
-    Scrivi_Byte(cartella / "prova.AWL", Byte_Di_Progetto(righe));
-    ASSERT_TRUE(seduta.Apri((cartella / "prova.AWL").string()));
-    seduta.progetto.Compila();
-    ASSERT_EQ(seduta.progetto.Errori, 0) << seduta.progetto.Lista_Comp;
-    seduta.progetto.Consegna();
-    pannello.Attivata();
   }
   /// The motor follows Start, and does not stay.
   void Senza_Autoritenuta() {

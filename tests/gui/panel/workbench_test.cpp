@@ -18,16 +18,9 @@
 namespace tavorno {
 namespace {
 
-struct Al_Tavolo : Banco_Pannello {
-  Guida guida{"/guida/", "/guida/Panel/", {}};
-  Finestre finestre{pannello, plc, progetto, guida};
+struct Al_Tavolo : Banco_Finestre {
+  Al_Tavolo() { guida = {"/guida/", "/guida/Panel/", {}}; }
 
-  static QWidget* Finestra(const QString& nome) {
-    for (QWidget* finestra : QApplication::topLevelWidgets()) {
-      if (finestra->objectName() == nome && finestra->isVisible()) return finestra;
-    }
-    return nullptr;
-  }
   static std::set<std::string> Aperte() {
     std::set<std::string> aperte;
     for (QWidget* finestra : QApplication::topLevelWidgets()) {
