@@ -4,6 +4,7 @@
 
 #include "trace/markup.h"
 #include "trace/time_scale.h"
+#include "trace/timing_layout.h"
 #include "trace/trace.h"
 
 namespace tavorno {
@@ -12,10 +13,10 @@ namespace {
 
 // All in the units of the drawing.
 constexpr double margine = 16, margine_destro = 30;  // half a time stands beyond the axis
-constexpr double larghezza_nomi = 150;
+constexpr double larghezza_nomi = inizio_asse - margine;
 constexpr double altezza_bit = 24, onda_bit = 14;
 constexpr double altezza_analogica = 72, onda_analogica = 56;
-constexpr double alto_righe = 92;
+constexpr double alto_righe = fine_testata + 6;
 constexpr double larghezza_minima = 760, larghezza_massima = 6000;
 constexpr double per_secondo = 18;
 constexpr double passo_tacche = 70;  // at least

@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <QScrollBar>
 
+#include "trace/timing_layout.h"
 #include "widgets/colours.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
@@ -13,6 +14,8 @@
 namespace tavorno {
 
 namespace {
+
+constexpr int vicino = 24;  // to the right edge, pixels: less would hide what comes next
 
 /// Where the marked moment stands, in the units of the drawing; -1 without one.
 double Posto_Del_Segno(const QString& svg) {
@@ -29,9 +32,14 @@ class Foglio_Tempi::Carta : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* /*evento*/) override {
+    if (!disegno_.isValid()) return;
     QPainter pittore(this);
-    if (disegno_.isValid())
-      disegno_.render(&pittore, QRectF(QPointF(0, 0), QSizeF(disegno_.defaultSize())));
+    const QRectF tutto(QPointF(0, 0), QSizeF(disegno_.defaultSize()));
+    disegno_.render(&pittore, tutto);
+    // What has scrolled out at the left: the names come along.
+    if (x() >= 0) return;
+    pittore.setClipRect(QRectF(-x(), fine_testata, inizio_asse, tutto.height() - fine_testata));
+    disegno_.render(&pittore, tutto.translated(-x(), 0));
   }
 
  private:
@@ -41,6 +49,7 @@ class Foglio_Tempi::Carta : public QWidget {
 Foglio_Tempi::Foglio_Tempi() : carta_(Chiama(QStringLiteral("picTempiCaso"), new Carta(disegno_))) {
   setObjectName(QStringLiteral("foglioTempi"));
   setWidget(carta_);
+  connect(horizontalScrollBar(), &QScrollBar::valueChanged, carta_, qOverload<>(&QWidget::update));
   setFocusPolicy(Qt::StrongFocus);
   setToolTip(
       QStringLiteral("Ingressi e uscite del caso scelto; la linea rossa è il momento del "
@@ -65,7 +74,9 @@ void Foglio_Tempi::Mostra(const std::string& svg, const QString& descrizione) {
 }
 
 void Foglio_Tempi::Porta_Al_Segno() {
-  horizontalScrollBar()->setValue(static_cast<int>(segno_) - viewport()->width() * 3 / 4);
+  const int largo = viewport()->width();
+  const bool si_vede = segno_ < largo - vicino;
+  horizontalScrollBar()->setValue(si_vede ? 0 : static_cast<int>(segno_) - largo * 3 / 4);
 }
 
 void Foglio_Tempi::resizeEvent(QResizeEvent* evento) {

@@ -8,7 +8,7 @@
 namespace tavorno {
 
 /// The timing diagram of a case, the same drawing that the pages of a class hold, in a sheet that
-/// scrolls. It begins where the moment is that is marked.
+/// scrolls, with the names of the signals always in sight. It begins where the marked moment is.
 class Foglio_Tempi : public QScrollArea {
  public:
   Foglio_Tempi();

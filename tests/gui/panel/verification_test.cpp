@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSlider>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -119,6 +120,16 @@ TEST_F(Prova_Verifica, TheVerdictStandsInTheWindow) {
                   .contains("Dopo 1,500 s: il motore deve restare in marcia"));
   EXPECT_FALSE(Uno<Foglio_Tempi>(verdetto, "foglioTempi").Vuoto());
   EXPECT_TRUE(Uno<QPushButton>(verdetto, "cmdGuarda").isEnabled());
+  // However far the times have scrolled, the names of the signals are in sight.
+  auto& tempi = Uno<Foglio_Tempi>(verdetto, "foglioTempi");
+  verdetto.resize(500, 600);
+  QCoreApplication::processEvents();
+  const QRect nomi(0, 90, 160, 60);
+  tempi.horizontalScrollBar()->setValue(0);
+  const QImage prima = tempi.viewport()->grab(nomi).toImage();
+  ASSERT_GT(tempi.horizontalScrollBar()->maximum(), 200);
+  tempi.horizontalScrollBar()->setValue(200);
+  EXPECT_EQ(tempi.viewport()->grab(nomi).toImage(), prima);
   casi.selectRow(1);
   EXPECT_TRUE(Uno<Foglio_Tempi>(verdetto, "foglioTempi").Vuoto());
   EXPECT_FALSE(Uno<QPushButton>(verdetto, "cmdGuarda").isEnabled());
