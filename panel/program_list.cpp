@@ -116,7 +116,23 @@ class Con_Numero : public QStyledItemDelegate {
 
 }  // namespace
 
-Lista_Programma::Lista_Programma(QWidget* parent) : QListWidget(parent) {
+/// A line as it is read aloud: with its number, and with what stands beside it at this moment.
+class Lista_Programma::Voce : public QListWidgetItem {
+ public:
+  Voce(const QString& testo, Lista_Programma* lista)
+      : QListWidgetItem(testo, lista, QListWidgetItem::UserType), lista_(*lista) {}
+
+  QVariant data(int ruolo) const override {
+    if (ruolo != Qt::AccessibleTextRole) return QListWidgetItem::data(ruolo);
+    const int riga = lista_.row(this);
+    return QStringLiteral("Riga %1: %2%3").arg(riga).arg(text().simplified(), lista_.Detto(riga));
+  }
+
+ private:
+  const Lista_Programma& lista_;
+};
+
+Lista_Programma::Lista_Programma(QWidget* parent) : QListWidget(parent), annunci_(*this) {
   setFont(Carattere_Fisso());
   setUniformItemSizes(true);
   setItemDelegate(new Con_Numero(this));
@@ -127,12 +143,7 @@ Lista_Programma::Lista_Programma(QWidget* parent) : QListWidget(parent) {
 
 void Lista_Programma::Riempi(const std::vector<std::string>& righe) {
   clear();
-  for (const std::string& riga : righe) {
-    addItem(Da_Byte(riga));
-    QListWidgetItem& voce = *item(count() - 1);
-    voce.setData(Qt::AccessibleTextRole,
-                 QStringLiteral("Riga %1: %2").arg(count() - 1).arg(voce.text().simplified()));
-  }
+  for (const std::string& riga : righe) new Voce(Da_Byte(riga), this);
   Segni_Cambiati();
 }
 
@@ -151,6 +162,18 @@ const Stato_Riga& Lista_Programma::Stato(int riga) const {
   static const Stato_Riga niente;
   const auto posto = static_cast<std::size_t>(riga);
   return posto < stati_.size() ? stati_[posto] : niente;
+}
+
+/// What is beside a line, in words. A line out of sight has its state too when somebody asks.
+QString Lista_Programma::Detto(int riga) const {
+  if (!stato_) return {};
+  const Stato_Riga stato = stato_(riga);
+  QString detto;
+  if (!stato.Valore.isEmpty()) detto += QStringLiteral("; vale ") + stato.Valore.simplified();
+  if (stato.Corrente == Stato_Riga::Flusso::Acceso) detto += QStringLiteral("; passa corrente");
+  if (stato.Corrente == Stato_Riga::Flusso::Spento) detto += QStringLiteral("; non passa corrente");
+  if (riga == prossima_) detto += QStringLiteral("; sarà eseguita");
+  return detto;
 }
 
 void Lista_Programma::Mostra_Stati(std::function<Stato_Riga(int)> stato) {
@@ -173,6 +196,7 @@ void Lista_Programma::Aggiorna_Stati(int prossima) {
     if (nuovo == vecchio) continue;
     vecchio = std::move(nuovo);
     cambiato = true;
+    if (riga == currentRow()) annunci_.Cambiato(riga);
   }
   if (cambiato) viewport()->update();
 }

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "widgets/screen_reader.h"
+
 namespace tavorno {
 
 /// What stands beside a line while it is watched.
@@ -72,6 +74,9 @@ class Lista_Programma : public QListWidget {
   void paintEvent(QPaintEvent* evento) override;
 
  private:
+  class Voce;
+
+  QString Detto(int riga) const;
   bool Nel_Margine(const QMouseEvent& evento) const;
   void Mouse_Sopra(int riga);
 
@@ -80,6 +85,7 @@ class Lista_Programma : public QListWidget {
   int prossima_ = -1;
   int sotto_il_mouse_ = -1;
   bool premuto_ = false;  // the mouse, in the margin
+  Annunci_Parchi annunci_;
 };
 
 }  // namespace tavorno

@@ -13,6 +13,7 @@ namespace tavorno {
 namespace {
 
 constexpr char proprieta_titolo[] = "titolo_letto";
+constexpr char classe_di_base[] = "QWidget";
 
 /// Numbers and actions, which widgets and pieces have alike.
 class Lettore : public QAccessibleValueInterface {
@@ -195,21 +196,33 @@ class Etichetta_Letta : public QAccessibleWidget {
 
   QString text(QAccessible::Text quale) const override {
     if (quale != QAccessible::Name) return QAccessibleWidget::text(quale);
-    return QStringLiteral("%1 %2").arg(etichetta_.property(proprieta_titolo).toString(),
-                                       etichetta_.text());
+    return QStringLiteral("%1 %2").arg(etichetta_.accessibleName(), etichetta_.text());
   }
 
  private:
   QLabel& etichetta_;
 };
 
-QAccessibleInterface* Crea(const QString& /*classe*/, QObject* oggetto) {
+/// A plain widget is a window as long as it stands by itself; in a dock it is a part of another
+/// one.
+class Finestra_Letta : public QAccessibleWidget {
+ public:
+  explicit Finestra_Letta(QWidget& widget) : QAccessibleWidget(&widget) {}
+
+  QAccessible::Role role() const override {
+    return widget()->isWindow() ? QAccessible::Window : QAccessibleWidget::role();
+  }
+};
+
+/// Asked for each class of an object, from its own to those below.
+QAccessibleInterface* Crea(const QString& classe, QObject* oggetto) {
   auto* widget = qobject_cast<QWidget*>(oggetto);
   if (widget == nullptr) return nullptr;
   if (auto* fonte = dynamic_cast<Per_Lettori*>(oggetto)) return new Widget_Letto(*widget, *fonte);
   auto* etichetta = qobject_cast<QLabel*>(oggetto);
-  if (etichetta == nullptr || !etichetta->property(proprieta_titolo).isValid()) return nullptr;
-  return new Etichetta_Letta(*etichetta);
+  if (etichetta != nullptr && etichetta->property(proprieta_titolo).isValid())
+    return new Etichetta_Letta(*etichetta);
+  return classe == QLatin1String(classe_di_base) ? new Finestra_Letta(*widget) : nullptr;
 }
 
 void Presentati() {
@@ -228,7 +241,12 @@ Per_Lettori::Per_Lettori() {
 
 void Intitola(QLabel& etichetta, const QString& titolo) {
   Presentati();
-  etichetta.setProperty(proprieta_titolo, titolo);
+  etichetta.setProperty(proprieta_titolo, true);
+  // A reader that listens already has it as the plain label that it was until now.
+  QAccessibleInterface* prima = QAccessible::queryAccessibleInterface(&etichetta);
+  if (prima != nullptr && dynamic_cast<Etichetta_Letta*>(prima) == nullptr)
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(prima));
+  etichetta.setAccessibleName(titolo);  // with a name, its changes are read and not announced
 }
 
 void Annuncia_Nome(QWidget& widget, int pezzo) {

@@ -56,7 +56,8 @@ class Per_Lettori {
   std::shared_ptr<const bool> vivo_ = std::make_shared<const bool>(true);
 };
 
-/// What stands before the text of a label where only the eye sees what it belongs to.
+/// What stands before the text of a label where only the eye sees what it belongs to. Such a label
+/// is read when somebody asks: a value that changes all the time is not announced.
 void Intitola(QLabel& etichetta, const QString& titolo);
 
 /// Tells that the name of a widget, or of one of its pieces, is another one.

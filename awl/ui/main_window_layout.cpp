@@ -19,6 +19,7 @@
 #include "awl/ui/main_window.h"
 #include "awl/ui/main_window_tables.h"
 #include "widgets/naming.h"
+#include "widgets/screen_reader.h"
 #include "widgets/text.h"
 #include "widgets/twips.h"
 
@@ -170,6 +171,7 @@ QWidget* FrmMain::Crea_Pagina_Listato() {
     nome->setObjectName(QString::fromUtf8(Etichette_Listato[i].Nome));
     etNR[i] = new QLabel;
     etNR[i]->setObjectName(QString::fromUtf8(Etichette_Listato[i].Valore));
+    Intitola(*etNR[i], nome->text());
     etNR[i]->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("0000")));
     etNR[i]->setFont(Grassetto(etNR[i]->font()));
     riga->addWidget(nome);

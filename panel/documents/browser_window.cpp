@@ -85,6 +85,7 @@ FrmBrowser::FrmBrowser(const Guida& guida, QWidget* sopra)
   Crea_Scorciatoie();
 
   brwWebBrowser_->setObjectName("brwWebBrowser");
+  brwWebBrowser_->setAccessibleName(Q("Pagina della guida"));
   brwWebBrowser_->setFrameShape(QFrame::NoFrame);
   brwWebBrowser_->Comincia = [this] { timTimer_Tick(); };
   brwWebBrowser_->Finita = [this](const QUrl& url) { Navigazione_Finita(url); };

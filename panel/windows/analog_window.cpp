@@ -15,6 +15,7 @@
 #include "panel/windows/fields.h"
 #include "panel/windows/value_scale.h"
 #include "plc/plc.h"
+#include "widgets/screen_reader.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -84,6 +85,7 @@ void FrmSimAI::Aggiungi_Canale(int indice, QGridLayout& griglia) {
   QLabel* valore = Campo_Valore(Con_Indice("etV", indice), 7);
   valore->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   valore->setToolTip(Q("Valore presente all'ingresso"));
+  Intitola(*valore, nome + ':');
 
   const int riga = 3 * indice;
   auto* margini = new QHBoxLayout;  // room for the numbers that stand out at both ends

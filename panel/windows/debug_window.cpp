@@ -109,6 +109,7 @@ QListWidget* FrmDebug::Lista(const char* nome, const char* suggerimento) const {
   auto* lista = new QListWidget;
   lista->setObjectName(nome);
   lista->setToolTip(Q(suggerimento));
+  lista->setAccessibleName(Q(suggerimento));
   lista->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   lista->setUniformItemSizes(true);
   for (const Riga_Src& riga : righe_) lista->addItem(Da_Byte(riga.Testo_CPU));
@@ -151,6 +152,7 @@ QLayout* FrmDebug::Testa_HEX() {
   etR_->setToolTip(Q("Numero della riga"));
   txt1_ = new QTextEdit;
   txt1_->setObjectName("txt1");
+  txt1_->setAccessibleName(Q("Campi delle righe compilate"));
   txt1_->setReadOnly(true);
   txt1_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   txt1_->setLineWrapMode(QTextEdit::NoWrap);

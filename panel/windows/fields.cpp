@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QShortcut>
 
+#include "widgets/screen_reader.h"
+
 namespace tavorno {
 
 namespace {
@@ -29,7 +31,10 @@ class Campo : public QLabel {
 QLabel* Etichetta(const QString& testo, QWidget* per) {
   auto* etichetta = new QLabel(testo);
   etichetta->setTextFormat(Qt::PlainText);
-  if (per) per->setAccessibleName(testo);
+  if (auto* valore = qobject_cast<QLabel*>(per))
+    Intitola(*valore, testo);
+  else if (per != nullptr)
+    per->setAccessibleName(testo);
   return etichetta;
 }
 

@@ -7,6 +7,7 @@
 #include "panel/windows/bit_row.h"
 #include "panel/windows/status_window.h"
 #include "plc/plc.h"
+#include "widgets/screen_reader.h"
 #include "widgets/text.h"
 
 // The controls of the element status window.
@@ -85,7 +86,8 @@ FrmStatiL::Byte FrmStatiL::Riga_Byte(QGridLayout& griglia, int riga, const QStri
   auto* cifre = new Riga_Bit(bit, bit_di_un_byte);
   QLabel* numero = Campo_Valore(valore, 3);
   numero->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-  numero->setAccessibleName(nome_letto);
+  Intitola(*cifre, nome_letto);
+  Intitola(*numero, nome_letto);
   griglia.addWidget(cifre, riga, 1);
   griglia.addWidget(numero, riga, 2);
   return {Visto<std::string>(cifre), Visto_Numero(numero)};
@@ -128,8 +130,14 @@ QGroupBox* FrmStatiL::Riquadro_M() {
     griglia->addWidget(nomi.back(), k + 1, 0);
     marker_.push_back(Riga_Byte(*griglia, k + 1, Con_Indice("etM", k), Con_Indice("etmb", k), {}));
   }
-  Segui(*cmbM1_, [nomi](int primo) {
-    for (QLabel* nome : nomi) nome->setText(QStringLiteral("M%1").arg(primo++));
+  Segui(*cmbM1_, [nomi, griglia](int primo) {
+    for (int k = 0; k < righe_marker; ++k) {
+      const QString nome = QStringLiteral("M%1").arg(primo + k);
+      nomi[static_cast<std::size_t>(k)]->setText(nome);
+      for (const int colonna : {1, 2})
+        Intitola(*static_cast<QLabel*>(griglia->itemAtPosition(k + 1, colonna)->widget()),
+                 nome + ':');
+    }
   });
   return riquadro;
 }
@@ -153,6 +161,13 @@ std::vector<FrmStatiL::Colonna> FrmStatiL::Metti_Colonne(QGridLayout& griglia, i
     griglia.addWidget(valore, riga + 1, i);
     griglia.addWidget(preset, riga + 2, i);
     griglia.addWidget(bit, riga + 3, i);
+    const QString area = Q(std::string(Testo_Area(tabella.Elementi)));
+    Segui(*lista, [=](int numero) {
+      const QString nome = area + QString::number(numero);
+      Intitola(*valore, nome + QStringLiteral(" valore:"));
+      Intitola(*preset, nome + QStringLiteral(" set:"));
+      Intitola(*bit, nome + QStringLiteral(" bit:"));
+    });
     colonne.push_back({lista, Visto_Numero(valore), Visto_Numero(preset), Visto_Numero(bit)});
   }
   return colonne;
@@ -193,6 +208,7 @@ FrmStatiL::Memoria_V FrmStatiL::Metti_V(QGridLayout& griglia, int riga, const Ta
   griglia.addWidget(Etichetta(nome_area, memoria.Scelta), riga, 0);
   griglia.addWidget(memoria.Scelta, riga, 1);
   std::vector<QLabel*> numeri;
+  std::vector<QLabel*> valori;
   for (int k = 0; k < (tabella.Due ? 2 : 1); ++k) {
     const auto nome = [&](const char* base) {
       return tabella.Due ? Con_Indice(base, k) : QString::fromLatin1(base);
@@ -205,10 +221,16 @@ FrmStatiL::Memoria_V FrmStatiL::Metti_V(QGridLayout& griglia, int riga, const Ta
     griglia.addWidget(numero, riga + k, 2);
     griglia.addWidget(valore, riga + k, 3);
     numeri.push_back(numero);
+    valori.push_back(valore);
     memoria.Celle.emplace_back(valore);
   }
-  Segui(*memoria.Scelta, [numeri](int prima) {
-    for (QLabel* numero : numeri) numero->setText(QString::number(prima++));
+  const QString area = Q(std::string(Testo_Area(tabella.Celle)));
+  Segui(*memoria.Scelta, [numeri, valori, area](int prima) {
+    for (std::size_t k = 0; k < numeri.size(); ++k) {
+      const QString numero = QString::number(prima + static_cast<int>(k));
+      numeri[k]->setText(numero);
+      Intitola(*valori[k], area + numero + ':');
+    }
   });
   return memoria;
 }

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "panel/windows/fields.h"
+#include "widgets/screen_reader.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -31,6 +32,7 @@ Campione_Contraves::Campione_Contraves() : etC1_(new QLabel(Come_Testo(0))) {
   setToolTip(Q("Prova del selettore: una cifra da 0 a 9"));
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   etC1_->setObjectName("etC1");
+  Intitola(*etC1_, Q("Cifra:"));
   etC1_->setAlignment(Qt::AlignCenter);
   QFont carattere = font();
   carattere.setPointSizeF(carattere.pointSizeF() * 1.7);
@@ -52,6 +54,7 @@ Campione_Contraves::Campione_Contraves() : etC1_(new QLabel(Come_Testo(0))) {
     tasto->setAutoRepeat(true);
     tasto->setFocusPolicy(Qt::StrongFocus);
     tasto->setToolTip(Q(freccia.Suggerimento));
+    tasto->setAccessibleName(tasto->toolTip());
     tasto->setFixedSize(26, 20);
     connect(tasto, &QToolButton::clicked, this, [this, passo = freccia.Passo] { Gira(passo); });
     colonna->addWidget(tasto);

@@ -43,6 +43,7 @@ void Colora(QTableWidgetItem& voce, const colori::Coppia* tinta) {
 
 QTableWidget* Crea_Tabella() {
   auto* tabella = Chiama(QStringLiteral("tabOsserva"), new QTableWidget(0, 4));
+  tabella->setAccessibleName(QStringLiteral("Celle osservate"));
   tabella->setHorizontalHeaderLabels({QStringLiteral("Cella"), QStringLiteral("Formato"),
                                       QStringLiteral("Valore"), QStringLiteral("Forza")});
   tabella->verticalHeader()->hide();

@@ -6,11 +6,15 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScrollArea>
 #include <QTabBar>
 #include <set>
+#include <vector>
 
-#include "awl/ui/main_window.h"
+#include "panel/child_windows.h"
 #include "panel/panel_bed.h"
+#include "plants/exercises.h"
+#include "plants/host/host_window.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -34,10 +38,10 @@ class Lettere {
   std::map<std::string, std::string> di_;
 };
 
-void Esamina_Finestra(const QMainWindow& finestra) {
+void Esamina_Finestra(const QWidget& finestra) {
   Lettere lettere;
-  for (const QAction* voce : finestra.menuBar()->actions())
-    lettere.Prende(Lettera(voce->text()), voce->text());
+  if (const auto* menu = finestra.findChild<QMenuBar*>())
+    for (const QAction* voce : menu->actions()) lettere.Prende(Lettera(voce->text()), voce->text());
   for (const auto* tasto : finestra.findChildren<QAbstractButton*>())
     if (tasto->shortcut() == QKeySequence::mnemonic(tasto->text()))
       lettere.Prende(Lettera(tasto->text()), tasto->text());
@@ -56,7 +60,7 @@ void Esamina_Finestra(const QMainWindow& finestra) {
   }
 }
 
-void Esamina_Menu(const QMainWindow& finestra) {
+void Esamina_Menu(const QWidget& finestra) {
   // Captions that are given.
   const std::set<QString> doppie = {"Finestra &Scalaro"};
   for (const auto* menu : finestra.findChildren<QMenu*>()) {
@@ -66,31 +70,78 @@ void Esamina_Menu(const QMainWindow& finestra) {
   }
 }
 
-TEST_F(Banco_Pannello, AltAndALetterAreOfOneCommandOnly) {
-  Esamina_Finestra(pannello);
-  Esamina_Menu(pannello);
+/// What takes the keyboard, but for the parts that only pass it on.
+std::vector<QWidget*> Presi_Dal_Tab(const QWidget& finestra) {
+  std::vector<QWidget*> presi;
+  for (QWidget* controllo : finestra.findChildren<QWidget*>()) {
+    if ((controllo->focusPolicy() & Qt::TabFocus) == 0 || controllo->window() != &finestra)
+      continue;
+    const QWidget& sopra = *controllo->parentWidget();
+    if (sopra.inherits("QAbstractSpinBox") || sopra.inherits("QComboBox")) continue;  // parts
+    if (controllo->inherits("QTabWidget") || controllo->inherits("QStackedWidget")) continue;
+    if (controllo->metaObject() == &QScrollArea::staticMetaObject) continue;
+    presi.push_back(controllo);
+  }
+  return presi;
 }
 
-TEST_F(Banco_Pannello, SoTheyAreInTheEditor) {
-  FrmMain editor(progetto, plc, {});
-  Esamina_Finestra(editor);
-  Esamina_Menu(editor);
+void Esamina_Nomi(const QWidget& finestra) {
+  for (QWidget* controllo : Presi_Dal_Tab(finestra)) {
+    QAccessibleInterface* letto = QAccessible::queryAccessibleInterface(controllo);
+    ASSERT_NE(letto, nullptr) << Utf8(controllo->objectName());
+    if (letto->role() == QAccessible::PageTabList) continue;  // its tabs have names
+    EXPECT_FALSE(letto->text(QAccessible::Name).isEmpty())
+        << Utf8(controllo->objectName()) << ' ' << controllo->metaObject()->className() << " in "
+        << Utf8(finestra.windowTitle());
+  }
 }
 
-TEST_F(Banco_Pannello, EveryControlThatTakesTheKeyboardHasANameForReaders) {
-  FrmMain editor(progetto, plc, {});
-  for (QWidget* finestra : {static_cast<QWidget*>(&pannello), static_cast<QWidget*>(&editor)}) {
-    for (QWidget* controllo : finestra->findChildren<QWidget*>()) {
-      if ((controllo->focusPolicy() & Qt::TabFocus) == 0) continue;
-      // The frames of pages and scroll areas pass the keyboard on.
-      if (controllo->parentWidget()->inherits("QAbstractSpinBox")) continue;  // a part of one
-      if (controllo->inherits("QTabWidget") || controllo->inherits("QStackedWidget")) continue;
-      QAccessibleInterface* letto = QAccessible::queryAccessibleInterface(controllo);
-      ASSERT_NE(letto, nullptr) << Utf8(controllo->objectName());
-      if (letto->role() == QAccessible::PageTabList) continue;  // its tabs have names
-      EXPECT_FALSE(letto->text(QAccessible::Name).isEmpty())
-          << Utf8(controllo->objectName()) << ' ' << controllo->metaObject()->className();
+struct Tutte_Le_Finestre : Banco_Pannello {
+  Guida guida;
+  Finestre finestre{pannello, plc, progetto, guida};
+
+  /// Looks at every window of the program that is open, and returns how many there are.
+  static std::size_t Esamina() {
+    std::size_t quante = 0;
+    for (QWidget* finestra : QApplication::topLevelWidgets()) {
+      if (!finestra->isVisible() || !finestra->objectName().startsWith("frm")) continue;
+      SCOPED_TRACE(Utf8(finestra->objectName()));
+      Esamina_Finestra(*finestra);
+      Esamina_Menu(*finestra);
+      Esamina_Nomi(*finestra);
+      const auto ruolo = QAccessible::queryAccessibleInterface(finestra)->role();
+      EXPECT_TRUE(ruolo == QAccessible::Window || ruolo == QAccessible::Dialog) << ruolo;
+      ++quante;
     }
+    return quante;
+  }
+};
+
+TEST_F(Tutte_Le_Finestre, HaveNoLetterTwiceAndNoControlWithoutAName) {
+  guida.Dir_Help = "/guida/";
+  EXPECT_EQ(Esamina(), 1U) << "the panel";
+  finestre.Mostra_Impostazioni();
+  finestre.Mostra_Analogici();
+  finestre.Mostra_Stati();
+  finestre.Mostra_Debug();
+  finestre.Mostra_Scala();
+  finestre.Mostra_Tempi();
+  finestre.Mostra_Osserva();
+  finestre.Mostra_Aiuto("/guida/Index.htm");
+  finestre.Mostra_Editor(Avvio::Nuovo);
+  EXPECT_EQ(Esamina(), 10U);
+}
+
+TEST_F(Tutte_Le_Finestre, OfTheExercisesToo) {
+  for (const Esercizio& esercizio : Tabella_Esercizi()) {
+    finestre.Apri_Impianto(esercizio.Indice);
+    ASSERT_NE(finestre.Impianto(), nullptr);
+    EXPECT_EQ(Esamina(), 3U) << "panel, status and plant";
+    finestre.Mostra_Tavolo();
+    EXPECT_GE(Esamina(), 1U);
+    finestre.Separa_Finestre();
+    finestre.Impianto()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What stands beside the lines of the list once "Valori" is ticked.
+#include <QAccessible>
 #include <QCheckBox>
 #include <QImage>
 
@@ -84,6 +85,26 @@ TEST_F(Valori_In_Diretta, InStepEachLineShowsWhatItFoundAndTheNextOneIsMarked) {
   EXPECT_EQ(Flussi(), "110011.");
   Scegli("mnuPLCPiu");
   EXPECT_EQ(Flussi(), ".......") << "another scan begins";
+}
+
+TEST_F(Valori_In_Diretta, AreReadAloudWithTheirLine) {
+  QAccessibleInterface* lista = QAccessible::queryAccessibleInterface(c.listSrc);
+  const auto letta = [&](int riga) {
+    return lista->child(riga)->text(QAccessible::Name).toStdString();
+  };
+  EXPECT_EQ(letta(1), "Riga 1: LD I0.0");
+  c.chkVal->setChecked(true);
+  plc.Mem_T[37] = {23, 50, 0, 0};
+  EXPECT_EQ(letta(1), "Riga 1: LD I0.0; vale 0");
+  EXPECT_EQ(letta(3), "Riga 3: LD T37; vale 0 23/50");
+  plc.SI[0].Stato_I("10000000");
+  Scegli("mnuPlcStep");
+  Scegli("mnuPlcRun");
+  for (int n = 0; n < 2; ++n) Scegli("mnuPLCPiu");
+  EXPECT_EQ(letta(1), "Riga 1: LD I0.0; vale 1; passa corrente");
+  EXPECT_EQ(letta(2), "Riga 2: TON T37, +50; vale 0 0/0; sarà eseguita");
+  c.chkVal->setChecked(false);
+  EXPECT_EQ(letta(1), "Riga 1: LD I0.0");
 }
 
 TEST_F(Valori_In_Diretta, UntickedNobodyListensToTheRun) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QAccessible>
 #include <QGroupBox>
 #include <QScreen>
 #include <QTimer>
@@ -37,6 +38,29 @@ TEST_F(Status, WindowHasItsNameAndTitle) {
   EXPECT_EQ(finestra.objectName(), "frmStatiL");
   EXPECT_EQ(finestra.windowTitle(), " Indicatori Stato Elementi PLC.");
   Prova_Finestra(finestra);
+}
+
+TEST_F(Status, ItsValuesAreReadWithWhatTheyBelongTo) {
+  const auto letto = [this](const char* nome) {
+    finestra.Aggiorna();
+    return QAccessible::queryAccessibleInterface(&Trova<QLabel>(finestra, nome))
+        ->text(QAccessible::Name)
+        .toStdString();
+  };
+  plc.IP_I[0].Txt_B = "00000101";
+  plc.IP_I[0].Val_B = 5;
+  EXPECT_EQ(letto("etIW(0)"), "IB0: 00000101");
+  EXPECT_EQ(letto("etIB(0)"), "IB0: 5");
+  plc.Mem_T[37].Val = 12;
+  EXPECT_EQ(letto("etTmrV(2)"), "T37 valore: 12");
+  plc.Mem_T[5].Val = 7;
+  Trova<QComboBox>(finestra, "cmbIndT(2)").setCurrentIndex(5);
+  EXPECT_EQ(letto("etTmrV(2)"), "T5 valore: 7");
+  plc.Mem_VW[4] = -3;
+  Trova<QComboBox>(finestra, "cmbVW").setCurrentIndex(3);
+  EXPECT_EQ(letto("etDVw(1)"), "VW4: -3");
+  Trova<QComboBox>(finestra, "cmbM1").setCurrentIndex(1);
+  EXPECT_TRUE(QString::fromStdString(letto("etmb(0)")).startsWith("M1: ")) << letto("etmb(0)");
 }
 
 struct Lista {
