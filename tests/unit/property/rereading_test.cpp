@@ -40,7 +40,7 @@ class Guardata {
   static std::vector<Segnale> Segnali() {
     std::vector<Segnale> segnali;
     for (const char* nome : {"I0.0", "Q0.0", "Q0.1", "VW10", "T37.Val", "SM0.5"})
-      segnali.push_back(*Cerca_Segnale(nome, nullptr));
+      segnali.push_back(*Cerca_Segnale(nome, {}));
     return segnali;
   }
   void Passa(std::int64_t ms) {
