@@ -76,6 +76,7 @@ ctr_Assi::ctr_Assi(Plc& plc)
     Disegno[nome].ForeColor = cifre_display;
   }
   plc_.Volt_AI[posizione] = 0;
+  for (const char* filo : {"linM", "filoTP", "filoVC"}) Accendi(filo, false);
 
   Monta(pulsanti);
   Monta(selettori);
@@ -119,11 +120,13 @@ void ctr_Assi::Monta_Regolatori() {
     Disegno["EtRif"].Caption = Formato(volt, "0.0##");
     Disegno["shRif"].Left = volt * corsa / fondo + zero;
     plc_.Volt_AI[riferimento] = volt;
+    Accendi("filoSET", volt > 0);
   };
   const auto Cambia_Isteresi = [this](double millesimi) {
     const auto volt = static_cast<float>(millesimi / 1000);
     Disegno["EtIst"].Caption = Formato(volt, "0.0##");
     plc_.Volt_AI[isteresi] = volt;
+    Accendi("filoIST", volt > 0);
   };
   Regolatori["UpD1"] = {Cambia_Riferimento, 0, 0, 100, 1};
   Regolatori["UpD2"] = {Cambia_Isteresi, 0, 0, 100, 1};
@@ -154,6 +157,7 @@ void ctr_Assi::Comanda(const Comando& comando, bool acceso) {
   const bool in_moto = Potenza_On != 0 && (Marcia_Avanti != 0 || Marcia_Indietro != 0);
   timMove.Enabled(in_moto);
   timG.Enabled(in_moto);
+  Accendi("linM", in_moto);
 }
 
 // ---- movement -----------------------------------------------------------------------------------
@@ -174,6 +178,7 @@ void ctr_Assi::Tick_timIO() {
   const float volt = plc_.Volt_AQ[0];
   ME_VC(volt);
   Disegno["EtVc"].Caption = Formato(volt, "0.0#");
+  Accendi("filoVC", volt > 0);
 }
 
 void ctr_Assi::Tick_timMove() {
@@ -185,6 +190,7 @@ void ctr_Assi::Tick_timMove() {
   const float volt = (ora - zero) * fondo / corsa;
   Disegno["EtPos"].Caption = Formato(volt, "#0.00");
   plc_.Volt_AI[posizione] = volt;
+  Accendi("filoTP", volt > 0);
 
   if (ora < limite_indietro) {
     Segna_Limite(indietro_, true);
@@ -199,6 +205,10 @@ void ctr_Assi::Tick_timMove() {
 void ctr_Assi::Tick_timG() {
   ShPerno.FillStyle = ShPerno.FillStyle == 4 ? 5 : 4;
   ShPerno.Picture = ShPerno.FillStyle == 4 ? "filetto_4" : "filetto_5";
+}
+
+void ctr_Assi::Accendi(const char* filo, bool in_tensione) {
+  Disegno[filo].FillColor = Tavolozza(in_tensione ? 12 : 15);
 }
 
 void ctr_Assi::Mostra_Limite(const Limite& limite, bool raggiunto) {

@@ -49,6 +49,7 @@ class ctr_Assi : public Impianto {
   void Monta_Finecorsa(const Limite& limite);
   void Monta_Manuale(const char* nome, std::uint8_t senso);
   void Monta_Regolatori();
+  void Accendi(const char* filo, bool in_tensione);
   void Mostra_Limite(const Limite& limite, bool raggiunto);
   void Segna_Limite(const Limite& limite, bool raggiunto);
   void Tick_timIO();
