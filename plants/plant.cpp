@@ -30,15 +30,29 @@ bool Chiama(const std::function<void()>& azione) {
 }  // namespace
 
 Impianto::Impianto(std::span<const Riga_Figura> figure, std::string_view stato_i, Invio invio)
-    : Disegno(figure), stato_i_(Sedici(stato_i)), invio_(invio) {}
+    : Disegno(figure), stato_i_(Sedici(stato_i)), invio_(invio) {
+  for (std::size_t n = 0; n < lunghezza; ++n) {
+    fili_i_[n] = Disegno.Trova("filoI(" + std::to_string(n) + ')');
+    fili_q_[n] = Disegno.Trova("filoQ(" + std::to_string(n) + ')');
+  }
+  Colora(fili_i_, stato_i_);
+  Colora(fili_q_, stato_q_);
+}
+
+void Impianto::Colora(const Fili& fili, const std::string& stato) {
+  for (std::size_t n = 0; n < lunghezza; ++n)
+    if (fili[n] != nullptr) fili[n]->FillColor = Tavolozza(stato[n] == '1' ? 12 : 15);
+}
 
 void Impianto::Stato_I(std::string_view testo) {
   stato_i_ = Sedici(testo);
+  Colora(fili_i_, stato_i_);
   if (invio_ == Invio::Doppio) txtC(stato_i_);
 }
 
 void Impianto::Stato_Q(std::string_view testo) {
   stato_q_ = Sedici(testo);
+  Colora(fili_q_, stato_q_);
   Applica_Uscite();
 }
 

@@ -38,7 +38,9 @@ enum class Invio {
 
 /// A plant: physics, named figures, and two texts of sixteen characters '0' and '1', one for the
 /// PLC's inputs and one for its outputs. A character is the electrical state of the terminal, so a
-/// normally closed contact at rest reads '1'.
+/// normally closed contact at rest reads '1'. Figures named "filoI(0)" to "filoI(15)" and
+/// "filoQ(0)" to "filoQ(15)" are wires between the machine and the PLC: colour 12 while the
+/// terminal is live, else 15.
 class Impianto {
  public:
   virtual ~Impianto() = default;
@@ -107,6 +109,10 @@ class Impianto {
   std::map<std::string, Regolatore, std::less<>> Regolatori;
 
  private:
+  using Fili = std::array<Figura*, 16>;
+  static void Colora(const Fili& fili, const std::string& stato);
+
+  Fili fili_i_{}, fili_q_{};  // null where the picture has no wire
   std::string stato_i_;
   std::string stato_q_ = "0000000000000000";
   std::array<char, 16> viste_{};  // output characters as `Uscita_Cambiata` last saw them

@@ -6,11 +6,11 @@
 source "$(dirname "$0")/screen.sh"
 
 # In the picture at 100 %: coil of the contactor, green lamp, Start and Stop.
-coil=24x24+81+111
-lamp=20x20+727+200
-button=12x12+452+204
-start='457 210'
-stop='365 210'
+coil=24x24+81+92
+lamp=20x20+722+205
+button=12x12+426+209
+start='432 215'
+stop='330 215'
 plant='00-Marcia/arresto'
 
 # Held until the parts look as they should, since a tap may be shorter than a scan.

@@ -10,7 +10,7 @@
 namespace tavorno {
 namespace {
 
-constexpr QPoint contatto_FR(7170, 585);  // of US-00, twips
+constexpr QPoint contatto_FR(5340, 675);  // of US-00, twips
 
 struct Picture : ::testing::Test {
   Banco_Host banco{0};  // a motor with one contactor
