@@ -50,14 +50,14 @@ constexpr Riga_Figura figure[] = {
     {"imgSB(7)",  7545, 1575,  390,  390, "imgSBOF", "SB7 Stop Mescolatore-Vapore in manuale, I1.5"},
     {"imgSB(8)",  7965, 1575,  390,  390, "imgSBOF", "SB8 Start Scarico Miscela in manuale, I1.6"},
     {"imgSB(9)",  8385, 1575,  390,  390, "imgSBOF", "SB9 Stop Scarico Miscela in manuale, I1.7"},
-    {"imgL(0)",   5475, 2400,  330,  330, Lampada_Spenta, "HL1 verde, Q0.6"},
-    {"imgL(1)",   5895, 2400,  330,  330, Lampada_Spenta, "HL2 verde, Q0.7"},
-    {"imgL(2)",   6315, 2400,  330,  330, Lampada_Spenta, "HL3 verde, Q1.0"},
-    {"imgL(3)",   6735, 2400,  330,  330, Lampada_Spenta, "HL4 verde, Q1.1"},
-    {"imgL(4)",   7155, 2400,  330,  330, Lampada_Spenta, "HL5 gialla, Q1.2"},
-    {"imgL(5)",   7575, 2400,  330,  330, Lampada_Spenta, "HL6 blu, Q1.3"},
-    {"imgL(6)",   7995, 2400,  330,  330, Lampada_Spenta, "HL7 blu, Q1.4"},
-    {"imgL(7)",   8415, 2400,  330,  330, Lampada_Spenta, "HL8 rossa, Q1.5"},
+    {"imgL(0)",   5475, 2331,  330,  330, Lampada_Spenta, "HL1 verde, Q0.6"},
+    {"imgL(1)",   5895, 2331,  330,  330, Lampada_Spenta, "HL2 verde, Q0.7"},
+    {"imgL(2)",   6315, 2331,  330,  330, Lampada_Spenta, "HL3 verde, Q1.0"},
+    {"imgL(3)",   6735, 2331,  330,  330, Lampada_Spenta, "HL4 verde, Q1.1"},
+    {"imgL(4)",   7155, 2331,  330,  330, Lampada_Spenta, "HL5 gialla, Q1.2"},
+    {"imgL(5)",   7575, 2331,  330,  330, Lampada_Spenta, "HL6 blu, Q1.3"},
+    {"imgL(6)",   7995, 2331,  330,  330, Lampada_Spenta, "HL7 blu, Q1.4"},
+    {"imgL(7)",   8415, 2331,  330,  330, Lampada_Spenta, "HL8 rossa, Q1.5"},
 };
 
 constexpr Riga_Mandata mandate[] = {
