@@ -70,9 +70,7 @@ QLineEdit* Numero(const char* nome, const QString& testo, const char* suggerimen
 QLabel* Quadrante(const QString& nome, const QString& testo) {
   QLabel* quadrante = Lettura(nome, testo, 8);
   quadrante->setFont(Carattere_Fisso(13));
-  QPalette tinte = quadrante->palette();
-  tinte.setColor(QPalette::Base, colori::Tempo_Acceso.Fondo);
-  quadrante->setPalette(tinte);
+  quadrante->setBackgroundRole(QPalette::Window);
   return quadrante;
 }
 

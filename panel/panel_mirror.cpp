@@ -22,6 +22,7 @@
 #include "plc/number_text.h"
 #include "widgets/colours.h"
 #include "widgets/text.h"
+#include "widgets/tinting.h"
 
 namespace tavorno {
 
@@ -29,13 +30,6 @@ namespace {
 
 void Scrivi(QLabel& etichetta, const QString& testo) {
   if (etichetta.text() != testo) etichetta.setText(testo);
-}
-
-void Colora(QLabel& etichetta, QPalette::ColorRole ruolo, QColor colore) {
-  if (etichetta.palette().color(ruolo) == colore) return;
-  QPalette tinte = etichetta.palette();
-  tinte.setColor(ruolo, colore);
-  etichetta.setPalette(tinte);
 }
 
 }  // namespace
@@ -229,8 +223,7 @@ void FrmPLC::Mostra_Modo() {
 }
 
 void FrmPLC::Mostra_Tempo_Acceso() {
-  Colora(*c_.etTime, c_.etTime->foregroundRole(),
-         (plc_.Scelte.chkList ? colori::Tempo_Acceso : colori::Tempo_Spento).Testo);
+  Tingi(*c_.etTime, plc_.Scelte.chkList ? &colori::Tempo_Acceso : &colori::Tempo_Spento);
 }
 
 void FrmPLC::Mostra_Immagini() {
@@ -243,8 +236,7 @@ void FrmPLC::Mostra_Immagini() {
 void FrmPLC::Mostra_Pila() {
   const bool accesa = c_.chkVs->isChecked();
   for (std::size_t i = 0; i < c_.etS.size(); ++i) {
-    Colora(*c_.etS[i], QPalette::Window, accesa ? colori::Pila.Fondo : colori::Pila_Spenta);
-    Colora(*c_.etS[i], QPalette::WindowText, colori::Pila.Testo);
+    Tingi(*c_.etS[i], accesa ? &colori::Pila : &colori::Pila_Spenta);
     Scrivi(*c_.etS[i], accesa ? QString::number(plc_.Stak[static_cast<int>(i)]) : QString());
   }
 }

@@ -21,6 +21,11 @@ const colori::Coppia& Tinta_Valore(const Stato_Riga& stato) {
   return stato.Acceso ? colori::Bit_Uno : colori::Valore_Riga;
 }
 
+/// A line that can be seen on the desktop's own sheet.
+QColor Sul_Foglio(const QColor& tinta, const QStyleOptionViewItem& opzioni) {
+  return colori::Su(tinta, opzioni.palette.color(QPalette::Base), colori::Visibile);
+}
+
 /// Power is a bar before the text, thick where it flows; the state of the operand stands at the
 /// right border.
 void Disegna_Stato(QPainter& pittore, const QStyleOptionViewItem& opzioni, const Stato_Riga& stato,
@@ -30,14 +35,14 @@ void Disegna_Stato(QPainter& pittore, const QStyleOptionViewItem& opzioni, const
     const bool acceso = stato.Corrente == Stato_Riga::Flusso::Acceso;
     const int larga = acceso ? 4 : 1;
     pittore.fillRect(riga.left() + margine - larga, riga.top(), larga, riga.height(),
-                     acceso ? colori::Corrente : colori::Senza_Corrente);
+                     Sul_Foglio(acceso ? colori::Corrente : colori::Senza_Corrente, opzioni));
   }
   if (stato.Valore.isEmpty()) return;
   const int larga = opzioni.fontMetrics.horizontalAdvance(stato.Valore) + 12;
   const QRect posto(riga.right() - larga - 2, riga.top() + 1, larga, riga.height() - 2);
   pittore.setRenderHint(QPainter::Antialiasing);
   pittore.setPen(Qt::NoPen);
-  pittore.setBrush(Tinta_Valore(stato).Fondo);
+  pittore.setBrush(QColor(Tinta_Valore(stato).Fondo));
   pittore.drawRoundedRect(posto, 3, 3);
   pittore.setPen(Tinta_Valore(stato).Testo);
   pittore.drawText(posto, Qt::AlignCenter, stato.Valore);
@@ -58,22 +63,23 @@ void Disegna_Fermata(QPainter& pittore, const QStyleOptionViewItem& opzioni,
   const QRectF posto(opzioni.rect.left() + 1.5, QRectF(opzioni.rect).center().y() - lato / 2, lato,
                      lato);
   pittore.setRenderHint(QPainter::Antialiasing);
-  const QColor& tinta = forma == Forma::Nessuna ? colori::Fermata_Possibile : colori::Fermata;
+  const QColor tinta = forma == Forma::Nessuna ? colori::Fermata_Possibile : colori::Fermata;
   pittore.setPen(forma == Forma::Vuota ? QPen(tinta, 2) : QPen(Qt::NoPen));
   pittore.setBrush(forma == Forma::Vuota ? QBrush(Qt::NoBrush) : QBrush(tinta));
   pittore.drawEllipse(forma == Forma::Vuota ? posto.adjusted(1, 1, -1, -1) : posto);
   if (forma == Forma::Con_Condizione) {
-    pittore.setPen(QPen(colori::Bianco, 2));
+    pittore.setPen(QPen(colori::Nella_Fermata.Di(colori::In_Uso()), 2));
     pittore.drawLine(QPointF(posto.left() + lato * 0.25, posto.center().y()),
                      QPointF(posto.right() - lato * 0.25, posto.center().y()));
   }
 }
 
 /// A thin arrow at the left border: this line is next.
-void Disegna_Prossima(QPainter& pittore, const QRect& riga) {
+void Disegna_Prossima(QPainter& pittore, const QStyleOptionViewItem& opzioni) {
+  const QRect& riga = opzioni.rect;
   const double mezzo = riga.center().y() + 0.5, x = riga.left() + 1.5;
   pittore.setRenderHint(QPainter::Antialiasing);
-  pittore.setPen(QPen(colori::Prossima_Riga, 1.5));
+  pittore.setPen(QPen(Sul_Foglio(colori::Prossima_Riga, opzioni), 1.5));
   pittore.drawPolyline(
       QPolygonF{QPointF(x, mezzo - 4), QPointF(x + 5, mezzo), QPointF(x, mezzo + 4)});
   pittore.drawLine(QPointF(riga.left(), riga.top() + 0.5), QPointF(riga.right(), riga.top() + 0.5));
@@ -102,7 +108,7 @@ class Con_Numero : public QStyledItemDelegate {
       Disegna_Fermata(*pittore, opzioni, lista_->Segno_Di(indice.row()).Come,
                       lista_->Sotto_Il_Mouse() == indice.row());
     Disegna_Stato(*pittore, opzioni, lista_->Stato(indice.row()), margine);
-    if (lista_->Prossima() == indice.row()) Disegna_Prossima(*pittore, opzioni.rect);
+    if (lista_->Prossima() == indice.row()) Disegna_Prossima(*pittore, opzioni);
     pittore->restore();
   }
 

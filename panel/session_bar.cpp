@@ -21,6 +21,7 @@
 #include "widgets/message_box.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
+#include "widgets/tinting.h"
 #include "widgets/wrapping_row.h"
 
 namespace tavorno {
@@ -357,11 +358,7 @@ void Barra_Seduta::Mostra_Stato() {
   }
   if (stato_->text() != testo) stato_->setText(testo);
   const colori::Coppia& tinta = passato ? colori::Pila : colori::In_Stop;
-  QPalette tinte = stato_->palette();
-  tinte.setColor(QPalette::Window,
-                 testo.isEmpty() ? palette().color(QPalette::Window) : tinta.Fondo);
-  tinte.setColor(QPalette::WindowText, tinta.Testo);
-  stato_->setPalette(tinte);
+  Tingi(*stato_, testo.isEmpty() ? nullptr : &tinta);
   const QString pausa = corsa_.In_Pausa() && !passato ? Q("&Continua") : Q("&Pausa");
   if (pausa_->text() != pausa) pausa_->setText(pausa);
   pausa_->setEnabled(!passato);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "awl/ui/awl_editor.h"
 
+#include <QGuiApplication>
+#include <QPalette>
 #include <algorithm>
 #include <utility>
 
@@ -8,6 +10,7 @@
 #include "awl/ui/line_changes.h"
 #include "widgets/colours.h"
 #include "widgets/text.h"
+#include "widgets/tinting.h"
 
 namespace tavorno {
 
@@ -71,13 +74,7 @@ void AwlEditor::Prepara_Vista() {
   setBackspaceUnindents(false);
   setAutoIndent(false);
   setCaretLineVisible(true);
-  setCaretLineBackgroundColor(QColor(0xf4f7fb));
-  setSelectionBackgroundColor(QColor(0xbcd4ee));
-  resetSelectionForegroundColor();
-
   setMarginsFont(lexer()->defaultFont(stile::Numero_Listato));
-  setMarginsForegroundColor(QColor(0x6b7280));
-  setMarginsBackgroundColor(QColor(0xf0f2f4));
   const bool programma = genere_ == Genere_Testo::Programma;
   setMarginType(Margine_Numeri, TextMarginRightJustified);
   setMarginWidth(Margine_Numeri, programma ? QStringLiteral("00000") : QString());
@@ -88,21 +85,39 @@ void AwlEditor::Prepara_Vista() {
   setMarginWidth(Margine_Pieghe, 0);
 
   markerDefine(Circle, Segno_Errore);
-  setMarkerBackgroundColor(QColor(0xd0112b), Segno_Errore);
-  setMarkerForegroundColor(QColor(0x8c0019), Segno_Errore);
   markerDefine(RightTriangle, Segno_Avvertimento);
-  setMarkerBackgroundColor(QColor(0xe8a200), Segno_Avvertimento);
-  setMarkerForegroundColor(QColor(0x7a5b00), Segno_Avvertimento);
   markerDefine(Background, Segno_Fondo);
-  setMarkerBackgroundColor(QColor(0xfdecec), Segno_Fondo);
   markerDefine(Invisible, Segno_Invisibile);
   setAnnotationDisplay(AnnotationIndented);
   indicatorDefine(FullBoxIndicator, Indicatore_Eccedenza);
-  setIndicatorForegroundColor(colori::Fuori_Colonna, Indicatore_Eccedenza);
   indicatorDefine(StraightBoxIndicator, Indicatore_Trovato);
-  setIndicatorForegroundColor(colori::Trovato, Indicatore_Trovato);
   indicatorDefine(SquiggleIndicator, Indicatore_Suggerimento);
-  setIndicatorForegroundColor(QColor(0xc98a00), Indicatore_Suggerimento);
+  Segui_Colori(*this, [this] { Tingi_Vista(); });
+}
+
+void AwlEditor::Tingi_Vista() {
+  namespace tinte = colori::awl;
+  const QColor foglio = QGuiApplication::palette().color(QPalette::Base);
+  lexer_->Ritingi();
+  setCaretForegroundColor(colori::Su(tinte::Testo.Testo, foglio));
+  setCaretLineBackgroundColor(tinte::Riga);
+  setSelectionBackgroundColor(tinte::Scelta.Fondo);
+  setSelectionForegroundColor(tinte::Scelta.Testo);
+  setMarginsForegroundColor(tinte::Margine.Testo);
+  setMarginsBackgroundColor(tinte::Margine.Fondo);
+  setMarkerBackgroundColor(tinte::Punto_Errore, Segno_Errore);
+  setMarkerForegroundColor(tinte::Bordo_Errore, Segno_Errore);
+  setMarkerBackgroundColor(tinte::Punto_Avvertimento, Segno_Avvertimento);
+  setMarkerForegroundColor(tinte::Bordo_Avvertimento, Segno_Avvertimento);
+  setMarkerBackgroundColor(tinte::Messaggio.Fondo, Segno_Fondo);
+  setIndicatorForegroundColor(colori::Su(tinte::Fuori_Colonna, foglio, colori::Visibile),
+                              Indicatore_Eccedenza);
+  setIndicatorForegroundColor(colori::Su(tinte::Trovato, foglio, colori::Visibile),
+                              Indicatore_Trovato);
+  setIndicatorForegroundColor(colori::Su(tinte::Suggerimento, foglio, colori::Visibile),
+                              Indicatore_Suggerimento);
+  setCallTipsBackgroundColor(tinte::Fumetto.Fondo);
+  setCallTipsForegroundColor(tinte::Fumetto.Testo);
 }
 
 void AwlEditor::Prepara_Aiuti() {
@@ -112,8 +127,6 @@ void AwlEditor::Prepara_Aiuti() {
   SendScintilla(SCI_AUTOCSETAUTOHIDE, 1L);
   SendScintilla(SCI_AUTOCSETMAXHEIGHT, 8L);
   SendScintilla(SCI_SETMOUSEDWELLTIME, static_cast<long>(attesa_suggerimento));
-  setCallTipsBackgroundColor(QColor(0xfffbe6));
-  setCallTipsForegroundColor(QColor(0x202428));
   connect(this, &QsciScintillaBase::SCN_CHARADDED, this, [this](int c) { Dopo_Carattere(c); });
   connect(this, &QsciScintillaBase::SCN_DWELLSTART, this,
           [this](int posizione, int x, int y) { Mostra_Suggerimento_A(posizione, x, y); });

@@ -132,6 +132,7 @@ class AwlEditor : public QsciScintilla {
   void Sostituisci(std::size_t inizio, std::string_view vecchio, std::string_view nuovo);
   bool Di_Sola_Lettura() const { return genere_ == Genere_Testo::Listato || spento_; }
   void Prepara_Vista();
+  void Tingi_Vista();
   void Prepara_Aiuti();
   std::string Linea_Byte(int linea) const;  // UTF-8, without its end
   void Dopo_Carattere(int carattere);

@@ -2,10 +2,13 @@
 #include "awl/ui/awl_lexer.h"
 
 #include <QFontDatabase>
+#include <QGuiApplication>
+#include <QPalette>
 #include <algorithm>
 #include <array>
 
 #include "awl/line_words.h"
+#include "widgets/colours.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -15,40 +18,44 @@ namespace {
 struct Aspetto {
   int Stile;
   const char* Nome;
-  QRgb Colore;
-  QRgb Fondo = 0xffffff;
+  const colori::Coppia* Tinte;
   bool Grassetto = false;
   bool Corsivo = false;
 };
 
 // What is wrong differs from what is right by more than its colour: ground, weight or slant.
 constexpr std::array<Aspetto, 25> aspetti = {{
-    {stile::Normale, "Testo", 0x202428},
-    {stile::Commento, "Commento", 0x4f7a4f, 0xffffff, false, true},
-    {stile::Rete, "Segmento", 0x1d3557, 0xe9eff6, true},
-    {stile::Titolo_Rete, "Titolo del segmento", 0x1d3557, 0xe9eff6, false, true},
-    {stile::Operando, "Operando", 0x202428},
-    {stile::Costante, "Costante", 0x8a1c7c},
-    {stile::Non_Supportata, "Istruzione non supportata", 0x7a5b00, 0xfff3c9, false, true},
-    {stile::Sconosciuta, "Istruzione sconosciuta", 0xb00020, 0xffe1e1, true},
-    {stile::Numero_Listato, "Numero di riga", 0x6b7280},
-    {stile::Esito_Buono, "Riga corretta", 0x2b6e3f},
-    {stile::Esito_Errato, "Riga errata", 0xb00020, 0xffe1e1, true},
-    {stile::Messaggio, "Messaggio di errore", 0x8c0019, 0xfdecec},
-    {stile::Di(Famiglia::Contatti), "Contatti", 0x1a4fa0, 0xffffff, true},
-    {stile::Di(Famiglia::Uscite), "Uscite", 0xa63a12, 0xffffff, true},
-    {stile::Di(Famiglia::Pila), "Pila logica", 0x58448c, 0xffffff, true},
-    {stile::Di(Famiglia::Temporizzatori), "Temporizzatori", 0x7d5700, 0xffffff, true},
-    {stile::Di(Famiglia::Contatori), "Contatori", 0x6f4518, 0xffffff, true},
-    {stile::Di(Famiglia::Trasferimenti), "Trasferimenti", 0x00665a, 0xffffff, true},
-    {stile::Di(Famiglia::Conversioni), "Conversioni", 0x2d6a2d, 0xffffff, true},
-    {stile::Di(Famiglia::Confronti), "Confronti", 0x0b6487, 0xffffff, true},
-    {stile::Di(Famiglia::Aritmetica), "Aritmetica", 0x6a1b9a, 0xffffff, true},
-    {stile::Di(Famiglia::Logica), "Logica e scorrimento", 0x3c4a55, 0xffffff, true},
-    {stile::Di(Famiglia::Programma), "Controllo del programma", 0x8a1550, 0xffffff, true},
-    {stile::Di(Famiglia::Sequenze), "Controllo di sequenza", 0x35536e, 0xffffff, true},
-    {stile::Di(Famiglia::Interruzioni), "Interruzioni", 0x5d4037, 0xffffff, true},
+    {stile::Normale, "Testo", &colori::awl::Testo},
+    {stile::Commento, "Commento", &colori::awl::Commento, false, true},
+    {stile::Rete, "Segmento", &colori::awl::Rete, true},
+    {stile::Titolo_Rete, "Titolo del segmento", &colori::awl::Rete, false, true},
+    {stile::Operando, "Operando", &colori::awl::Testo},
+    {stile::Costante, "Costante", &colori::awl::Costante},
+    {stile::Non_Supportata, "Istruzione non supportata", &colori::awl::Non_Supportata, false, true},
+    {stile::Sconosciuta, "Istruzione sconosciuta", &colori::awl::Errore, true},
+    {stile::Numero_Listato, "Numero di riga", &colori::awl::Numero},
+    {stile::Esito_Buono, "Riga corretta", &colori::awl::Buona},
+    {stile::Esito_Errato, "Riga errata", &colori::awl::Errore, true},
+    {stile::Messaggio, "Messaggio di errore", &colori::awl::Messaggio},
+    {stile::Di(Famiglia::Contatti), "Contatti", &colori::awl::Contatti, true},
+    {stile::Di(Famiglia::Uscite), "Uscite", &colori::awl::Bobine, true},
+    {stile::Di(Famiglia::Pila), "Pila logica", &colori::awl::Pila, true},
+    {stile::Di(Famiglia::Temporizzatori), "Temporizzatori", &colori::awl::Temporizzatori, true},
+    {stile::Di(Famiglia::Contatori), "Contatori", &colori::awl::Contatori, true},
+    {stile::Di(Famiglia::Trasferimenti), "Trasferimenti", &colori::awl::Trasferimenti, true},
+    {stile::Di(Famiglia::Conversioni), "Conversioni", &colori::awl::Conversioni, true},
+    {stile::Di(Famiglia::Confronti), "Confronti", &colori::awl::Confronti, true},
+    {stile::Di(Famiglia::Aritmetica), "Aritmetica", &colori::awl::Aritmetica, true},
+    {stile::Di(Famiglia::Logica), "Logica e scorrimento", &colori::awl::Logica, true},
+    {stile::Di(Famiglia::Programma), "Controllo del programma", &colori::awl::Programma, true},
+    {stile::Di(Famiglia::Sequenze), "Controllo di sequenza", &colori::awl::Sequenze, true},
+    {stile::Di(Famiglia::Interruzioni), "Interruzioni", &colori::awl::Interruzioni, true},
 }};
+
+/// The desktop's, whatever our colours were made for.
+QColor Foglio() {
+  return QGuiApplication::palette().color(QPalette::Base);
+}
 
 const Aspetto* Cerca_Aspetto(int numero) {
   const auto* trovato = std::ranges::find(aspetti, numero, &Aspetto::Stile);
@@ -149,12 +156,18 @@ QString AwlLexer::description(int numero) const {
 
 QColor AwlLexer::defaultColor(int numero) const {
   const Aspetto* aspetto = Cerca_Aspetto(numero);
-  return aspetto == nullptr ? QColor(Qt::black) : QColor(aspetto->Colore);
+  const colori::Tinta testo = (aspetto == nullptr ? colori::awl::Testo : *aspetto->Tinte).Testo;
+  const QColor su_carta = colori::Su(testo, defaultPaper(numero));
+  // What stands on the sheet stands in the caret's line too.
+  const bool sul_foglio = aspetto == nullptr || aspetto->Tinte->Fondo == colori::Foglio;
+  return sul_foglio && !spento_ ? colori::Su(su_carta, colori::awl::Riga) : su_carta;
 }
 
 QColor AwlLexer::defaultPaper(int numero) const {
   const Aspetto* aspetto = Cerca_Aspetto(numero);
-  return aspetto == nullptr ? QColor(Qt::white) : QColor(aspetto->Fondo);
+  if (spento_) return colori::awl::Spento;
+  if (aspetto == nullptr || aspetto->Tinte->Fondo == colori::Foglio) return Foglio();
+  return aspetto->Tinte->Fondo;
 }
 
 QFont AwlLexer::defaultFont(int numero) const {
@@ -168,10 +181,17 @@ QFont AwlLexer::defaultFont(int numero) const {
 }
 
 void AwlLexer::Spegni(bool spento) {
-  constexpr QRgb grigio = 0xe4e4e4;
-  for (const Aspetto& aspetto : aspetti)
-    setPaper(QColor(spento ? grigio : aspetto.Fondo), aspetto.Stile);
-  setPaper(spento ? QColor(grigio) : QColor(Qt::white), QsciScintillaBase::STYLE_DEFAULT);
+  spento_ = spento;
+  Ritingi();
+}
+
+void AwlLexer::Ritingi() {
+  for (const Aspetto& aspetto : aspetti) {
+    setColor(defaultColor(aspetto.Stile), aspetto.Stile);
+    setPaper(defaultPaper(aspetto.Stile), aspetto.Stile);
+  }
+  setColor(defaultColor(QsciScintillaBase::STYLE_DEFAULT), QsciScintillaBase::STYLE_DEFAULT);
+  setPaper(defaultPaper(QsciScintillaBase::STYLE_DEFAULT), QsciScintillaBase::STYLE_DEFAULT);
 }
 
 void AwlLexer::styleText(int inizio, int fine) {

@@ -56,12 +56,15 @@ class AwlLexer : public QsciLexerCustom {
 
   /// Every look on grey ground, or each on its own.
   void Spegni(bool spento);
+  /// The colours as the desktop and the user want them now.
+  void Ritingi();
 
   /// What the lines of a listing are made of, one for each from the first; others are plain.
   std::vector<Riga_Listato> Righe_Listato;
 
  private:
   Genere_Testo genere_;
+  bool spento_ = false;
 };
 
 }  // namespace tavorno

@@ -17,6 +17,7 @@
 #include "widgets/colours.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
+#include "widgets/tinting.h"
 
 namespace tavorno {
 
@@ -31,13 +32,6 @@ constexpr Velocita velocita[] = {{"tempo vero", 1}, {"1/2", 0.5},   {"1/5", 0.2}
 
 QString Secondi(std::int64_t ms) {
   return QString::number(static_cast<double>(ms) / 1000, 'f', 3).replace('.', ',');
-}
-
-void Tingi(QLabel& etichetta, const colori::Coppia& tinta) {
-  QPalette tinte = etichetta.palette();
-  tinte.setColor(QPalette::Window, tinta.Fondo);
-  tinte.setColor(QPalette::WindowText, tinta.Testo);
-  etichetta.setPalette(tinte);
 }
 
 /// A way through the film shows no progress of its own: each step is short.
@@ -254,7 +248,7 @@ void FrmGuarda::Mostra_Posto() {
   const bool qui = In_Fondo();
   etRilievo_->setText(qui ? "Qui non va: " + rilievo_
                           : "Dopo " + Secondi(Durata()) + " s: " + rilievo_);
-  Tingi(*etRilievo_, qui ? colori::Guasto : colori::Pila);
+  Tingi(*etRilievo_, qui ? &colori::Guasto : &colori::Pila);
   cmdVai_->setText(In_Moto() ? QStringLiteral("Pausa")
                    : qui     ? QStringLiteral("Rivedi")
                              : QStringLiteral("Prosegui"));

@@ -55,7 +55,7 @@ Foglio_Tempi::Foglio_Tempi() : carta_(Chiama(QStringLiteral("picTempiCaso"), new
       QStringLiteral("Ingressi e uscite del caso scelto; la linea rossa è il momento del "
                      "primo rilievo. Le frecce scorrono"));
   QPalette tinte = palette();
-  tinte.setColor(QPalette::Window, colori::Tempi[0]);
+  tinte.setColor(QPalette::Window, colori::Tempi[0].Di(colori::Carta));  // an SVG of its own
   viewport()->setPalette(tinte);
   viewport()->setAutoFillBackground(true);
 }

@@ -17,6 +17,7 @@
 #include "widgets/colours.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
+#include "widgets/tinting.h"
 
 namespace tavorno {
 
@@ -121,6 +122,7 @@ void FrmVerifica::Crea_Tabella() {
   tabella_->setSelectionMode(QAbstractItemView::SingleSelection);
   tabella_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   tabella_->setTabKeyNavigation(false);
+  Segui_Colori(*tabella_, [this] { Ritingi(*tabella_); });
   tabella_->setAccessibleName(QStringLiteral("Casi"));
   tabella_->setToolTip(
       QStringLiteral("I casi provati; Invio o doppio clic su uno non superato lo "
@@ -159,10 +161,7 @@ void FrmVerifica::Di(const QString& testo, bool buono) {
   const colori::Coppia& tinta = In_Corso() ? colori::In_Stop
                                 : buono    ? colori::In_Run
                                            : colori::Guasto;
-  QPalette tinte = etEsito_->palette();
-  tinte.setColor(QPalette::Window, tinta.Fondo);
-  tinte.setColor(QPalette::WindowText, tinta.Testo);
-  etEsito_->setPalette(tinte);
+  Tingi(*etEsito_, &tinta);
 }
 
 // ---- the work -----------------------------------------------------------------------------------
@@ -223,10 +222,7 @@ void FrmVerifica::Aggiungi(const Caso_Verificato& caso) {
   for (int colonna = 0; colonna < Quante_Colonne; ++colonna) {
     auto* cella = new QTableWidgetItem(testi[colonna]);
     if (colonna >= Colonna_Punti) cella->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    if (tinta != nullptr && colonna == Colonna_Esito) {
-      cella->setBackground(tinta->Fondo);
-      cella->setForeground(tinta->Testo);
-    }
+    if (colonna == Colonna_Esito) Tingi(*cella, tinta);
     cella->setToolTip(testi[colonna]);
     tabella_->setItem(riga, colonna, cella);
   }

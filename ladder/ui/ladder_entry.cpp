@@ -13,6 +13,7 @@
 #include "widgets/colours.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
+#include "widgets/tinting.h"
 
 namespace tavorno {
 
@@ -88,10 +89,7 @@ void Campo_Scala::Rifiuta(const QString& motivo) {
 
 void Campo_Scala::Racconta(const QString& testo, bool errore) {
   const colori::Coppia& coppia = errore ? colori::Scala_Errore : colori::Scala_Aiuto;
-  QPalette tinte = detto_->palette();
-  tinte.setColor(QPalette::Window, coppia.Fondo);
-  tinte.setColor(QPalette::WindowText, coppia.Testo);
-  detto_->setPalette(tinte);
+  Tingi(*detto_, &coppia);
   detto_->setText(testo);
   detto_->setVisible(!testo.isEmpty());
   testo_->setAccessibleDescription(testo);

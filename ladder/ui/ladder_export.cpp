@@ -23,7 +23,7 @@ constexpr double altezza_testata = 30;
 constexpr double lato_massimo = 30000;  // of an image, points
 
 void Dipingi(QPainter& pittore, const Rete_Foglio& rete, double larghezza) {
-  Dipingi_Rete(pittore, rete, {}, {}, larghezza);
+  Dipingi_Rete(pittore, rete, {}, {}, larghezza, colori::Carta);
 }
 
 /// The blocks of the sheet, a row each as the bench writes them.
@@ -50,7 +50,7 @@ bool Stampa_Scala(QPagedPaintDevice& carta, const Foglio_Scala& foglio, const QS
     y = 0;
     pittore.resetTransform();
     pittore.scale(punti, punti);
-    pittore.setPen(colori::Scala_Commento.Testo);
+    pittore.setPen(colori::Scala_Commento.Testo.Di(colori::Carta));
     pittore.setFont(Carattere_Scala(Stile_Scritta::Indirizzo));
     pittore.drawText(QRectF(0, 0, larga, 18), Qt::AlignLeft | Qt::AlignVCenter, titolo);
     pittore.drawText(QRectF(0, 0, larga, 18), Qt::AlignRight | Qt::AlignVCenter,
@@ -84,7 +84,7 @@ QImage Immagine_Scala(const Foglio_Scala& foglio, double scala) {
   scala = std::min(scala, lato_massimo / std::max(foglio.Larghezza(), foglio.Altezza()));
   QImage immagine(static_cast<int>(std::ceil(foglio.Larghezza() * scala)),
                   static_cast<int>(std::ceil(foglio.Altezza() * scala)), QImage::Format_RGB32);
-  immagine.fill(colori::Scala_Testo.Fondo);
+  immagine.fill(colori::Scala_Testo.Fondo.Di(colori::Carta));
   QPainter pittore(&immagine);
   pittore.setRenderHint(QPainter::Antialiasing);
   pittore.scale(scala, scala);

@@ -17,14 +17,14 @@ namespace {
 constexpr double tratto = 1.5, tratto_vivo = 2.75;
 constexpr double sporge = 3;  // of a mark around a symbol
 
-QColor Tinta(Stile_Scritta stile) {
+colori::Tinta Tinta(Stile_Scritta stile) {
   return stile == Stile_Scritta::Simbolo ? colori::Scala_Simbolo.Testo : colori::Scala_Testo.Testo;
 }
 
 class Pittura {
  public:
-  Pittura(QPainter& pittore, const Rete_Foglio& rete, const Stato_Rete& stato)
-      : p_(pittore), rete_(rete), stato_(stato) {}
+  Pittura(QPainter& pittore, const Rete_Foglio& rete, const Stato_Rete& stato, colori::Serie serie)
+      : p_(pittore), rete_(rete), stato_(stato), serie_(serie) {}
 
   /// What stands behind the strokes: the chosen ones, the present one, contacts that let pass.
   void Fondi(const Segni_Rete& segni) {
@@ -40,14 +40,14 @@ class Pittura {
       const bool riquadro = ruolo == Ruolo::Scatola || ruolo == Ruolo::Contatore;
       const QRectF& cuore = rete_.Cuori[indice];
       p_.fillRect(riquadro ? cuore : cuore.adjusted(0, 3, 0, -3),
-                  riquadro ? colori::Scala_Agisce : colori::Scala_Passa);
+                  (riquadro ? colori::Scala_Agisce : colori::Scala_Passa).Di(serie_));
     }
   }
 
   void Cornici_Di_Scelta(const Segni_Rete& segni) {
     p_.setBrush(Qt::NoBrush);
     if (segni.Scelto < 0 || segni.Scelto >= rete_.Simboli()) return;
-    p_.setPen(QPen(colori::Scala_Cursore, 1.5, Qt::DashLine));
+    p_.setPen(QPen(colori::Scala_Cursore.Di(serie_), 1.5, Qt::DashLine));
     p_.drawRect(Posto(segni.Scelto).adjusted(-sporge, -sporge, sporge, sporge));
   }
 
@@ -75,7 +75,7 @@ class Pittura {
       const Scritta_Pronta& scritta = rete_.Scritte[n];
       const QString& valore = stato_.Viva ? stato_.Valori[static_cast<qsizetype>(n)] : QString();
       p_.setFont(Carattere_Scala(scritta.Stile));
-      p_.setPen(Tinta(scritta.Stile));
+      p_.setPen(Tinta(scritta.Stile).Di(serie_));
       if (valore.isEmpty()) {
         p_.drawText(scritta.Posto, scritta.Testo);
         continue;
@@ -89,7 +89,7 @@ class Pittura {
                                     : scritta.Dove == Ancora::Destra ? tutto
                                                                      : 0);
       p_.drawText(QPointF(x, scritta.Posto.y()), scritta.Testo);
-      p_.setPen(colori::Scala_Valore.Testo);
+      p_.setPen(colori::Scala_Valore.Testo.Di(serie_));
       p_.drawText(QPointF(x + prima, scritta.Posto.y()), coda);
     }
   }
@@ -108,13 +108,13 @@ class Pittura {
     const double manca = std::max(0.0, 64 - posto.width());
     return posto.adjusted(-manca / 2, 0, manca / 2, 0);
   }
-  void Segna(int simbolo, const QColor& tinta) {
+  void Segna(int simbolo, const colori::Tinta& tinta) {
     if (simbolo < rete_.Simboli())
-      p_.fillRect(Posto(simbolo).adjusted(-sporge, -sporge, sporge, sporge), tinta);
+      p_.fillRect(Posto(simbolo).adjusted(-sporge, -sporge, sporge, sporge), tinta.Di(serie_));
   }
   void Penna(bool viva, Qt::PenCapStyle fine) {
     p_.setBrush(Qt::NoBrush);
-    p_.setPen(QPen(viva ? colori::Scala_Vivo.Testo : colori::Scala_Testo.Testo,
+    p_.setPen(QPen((viva ? colori::Scala_Vivo : colori::Scala_Testo).Testo.Di(serie_),
                    viva ? tratto_vivo : tratto, Qt::SolidLine, fine));
   }
   void Curve(bool vive) {
@@ -141,42 +141,44 @@ class Pittura {
   QPainter& p_;
   const Rete_Foglio& rete_;
   const Stato_Rete& stato_;
+  colori::Serie serie_;
 };
 
-void Testata(QPainter& p, const Rete_Foglio& rete, const Segni_Rete& segni, double larghezza) {
+void Testata(QPainter& p, const Rete_Foglio& rete, const Segni_Rete& segni, double larghezza,
+             colori::Serie serie) {
   const double sopra = rete.Y_Titolo - rete.Y - 16;
   if (segni.Rete_Presente)
-    p.fillRect(QRectF(0, sopra, larghezza, 22), colori::Scala_Presente.Fondo);
+    p.fillRect(QRectF(0, sopra, larghezza, 22), colori::Scala_Presente.Fondo.Di(serie));
   else if (segni.Rete_Scelta)
-    p.fillRect(QRectF(0, sopra, larghezza, 22), colori::Scala_Scelta.Fondo);
+    p.fillRect(QRectF(0, sopra, larghezza, 22), colori::Scala_Scelta.Fondo.Di(serie));
   if (segni.Del_Cursore)
-    p.fillRect(QRectF(4, sopra, 4, rete.Altezza - sopra - 4), colori::Scala_Cursore);
+    p.fillRect(QRectF(4, sopra, 4, rete.Altezza - sopra - 4), colori::Scala_Cursore.Di(serie));
   const double x = Foglio_Scala::margine;
   if (!rete.Intestazione.isEmpty()) {
     QFont grande = Carattere_Scala(Stile_Scritta::Nome);
     grande.setPixelSize(16);
     p.setFont(grande);
-    p.setPen(colori::Scala_Testo.Testo);
+    p.setPen(colori::Scala_Testo.Testo.Di(serie));
     p.drawText(QPointF(x, 26), rete.Intestazione);
   }
   p.setFont(Carattere_Scala(Stile_Scritta::Nome));
-  p.setPen(colori::Scala_Testo.Testo);
+  p.setPen(colori::Scala_Testo.Testo.Di(serie));
   const QPointF posto(x, rete.Y_Titolo - rete.Y);
   p.drawText(posto, rete.Titolo);
   const double dopo = p.fontMetrics().horizontalAdvance(rete.Titolo) + 14;
   p.setFont(Carattere_Scala(Stile_Scritta::Indirizzo));
-  p.setPen(colori::Scala_Commento.Testo);
+  p.setPen(colori::Scala_Commento.Testo.Di(serie));
   p.drawText(posto + QPointF(dopo, 0), rete.Commento);
 }
 
-void Elenco(QPainter& p, const Rete_Foglio& rete) {
+void Elenco(QPainter& p, const Rete_Foglio& rete, colori::Serie serie) {
   QFont fisso(QStringLiteral("DejaVu Sans Mono"));
   fisso.setStyleHint(QFont::Monospace);
   fisso.setPixelSize(12);
   double y = 14;
   for (const QString& riga : rete.Lista) {
     p.setFont(y == 14 ? Carattere_Scala(Stile_Scritta::Indirizzo) : fisso);
-    p.setPen((y == 14 ? colori::Scala_Commento : colori::Scala_Testo).Testo);
+    p.setPen((y == 14 ? colori::Scala_Commento : colori::Scala_Testo).Testo.Di(serie));
     p.drawText(QPointF(0, y), riga);
     y += 18;
   }
@@ -200,18 +202,18 @@ Stato_Rete Stato_Di(const Rete_Foglio& rete, const Memoria& cpu) {
 }
 
 void Dipingi_Rete(QPainter& pittore, const Rete_Foglio& rete, const Stato_Rete& stato,
-                  const Segni_Rete& segni, double larghezza) {
-  Testata(pittore, rete, segni, larghezza);
+                  const Segni_Rete& segni, double larghezza, colori::Serie serie) {
+  Testata(pittore, rete, segni, larghezza, serie);
   pittore.save();
   pittore.translate(Foglio_Scala::margine, rete.Y_Disegno - rete.Y);
   if (rete.Lista.isEmpty()) {
-    Pittura pittura(pittore, rete, stato);
+    Pittura pittura(pittore, rete, stato, serie);
     pittura.Fondi(segni);
     pittura.Tratti();
     pittura.Scritte();
     pittura.Cornici_Di_Scelta(segni);
   } else {
-    Elenco(pittore, rete);
+    Elenco(pittore, rete, serie);
   }
   pittore.restore();
 }

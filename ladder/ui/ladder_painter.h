@@ -5,6 +5,7 @@
 
 #include "ladder/flow.h"
 #include "ladder/ui/ladder_sheet.h"
+#include "widgets/colours.h"
 
 class QPainter;
 
@@ -34,6 +35,6 @@ struct Segni_Rete {
 /// Paints a network whose upper left corner is the origin, in pixels at 100 %. `larghezza` is that
 /// of the sheet.
 void Dipingi_Rete(QPainter& pittore, const Rete_Foglio& rete, const Stato_Rete& stato,
-                  const Segni_Rete& segni, double larghezza);
+                  const Segni_Rete& segni, double larghezza, colori::Serie serie);
 
 }  // namespace tavorno

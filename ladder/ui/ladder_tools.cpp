@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The symbols of the tool bar, drawn as in the diagram.
+#include <QGuiApplication>
 #include <QIcon>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPalette>
 #include <QPixmap>
 #include <array>
 
@@ -78,13 +80,15 @@ std::span<const Simbolo_Barra> Simboli_Barra() {
 
 QIcon Icona_Simbolo(const std::string& istr) {
   QIcon icona;
+  const QColor tratto =
+      colori::Su(colori::Scala_Testo.Testo, QGuiApplication::palette().color(QPalette::Button));
   for (const int finezza : {1, 2, 3}) {
     QPixmap punti(larga * finezza, alta * finezza);
     punti.setDevicePixelRatio(finezza);
     punti.fill(Qt::transparent);
     QPainter pittore(&punti);
     pittore.setRenderHint(QPainter::Antialiasing);
-    pittore.setPen(QPen(colori::Scala_Testo.Testo, 1.6));
+    pittore.setPen(QPen(tratto, 1.6));
     QFont font = Carattere_Scala(Stile_Scritta::Nome);
     font.setPixelSize(istr.size() > 3 ? 9 : 10);
     pittore.setFont(font);

@@ -143,7 +143,7 @@ void Vista_Scala::paintEvent(QPaintEvent* evento) {
     const Rete_Foglio& rete = foglio_.Reti()[n];
     pittore.save();
     pittore.translate(0, rete.Y);
-    Dipingi_Rete(pittore, rete, stati_[n], Segni(static_cast<int>(n)), larga);
+    Dipingi_Rete(pittore, rete, stati_[n], Segni(static_cast<int>(n)), larga, colori::In_Uso());
     pittore.restore();
   }
   if (!foglio_.Reti().empty()) return;

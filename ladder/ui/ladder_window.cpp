@@ -21,6 +21,7 @@
 #include "widgets/naming.h"
 #include "widgets/paper.h"
 #include "widgets/text.h"
+#include "widgets/tinting.h"
 
 namespace tavorno {
 
@@ -132,9 +133,9 @@ void FrmScala::Crea_Barre() {
   Azione(*this, QStringLiteral("mnuScSimboli")).setMenu(simboli);
   for (const Simbolo_Barra& simbolo : Simboli_Barra()) {
     const QString istr = QString::fromUtf8(simbolo.Istr);
-    auto* voce = Chiama(
-        QString::fromUtf8(simbolo.Nome),
-        new QAction(Icona_Simbolo(Utf8(istr.trimmed())), QString::fromUtf8(simbolo.Testo), this));
+    auto* voce = Chiama(QString::fromUtf8(simbolo.Nome),
+                        new QAction(QString::fromUtf8(simbolo.Testo), this));
+    Segui_Colori(*this, [voce, istr] { voce->setIcon(Icona_Simbolo(Utf8(istr.trimmed()))); });
     voce->setToolTip(QStringLiteral("%1: come scrivere \"%2\"").arg(voce->text(), istr.trimmed()));
     connect(voce, &QAction::triggered, this, [this, istr] { vista_->Metti(istr); });
     if (simbolo.Stacco) {

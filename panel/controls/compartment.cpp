@@ -10,6 +10,7 @@
 #include "panel/controls/cover.h"
 #include "panel/controls/element.h"
 #include "plc/plc.h"
+#include "widgets/colours.h"
 #include "widgets/screen_reader.h"
 #include "widgets/twips.h"
 
@@ -74,7 +75,7 @@ constexpr double gamma_ai = 125.5, gamma_aq = 149.5;
 void Disegna_Potenziometro(QPainter& pennello, const QPointF& centro, int valore) {
   pennello.save();
   pennello.translate(centro);
-  pennello.setPen(QPen(QColor(0xe8, 0xea, 0xea), 1));
+  pennello.setPen(QPen(QColor(colori::Tacca), 1));
   for (int tacca = -135; tacca <= 135; tacca += 45) {
     pennello.save();
     pennello.rotate(tacca);
@@ -82,22 +83,22 @@ void Disegna_Potenziometro(QPainter& pennello, const QPointF& centro, int valore
     pennello.restore();
   }
   QRadialGradient metallo(QPointF(-4, -4), 18);
-  metallo.setColorAt(0, QColor(0xfb, 0xfb, 0xfa));
-  metallo.setColorAt(1, QColor(0x87, 0x8e, 0x95));
-  pennello.setPen(QPen(QColor(0x15, 0x18, 0x1b), 1));
+  metallo.setColorAt(0, colori::Metallo_Chiaro);
+  metallo.setColorAt(1, colori::Metallo_Scuro);
+  pennello.setPen(QPen(QColor(colori::Led_Bordo), 1));
   pennello.setBrush(metallo);
   pennello.drawEllipse(QPointF(0, 0), 12, 12);
   pennello.rotate(-135 + valore * 270.0 / 255);
-  pennello.setPen(QPen(QColor(0x2b, 0x30, 0x36), 2.5, Qt::SolidLine, Qt::RoundCap));
+  pennello.setPen(QPen(QColor(colori::Indice), 2.5, Qt::SolidLine, Qt::RoundCap));
   pennello.drawLine(QPointF(0, -9.5), QPointF(0, 3));
   pennello.restore();
 }
 
 void Disegna_Cursore(QPainter& pennello, const QRectF& cursore) {
   QLinearGradient plastica(cursore.topLeft(), cursore.bottomLeft());
-  plastica.setColorAt(0, QColor(0xfb, 0xfb, 0xfa));
-  plastica.setColorAt(1, QColor(0xa9, 0xaf, 0xb5));
-  pennello.setPen(QPen(QColor(0x15, 0x18, 0x1b), 0.75));
+  plastica.setColorAt(0, colori::Metallo_Chiaro);
+  plastica.setColorAt(1, colori::Plastica_Scura);
+  pennello.setPen(QPen(QColor(colori::Led_Bordo), 0.75));
   pennello.setBrush(plastica);
   pennello.drawRoundedRect(cursore, 1.5, 1.5);
 }

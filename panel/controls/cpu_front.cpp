@@ -6,11 +6,13 @@
 #include <QRegularExpression>
 #include <algorithm>
 #include <initializer_list>
+#include <iterator>
 
 #include "panel/controls/compartment.h"
 #include "panel/controls/element.h"
 #include "plc/plc.h"
 #include "widgets/colours.h"
+#include "widgets/tinting.h"
 
 namespace tavorno {
 
@@ -51,21 +53,14 @@ QRectF Posto_Morsetto(const QString& morsetto) {
 
 // The mounting plate and the rail reach from side to side, however wide the window is.
 void Disegna_Parete(QPainter& pennello, double sinistra, double destra, double alto, double basso) {
-  pennello.fillRect(QRectF(QPointF(sinistra, alto), QPointF(destra, basso)),
-                    QColor(0xec, 0xea, 0xe4));
-  struct Striscia {
-    double Alto, Basso;
-    int Chiaro, Scuro;  // grey at its upper and lower edge
-  };
-  constexpr Striscia rotaia[] = {{76, 88, 0xe6, 0xbe},   {88, 91, 0x86, 0x98},
-                                 {91, 159, 0xc2, 0xb2},  {159, 162, 0xd8, 0xe2},
-                                 {162, 174, 0xcf, 0xa6}, {174, 178, 0xc4, 0xe6}};
-  for (const Striscia& striscia : rotaia) {
-    QLinearGradient tinta(0, striscia.Alto, 0, striscia.Basso);
-    tinta.setColorAt(0, QColor(striscia.Chiaro, striscia.Chiaro + 2, striscia.Chiaro + 4));
-    tinta.setColorAt(1, QColor(striscia.Scuro, striscia.Scuro + 2, striscia.Scuro + 4));
-    pennello.fillRect(QRectF(QPointF(sinistra, striscia.Alto), QPointF(destra, striscia.Basso)),
-                      tinta);
+  pennello.fillRect(QRectF(QPointF(sinistra, alto), QPointF(destra, basso)), colori::Parete);
+  constexpr double bordi[] = {76, 88, 91, 159, 162, 174, 178};  // of the rail's stripes
+  static_assert(std::size(bordi) == std::size(colori::Rotaia) + 1);
+  for (std::size_t n = 0; n < std::size(colori::Rotaia); ++n) {
+    QLinearGradient tinta(0, bordi[n], 0, bordi[n + 1]);
+    tinta.setColorAt(0, colori::Rotaia[n][0]);
+    tinta.setColorAt(1, colori::Rotaia[n][1]);
+    pennello.fillRect(QRectF(QPointF(sinistra, bordi[n]), QPointF(destra, bordi[n + 1])), tinta);
   }
 }
 
@@ -97,7 +92,7 @@ Fronte_CPU::Fronte_CPU(Plc& plc, QWidget* sopra)
     SimI_[i]->setObjectName(Con_Indice("SimI", static_cast<int>(i)));
     SimI_[i]->Caption(QStringLiteral("I%1").arg(i));
   }
-  SimI_[0]->ForeColor(Da_BGR(0xFF0000));
+  SimI_[0]->ForeColor(colori::Scritta_Simulatore);
   SimC_ = new SimC(this);
   SimC_->setObjectName(QStringLiteral("SimC"));
   imgN_ = new Parte(this, QStringLiteral("imgN"), posto_spina, [this](QPainter& pennello) {
@@ -109,9 +104,9 @@ Fronte_CPU::Fronte_CPU(Plc& plc, QWidget* sopra)
   segno_ = new Parte(this, QStringLiteral("segno"), QRectF(QPointF(0, 0), QSizeF(Misura)),
                      [this](QPainter& pennello) {
                        QColor velo = colori::Segno_Indicata;
+                       pennello.setPen(QPen(velo, 2));
                        velo.setAlphaF(0.18F);
                        pennello.setBrush(velo);
-                       pennello.setPen(QPen(colori::Segno_Indicata, 2));
                        for (const QRectF& posto : indicati_) pennello.drawRoundedRect(posto, 5, 5);
                      });
   segno_->setVisible(false);
@@ -120,6 +115,7 @@ Fronte_CPU::Fronte_CPU(Plc& plc, QWidget* sopra)
   sportello_.Mosso = [this] { pic1_->Muovi(sportello_.Top); };
   PLC_Sportello(Modo_Sportello::Interruttori);
   Stato(false);
+  Segui_Colori(*this, [this] { Disegna_Fondo(); });
 }
 
 Parte* Fronte_CPU::Crea_Lampada(const char* nome, const char* gruppo, const QPointF& centro) {

@@ -9,6 +9,7 @@
 #include <QWheelEvent>
 
 #include "panel/controls/element.h"
+#include "widgets/colours.h"
 
 namespace tavorno {
 
@@ -53,7 +54,7 @@ Rotella::Rotella(QSvgRenderer& disegni, const QString& nome, const QString& nome
       giu_(new Tasto_Rotella(disegni, "giu", nome + QStringLiteral(".Giu"), this)) {
   setObjectName(nome);
   setFocusPolicy(Qt::StrongFocus);
-  Colora(*etichetta_, QColor(0x15, 0x18, 0x1b));
+  Colora(*etichetta_, colori::Cifra_Ruota.Testo);
   etichetta_->setFont(Grassetto(etichetta_->font()));
   connect(su_, &QAbstractButton::clicked, this, [this] { Passo(1); });
   connect(giu_, &QAbstractButton::clicked, this, [this] { Passo(-1); });

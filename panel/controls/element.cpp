@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "widgets/colours.h"
+
 namespace tavorno {
 
 QRect In_Scala(const QRectF& disegno, double scala) {
@@ -54,10 +56,12 @@ void Disegna_Piastra(QPainter& pennello, const QSizeF& misura, const QColor& col
 }
 
 void Disegna_Fuoco(QPainter& pennello, const QRectF& riquadro) {
+  QColor alone = colori::Fuoco_Alone;
+  alone.setAlpha(200);
   pennello.setBrush(Qt::NoBrush);
-  pennello.setPen(QPen(QColor(255, 255, 255, 200), 2.5));
+  pennello.setPen(QPen(alone, 2.5));
   pennello.drawRoundedRect(riquadro, 3, 3);
-  pennello.setPen(QPen(QColor(0x2f, 0x6f, 0xb3), 1.25));
+  pennello.setPen(QPen(QColor(colori::Fuoco), 1.25));
   pennello.drawRoundedRect(riquadro, 3, 3);
 }
 

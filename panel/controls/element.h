@@ -16,12 +16,6 @@ class QSvgRenderer;
 // Controls are designed in pixels of a window at 100 % and drawn at whatever size they are given.
 namespace tavorno {
 
-/// A colour written as a number in blue-green-red order.
-constexpr QColor Da_BGR(unsigned bgr) {
-  return {static_cast<int>(bgr & 0xFF), static_cast<int>(bgr >> 8 & 0xFF),
-          static_cast<int>(bgr >> 16 & 0xFF)};
-}
-
 /// A rectangle of the design at a scale. Neighbours stay neighbours, since edges are rounded.
 QRect In_Scala(const QRectF& disegno, double scala);
 

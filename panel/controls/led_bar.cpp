@@ -9,6 +9,7 @@
 #include <QToolTip>
 
 #include "panel/controls/element.h"
+#include "widgets/colours.h"
 
 namespace tavorno {
 
@@ -49,7 +50,7 @@ Barra_LED::Barra_LED(Barra& barra, const QString& caption, QWidget* sopra)
         new Parte(this, Con_Indice("imgLI0", i), Posto_LED(i), pittura);
   }
   Caption(caption);
-  ForeColor(Da_BGR(65535));
+  ForeColor(colori::Scritta_Led);
   Aggiorna();
   ascolto_ = barra_.Aspetto.Ascolta([this] {
     if (in_attesa_) return;
@@ -124,8 +125,8 @@ void Barra_LED::paintEvent(QPaintEvent* evento) {
   pennello.setRenderHint(QPainter::Antialiasing);
   const double scala_x = width() / static_cast<double>(Misura.width());
   pennello.scale(scala_x, height() / static_cast<double>(Misura.height()));
-  pennello.setPen(QPen(QColor(0x15, 0x18, 0x1b), 1));
-  pennello.setBrush(QColor(0x2b, 0x30, 0x36));
+  pennello.setPen(QPen(QColor(colori::Led_Bordo), 1));
+  pennello.setBrush(QColor(colori::Led.Fondo));
   pennello.drawRoundedRect(QRectF(0.5, 0.5, Misura.width() - 1, Misura.height() - 1), 2, 2);
   const QString spento = QString::fromLatin1(immagini[riga(tipo_)][2]);
   for (int i = 0; i < 8; ++i) {

@@ -7,6 +7,7 @@
 
 #include "panel/controls/element.h"
 #include "panel/controls/toggle_switch.h"
+#include "widgets/tinting.h"
 
 namespace tavorno {
 
@@ -19,8 +20,9 @@ constexpr double inizio = 52, passo = 26;
 }  // namespace
 
 SimI::SimI(QWidget* sopra) : QWidget(sopra), disegni_(QStringLiteral(":/panel/switch.svg")) {
-  picS0_ = new Parte(this, QStringLiteral("picS0"), QRectF(QPointF(0, 0), Misura),
-                     [this](QPainter& pennello) { Disegna_Piastra(pennello, Misura, sfondo_); });
+  picS0_ =
+      new Parte(this, QStringLiteral("picS0"), QRectF(QPointF(0, 0), Misura),
+                [this](QPainter& pennello) { Disegna_Piastra(pennello, Misura, BackColor()); });
   etC_ = Crea_Etichetta(this, QStringLiteral("etC"));
   etC_->setFont(Grassetto(etC_->font()));
   for (std::size_t i = 0; i < 8; ++i) {
@@ -33,9 +35,7 @@ SimI::SimI(QWidget* sopra) : QWidget(sopra), disegni_(QStringLiteral(":/panel/sw
   }
   Tocca_A(0);
   Caption(QStringLiteral("I0"));
-  BackColor(palette().color(QPalette::Button));
-  Colora(*etC_, palette().color(QPalette::ButtonText));
-  ForeColor(palette().color(QPalette::ButtonText));
+  Segui_Colori(*this, [this] { Ritingi(); });
 }
 
 QString SimI::Caption() const {
@@ -97,14 +97,29 @@ void SimI::keyPressEvent(QKeyEvent* evento) {
     return QWidget::keyPressEvent(evento);
 }
 
+QColor SimI::BackColor() const {
+  return sfondo_.value_or(palette().color(QPalette::Button));
+}
+
 void SimI::BackColor(const QColor& colore) {
   sfondo_ = colore;
-  picS0_->update();
+  Ritingi();
+}
+
+QColor SimI::ForeColor() const {
+  return colore_.value_or(palette().color(QPalette::ButtonText));
 }
 
 void SimI::ForeColor(const QColor& colore) {
   colore_ = colore;
-  for (QLabel* etichetta : etI_) Colora(*etichetta, colore);
+  Ritingi();
+}
+
+/// The given colours, as far as they can be read on one another.
+void SimI::Ritingi() {
+  picS0_->update();
+  Colora(*etC_, colori::Su(palette().color(QPalette::ButtonText), BackColor()));
+  for (QLabel* etichetta : etI_) Colora(*etichetta, colori::Su(ForeColor(), BackColor()));
 }
 
 void SimI::SIMI_Reset() {

@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -38,9 +39,9 @@ class SimI : public QWidget, public Per_Lettori {
 
   QString Caption() const;
   void Caption(const QString& testo);  ///< also names the bits in the tool tips
-  QColor BackColor() const { return sfondo_; }
+  QColor BackColor() const;
   void BackColor(const QColor& colore);
-  QColor ForeColor() const { return colore_; }
+  QColor ForeColor() const;
   void ForeColor(const QColor& colore);  ///< of the bit labels `etI(0)`..`etI(7)`
 
   /// Eight characters, leftmost bit 0. A let is storage only: no switch moves, nothing is told.
@@ -65,6 +66,7 @@ class SimI : public QWidget, public Per_Lettori {
  private:
   void Rilascia(std::size_t n);
   void Tocca_A(std::size_t n);
+  void Ritingi();
 
   QSvgRenderer disegni_;
   Parte* picS0_;
@@ -75,7 +77,7 @@ class SimI : public QWidget, public Per_Lettori {
   std::size_t tocca_a_ = 0;  // the switch that Tab leads to
   std::string stato_ = "00000000";
   Testo_Nascosto txtI_;
-  QColor sfondo_, colore_;
+  std::optional<QColor> sfondo_, colore_;  // else the desktop's
 };
 
 }  // namespace tavorno

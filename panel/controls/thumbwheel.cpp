@@ -8,6 +8,7 @@
 
 #include "panel/controls/digit_wheel.h"
 #include "panel/controls/element.h"
+#include "widgets/tinting.h"
 
 namespace tavorno {
 
@@ -18,24 +19,23 @@ constexpr double inizio_ruote = 100;
 }  // namespace
 
 SimC::SimC(QWidget* sopra) : QWidget(sopra), disegni_(QStringLiteral(":/panel/thumbwheel.svg")) {
-  picS2_ = new Parte(this, QStringLiteral("picS2"), QRectF(QPointF(0, 0), Misura),
-                     [this](QPainter& pennello) { Disegna_Piastra(pennello, Misura, sfondo_); });
+  picS2_ =
+      new Parte(this, QStringLiteral("picS2"), QRectF(QPointF(0, 0), Misura),
+                [this](QPainter& pennello) { Disegna_Piastra(pennello, Misura, BackColor()); });
   etC_ = Crea_Etichetta(this, QStringLiteral("etC"));
   etC_->setFont(Grassetto(etC_->font()));
   decine_ = Crea_Etichetta(this, QStringLiteral("etDecine"));
   decine_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   unita_ = Crea_Etichetta(this, QStringLiteral("etUnita"));
   unita_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  for (QLabel* etichetta : {decine_, unita_})
-    Colora(*etichetta, palette().color(QPalette::WindowText));
 
   UpD1_ = new Rotella(disegni_, QStringLiteral("UpD1"), QStringLiteral("etC1"), this);
   UpD2_ = new Rotella(disegni_, QStringLiteral("UpD2"), QStringLiteral("etC2"), this);
   for (Rotella* ruota : {UpD1_, UpD2_}) ruota->Cambiata = [this] { Gira(); };
 
   Caption(QStringLiteral("I1"));
-  BackColor(QApplication::palette("QMenuBar").color(QPalette::Window));
-  ForeColor(Da_BGR(0xFF0000));
+  colore_ = colori::Scritta_Simulatore;
+  Segui_Colori(*this, [this] { Ritingi(); });
   SimC_Clear();
 }
 
@@ -54,14 +54,26 @@ void SimC::Caption(const QString& testo) {
   UpD2_->setAccessibleName(QStringLiteral("Unità %1").arg(testo));
 }
 
+QColor SimC::BackColor() const {
+  return sfondo_.value_or(QApplication::palette("QMenuBar").color(QPalette::Window));
+}
+
 void SimC::BackColor(const QColor& colore) {
   sfondo_ = colore;
-  picS2_->update();
+  Ritingi();
 }
 
 void SimC::ForeColor(const QColor& colore) {
   colore_ = colore;
-  Colora(*etC_, colore);
+  Ritingi();
+}
+
+/// The given colours, as far as they can be read on one another.
+void SimC::Ritingi() {
+  picS2_->update();
+  Colora(*etC_, colori::Su(colore_, BackColor()));
+  for (QLabel* etichetta : {decine_, unita_})
+    Colora(*etichetta, colori::Su(palette().color(QPalette::WindowText), BackColor()));
 }
 
 void SimC::SimC_Stato(std::string_view testo) {

@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -35,7 +36,7 @@ class SimC : public QWidget {
 
   QString Caption() const;
   void Caption(const QString& testo);
-  QColor BackColor() const { return sfondo_; }
+  QColor BackColor() const;
   void BackColor(const QColor& colore);
   QColor ForeColor() const { return colore_; }
   void ForeColor(const QColor& colore);  ///< of the caption
@@ -61,6 +62,7 @@ class SimC : public QWidget {
 
  private:
   void Gira();
+  void Ritingi();
 
   QSvgRenderer disegni_;
   Parte* picS2_;
@@ -71,7 +73,8 @@ class SimC : public QWidget {
   Rotella* UpD2_;
   std::string stato_ = "00000000";
   Testo_Nascosto txtI_;
-  QColor sfondo_, colore_;
+  std::optional<QColor> sfondo_;  // else the desktop's
+  QColor colore_;
 };
 
 }  // namespace tavorno

@@ -16,6 +16,7 @@
 
 #include "panel/documents/version.h"
 #include "widgets/text.h"
+#include "widgets/tinting.h"
 #include "widgets/twips.h"
 
 namespace tavorno {
@@ -74,12 +75,12 @@ QLabel* Etichetta(const char* nome, const QString& testo) {
 }
 
 // One of the two labels that lie on each other; `spostata` pixels right and down.
-QLabel* Nome_Programma(const char* nome, int spostata, const char* colore) {
+QLabel* Nome_Programma(const char* nome, int spostata, const colori::Coppia& tinte) {
   QLabel* etichetta = Etichetta(nome, Q("Tavorno "));
   QFont font(Q("DejaVu Serif"), punti_nome, QFont::Bold);
   font.setStyleHint(QFont::Serif);
   etichetta->setFont(font);
-  etichetta->setStyleSheet(Q("color: %1").arg(Q(colore)));
+  Tingi(*etichetta, &tinte);
   etichetta->setContentsMargins(spostata, spostata, ombra - spostata, ombra - spostata);
   return etichetta;
 }
@@ -136,8 +137,8 @@ QLayout* FrmAbaut::Crea_Testata() {
 
   auto* testi = new QGridLayout;
   testi->setVerticalSpacing(2);
-  testi->addWidget(Nome_Programma("et1(0)", ombra, "#a9b4bd"), 0, 0);
-  testi->addWidget(Nome_Programma("et1(1)", 0, "#1d4f73"), 0, 0);
+  testi->addWidget(Nome_Programma("et1(0)", ombra, colori::Nome_Ombra), 0, 0);
+  testi->addWidget(Nome_Programma("et1(1)", 0, colori::Nome_Programma), 0, 0);
   QLabel* cosa = Etichetta("EtInf", Q("Simulatore per micro PLC Siemens S7 200."));
   QFont grassetto = cosa->font();
   grassetto.setBold(true);

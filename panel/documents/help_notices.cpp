@@ -7,23 +7,30 @@
 #include "panel/documents/help_folder.h"
 #include "panel/documents/help_search.h"
 #include "panel/documents/html_text.h"
+#include "widgets/colours.h"
 #include "widgets/text.h"
 
 namespace tavorno {
 
 namespace {
 
+QString Nome(const QColor& colore) {
+  return colore.name();
+}
+
 QString Pagina(const QString& titolo, const QString& corpo) {
   return Q("<html><head><title>%1</title><style>"
            "body { margin: 16px 20px; }"
-           "a { color: #1a5fa0; }"
-           "h1 { color: #16456f; font-size: x-large; font-weight: 600; }"
+           "a { color: %3; }"
+           "h1 { color: %4; font-size: x-large; font-weight: 600; }"
            "p { line-height: 130%; }"
            "li { margin-bottom: 4px; }"
-           ".dove { color: #6b7178; }"
-           ".trovato { background-color: #ffe08a; color: #202326; font-weight: 600; }"
+           ".dove { color: %5; }"
+           ".trovato { background-color: %6; color: %7; font-weight: 600; }"
            "</style></head><body><h1>%1</h1>%2</body></html>")
-      .arg(titolo.toHtmlEscaped(), corpo);
+      .arg(titolo.toHtmlEscaped(), corpo, Nome(colori::Guida_Legame.Testo),
+           Nome(colori::Guida_Titolo.Testo), Nome(colori::Guida_Dove.Testo),
+           Nome(colori::Guida_Trovata.Fondo), Nome(colori::Guida_Trovata.Testo));
 }
 
 QString Legame(const QUrl& url, const QString& testo) {

@@ -13,6 +13,7 @@
 #include "panel/documents/help_notices.h"
 #include "panel/documents/html_text.h"
 #include "widgets/text.h"
+#include "widgets/tinting.h"
 
 namespace tavorno {
 
@@ -26,13 +27,22 @@ bool E_Pagina(const QUrl& url) {
   return tipo == Q("htm") || tipo == Q("html");
 }
 
+/// A style sheet is written for a white page.
+QString Con_I_Colori(QString stile) {
+  const colori::Serie serie = colori::In_Uso();
+  for (const colori::Coppia& coppia : colori::Guida_Stile)
+    for (const colori::Tinta& tinta : {coppia.Testo, coppia.Fondo})
+      stile.replace(tinta.Di(colori::Carta).name(), tinta.Di(serie).name(), Qt::CaseInsensitive);
+  return stile;
+}
+
 // A frame with a cross. A refused picture must be one all the same: for a resource that is not
 // there the document itself would look on the disk.
 QImage Immagine_Mancante() {
   QImage immagine(48, 32, QImage::Format_ARGB32_Premultiplied);
   immagine.fill(Qt::transparent);
   QPainter penna(&immagine);
-  penna.setPen(QPen(QColor(0x9a, 0xa0, 0xa6), 1));
+  penna.setPen(QPen(QColor(colori::Guida_Immagine), 1));
   penna.drawRect(0, 0, 47, 31);
   penna.drawLine(16, 8, 32, 24);
   penna.drawLine(32, 8, 16, 24);
@@ -50,7 +60,8 @@ bool Autonomo(const QByteArray& disegno) {
 QImage Disegno(QSvgRenderer& disegno, double punti) {
   QImage immagine((QSizeF(disegno.defaultSize()) * punti).toSize(),
                   QImage::Format_ARGB32_Premultiplied);
-  immagine.fill(Qt::transparent);
+  // It is drawn for a white page.
+  immagine.fill(colori::In_Uso().Scura ? QColor(colori::Bianco) : QColor(Qt::transparent));
   QPainter penna(&immagine);
   disegno.render(&penna);
   penna.end();
@@ -66,6 +77,9 @@ Vista_Aiuto::Vista_Aiuto(const Guida& guida, QWidget* sopra) : QTextBrowser(sopr
     occupata_ = false;
     pagina_ = url;
     if (Finita) Finita(url);
+  });
+  Segui_Colori(*this, [this] {
+    if (!pagina_.isEmpty()) reload();
   });
 }
 
@@ -88,7 +102,7 @@ QVariant Vista_Aiuto::loadResource(int tipo, const QUrl& nome) {
   const QUrl url = pagina_.resolved(nome);
   if (tipo == QTextDocument::HtmlResource) return Leggi_Pagina(url);
   if (tipo == QTextDocument::ImageResource) return Immagine(url);
-  return Decodifica_Html(Leggi(guida_, url).value_or(" "));
+  return Con_I_Colori(Decodifica_Html(Leggi(guida_, url).value_or(" ")));
 }
 
 // Whatever its name ends in, a page is shown as one.

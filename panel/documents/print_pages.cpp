@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "widgets/colours.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -61,7 +62,7 @@ void Intestazione(QPainter& penna, const Foglio& foglio, const QString& titolo,
   penna.drawText(riga, Qt::AlignLeft | Qt::AlignVCenter,
                  misure.elidedText(titolo, Qt::ElideMiddle, spazio));
   penna.drawText(riga, Qt::AlignRight | Qt::AlignVCenter, pagina);
-  penna.setPen(QPen(Qt::black, foglio.Alto_Riga / 20));
+  penna.setPen(QPen(colori::Nero.Di(colori::Carta), foglio.Alto_Riga / 20));
   const double sotto = 1.3 * foglio.Alto_Riga;
   penna.drawLine(QPointF(0, sotto), QPointF(riga.width(), sotto));
 }

@@ -5,14 +5,16 @@
 #include <QPainter>
 #include <QRadialGradient>
 
+#include "widgets/colours.h"
+
 namespace tavorno {
 
 namespace {
 
 QColor Colore(int tipo) {
-  if (tipo == 0) return {0x2F, 0xC2, 0x4B};
-  if (tipo == 1) return {0xF5, 0xC5, 0x18};
-  return {0xE5, 0x39, 0x35};
+  if (tipo == 0) return colori::Led_Verde;
+  if (tipo == 1) return colori::Led_Giallo;
+  return colori::Led_Rosso;
 }
 
 /// The square from -10 to 10 around the middle of the lamp.

@@ -10,6 +10,7 @@
 #include "panel/windows/fields.h"
 #include "widgets/screen_reader.h"
 #include "widgets/text.h"
+#include "widgets/tinting.h"
 
 namespace tavorno {
 
@@ -38,9 +39,7 @@ Campione_Contraves::Campione_Contraves() : etC1_(new QLabel(Come_Testo(0))) {
   carattere.setPointSizeF(carattere.pointSizeF() * 1.7);
   carattere.setBold(true);
   etC1_->setFont(carattere);
-  QPalette colori = etC1_->palette();
-  colori.setColor(QPalette::WindowText, Qt::white);
-  etC1_->setPalette(colori);
+  Tingi(*etC1_, &colori::Ruota);
   etC1_->setMinimumWidth(QFontMetrics(carattere).horizontalAdvance(QLatin1Char('0')) + 14);
 
   auto* comandi = new QWidget;
@@ -75,15 +74,15 @@ void Campione_Contraves::Gira(int passo) {
 void Campione_Contraves::paintEvent(QPaintEvent*) {
   QPainter pittore(this);
   pittore.setRenderHint(QPainter::Antialiasing);
-  pittore.setPen(QPen(QColor(0x49, 0x50, 0x57), 1));
-  pittore.setBrush(QColor(0xAD, 0xB5, 0xBD));
+  pittore.setPen(QPen(QColor(colori::Ruota_Bordo), 1));
+  pittore.setBrush(QColor(colori::Ruota_Cassa));
   pittore.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
   // The wheel behind its window: darker towards the edges, where it turns away.
   const QRectF vetro = QRectF(etC1_->geometry());
   QLinearGradient ruota(vetro.topLeft(), vetro.bottomLeft());
-  ruota.setColorAt(0, QColor(0x0B, 0x0D, 0x0F));
-  ruota.setColorAt(0.5, QColor(0x3A, 0x40, 0x46));
-  ruota.setColorAt(1, QColor(0x0B, 0x0D, 0x0F));
+  ruota.setColorAt(0, colori::Ruota_Fondo);
+  ruota.setColorAt(0.5, colori::Ruota.Fondo);
+  ruota.setColorAt(1, colori::Ruota_Fondo);
   pittore.setBrush(ruota);
   pittore.drawRoundedRect(vetro, 2, 2);
 }

@@ -12,6 +12,7 @@
 
 #include "widgets/colours.h"
 #include "widgets/naming.h"
+#include "widgets/tinting.h"
 
 namespace tavorno {
 
@@ -123,11 +124,7 @@ void Riga_Comandi::Mostra_Corsa(bool acceso) {
   etRun_->setToolTip(acceso ? QStringLiteral("La CPU è in RUN")
                             : QStringLiteral("La CPU è in STOP"));
   etRun_->setAccessibleName(etRun_->toolTip());
-  const colori::Coppia& tinta = acceso ? colori::In_Run : colori::In_Stop;
-  QPalette tinte = etRun_->palette();
-  tinte.setColor(QPalette::Window, tinta.Fondo);
-  tinte.setColor(QPalette::WindowText, tinta.Testo);
-  etRun_->setPalette(tinte);
+  Tingi(*etRun_, acceso ? &colori::In_Run : &colori::In_Stop);
 }
 
 void Riga_Comandi::Mostra_Guasti(int quanti, const QString& elenco) {
@@ -136,12 +133,7 @@ void Riga_Comandi::Mostra_Guasti(int quanti, const QString& elenco) {
                               : QStringLiteral("Guasti"));
   cmdGuasti_->setToolTip(ci_sono ? "Guasti presenti:\n" + elenco
                                  : QStringLiteral("Guasti della macchina e dei fili"));
-  QPalette tinte = palette();
-  if (ci_sono) {
-    tinte.setColor(QPalette::Button, colori::Guasto.Fondo);
-    tinte.setColor(QPalette::ButtonText, colori::Guasto.Testo);
-  }
-  cmdGuasti_->setPalette(tinte);
+  Tingi(*cmdGuasti_, ci_sono ? &colori::Guasto : nullptr);
   cmdGuasti_->setFont(ci_sono ? Grassetto(font()) : font());
 }
 

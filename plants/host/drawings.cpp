@@ -10,6 +10,8 @@
 #include <numbers>
 #include <set>
 
+#include "widgets/colours.h"
+
 namespace tavorno {
 
 namespace {
@@ -63,33 +65,22 @@ QRectF Come_Rettangolo(const QString& testo) {
   return {numeri[0].toDouble(), numeri[1].toDouble(), numeri[2].toDouble(), numeri[3].toDouble()};
 }
 
-QColor Scegli(const std::map<Colore, QColor>& nostre, Colore colore) {
-  const auto nostra = nostre.find(colore);
-  if (nostra != nostre.end()) return nostra->second;
-  return QColor(static_cast<int>(colore & 0xFFU), static_cast<int>(colore >> 8U & 0xFFU),
-                static_cast<int>(colore >> 16U & 0xFFU));
-}
-
 }  // namespace
 
 QColor Tinta(Colore colore) {
-  static const std::map<Colore, QColor> nostre = {
-      {Tavolozza(1), QColor(0x2b, 0x4c, 0x9b)},  {Tavolozza(2), QColor(0x1f, 0x7a, 0x3c)},
-      {Tavolozza(4), QColor(0xa8, 0x24, 0x24)},  {Tavolozza(8), QColor(0x6b, 0x6b, 0x66)},
-      {Tavolozza(9), QColor(0x3f, 0x7f, 0xd6)},  {Tavolozza(10), QColor(0x2e, 0x9e, 0x4f)},
-      {Tavolozza(11), QColor(0x5b, 0xbf, 0xd0)}, {Tavolozza(12), QColor(0xd3, 0x30, 0x2f)},
-      {Tavolozza(14), QColor(0xf2, 0xc2, 0x1b)}, {Tavolozza(15), QColor(0xb9, 0xb4, 0xaa)},
-  };
-  return Scegli(nostre, colore);
+  for (int numero = 0; numero < std::ssize(colori::Figure); ++numero)
+    if (Tavolozza(numero) == colore) return colori::Figure[numero];
+  return colori::Da_Numero(colore);
 }
 
 QColor Tinta_Testo(Colore colore) {
-  static const std::map<Colore, QColor> nostre = {
-      {Tavolozza(0), QColor(0x3b, 0x41, 0x48)},  {Tavolozza(2), QColor(0x1b, 0x60, 0x30)},
-      {Tavolozza(4), QColor(0xa8, 0x1f, 0x1f)},  {Tavolozza(8), QColor(0x55, 0x55, 0x51)},
-      {Tavolozza(10), QColor(0x1b, 0x60, 0x30)}, {Tavolozza(12), QColor(0xa8, 0x1f, 0x1f)},
+  static const std::map<Colore, const colori::Coppia*> nostre = {
+      {Tavolozza(0), &colori::Scritta_Figura},  {Tavolozza(2), &colori::Scritta_Buona},
+      {Tavolozza(4), &colori::Scritta_Cattiva}, {Tavolozza(8), &colori::Scritta_Spenta},
+      {Tavolozza(10), &colori::Scritta_Buona},  {Tavolozza(12), &colori::Scritta_Cattiva},
   };
-  return Scegli(nostre, colore);
+  const auto nostra = nostre.find(colore);
+  return nostra == nostre.end() ? colori::Da_Numero(colore) : QColor(nostra->second->Testo);
 }
 
 Disegni::Disegni(const QString& file) : tenuti_(memoria) {
@@ -241,7 +232,8 @@ std::unique_ptr<QSvgRenderer> Disegni::Crea(const QString& id, Colore colore, in
 Disegni::Tenuto Disegni::Tieni(const QString& id, Colore colore, int fase, double schermo) {
   const Pezzo& pezzo = pezzi_.at(id);
   const QString chiave = id + '|' + QString::number(pezzo.Colorato ? colore : 0) + '|' +
-                         QString::number(pezzo.Si_Muove ? fase : 0);
+                         QString::number(pezzo.Si_Muove ? fase : 0) +
+                         (pezzo.Colorato ? Tinta(colore).name() : QString());
   if (const Tenuto* tenuto = tenuti_.object(chiave)) return *tenuto;
   const auto disegno = Crea(id, colore, pezzo.Si_Muove ? fase : 0);
   const QRectF limiti = disegno->boundsOnElement(id);
@@ -266,7 +258,9 @@ void Disegni::Disegna(QPainter& pittore, const QString& id, Colore colore, int f
   if (!Esiste(id)) return;
   if (posa.type() > QTransform::TxTranslate) {
     Teso& teso = tesi_[id];
-    if (!teso.Disegno || teso.Tinto != colore) teso = {colore, Crea(id, colore, 0)};
+    const QRgb resa = Tinta(colore).rgb();
+    if (!teso.Disegno || teso.Tinto != colore || teso.Resa != resa)
+      teso = {colore, resa, Crea(id, colore, 0)};
     const QRectF limiti = teso.Disegno->boundsOnElement(id);
     const QRectF posto(limiti.topLeft() * scala, limiti.size() * scala);
     teso.Disegno->render(&pittore, id, posa.mapRect(posto));

@@ -73,6 +73,7 @@ class Disegni {
   };
   struct Teso {
     Colore Tinto = 0;
+    unsigned Resa = 0;  // our shade of it
     std::unique_ptr<QSvgRenderer> Disegno;
   };
 

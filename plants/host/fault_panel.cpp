@@ -16,6 +16,7 @@
 #include "widgets/colours.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
+#include "widgets/tinting.h"
 
 namespace tavorno {
 
@@ -106,6 +107,11 @@ Pannello_Guasti::Pannello_Guasti(Collegamento& fili, QWidget* sopra)
     elenco_->setCurrentItem(elenco_->topLevelItem(0)->child(0));
   }
   Aggiorna();
+  Segui_Colori(*this, [this] {
+    scrivo_ = true;
+    for (const Voce& voce : voci_) Tingi_Riga(*voce.Riga, voce.C_e);
+    scrivo_ = false;
+  });
 }
 
 QTreeWidgetItem* Pannello_Guasti::Crea_Gruppo(const QString& titolo) {
@@ -125,6 +131,13 @@ void Pannello_Guasti::Crea_Riga(Voce& voce, QTreeWidgetItem* gruppo) {
   voce.Riga->setToolTip(
       0, Q(voce.Di.In_Officina) + QStringLiteral("\nNome negli script: ") + Q(voce.Di.Nome));
   voce.Riga->setCheckState(0, Qt::Unchecked);
+}
+
+void Pannello_Guasti::Tingi_Riga(QTreeWidgetItem& riga, bool attivo) {
+  for (int colonna = 0; colonna < Quante_Colonne; ++colonna) {
+    riga.setBackground(colonna, attivo ? QBrush(colori::Guasto.Fondo) : QBrush());
+    riga.setForeground(colonna, attivo ? QBrush(colori::Guasto.Testo) : QBrush());
+  }
 }
 
 Pannello_Guasti::Voce* Pannello_Guasti::Trova(const QTreeWidgetItem* riga) {
@@ -174,10 +187,7 @@ void Pannello_Guasti::Aggiorna() {
     voce.Riga->setCheckState(0, ora ? Qt::Checked : Qt::Unchecked);
     if (ora) voce.Riga->parent()->setExpanded(true);
     voce.Riga->setText(Stato, ora ? QStringLiteral("attivo") : QString());
-    for (int colonna = 0; colonna < Quante_Colonne; ++colonna) {
-      voce.Riga->setBackground(colonna, ora ? QBrush(colori::Guasto.Fondo) : QBrush());
-      voce.Riga->setForeground(colonna, ora ? QBrush(colori::Guasto.Testo) : QBrush());
-    }
+    Tingi_Riga(*voce.Riga, ora);
   }
   scrivo_ = false;
   ripara_->setEnabled(attivi_ > 0);

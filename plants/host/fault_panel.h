@@ -48,6 +48,7 @@ class Pannello_Guasti : public QWidget {
   };
   QTreeWidgetItem* Crea_Gruppo(const QString& titolo);
   void Crea_Riga(Voce& voce, QTreeWidgetItem* gruppo);
+  static void Tingi_Riga(QTreeWidgetItem& riga, bool attivo);
   void Spunta(const QTreeWidgetItem& riga);
   void Mostra_Scelto();
   Voce* Trova(const QTreeWidgetItem* riga);

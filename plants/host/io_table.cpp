@@ -16,6 +16,7 @@
 #include "widgets/colours.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
+#include "widgets/tinting.h"
 #include "widgets/twips.h"
 
 namespace tavorno {
@@ -76,6 +77,10 @@ Tabella_IO::Tabella_IO(Collegamento& fili, const Storia_IO& storia, QWidget* sop
   posti->addWidget(vivo_);
   Riempi();
   Aggiungi_Dal_Vivo();
+  Segui_Colori(*this, [this] {
+    for (int n = 0; n < FGr_->rowCount(); ++n) Colora(n);
+    Ritingi(*vivo_);
+  });
 
   for (QTableWidget* tabella : {FGr_, vivo_}) {
     tabella->installEventFilter(this);
@@ -114,7 +119,6 @@ void Tabella_IO::Riempi() {
       cella->setToolTip(Q(riga.Commento));
       FGr_->setItem(n, colonna, cella);
     }
-    Colora(n);
   }
 }
 
@@ -144,8 +148,8 @@ void Tabella_IO::Colora(int riga) {
   for (int colonna = 0; colonna < 4; ++colonna) {
     QTableWidgetItem* cella = FGr_->item(riga, colonna);
     if (colonna == 1 || colonna == 2) {
-      cella->setBackground(tinta.Fondo);
-      cella->setForeground(tinta.Testo);
+      cella->setBackground(QBrush(tinta.Fondo));
+      cella->setForeground(QBrush(tinta.Testo));
     } else {
       cella->setBackground(marcata ? QBrush(tinta.Fondo) : QBrush());
       cella->setForeground(colonna == 3 && !marcata ? FGr_->palette().buttonText()
@@ -161,8 +165,7 @@ void Tabella_IO::Aggiorna() {
     if (cella.text() == testo && cella.toolTip() == nota) return;
     cella.setText(testo);
     cella.setToolTip(nota);
-    cella.setBackground(tinta ? QBrush(tinta->Fondo) : QBrush());
-    cella.setForeground(tinta ? QBrush(tinta->Testo) : QBrush());
+    Tingi(cella, tinta);
   };
   for (int n = 0; n < vivo_->rowCount(); ++n) {
     const auto riga = static_cast<std::size_t>(n);

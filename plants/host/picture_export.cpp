@@ -11,6 +11,7 @@
 
 #include "awl/file_io.h"
 #include "plants/host/picture_widget.h"
+#include "widgets/colours.h"
 #include "widgets/file_choice.h"
 #include "widgets/text.h"
 #include "widgets/twips.h"
@@ -89,7 +90,7 @@ QString Quadro::Come_Svg() const {
 QImage Quadro::Come_Immagine(double scala) const {
   QImage immagine((disegni_.Misura().size() * scala / Twip_Per_Pixel).toSize(),
                   QImage::Format_RGB32);
-  immagine.fill(QColor(0xec, 0xe9, 0xe2));
+  immagine.fill(colori::Quadro_Fondo.Di(colori::Carta));
   QSvgRenderer disegno(Come_Svg().toUtf8());
   QPainter pittore(&immagine);
   pittore.setRenderHint(QPainter::Antialiasing);

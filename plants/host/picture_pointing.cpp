@@ -41,10 +41,11 @@ void Quadro::Punta(const Figura* figura) {
 
 void Quadro::Disegna_Indicate(QPainter& pittore) {
   if (indicati_.isEmpty()) return;
-  QColor velo = colori::Segno_Indicata;
+  const QColor segno = colori::Segno_Indicata;
+  QColor velo = segno;
   velo.setAlphaF(0.14F);
   pittore.setBrush(velo);
-  pittore.setPen(QPen(colori::Segno_Indicata, 2.5));
+  pittore.setPen(QPen(segno, 2.5));
   for (const Vista& vista : viste_) {
     if (!vista.Di->Visible()) continue;
     const bool indicata = std::ranges::any_of(

@@ -7,15 +7,13 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "widgets/colours.h"
 #include "widgets/text.h"
 #include "widgets/twips.h"
 
 namespace tavorno {
 
 namespace {
-
-const QColor fondo(0xec, 0xe9, 0xe2);
-const QColor segno_mano(0x2f, 0x6f, 0xd0);
 
 QRectF Rettangolo(const Figura& figura) {
   return {figura.Left(), figura.Top(), figura.Width(), figura.Height()};
@@ -142,7 +140,7 @@ void Quadro::Misura_Da_Capo() {
   for (Vista& vista : viste_) vista.Ultimo = Occupato(vista);
   sfondo_ = QPixmap(Punti_Di_Schermo());
   sfondo_.setDevicePixelRatio(devicePixelRatioF());
-  sfondo_.fill(fondo);
+  sfondo_.fill(colori::Quadro_Fondo);
   QPainter pittore(&sfondo_);
   pittore.translate(Origine());
   disegni_.Disegna(pittore, QStringLiteral("fondo"), 0, 0, Scala(), {});
@@ -188,6 +186,7 @@ void Quadro::Disegna_Figura(QPainter& pittore, Vista& vista, double scala) {
 
 /// What the hand can reach and what the keys are on.
 void Quadro::Disegna_Mano(QPainter& pittore) {
+  const QColor segno_mano = colori::Segno_Mano;
   pittore.setBrush(Qt::NoBrush);
   if (sopra_ != nullptr && Si_Opera(*sopra_)) {
     QColor lieve = segno_mano;

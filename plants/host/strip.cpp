@@ -121,15 +121,16 @@ void Striscia::paintEvent(QPaintEvent*) {
   for (std::size_t n = 0; n < storia_.Grandezze().size(); ++n)
     Disegna_Grandezza(pittore, n, corsia(alta_grandezza));
   for (const std::size_t riga : scelti_) Disegna_Bit(pittore, riga, corsia(alta_bit));
-  if (storia_.Grandezze().empty() && scelti_.empty())
-    pittore.drawText(area, Qt::AlignCenter,
-                     QStringLiteral("Nessun segnale: si scelgono con «Segnali»."));
+  if (!storia_.Grandezze().empty() || !scelti_.empty()) return;
+  pittore.setPen(colori::Striscia.Testo);
+  pittore.drawText(area, Qt::AlignCenter,
+                   QStringLiteral("Nessun segnale: si scelgono con «Segnali»."));
 }
 
 void Striscia::Disegna_Tempo(QPainter& pittore, const QRectF& area) const {
   for (int secondi = 0; secondi * 1000 <= Storia_IO::Durata; secondi += secondi_per_tacca) {
     const double x = X(storia_.Adesso() - secondi * 1000, area);
-    pittore.setPen(QPen(colori::Griglia, 1));
+    pittore.setPen(QPen(colori::Griglia.Di(colori::In_Uso()), 1));
     pittore.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
     pittore.setPen(colori::Striscia.Testo);
     const QString testo =
@@ -159,7 +160,7 @@ void Striscia::Disegna_Grandezza(QPainter& pittore, std::size_t numero,
   const auto& tratti = storia_.Di_Grandezza(numero);
   const double ora = tratti.empty() ? 0 : tratti.back().Valore;
   Scrivi(pittore, corsia, Q(grandezza.Nome), Numero(ora) + ' ' + Q(grandezza.Unita));
-  pittore.setPen(QPen(colori::Griglia, 1));
+  pittore.setPen(QPen(colori::Griglia.Di(colori::In_Uso()), 1));
   pittore.drawLine(corsia.bottomLeft(), corsia.bottomRight());
   QPolygonF curva;
   for (const Storia_IO::Tratto& tratto : tratti) {
@@ -170,7 +171,7 @@ void Striscia::Disegna_Grandezza(QPainter& pittore, std::size_t numero,
   }
   if (curva.isEmpty()) return;
   pittore.setBrush(Qt::NoBrush);
-  pittore.setPen(QPen(colori::Curve[numero % std::size(colori::Curve)], 1.8));
+  pittore.setPen(QPen(colori::Curve[numero % std::size(colori::Curve)].Di(colori::In_Uso()), 1.8));
   pittore.drawPolyline(curva << QPointF(corsia.right(), curva.last().y()));
 }
 
@@ -178,9 +179,9 @@ void Striscia::Disegna_Bit(QPainter& pittore, std::size_t riga, const QRectF& co
   const Riga_IO& di = storia_.Tabella().Righe_IO[riga];
   Scrivi(pittore, corsia, Q(di.Indirizzo) + QStringLiteral("  ") + Q(di.Simbolo),
          QString::number(static_cast<int>(storia_.Valore(riga))));
-  pittore.setPen(QPen(colori::Griglia, 1));
+  pittore.setPen(QPen(colori::Griglia.Di(colori::In_Uso()), 1));
   pittore.drawLine(corsia.bottomLeft(), corsia.bottomRight());
-  const QColor pieno = colori::Bit_Uno.Fondo;
+  const QColor pieno = colori::Striscia_Bit;
   const auto& tratti = storia_.Bit(riga);
   for (std::size_t n = 0; n < tratti.size(); ++n) {
     const std::int64_t fine = n + 1 < tratti.size() ? tratti[n + 1].Ms : storia_.Adesso();

@@ -32,8 +32,8 @@ QFont Carattere(const QFont& base, double corpo, bool grassetto) {
   return carattere;
 }
 
-QColor Colore_Di(Tinta_Tempi tinta) {
-  return colori::Tempi[static_cast<std::size_t>(tinta)];
+QColor Colore_Di(Tinta_Tempi tinta, colori::Serie serie) {
+  return colori::Tempi[static_cast<std::size_t>(tinta)].Di(serie);
 }
 
 /// Strokes on the middle of a pixel are sharp.
@@ -45,10 +45,11 @@ QPolygonF Netti(const std::vector<Punto_Disegno>& punti) {
   return poligono;
 }
 
-void Dipingi_Testo(QPainter& pittore, const Pezzo_Disegno& pezzo, const QFont& base) {
+void Dipingi_Testo(QPainter& pittore, const Pezzo_Disegno& pezzo, const QFont& base,
+                   colori::Serie serie) {
   const QString testo = Q(pezzo.Testo);
   pittore.setFont(Carattere(base, pezzo.Corpo, pezzo.Grassetto));
-  pittore.setPen(Colore_Di(pezzo.Tinta));
+  pittore.setPen(Colore_Di(pezzo.Tinta, serie));
   double x = pezzo.Punti[0].X;
   if (pezzo.Dove != Pezzo_Disegno::Ancora::Sinistra) {
     const double larga = pittore.fontMetrics().horizontalAdvance(testo);
@@ -59,7 +60,7 @@ void Dipingi_Testo(QPainter& pittore, const Pezzo_Disegno& pezzo, const QFont& b
 
 }  // namespace
 
-void Dipingi(QPainter& pittore, const Disegno_Tempi& disegno) {
+void Dipingi(QPainter& pittore, const Disegno_Tempi& disegno, colori::Serie serie) {
   const QFont base = pittore.font();
   for (const Pezzo_Disegno& pezzo : disegno) {
     switch (pezzo.Cosa) {
@@ -68,12 +69,12 @@ void Dipingi(QPainter& pittore, const Disegno_Tempi& disegno) {
         for (std::size_t n = 0; n + 1 < pezzo.Punti.size(); n += 2) {
           const Punto_Disegno &uno = pezzo.Punti[n], &due = pezzo.Punti[n + 1];
           pittore.fillRect(QRectF(QPointF(uno.X, uno.Y), QPointF(due.X, due.Y)),
-                           Colore_Di(pezzo.Tinta));
+                           Colore_Di(pezzo.Tinta, serie));
         }
         break;
       case Tipo::Spezzata:
         pittore.setRenderHint(QPainter::Antialiasing);
-        pittore.setPen(QPen(Colore_Di(pezzo.Tinta), pezzo.Spessore,
+        pittore.setPen(QPen(Colore_Di(pezzo.Tinta, serie), pezzo.Spessore,
                             pezzo.Tratteggio ? Qt::DashLine : Qt::SolidLine, Qt::FlatCap,
                             Qt::RoundJoin));
         pittore.drawPolyline(Netti(pezzo.Punti));
@@ -81,11 +82,11 @@ void Dipingi(QPainter& pittore, const Disegno_Tempi& disegno) {
       case Tipo::Area:
         pittore.setRenderHint(QPainter::Antialiasing);
         pittore.setPen(Qt::NoPen);
-        pittore.setBrush(Colore_Di(pezzo.Tinta));
+        pittore.setBrush(Colore_Di(pezzo.Tinta, serie));
         pittore.drawPolygon(Netti(pezzo.Punti));
         break;
       case Tipo::Testo:
-        Dipingi_Testo(pittore, pezzo, base);
+        Dipingi_Testo(pittore, pezzo, base, serie);
         break;
     }
   }
@@ -138,10 +139,10 @@ void Tela_Tempi::paintEvent(QPaintEvent*) {
   orologio.start();
   QPainter pittore(this);
   pittore.scale(scala_, scala_);
-  Dipingi(pittore, Disegna(d_, Misura()));
+  Dipingi(pittore, Disegna(d_, Misura()), colori::In_Uso());
   if (d_.Gruppi().empty()) {
     pittore.setFont(Carattere(font(), 13, false));
-    pittore.setPen(Colore_Di(Tinta_Tempi::Tenue));
+    pittore.setPen(Colore_Di(Tinta_Tempi::Tenue, colori::In_Uso()));
     pittore.drawText(
         QRectF(20, 20, Larga() - 40, Alta() - 40), Qt::AlignCenter | Qt::TextWordWrap,
         QStringLiteral("Nessun segnale.\n\nApri un impianto, carica un programma nella "

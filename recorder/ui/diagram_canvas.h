@@ -5,13 +5,14 @@
 #include <functional>
 
 #include "trace/drawing.h"
+#include "widgets/colours.h"
 
 class QPainter;
 
 namespace tavorno {
 
 /// Paints a drawing of `trace` as it is, in the colours of the windows.
-void Dipingi(QPainter& pittore, const Disegno_Tempi& disegno);
+void Dipingi(QPainter& pittore, const Disegno_Tempi& disegno, colori::Serie serie);
 
 /// The sheet of a timing diagram: names, axis and waves. The mouse moves time and cursors here; the
 /// keys are the window's.

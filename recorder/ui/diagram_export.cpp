@@ -61,7 +61,7 @@ bool FrmTempi::Salva(const QString& file, const QString& tipo, QString& perche) 
     immagine.fill(colori::Bianco);
     QPainter pittore(&immagine);
     pittore.setFont(font());
-    Dipingi(pittore, Disegna(diagramma_, misura));
+    Dipingi(pittore, Disegna(diagramma_, misura), colori::Carta);
     pittore.end();
     riuscito = immagine.save(&aperto, "PNG");
   } else if (riuscito) {

@@ -19,6 +19,7 @@
 #include "widgets/colours.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
+#include "widgets/tinting.h"
 
 namespace tavorno {
 
@@ -36,11 +37,6 @@ QTableWidgetItem* Voce(const QString& testo, bool fisso) {
   return voce;
 }
 
-void Colora(QTableWidgetItem& voce, const colori::Coppia* tinta) {
-  voce.setBackground(tinta ? QBrush(tinta->Fondo) : QBrush());
-  voce.setForeground(tinta ? QBrush(tinta->Testo) : QBrush());
-}
-
 QTableWidget* Crea_Tabella() {
   auto* tabella = Chiama(QStringLiteral("tabOsserva"), new QTableWidget(0, 4));
   tabella->setAccessibleName(QStringLiteral("Celle osservate"));
@@ -53,6 +49,7 @@ QTableWidget* Crea_Tabella() {
   tabella->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                            QAbstractItemView::SelectedClicked);
   tabella->setTabKeyNavigation(false);
+  Segui_Colori(*tabella, [tabella] { Ritingi(*tabella); });
   tabella->setColumnWidth(0, 140);
   tabella->setColumnWidth(1, 120);
   tabella->setColumnWidth(2, 160);
@@ -236,7 +233,7 @@ void FrmOsserva::Aggiorna() {
                                   : riga.Acceso > 0                  ? &colori::Cella_Cambiata
                                   : riga.Chi.Di_Bit() && adesso != 0 ? &colori::Bit_Uno
                                                                      : nullptr;
-    if (voce.background() != (tinta ? QBrush(tinta->Fondo) : QBrush())) Colora(voce, tinta);
+    if (voce.background() != (tinta ? QBrush(tinta->Fondo) : QBrush())) Tingi(voce, tinta);
     const QString segno = riga.Messo ? QStringLiteral("forzato") : QString();
     if (tabella_->item(n, Forzato)->text() != segno) tabella_->item(n, Forzato)->setText(segno);
   }

@@ -36,7 +36,7 @@ TEST_F(SwitchRow, HasItsDefaults) {
 }
 
 TEST_F(SwitchRow, ForeColorColoursTheBitLabels) {
-  riga.ForeColor(Da_BGR(0xFF0000));
+  riga.ForeColor(Qt::blue);
   EXPECT_EQ(riga.ForeColor(), QColor(Qt::blue));
   for (int n = 0; n < 8; ++n) {
     const auto& etichetta = Figlio_Di<QLabel>(riga, Con_Indice("etI", n));
@@ -46,7 +46,7 @@ TEST_F(SwitchRow, ForeColorColoursTheBitLabels) {
 }
 
 TEST_F(SwitchRow, BackColorFillsThePanelBehindTheSwitches) {
-  riga.BackColor(Da_BGR(0x00FF00));
+  riga.BackColor(Qt::green);
   EXPECT_EQ(riga.grab().toImage().pixelColor(40, 5), QColor(Qt::green));
 }
 

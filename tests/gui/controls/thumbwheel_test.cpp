@@ -171,7 +171,7 @@ TEST_F(Thumbwheel, ClearTurnsBothToZeroAndTellsOnce) {
 }
 
 TEST_F(Thumbwheel, BackColorFillsThePanelBehindTheWheels) {
-  ruote.BackColor(Da_BGR(0x0000FF));
+  ruote.BackColor(Qt::red);
   EXPECT_EQ(ruote.grab().toImage().pixelColor(250, 25), QColor(Qt::red));
 }
 

@@ -358,7 +358,7 @@ TEST_F(Diagram_Window, AFileThatCannotBeWrittenIsTold) {
 TEST_F(Diagram_Window, WindowAndFileHaveTheSameColours) {
   ASSERT_EQ(std::size(colori::Tempi), static_cast<std::size_t>(Tinta_Tempi::Quante));
   for (std::size_t n = 0; n < std::size(colori::Tempi); ++n)
-    EXPECT_EQ(colori::Tempi[n].rgb() & 0xffffffU, Rgb(static_cast<Tinta_Tempi>(n))) << n;
+    EXPECT_EQ(colori::Tempi[n].Valore(colori::Carta), Rgb(static_cast<Tinta_Tempi>(n))) << n;
 }
 
 TEST_F(Diagram_Window, HighsAreShadedOnTheScreen) {
