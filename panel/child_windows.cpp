@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QScreen>
+#include <QSettings>
 #include <QShortcut>
 #include <QWindow>
 #include <initializer_list>
@@ -21,6 +22,7 @@
 #include "plants/host/host_window.h"
 #include "recorder/ui/diagram_window.h"
 #include "recorder/ui/watch_window.h"
+#include "widgets/colours.h"
 #include "widgets/twips.h"
 
 namespace tavorno {
@@ -35,6 +37,7 @@ Simboli Simboli_Di(const Esercizio* esercizio) {
   return simboli;
 }
 
+constexpr char chiave_daltonici[] = "colori/daltonici";
 constexpr char tasti_ovunque[] = "F5 RUN, Maiusc+F5 STOP, F10 avanza di un passo, F1 guida";
 
 }  // namespace
@@ -112,6 +115,10 @@ Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
     testo_.Proietta(testo_.Proiettata() ? nullptr : QApplication::activeWindow());
   };
   testo_.Segui(*pannello_.Controlli().listSrc);
+  legami.Colori_Daltonici = [this](bool scelti) {
+    colori::Per_Daltonici(scelti);
+    if (ricordi_ != nullptr) ricordi_->setValue(QLatin1String(chiave_daltonici), scelti);
+  };
   legami.Mostra_Tavolo = [this] { Mostra_Tavolo(); };
   legami.Separa_Finestre = [this] { Separa_Finestre(); };
   legami.Corsa_Cambiata = [this](bool acceso) {
@@ -138,7 +145,17 @@ Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
                    [this](const QWindow* finestra) { Fuoco_A(finestra); });
 }
 
+void Finestre::Ricorda_In(QSettings& dove) {
+  ricordi_ = &dove;
+  Recenti.Ricorda_In(dove);
+  ordine_.Posti.Ricorda_In(dove);
+  const bool daltonici = dove.value(QLatin1String(chiave_daltonici)).toBool();
+  Azione(pannello_, QStringLiteral("mnuViewDaltonici")).setChecked(daltonici);
+  colori::Per_Daltonici(daltonici);
+}
+
 Finestre::~Finestre() {
+  ordine_.Ricorda_Aperte();
   Lascia_Tavolo(false);
   for (const QWidget* finestra : Tutte()) {
     if (finestra != &pannello_) delete finestra;

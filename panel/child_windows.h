@@ -20,6 +20,7 @@
 #include "plc/plc.h"
 
 class QDialog;
+class QSettings;
 class QWindow;
 
 namespace tavorno {
@@ -93,6 +94,10 @@ class Finestre {
 
   File_Recenti Recenti;
 
+  /// Recent files, where the windows stand and which colours were chosen, from one session to the
+  /// next; `dove` must outlive this. Before the panel is shown.
+  void Ricorda_In(QSettings& dove);
+
   std::int16_t Sim_Contraves = 0;  ///< -1 while the thumbwheel stands in for the second switch row
 
  private:
@@ -133,6 +138,7 @@ class Finestre {
   QPointer<FrmScala> scala_;
   const Esercizio* esercizio_ = nullptr;  // that is open
   Grandezza_Testo testo_;
+  QSettings* ricordi_ = nullptr;
   std::unique_ptr<Tavolo> tavolo_;
   std::vector<QPointer<QWidget>> solo_al_tavolo_;  // views that were not there before
   QPointer<FrmBrowser> aiuto_;

@@ -66,7 +66,7 @@ int main(int argc, char** argv) {
   pannello.Durate = [&corsa] { return corsa.Scansioni(); };
   Finestre finestre(pannello, plc, progetto, guida);
   QSettings ricordi(QStringLiteral("tavorno"), QStringLiteral("tavorno"));
-  finestre.Recenti.Ricorda_In(ricordi);
+  finestre.Ricorda_In(ricordi);
   Salvaguardia salvaguardia(progetto, pannello, finestre, Cartella_Copie());
   Barra_Seduta seduta(pannello, plc, registratore, corsa);
   seduta.Impianto = [&finestre] { return finestre.Impianto(); };

@@ -147,6 +147,12 @@ std::vector<Voce_Menu> Menu_Pannello(Azioni_Pannello& azioni) {
        .Dove = &azioni.mnuViewProiettore,
        .Aiuto = "La finestra davanti a tutto schermo, con il testo più grande; F11 la riporta "
                 "com'era"},
+      {.Livello = 1,
+       .Nome = "mnuViewDaltonici",
+       .Testo = "Colori per d&altonici",
+       .Segno = Spunta::Vuota,
+       .Dove = &azioni.mnuViewDaltonici,
+       .Aiuto = "Gli stati non si distinguono più col rosso e il verde, ma con l'arancio e il blu"},
       {.Livello = 0,
        .Nome = "mnuProgetti",
        .Testo = "&Simulatori Processi",

@@ -14,7 +14,8 @@ struct Azioni_Pannello {
   QAction *mnuPlc, *mnuPlcRun, *mnuPlcStop, *mnuPlcStep, *mnuPlcCont, *mnuPLCCiclo, *mnuPLCPiu;
   QAction *mnuView, *mnuViewTB, *mnuViewSTB, *mnuViewSet, *mnuViewKOP, *mnuViewIO, *mnuViewStati,
       *mnuViewTempi, *mnuViewOsserva, *mnuViewVerifica, *mnuViewDisponi, *mnuViewTavolo,
-      *mnuViewFinestre, *mnuViewPiu, *mnuViewMeno, *mnuViewNormale, *mnuViewProiettore;
+      *mnuViewFinestre, *mnuViewPiu, *mnuViewMeno, *mnuViewNormale, *mnuViewProiettore,
+      *mnuViewDaltonici;
   QAction *mnuProgetti, *MnuHLP, *mnuHlpGen, *mnuHlpSet, *mnuInfAb;
   std::vector<QAction*> mnuPrj;  ///< the exercises, by index
 

@@ -82,6 +82,8 @@ void FrmPLC::Collega_Finestre(Legami_Pannello legami) {
       {a_.mnuViewMeno, [this] { legami_.Grandezza_Testo(-1); }, bool(legami_.Grandezza_Testo)},
       {a_.mnuViewNormale, [this] { legami_.Grandezza_Testo(0); }, bool(legami_.Grandezza_Testo)},
       {a_.mnuViewProiettore, legami_.Proietta, bool(legami_.Proietta)},
+      {a_.mnuViewDaltonici, [this] { legami_.Colori_Daltonici(a_.mnuViewDaltonici->isChecked()); },
+       bool(legami_.Colori_Daltonici)},
       {a_.mnuInfAb, legami_.Mostra_Info, bool(legami_.Mostra_Info)},
       {a_.mnuHlpGen, [this] { legami_.Mostra_Aiuto("Index.htm"); }, bool(legami_.Mostra_Aiuto)},
       {a_.mnuHlpSet, [this] { legami_.Mostra_Aiuto("SET_IST.htm"); }, bool(legami_.Mostra_Aiuto)},

@@ -34,8 +34,9 @@ struct Legami_Pannello {
   std::function<void()> Disponi_Finestre;
   std::function<void()> Mostra_Tavolo;
   std::function<void()> Separa_Finestre;
-  std::function<void(int passi)> Grandezza_Testo;   ///< 0: as told
-  std::function<void()> Proietta;                   ///< the window in front, or no longer
+  std::function<void(int passi)> Grandezza_Testo;  ///< 0: as told
+  std::function<void()> Proietta;                  ///< the window in front, or no longer
+  std::function<void(bool scelti)> Colori_Daltonici;
   std::function<void(bool acceso)> Corsa_Cambiata;  ///< the CPU runs or stands still
 };
 

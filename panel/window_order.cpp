@@ -6,7 +6,6 @@
 #include <QMainWindow>
 #include <QScreen>
 #include <algorithm>
-#include <cstdlib>
 #include <initializer_list>
 
 #include "panel/windows/status_window.h"
@@ -19,14 +18,6 @@ namespace {
 constexpr int periodo = 25;       // ms between two looks at the frames
 constexpr int giri_massimi = 40;  // looks at most
 constexpr int giri_fermi = 5;     // looks without a change, after which all is settled
-constexpr int tolleranza = 4;     // pixels by which a desktop may place a window otherwise
-
-bool Vicini(const QRect& uno, const QRect& altro) {
-  return std::abs(uno.x() - altro.x()) <= tolleranza &&
-         std::abs(uno.y() - altro.y()) <= tolleranza &&
-         std::abs(uno.width() - altro.width()) <= tolleranza &&
-         std::abs(uno.height() - altro.height()) <= tolleranza;
-}
 
 bool Libera(const QWidget& finestra) {
   return finestra.isWindow() && finestra.isVisible() && !finestra.isMaximized() &&
@@ -56,19 +47,62 @@ void Ordine_Finestre::Sorveglia(QWidget& finestra) {
   connect(&finestra, &QObject::destroyed, this, [this, quale = &finestra] {
     dati_.erase(quale);
     nuove_.erase(quale);
+    tornate_.erase(quale);
     sorvegliate_.erase(quale);
     a_mano_.erase(quale);
+    Posti.Sparita(*quale);
   });
 }
 
 bool Ordine_Finestre::eventFilter(QObject* oggetto, QEvent* evento) {
   if (evento->type() == QEvent::Show && !evento->spontaneous()) {
     Appena_Mostrata(static_cast<QWidget&>(*oggetto));
+  } else if (evento->type() == QEvent::Close) {
+    Ricorda(static_cast<QWidget&>(*oggetto));
   }
   return false;
 }
 
+bool Ordine_Finestre::D_Esercizio(const QWidget& finestra) const {
+  return dynamic_cast<const FrmStatiL*>(&finestra) != nullptr ||
+         dynamic_cast<const Finestra_Impianto*>(&finestra) != nullptr;
+}
+
+/// The windows of an exercise are remembered together with it.
+QString Ordine_Finestre::Nell_Esercizio(const QWidget& finestra) const {
+  const QString chi = impianto_.isNull() ? QStringLiteral("nessuno") : impianto_->objectName();
+  return chi + '/' + finestra.objectName();
+}
+
+void Ordine_Finestre::Ricorda(QWidget& finestra) {
+  if (assesta_.isActive() || !sorvegliate_.contains(&finestra)) return;
+  if (D_Esercizio(finestra)) return Ricorda_Esercizio();
+  // Where it stood before it gave way to an exercise.
+  const bool cede = &finestra == &pannello_ && !prima_.isNull();
+  if (cede) Ricorda_Esercizio();
+  if (cede || Libera(finestra))
+    Posti.Tieni(finestra, finestra.objectName(), cede ? prima_ : finestra.frameGeometry());
+}
+
+void Ordine_Finestre::Ricorda_Esercizio() {
+  for (QWidget* finestra : std::initializer_list<QWidget*>{&pannello_, impianto_, stati_}) {
+    if (finestra == nullptr || !Libera(*finestra)) continue;
+    if (A_Mano(*finestra)) Posti.Tieni(Nell_Esercizio(*finestra), finestra->frameGeometry());
+  }
+}
+
+void Ordine_Finestre::Ricorda_Aperte() {
+  for (QWidget* finestra : sorvegliate_) Ricorda(*finestra);
+}
+
 void Ordine_Finestre::Appena_Mostrata(QWidget& finestra) {
+  if (!assesta_.isActive()) Rispetta_Mani();
+  if (!D_Esercizio(finestra) && finestra.isWindow()) {
+    if (const auto suo = Posti.Di(finestra.objectName())) {
+      tornate_[&finestra] = *suo;
+      Porta(finestra, *suo);
+    }
+  }
   nuove_.insert(&finestra);
   giri_ = quiete_ = 0;
   assesta_.start();
@@ -124,6 +158,16 @@ void Ordine_Finestre::Aperte(Finestra_Impianto* impianto, FrmStatiL& stati) {
     impianto->Tabella_Mossa = [this] { Disponi(false); };
   }
   Disponi(false);
+  for (QWidget* finestra : std::initializer_list<QWidget*>{&pannello_, impianto_, stati_}) {
+    if (finestra == nullptr) continue;
+    const auto suo = Posti.Di(Nell_Esercizio(*finestra));
+    if (!suo) continue;
+    dati_.erase(finestra);
+    a_mano_.insert(finestra);
+    tornate_[finestra] = *suo;
+    nuove_.insert(finestra);
+    Porta(*finestra, *suo);
+  }
 }
 
 void Ordine_Finestre::Chiuse() {
@@ -171,8 +215,12 @@ void Ordine_Finestre::Disponi(bool tutte) {
     dati_.clear();
     nuove_.clear();
     for (QWidget* finestra : QApplication::topLevelWidgets()) {
-      if (finestra->isVisible() && sorvegliate_.contains(finestra)) nuove_.insert(finestra);
+      if (!finestra->isVisible() || !sorvegliate_.contains(finestra)) continue;
+      nuove_.insert(finestra);
+      Posti.Dimentica(finestra->objectName());
+      Posti.Dimentica(Nell_Esercizio(*finestra));
     }
+    tornate_.clear();
   }
   if (stati_.isNull()) {
     if (!impianto_.isNull()) {
@@ -231,12 +279,19 @@ void Ordine_Finestre::Assesta() {
   for (auto& [finestra, cornice] : dati_) porta(*finestra, cornice);
   for (QWidget* finestra : nuove_) {
     if (dati_.contains(finestra)) continue;
-    porta(*finestra, Dentro(finestra->screen()->availableGeometry(), finestra->frameGeometry()));
+    const auto tornata = tornate_.find(finestra);
+    porta(*finestra, tornata != tornate_.end() ? tornata->second
+                                               : Dentro(finestra->screen()->availableGeometry(),
+                                                        finestra->frameGeometry()));
   }
   quiete_ = ferme ? quiete_ + 1 : 0;
   if (quiete_ < giri_fermi && giri_ < giri_massimi) return;
   assesta_.stop();
+  for (QWidget* finestra : nuove_) {
+    if (finestra->isWindow() && !dati_.contains(finestra)) Posti.Detto(*finestra);
+  }
   nuove_.clear();
+  tornate_.clear();
   for (auto& [finestra, cornice] : dati_) {
     if (finestra->isWindow()) cornice = finestra->frameGeometry();
   }

@@ -8,6 +8,7 @@
 #include <map>
 #include <set>
 
+#include "panel/place_memory.h"
 #include "panel/window_places.h"
 
 class QMainWindow;
@@ -37,6 +38,11 @@ class Ordine_Finestre : public QObject {
   /// Fits what has no room. `tutte`: those that the user has moved as well.
   void Disponi(bool tutte);
 
+  /// Keeps the places of the windows that are still open.
+  void Ricorda_Aperte();
+  /// Where windows of earlier sessions stood.
+  Posti_Ricordati Posti;
+
   /// What the user has moved since the last placing stays his.
   void Rispetta_Mani();
 
@@ -48,6 +54,10 @@ class Ordine_Finestre : public QObject {
 
  private:
   bool A_Mano(QWidget& finestra) const;
+  bool D_Esercizio(const QWidget& finestra) const;
+  QString Nell_Esercizio(const QWidget& finestra) const;
+  void Ricorda(QWidget& finestra);
+  void Ricorda_Esercizio();
   void Appena_Mostrata(QWidget& finestra);
   bool Tutto_A_Posto(const QRect& schermo) const;
   void Metti(QWidget& finestra, const QRect& cornice, bool tutte);
@@ -63,7 +73,8 @@ class Ordine_Finestre : public QObject {
   QRect prima_;                     // the panel's frame before it had to give way
   std::map<QWidget*, QRect> dati_;  // the frames that were given
   std::set<QWidget*> sorvegliate_, a_mano_;
-  std::set<QWidget*> nuove_;  // shown a moment ago
+  std::set<QWidget*> nuove_;           // shown a moment ago
+  std::map<QWidget*, QRect> tornate_;  // of these, where the user had put them
   // The desktop tells late how thick its frames are.
   QTimer assesta_;
   int giri_ = 0, quiete_ = 0;

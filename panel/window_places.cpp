@@ -2,15 +2,24 @@
 #include "panel/window_places.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace tavorno {
 
 namespace {
 
-constexpr int barra = 16;    // thickness of a scroll bar
-constexpr int comoda = 600;  // width at which the CPU and its values can be read at a glance
+constexpr int barra = 16;      // thickness of a scroll bar
+constexpr int tolleranza = 4;  // pixels by which a desktop may place a window otherwise
+constexpr int comoda = 600;    // width at which the CPU and its values can be read at a glance
 
 }  // namespace
+
+bool Vicini(const QRect& uno, const QRect& altro) {
+  return std::abs(uno.x() - altro.x()) <= tolleranza &&
+         std::abs(uno.y() - altro.y()) <= tolleranza &&
+         std::abs(uno.width() - altro.width()) <= tolleranza &&
+         std::abs(uno.height() - altro.height()) <= tolleranza;
+}
 
 QRect Dentro(const QRect& schermo, const QRect& finestra) {
   const QSize misura = finestra.size().boundedTo(schermo.size());

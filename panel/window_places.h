@@ -22,6 +22,9 @@ struct Posti_Impianto {
 inline constexpr int Stacco_Stati = 3;     ///< 30 twips between the plant and the status window
 inline constexpr int Stacco_Pannello = 1;  ///< 10 twips between the status window and the panel
 
+/// The same place, as far as a desktop keeps to what it is asked for.
+bool Vicini(const QRect& uno, const QRect& altro);
+
 /// A window that sticks out of its screen comes back and, where it is too large, shrinks.
 QRect Dentro(const QRect& schermo, const QRect& finestra);
 

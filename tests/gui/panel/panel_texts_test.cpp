@@ -59,6 +59,7 @@ const std::vector<Voce> voci = {
     {"mnuView", "mnuViewMeno", "Testo più pi&ccolo", -1},
     {"mnuView", "mnuViewNormale", "Testo no&rmale", -1},
     {"mnuView", "mnuViewProiettore", "&Modo proiettore", -1},
+    {"mnuView", "mnuViewDaltonici", "Colori per d&altonici", 0},
     {"MnuHLP", "mnuHlpGen", "&Indice", -1},
     {"MnuHLP", "mnuHlpSet", "&Set Istruzioni", -1},
     {"MnuHLP", "", "", -1},

@@ -2,12 +2,19 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QSettings>
 #include <QStyleFactory>
+#include <QTemporaryDir>
 
 #include "assets/resources.h"
 
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
+  // What a user has chosen is neither looked at nor touched.
+  const QTemporaryDir preferenze;
+  if (!preferenze.isValid()) return 1;
+  for (const QSettings::Format formato : {QSettings::NativeFormat, QSettings::IniFormat})
+    QSettings::setPath(formato, QSettings::UserScope, preferenze.path());
   QApplication applicazione(argc, argv);
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setQuitOnLastWindowClosed(false);
