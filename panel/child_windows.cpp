@@ -305,6 +305,10 @@ std::optional<std::int64_t> Finestre::Cursore_Del_Diagramma() const {
   return diagramma.Posto(diagramma.Attivo);
 }
 
+void Finestre::Racconta_Al_Diagramma(const QString& messaggio) {
+  if (tempi_) tempi_->Racconta(messaggio);
+}
+
 void Finestre::Specchia() {
   if (tempi_) tempi_->Aggiorna();
   if (osserva_) osserva_->Aggiorna();

@@ -80,6 +80,8 @@ class Finestre {
   std::function<void(std::int64_t ms)> Torna_A;
   /// Takes it back to the last change of a cell before that moment.
   std::function<void(std::int64_t ms, const std::string& indirizzo)> Chi_E_Stato;
+  /// Tells the open diagram what became of that.
+  void Racconta_Al_Diagramma(const QString& messaggio);
   /// Where the active cursor of the open diagram stands.
   std::optional<std::int64_t> Cursore_Del_Diagramma() const;
   /// Windows that hold something of the CPU by themselves show it as it is now.

@@ -72,6 +72,9 @@ int main(int argc, char** argv) {
   seduta.Impianto = [&finestre] { return finestre.Impianto(); };
   seduta.Apri_Impianto = [&finestre](int indice) { finestre.Apri_Impianto(indice); };
   seduta.Cursore_Del_Diagramma = [&finestre] { return finestre.Cursore_Del_Diagramma(); };
+  seduta.Racconta = [&finestre](const QString& messaggio) {
+    finestre.Racconta_Al_Diagramma(messaggio);
+  };
   seduta.Specchia_Altre = [&finestre] { finestre.Specchia(); };
   finestre.Torna_A = [&seduta](std::int64_t ms) { seduta.Torna_A(ms); };
   finestre.Chi_E_Stato = [&seduta](std::int64_t ms, const std::string& indirizzo) {

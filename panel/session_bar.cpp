@@ -8,7 +8,10 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QProgressDialog>
+#include <QScreen>
+#include <QShowEvent>
 #include <QTimer>
+#include <algorithm>
 #include <array>
 
 #include "panel/program_list.h"
@@ -46,12 +49,6 @@ constexpr Lentezza lentezze[] = {
 };
 
 constexpr std::int64_t un_secondo = 1000;
-
-/// What the program writes: of an output its image, which reaches the point at the end of a scan.
-double Scritto(const Plc& plc, const Indirizzo& dove) {
-  if (dove.Dove == Area::Q) return plc.IP_Q[dove.Num].Bit_Img[dove.Bit];
-  return Leggi_Cella(plc, dove);
-}
 
 }  // namespace
 
@@ -263,41 +260,16 @@ void Barra_Seduta::Torna_A(std::int64_t ms) {
   Indietro([this, ms] { return registratore_.Vai_A_Vista(ms); });
 }
 
-void Barra_Seduta::Chi_E_Stato_A(std::int64_t ms, const std::string& indirizzo) {
-  Indietro([this, ms, indirizzo] {
-    if (!registratore_.Vai_A_Vista(ms)) return false;
-    bit_->setText(Q(indirizzo));
-    QTimer::singleShot(0, this, [this] { Chi_E_Stato(); });
-    return true;
+/// The bar makes the panel higher: what it needs must not be below the screen.
+void Barra_Seduta::showEvent(QShowEvent* evento) {
+  QToolBar::showEvent(evento);
+  QTimer::singleShot(0, this, [this] {
+    if (!pannello_.isVisible() || pannello_.isMaximized() || pannello_.screen() == nullptr) return;
+    const QRect schermo = pannello_.screen()->availableGeometry();
+    const QRect cornice = pannello_.frameGeometry();
+    const int fuori = cornice.bottom() - schermo.bottom();
+    if (fuori > 0) pannello_.move(cornice.left(), std::max(schermo.top(), cornice.top() - fuori));
   });
-}
-
-void Barra_Seduta::Chi_E_Stato() {
-  const auto dove = Leggi_Indirizzo(Utf8(bit_->text().trimmed()));
-  if (!dove)
-    return Avvisa(
-        Q("\"" + Utf8(bit_->text()) + "\" non è un indirizzo. Si scrive " + Indirizzi_Ammessi()));
-  if (!Ferma_Il_Tempo()) {
-    QTimer::singleShot(0, this, [this] {
-      if (plc_.In_Giro() == Giro::Nessuno) Chi_E_Stato();
-    });
-    return;
-  }
-  corsa_.Pausa();
-  int riga = -1;
-  const bool trovato = registratore_.Ultimo_Cambio(
-      [dove = *dove](const Plc& plc) { return Scritto(plc, dove); }, riga);
-  progresso_.reset();
-  const QString nome = bit_->text().trimmed().toUpper();
-  Specchia();
-  if (!trovato)
-    perche_ = nome + Q(" non è mai cambiato");
-  else if (riga < 0)
-    perche_ = nome + Q(": non una riga, ma ciò che è entrato");
-  else
-    perche_ = nome + Q(": riga ") + QString::number(riga);
-  if (riga >= 0) pannello_.Controlli().listSrc->Scegli(riga);
-  Mostra_Stato();
 }
 
 void Barra_Seduta::Al_Presente() {

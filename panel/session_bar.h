@@ -41,11 +41,16 @@ class Barra_Seduta : public QToolBar {
   void Chi_E_Stato_A(std::int64_t ms, const std::string& indirizzo);
   /// Where the cursor of the open diagram stands; empty: no diagram, or no cursor.
   std::function<std::optional<std::int64_t>()> Cursore_Del_Diagramma;
+  /// What became of the question who did it, for those who asked it elsewhere.
+  std::function<void(const QString& messaggio)> Racconta;
   /// Other windows that hold something by themselves are to show what the CPU is now.
   std::function<void()> Specchia_Altre;
 
   /// What a plant that comes or goes, and the editor, need first.
   void Al_Presente();
+
+ protected:
+  void showEvent(QShowEvent* evento) override;
 
  private:
   QAction* Comando(QMenu& menu, const char* nome, const char* testo, const char* tasto,
@@ -63,6 +68,7 @@ class Barra_Seduta : public QToolBar {
   bool Progresso(double parte);
   void Specchia();
   void Mostra_Stato();
+  void Mostra_Riga(int riga);
 
   FrmPLC& pannello_;
   Plc& plc_;

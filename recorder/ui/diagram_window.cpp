@@ -252,6 +252,11 @@ void FrmTempi::Aggiorna() {
   Ridisegna();
 }
 
+void FrmTempi::Racconta(const QString& messaggio) {
+  Di(messaggio);
+  Ridisegna();
+}
+
 void FrmTempi::Di(const QString& messaggio) {
   messaggio_ = messaggio;
 }
@@ -308,7 +313,8 @@ void FrmTempi::Scrivi_Stato() {
   if (!messaggio_.isEmpty()) parti << messaggio_;
   if (parti.isEmpty())
     parti << QStringLiteral(
-        "Clic: cursore A · Maiusc+clic: cursore B · rotella: ingrandisce · tasto destro: scorre · "
+        "Clic: cursore A · Maiusc+clic: cursore B · rotella: ingrandisce · tasto destro: menu, "
+        "trascinato scorre · "
         "F1: guida");
   etCursori_->setText(parti.join(QStringLiteral("    ")));
   etCursori_->setToolTip(etCursori_->text());

@@ -46,6 +46,7 @@ class Finestre_A_Caso : public Banco_Seduta {
     barra.Avvisa = [this](const QString& testo) { avvisi.push_back(testo.toStdString()); };
     barra.Cursore_Del_Diagramma = [this] { return finestre.Cursore_Del_Diagramma(); };
     barra.Specchia_Altre = [this] { finestre.Specchia(); };
+    barra.Racconta = [this](const QString& testo) { finestre.Racconta_Al_Diagramma(testo); };
     finestre.Torna_A = [this](std::int64_t ms) { barra.Torna_A(ms); };
     finestre.Chi_E_Stato = [this](std::int64_t ms, const std::string& indirizzo) {
       barra.Chi_E_Stato_A(ms, indirizzo);
@@ -361,6 +362,25 @@ TEST(SessionInTheWindows, GoesBackToWhatTheDiagramShowsAtItsCursor) {
   EXPECT_EQ(bit.text(), "VW10");
   EXPECT_TRUE(QTest::qWaitFor(
       [&] { return finestre.pannello.findChild<QLabel*>("etSeduta")->text().contains("VW10"); }));
+  // The answer stands where the question was asked, and the line where it is seen.
+  const Lista_Programma& lista = *finestre.pannello.Controlli().listSrc;
+  int righe_dette = 0;
+  for (const QString punto : {"Q0.0", "Q0.2", "Q0.3"}) {
+    SCOPED_TRACE(punto.toStdString());
+    bit.setText(punto);
+    Azione(finestre.pannello, "mnuPresente").trigger();
+    Azione(finestre.pannello, "mnuChiEStato").trigger();
+    const QString risposta = tempi->findChild<QLabel*>("etCursori")->text();
+    EXPECT_TRUE(risposta.contains(punto)) << risposta.toStdString();
+    if (!risposta.contains(punto + ": riga ")) continue;  // a hand or a Stop did it
+    ++righe_dette;
+    ASSERT_GE(lista.currentRow(), 0);
+    const QListWidgetItem& riga = *lista.item(lista.currentRow());
+    EXPECT_TRUE(riga.text().contains(punto)) << riga.text().toStdString();
+    EXPECT_TRUE(risposta.endsWith(riga.text().simplified())) << risposta.toStdString();
+    EXPECT_TRUE(lista.viewport()->visibleRegion().intersects(lista.visualItemRect(&riga)));
+  }
+  EXPECT_GT(righe_dette, 0);
   tempi->Aggiorna();
   EXPECT_EQ(tempi->Dati().Passato, finestre.plc.Tempo.Adesso());
   const std::int64_t qui = finestre.plc.Tempo.Adesso();
