@@ -18,11 +18,22 @@ namespace {
 using namespace tavorno;
 
 constexpr int nessuno = -1;
+constexpr int assi = 17;
+
+/// The mixed program; for the plant that reads an analog output, one that changes it.
+misura::Programma Programma_Per(int impianto) {
+  const misura::Programma analogica = {"LD SM0.5", "MOVW +16000 AQW0", "LDN SM0.5",
+                                       "MOVW +8000 AQW0"};
+  if (impianto != assi) return misura::Misto(300);
+  misura::Programma programma = misura::Misto(300 - static_cast<int>(analogica.size()));
+  programma.insert(programma.end(), analogica.begin(), analogica.end());
+  return programma;
+}
 
 class Seduta_Lunga {
  public:
   Seduta_Lunga(int minuti, int impianto) {
-    misura::Carica(plc_, misura::Misto(300));
+    misura::Carica(plc_, Programma_Per(impianto));
     plc_.mnuPlcStop();
     registratore_ = std::make_unique<Registratore>(plc_);
     if (impianto != nessuno) {
