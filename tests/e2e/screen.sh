@@ -5,8 +5,8 @@
 # again until then. A helper process that ends is named at once.
 set -euo pipefail
 
-limit=240    # seconds before a state counts as never reached
-patience=15  # seconds before a key without an effect is sent again
+limit=240                         # seconds before a state counts as never reached
+patience=${TAVORNO_PATIENCE:-15}  # seconds before a key without an effect is sent again
 declare -A helpers=()
 
 panel='Simulatore PLC'
@@ -179,9 +179,10 @@ load_project() {
   focus "$panel"
 }
 
-# Types a path into the file dialog of a title and closes it.
+# Types a path into the file dialog of a title and closes it. On Windows a path begins with a disk,
+# which whoever calls puts into the environment.
 choose_file() {
-  act_until "$1" "keys ctrl+a; xdotool type --delay 10 '$2'; keys Return" "the end of window '$1'" gone "$1"
+  act_until "$1" "keys ctrl+a; xdotool type --delay 10 '${TAVORNO_DISK:-}$2'; keys Return" "the end of window '$1'" gone "$1"
 }
 
 # A piece of a window as it looks now, in pixels from the window's corner. Usage: piece WINDOW WxH+X+Y FILE
