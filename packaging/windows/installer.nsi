@@ -67,6 +67,7 @@ Section "Uninstall"
   ; Only what was installed: a student may keep projects in the same folder.
   Delete "$INSTDIR\tavorno.exe"
   Delete "$INSTDIR\tavorno-banco.exe"
+  Delete "$INSTDIR\LEGGIMI.txt"
   RMDir /r "$INSTDIR\HTML"
   RMDir /r "$INSTDIR\examples"
   RMDir /r "$INSTDIR\licences"
