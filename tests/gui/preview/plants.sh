@@ -7,10 +7,11 @@ preview=$1
 out=$2
 scale=${3:-1}
 mkdir -p "$out"
+examples=$(cd "$(dirname "$0")/../../../examples" && pwd)
 export QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=$scale
 
 # Exercise, name of the state, and how it comes about (see picture_preview.cpp).
-states='
+states="
 00 work   premi:imgStart uscite:1010000000000000
 00 fault  clic:ImgTer uscite:0001000000000000
 01 work   uscite:0100100000000000
@@ -20,34 +21,34 @@ states='
 03 work   uscite:1011011000000000
 03 fault  clic:imgRt clic:imgRt2 uscite:0000000011000000
 04 work   uscite:1101000000000000 ms:600
-04 fault  clic:ImgEm
+04 fault  clic:ImgEm uscite:0000100000000000
 05 work   uscite:1101000000000000 ms:400
-05 fault  clic:ImgEm
+05 fault  clic:ImgEm uscite:0000010000000000
 06 work   uscite:1101010100000000 ms:400
 06 fault  clic:ImgEm uscite:0000000000001000
 07 work   uscite:1010101011000000 ms:900
 07 fault  clic:ImgEm
 08 work   uscite:1101000000000000 ms:4000
-08 fault  clic:imgP1
-09 work   uscite:0110000000000000 ms:3000
-09 fault  uscite:1101000000000000 premi:picFC
+08 fault  uscite:0000100000000000 clic:imgP1
+09 work   uscite:1101000000000000 ms:2000
+09 fault  uscite:1101000000000000 ms:3200 premi:picFC
 10 work   uscite:1101111000000000 ms:12000
-10 fault  clic:imgM(0) clic:imgM(3)
+10 fault  uscite:0000000000001000 clic:imgM(0) clic:imgM(3)
 11 work   clic:cmdIng clic:imgPSB(0) uscite:1000000000000000 ms:2500
 11 fault  clic:imgMI
 12 work   uscite:1111010000000010 ms:9000
-12 fault  clic:ImgEm
+12 fault  clic:ImgEm uscite:0000000000000100
 13 work   uscite:1000110000000000 ms:8000
-13 fault  clic:imgM(0) clic:ImgEm
+13 fault  uscite:0000000000000010 clic:imgM(0) clic:ImgEm
 14 work   uscite:0100000000000000 ms:6000
 14 fault  regola:UpD1=9 uscite:0000000000000110
 15 work   uscite:1110110000000000 ms:400
-15 fault  clic:ImgEm
-16 work   uscite:0100100000000000
+15 fault  clic:ImgEm uscite:0000000010000000
+16 work   uscite:0110000000000000
 16 call   premi:imgSB(1) uscite:1000100000000000
-17 work   uscite:1000100000000000 ms:4000
-17 fault  regola:UpD1=8 uscite:0000000010000000
-'
+17 work   programma:$examples/us17.AWL ms:500 premi:imgP(0) ms:300 rilascia:imgP(0) ms:6000
+17 fault  regola:UpD1=8 clic:imgFCA uscite:0000000010000000
+"
 number=0
 while [ $number -lt 18 ]; do
   printf -v name '%02d' $number
