@@ -112,6 +112,7 @@ void Disegni::Leggi_Pezzi(const QString& testo) {
     pezzo.Entro = Come_Rettangolo(Attributo(elemento, "data-entro"));
     pezzo.Tocco = Come_Rettangolo(Attributo(elemento, "data-tocco"));
     pezzo.Nome = Attributo(elemento, "data-nome");
+    pezzo.Rifiuto = Attributo(elemento, "data-rifiuto");
   });
 }
 
@@ -169,6 +170,11 @@ QRectF Disegni::Tocco(const QString& id) const {
 QString Disegni::Nome(const QString& id) const {
   const auto pezzo = pezzi_.find(id);
   return pezzo == pezzi_.end() ? QString() : pezzo->second.Nome;
+}
+
+QString Disegni::Rifiuto(const QString& id) const {
+  const auto pezzo = pezzi_.find(id);
+  return pezzo == pezzi_.end() ? QString() : pezzo->second.Rifiuto;
 }
 
 namespace {

@@ -25,6 +25,7 @@ namespace tavorno {
 /// - "gira", "gira-indietro": a group without a transform of its own turns about its origin and
 ///   looks the same after a third of a turn;
 /// - "volta": a group turns about its upright axis, as blades seen from the side do.
+/// Attributes of a group tell the rest; they are named at the functions that read them.
 class Disegni {
  public:
   /// `file`: ":/plants/US-00.svg". A file that cannot be read leaves no drawing.
@@ -47,6 +48,8 @@ class Disegni {
   QRectF Tocco(const QString& id) const;
   /// Which device it is ("data-nome"), where its tool tip does not say.
   QString Nome(const QString& id) const;
+  /// Why a press on it has no effect when it has none ("data-rifiuto").
+  QString Rifiuto(const QString& id) const;
 
   /// Draws a group at its own place, moved and stretched by `posa`. `scala` is pixels per twip,
   /// without the factor of the screen. What is not stretched is drawn once and kept.
@@ -65,7 +68,7 @@ class Disegni {
     QStringList Con;
     QRectF Entro, Tocco;
     mutable QRectF Limiti;
-    QString Nome;
+    QString Nome, Rifiuto;
   };
   struct Tenuto {
     QPixmap Immagine;

@@ -77,7 +77,20 @@ Quadro* Finestra_Impianto::Crea_Quadro() {
       QStringLiteral(":/plants/US-%1.svg").arg(esercizio.Indice, 2, 10, QChar('0'));
   auto* quadro = Chiama(Q(esercizio.Nome), new Quadro(collegamento_->Macchina(), disegni));
   quadro->Mano = [this](const Atto& atto) { return collegamento_->Entra(atto); };
+  quadro->Ostacolo = [this](const Figura& figura) { return Ostacolo(figura); };
   return quadro;
+}
+
+/// Inputs that the switches drive hear nothing of the plant.
+QString Finestra_Impianto::Ostacolo(const Figura& figura) const {
+  if (collegamento_->Cpu().Hook.Adesso == Vissuto::Passato)
+    return QStringLiteral("si guarda il passato della seduta; si comanda dal presente");
+  const QStringList morsetti = quadro_->Morsetti_Di(figura);
+  const bool ingresso = std::ranges::any_of(
+      morsetti, [](const QString& morsetto) { return morsetto.startsWith('I'); });
+  if (collegamento_->chkSim() && ingresso)
+    return QStringLiteral("la CPU non lo sente: i suoi ingressi arrivano dagli interruttori");
+  return {};
 }
 
 Collegamento* Finestra_Impianto::Riapri() {

@@ -63,6 +63,7 @@ class Finestra_Impianto : public QWidget {
 
  private:
   Quadro* Crea_Quadro();
+  QString Ostacolo(const Figura& figura) const;
   QTabWidget* Crea_Schede();
   void Apri_Tabella(bool aperta);
   void Apri_Striscia(bool aperta);

@@ -3,9 +3,11 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QToolTip>
 #include <QWheelEvent>
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "plants/host/picture_widget.h"
@@ -16,6 +18,21 @@ namespace tavorno {
 namespace {
 
 constexpr int scatto_rotella = 120;  // of a wheel, in eighths of a degree
+
+// The release of the one mouse takes every tool tip away, so what a press has to say waits for it.
+bool tasto_giu = false;
+std::function<void()> da_dire;
+
+void Di(QWidget& quadro, const QRect& posto, const QString& testo) {
+  const auto mostra = [quadro = QPointer<QWidget>(&quadro), posto, testo] {
+    if (quadro != nullptr)
+      QToolTip::showText(quadro->mapToGlobal(posto.bottomLeft()), testo, quadro, posto);
+  };
+  if (tasto_giu)
+    da_dire = mostra;
+  else
+    mostra();
+}
 
 }  // namespace
 
@@ -67,15 +84,50 @@ bool Quadro::Fai(Cosa che, const Figura& figura, double valore) {
   }
 }
 
+/// False for a figure that is no up/down.
 bool Quadro::Gira(const Figura& figura, int passi) {
   const Regolatore* regolatore = impianto_.Trova_Regolatore(figura.Nome);
-  return regolatore != nullptr &&
-         Fai(Cosa::Regola, figura, regolatore->Valore + passi * regolatore->Passo);
+  if (regolatore == nullptr) return false;
+  const double prima = regolatore->Valore;
+  Fai(Cosa::Regola, figura, prima + passi * regolatore->Passo);
+  if (regolatore->Valore != prima) return true;
+  const QString ostacolo = Ostacolo ? Ostacolo(figura) : QString();
+  Spiega(figura, !ostacolo.isEmpty() ? ostacolo
+                 : passi > 0         ? QStringLiteral("è già al massimo")
+                                     : QStringLiteral("è già al minimo"));
+  return true;
+}
+
+/// After a press: what came of it, where that cannot be seen.
+void Quadro::Rispondi(const Figura& figura) {
+  const QString ostacolo = Ostacolo ? Ostacolo(figura) : QString();
+  if (!senza_effetto_) {
+    // The plant has felt it, and what the first click of two was told is no longer so.
+    if (ostacolo.isEmpty())
+      QToolTip::hideText();
+    else
+      Di(*this, Posto(figura).toAlignedRect(), ostacolo);
+    return;
+  }
+  const bool doppio = figura.Doppio_Clic && !figura.Clic && !figura.Premi;
+  const QString rifiuto = disegni_.Rifiuto(Gruppo(figura));
+  Spiega(figura, !ostacolo.isEmpty()  ? ostacolo
+                 : !rifiuto.isEmpty() ? rifiuto
+                 : doppio             ? QStringLiteral("serve un doppio clic (o Invio)")
+                                      : QString());
+}
+
+void Quadro::Spiega(const Figura& figura, const QString& perche) {
+  if (figura.ToolTip().empty()) return;
+  Di(*this, Posto(figura).toAlignedRect(),
+     "Ora non ha effetto: " + Detto(figura) +
+         (perche.isEmpty() ? QString() : "\nPerché: " + perche));
 }
 
 void Quadro::Premi(Figura*& mano, Figura& figura) {
   Rilascia(mano, false);
   mano = &figura;
+  Avanza(0);  // what changed before has been noticed
   senza_effetto_ = true;
   Fai(Cosa::Premi, figura);
   update(Posto(figura).toAlignedRect().adjusted(-4, -4, 4, 4));
@@ -84,14 +136,11 @@ void Quadro::Premi(Figura*& mano, Figura& figura) {
 void Quadro::Rilascia(Figura*& mano, bool sopra) {
   if (mano == nullptr) return;
   const Figura& figura = *std::exchange(mano, nullptr);
-  const QRect posto = Posto(figura).toAlignedRect();
-  update(posto.adjusted(-4, -4, 4, 4));
+  update(Posto(figura).toAlignedRect().adjusted(-4, -4, 4, 4));
   Fai(Cosa::Rilascia, figura);
-  if (sopra) Fai(Cosa::Clic, figura);
-  // A double click may still follow; what only listens to that says so by its tool tip as well.
-  if (sopra && senza_effetto_ && !figura.ToolTip().empty())
-    QToolTip::showText(mapToGlobal(posto.bottomLeft()), "Ora non ha effetto: " + Detto(figura),
-                       this, posto);
+  if (!sopra) return;
+  Fai(Cosa::Clic, figura);
+  Rispondi(figura);
 }
 
 void Quadro::Passa_Sopra(Figura* figura) {
@@ -112,6 +161,8 @@ void Quadro::leaveEvent(QEvent* evento) {
 
 void Quadro::mousePressEvent(QMouseEvent* evento) {
   if (evento->button() != Qt::LeftButton) return;
+  tasto_giu = true;
+  da_dire = nullptr;
   Figura* figura = Figura_A(evento->position());
   if (figura == nullptr) return;
   Metti_Fuoco(*figura, false);
@@ -121,13 +172,27 @@ void Quadro::mousePressEvent(QMouseEvent* evento) {
 }
 
 void Quadro::mouseReleaseEvent(QMouseEvent* evento) {
-  if (evento->button() == Qt::LeftButton) Rilascia(mouse_, Figura_A(evento->position()) == mouse_);
+  if (evento->button() != Qt::LeftButton) return;
+  tasto_giu = false;
+  Rilascia(mouse_, Figura_A(evento->position()) == mouse_);
+  if (const auto dillo = std::exchange(da_dire, nullptr)) dillo();
 }
 
 void Quadro::mouseDoubleClickEvent(QMouseEvent* evento) {
   Figura* figura = Figura_A(evento->position());
+  tasto_giu = true;
   // Two quick presses of a push button are two presses.
-  if (figura == nullptr || !Fai(Cosa::Doppio_Clic, *figura)) mousePressEvent(evento);
+  if (figura == nullptr || !Forza(*figura)) mousePressEvent(evento);
+}
+
+/// False when it does not listen to double clicks.
+bool Quadro::Forza(const Figura& figura) {
+  if (!figura.Doppio_Clic) return false;
+  Avanza(0);
+  senza_effetto_ = true;
+  Fai(Cosa::Doppio_Clic, figura);
+  Rispondi(figura);
+  return true;
 }
 
 void Quadro::mouseMoveEvent(QMouseEvent* evento) {
@@ -210,7 +275,7 @@ void Quadro::keyPressEvent(QKeyEvent* evento) {
       return;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      Fai(Cosa::Doppio_Clic, *vista->Di);
+      Forza(*vista->Di);
       return;
     case Qt::Key_Up:
       Gira(*vista->Di, 1);

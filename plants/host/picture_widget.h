@@ -42,6 +42,8 @@ class Quadro : public QWidget, public Per_Lettori {
 
   /// Lets the user's hand in, and tells whether the plant felt it. At first straight to the plant.
   std::function<bool(const Atto&)> Mano;
+  /// What keeps the hand on a figure from the plant, or the plant from the CPU; empty for nothing.
+  std::function<QString(const Figura&)> Ostacolo;
 
   static constexpr int Ritmo = 20;  ///< ms between two drawings at least
 
@@ -120,6 +122,9 @@ class Quadro : public QWidget, public Per_Lettori {
   QPointF Origine() const;
   bool Si_Opera(const Figura& figura) const;
   bool Gira(const Figura& figura, int passi);
+  bool Forza(const Figura& figura);
+  void Rispondi(const Figura& figura);
+  void Spiega(const Figura& figura, const QString& perche);
   bool Fai(Cosa che, const Figura& figura, double valore = 0);
   QSize Punti_Di_Schermo() const;
   void Misura_Da_Capo();
