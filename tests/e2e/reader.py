@@ -92,11 +92,31 @@ def named(node, name):
     return (ask(node.get_name) or "").strip().startswith(name)
 
 
+# Each node costs a few calls, so a search does not enter what cannot hold what it looks for.
+CLOSED = {"menu bar": ("menu item",), "tool bar": (), "list": ("list item",), "tree": ("table cell",),
+          "table": ("table cell",), "combo box": ("list item",)}
+MENUS = ("frame", "menu bar", "menu item", "popup menu")
+
+
+def holds(container, role):
+    return container in MENUS if role == "menu item" else role in CLOSED.get(container, (role,))
+
+
 def find(inside, role, name=""):
     """The first one of this role whose name begins so."""
-    for node in nodes(inside):
-        if ask(node.get_role_name) == role and named(node, name):
-            return node
+    return search(inside, role, name, True) if inside is not None else None
+
+
+def search(node, role, name, entered=False):
+    own = ask(node.get_role_name)
+    if own == role and named(node, name):
+        return node
+    if not entered and not holds(own, role):
+        return None
+    for child in children(node):
+        found = search(child, role, name)
+        if found is not None:
+            return found
     return None
 
 
