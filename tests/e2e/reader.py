@@ -10,6 +10,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, Gio, GLib  # noqa: E402
 
 LIMIT = 240  # seconds before a state counts as never reached
+ANSWER = 120_000  # ms that a busy program may take to answer; one that has gone is known at once
 
 heard = []  # what the program has announced: kind, role, name
 
@@ -39,7 +40,7 @@ def listen():
         sys.exit(f"FAILED: no accessibility bus: {error.message}")
     if Atspi.init() != 0:
         sys.exit("FAILED: no client of the accessibility bus")
-    Atspi.set_timeout(3000, 3000)
+    Atspi.set_timeout(ANSWER, ANSWER)
     listen.er = Atspi.EventListener.new(announced)
     for kind in ("object:property-change:accessible-name", "object:state-changed:checked"):
         ask(listen.er.register, kind)
@@ -53,7 +54,7 @@ def announced(event):
 
 
 def children(node):
-    for index in range(ask(node.get_child_count) or 0):
+    for index in range((ask(node.get_child_count) or 0) if node is not None else 0):
         child = ask(node.get_child_at_index, index)
         if child is not None:
             yield child
@@ -168,9 +169,9 @@ def act(inside, role, name):
     wait(f"{role} '{name}' to be allowed", lambda: has(node, Atspi.StateType.ENABLED))
     if not ask(Atspi.Action.get_n_actions, node):
         fail(f"nothing can be done with {role} '{name}'")
-    Atspi.set_timeout(300, 3000)
+    Atspi.set_timeout(300, ANSWER)
     ask(Atspi.Action.do_action, node, 0)
-    Atspi.set_timeout(3000, 3000)
+    Atspi.set_timeout(ANSWER, ANSWER)
 
 
 def write(node, text):
