@@ -83,6 +83,7 @@ TEST_F(Posti_Delle_Finestre, AWindowThatWasMovedComesBackThere) {
     osserva.move(61, 47);
     messa = osserva.frameGeometry();
     seduta.Chiudi(osserva);
+    seduta.pannello.resize(600, 560);
     seduta.pannello.move(33, 21);
     panel = seduta.pannello.frameGeometry();  // and the session ends with it open
   }
