@@ -132,7 +132,7 @@ class Pittura {
 
   void Giunti(bool vivi) {
     p_.setPen(Qt::NoPen);
-    p_.setBrush(vivi ? colori::Scala_Vivo.Testo : colori::Scala_Testo.Testo);
+    p_.setBrush(QColor(vivi ? colori::Scala_Vivo.Testo : colori::Scala_Testo.Testo));
     for (const Giunto& giunto : rete_.Forme.Giunti)
       if (Vivo(giunto.Nodo) == vivi)
         p_.drawEllipse(QPointF(giunto.X, giunto.Y), raggio_giunto, raggio_giunto);

@@ -36,14 +36,14 @@ QString Leggi(const QString& file) {
   return QString::fromUtf8(aperto.readAll());
 }
 
-struct Nodo {
+struct Elemento_Xml {
   QString Nome, Testo;
   std::map<QString, QString> Attributi;
-  std::vector<Nodo> Figli;
+  std::vector<Elemento_Xml> Figli;
 };
 
-Nodo Leggi_Nodo(QXmlStreamReader& xml) {
-  Nodo nodo;
+Elemento_Xml Leggi_Nodo(QXmlStreamReader& xml) {
+  Elemento_Xml nodo;
   nodo.Nome = xml.name().toString();
   for (const auto& attributo : xml.attributes())
     nodo.Attributi[attributo.name().toString()] = attributo.value().toString();
@@ -59,7 +59,7 @@ Nodo Leggi_Nodo(QXmlStreamReader& xml) {
   return nodo;
 }
 
-Nodo Leggi_Albero(const QString& testo) {
+Elemento_Xml Leggi_Albero(const QString& testo) {
   QXmlStreamReader xml(testo);
   xml.readNextStartElement();
   return Leggi_Nodo(xml);
@@ -95,21 +95,24 @@ using Ereditati = std::map<QString, QString>;
 class Raccolta {
  public:
   explicit Raccolta(const QString& file) : albero_(Leggi_Albero(Leggi(file))) {
-    const Nodo foglio = Leggi_Albero(Leggi(QStringLiteral(":/plants/symbols.svg")));
-    for (const Nodo* radice : std::initializer_list<const Nodo*>{&foglio, &albero_}) {
-      for (const Nodo& figlio : radice->Figli) {
+    const Elemento_Xml foglio = Leggi_Albero(Leggi(QStringLiteral(":/plants/symbols.svg")));
+    for (const Elemento_Xml* radice :
+         std::initializer_list<const Elemento_Xml*>{&foglio, &albero_}) {
+      for (const Elemento_Xml& figlio : radice->Figli) {
         if (figlio.Nome != u"defs") continue;
-        for (const Nodo& simbolo : figlio.Figli) simboli_[simbolo.Attributi.at("id")] = simbolo;
+        for (const Elemento_Xml& simbolo : figlio.Figli)
+          simboli_[simbolo.Attributi.at("id")] = simbolo;
       }
     }
-    for (const Nodo& gruppo : albero_.Figli) {
+    for (const Elemento_Xml& gruppo : albero_.Figli) {
       if (gruppo.Nome == u"g") Cammina(gruppo, {}, {}, gruppo.Attributi.at("id"));
     }
   }
   std::vector<Scritta> Scritte;
 
  private:
-  void Cammina(const Nodo& nodo, const QTransform& posa, Ereditati ereditati, const QString& id) {
+  void Cammina(const Elemento_Xml& nodo, const QTransform& posa, Ereditati ereditati,
+               const QString& id) {
     for (const auto& [nome, valore] : nodo.Attributi) ereditati[nome] = valore;
     const auto propria = nodo.Attributi.find("transform");
     const QTransform qui =
@@ -121,10 +124,11 @@ class Raccolta {
       Cammina(simbolo->second, qui, ereditati, id);
     }
     if (nodo.Nome == u"text") Prendi(nodo, qui, ereditati, id);
-    for (const Nodo& figlio : nodo.Figli) Cammina(figlio, qui, ereditati, id);
+    for (const Elemento_Xml& figlio : nodo.Figli) Cammina(figlio, qui, ereditati, id);
   }
 
-  void Prendi(const Nodo& nodo, const QTransform& posa, Ereditati& stile, const QString& id) {
+  void Prendi(const Elemento_Xml& nodo, const QTransform& posa, Ereditati& stile,
+              const QString& id) {
     const double alta = stile["font-size"].toDouble();
     QFont carattere(stile["font-family"]);
     carattere.setPixelSize(static_cast<int>(alta));
@@ -144,8 +148,8 @@ class Raccolta {
                        posa.mapRect(inchiostro.boundingRect())});
   }
 
-  Nodo albero_;
-  std::map<QString, Nodo> simboli_;
+  Elemento_Xml albero_;
+  std::map<QString, Elemento_Xml> simboli_;
 };
 
 double Luminosita(QColor colore) {

@@ -17,7 +17,7 @@
 namespace tavorno {
 namespace {
 
-using Forma = Segno_Fermata::Forma;
+using Forma_Segno = Segno_Fermata::Forma;
 
 struct Segni_Di_Fermata : Banco_Pannello {
   Registratore registratore{plc};
@@ -39,7 +39,7 @@ struct Segni_Di_Fermata : Banco_Pannello {
     QTest::mouseClick(c.listSrc->viewport(), Qt::LeftButton, {},
                       QPoint(posto.left() + c.listSrc->Margine() / 2, posto.center().y()));
   }
-  Forma Segno(int riga) { return c.listSrc->Segno_Di(riga).Come; }
+  Forma_Segno Segno(int riga) { return c.listSrc->Segno_Di(riga).Come; }
   QString Stato() { return barra.findChild<QLabel*>("etSeduta")->text(); }
   /// A run that ends at a stop; fails when it does not.
   void Corri_Fino_Alla_Fermata() {
@@ -51,7 +51,7 @@ struct Segni_Di_Fermata : Banco_Pannello {
 
 TEST_F(Segni_Di_Fermata, AClickInTheMarginSetsOneAndTheRunStandsBeforeThatLine) {
   Clic_Nel_Margine(4);
-  EXPECT_EQ(Segno(4), Forma::Piena);
+  EXPECT_EQ(Segno(4), Forma_Segno::Piena);
   EXPECT_EQ(c.txtStop->text(), "0") << "no click on the line";
   EXPECT_EQ(campo.text(), "riga 4");
   Corri_Fino_Alla_Fermata();
@@ -60,7 +60,7 @@ TEST_F(Segni_Di_Fermata, AClickInTheMarginSetsOneAndTheRunStandsBeforeThatLine) 
   EXPECT_EQ(c.listSrc->currentRow(), 4);
   pannello.Attivata();  // as when the user comes back from the plant
   EXPECT_EQ(c.listSrc->currentRow(), 4);
-  EXPECT_EQ(Segno(4), Forma::Piena);
+  EXPECT_EQ(Segno(4), Forma_Segno::Piena);
   EXPECT_TRUE(barra.isVisibleTo(&pannello));
   EXPECT_TRUE(QTest::qWaitFor([this] { return Stato().contains("Fermata: riga 4"); }));
   Azione(pannello, "mnuPausa").trigger();  // on, to the next scan
@@ -68,7 +68,7 @@ TEST_F(Segni_Di_Fermata, AClickInTheMarginSetsOneAndTheRunStandsBeforeThatLine) 
   EXPECT_EQ(plc.PC, 4);
   EXPECT_EQ(plc.Mem_VW[0], 1);
   Clic_Nel_Margine(4);
-  EXPECT_EQ(Segno(4), Forma::Nessuna);
+  EXPECT_EQ(Segno(4), Forma_Segno::Nessuna);
   EXPECT_FALSE(corsa.Fermati_Qui) << "without stops a run is asked nothing";
 }
 
@@ -86,21 +86,21 @@ TEST_F(Segni_Di_Fermata, TheKeyWorksAtTheSelectedLine) {
   c.listSrc->setCurrentRow(3);
   EXPECT_EQ(Azione(pannello, "mnuFermata").shortcut(), QKeySequence(Qt::Key_F9));
   Azione(pannello, "mnuFermata").trigger();
-  EXPECT_EQ(Segno(3), Forma::Piena);
+  EXPECT_EQ(Segno(3), Forma_Segno::Piena);
   EXPECT_EQ(c.listSrc->item(3)->data(Qt::AccessibleDescriptionRole).toString(), "Fermata: riga 3");
   Azione(pannello, "mnuFermata").trigger();
-  EXPECT_EQ(Segno(3), Forma::Nessuna);
+  EXPECT_EQ(Segno(3), Forma_Segno::Nessuna);
   EXPECT_EQ(c.listSrc->item(3)->data(Qt::AccessibleDescriptionRole).toString(), "");
 }
 
 TEST_F(Segni_Di_Fermata, StopAllaRigaHasItsMarkAmongThem) {
   c.txtStop->setText("5");
-  EXPECT_EQ(Segno(5), Forma::Nessuna);
+  EXPECT_EQ(Segno(5), Forma_Segno::Nessuna);
   c.chkStop->setChecked(true);
-  EXPECT_EQ(Segno(5), Forma::Vuota);
+  EXPECT_EQ(Segno(5), Forma_Segno::Vuota);
   Clic_Nel_Margine(5);
   EXPECT_FALSE(c.chkStop->isChecked());
-  EXPECT_EQ(Segno(5), Forma::Nessuna);
+  EXPECT_EQ(Segno(5), Forma_Segno::Nessuna);
   // It still stops Ciclo as it always did, beside the others.
   c.chkStop->setChecked(true);
   Clic_Nel_Margine(2);
@@ -117,8 +117,8 @@ TEST_F(Segni_Di_Fermata, StopAllaRigaHasItsMarkAmongThem) {
 TEST_F(Segni_Di_Fermata, TheLineOfTheListAndTheListOfAllAreOne) {
   campo.setText("riga 3; Q0.0 sale; riga 5 se VW0 > 3 x2");
   Q_EMIT campo.editingFinished();
-  EXPECT_EQ(Segno(3), Forma::Piena);
-  EXPECT_EQ(Segno(5), Forma::Con_Condizione);
+  EXPECT_EQ(Segno(3), Forma_Segno::Piena);
+  EXPECT_EQ(Segno(5), Forma_Segno::Con_Condizione);
   Clic_Nel_Margine(3);
   EXPECT_EQ(campo.text(), "Q0.0 sale; riga 5 se VW0 > 3 x2");
   campo.setText("Q0.9 sale");
@@ -138,7 +138,7 @@ TEST_F(Segni_Di_Fermata, TheMenuOfALineOffersWhatThereIs) {
   EXPECT_FALSE(menu->actions()[0]->isChecked());
   EXPECT_FALSE(menu->actions()[2]->isEnabled());
   menu->actions()[0]->trigger();
-  EXPECT_EQ(Segno(2), Forma::Piena);
+  EXPECT_EQ(Segno(2), Forma_Segno::Piena);
   menu->close();
 }
 
@@ -159,7 +159,7 @@ TEST_F(Segni_Di_Fermata, AConditionIsWrittenIntoTheTable) {
   dialogo->accept();
   EXPECT_FALSE(dialogo->isVisible());
   EXPECT_EQ(campo.text(), "riga 4 se VW0 >= 7");
-  EXPECT_EQ(Segno(4), Forma::Con_Condizione);
+  EXPECT_EQ(Segno(4), Forma_Segno::Con_Condizione);
   Corri_Fino_Alla_Fermata();
   EXPECT_EQ(plc.PC, 4);
   EXPECT_EQ(plc.Mem_VW[0], 7);
