@@ -80,8 +80,7 @@ void Registratore::Annota(const Atto& entrata) {
   const bool fra_due_righe = entrata.Che != Cosa::Uscita && !in_avviso_;
   if (fra_due_righe && (entrata.Che == Cosa::Apri || chiuso_ || (lontana && !senza_tappe_))) {
     if (apertura_ < 0 && Occupata() > Limite) Dimentica();
-    Metti_Tappa();
-    chiuso_ = false;
+    chiuso_ ? Lascia_L_Impianto() : Metti_Tappa();
   }
   const bool tempo = entrata.Che == Cosa::Presente || entrata.Che == Cosa::Passano;
   if (analogiche_ && tempo) scambio_.Prima_Di(entrata, plc_, giornale_);
@@ -99,6 +98,14 @@ void Registratore::Annota(const Atto& entrata) {
     chiuso_ = true;
     primo_ = Adesso();
   }
+}
+
+/// The first place to start from without the plant that has closed. No way leads back behind it:
+/// the lines since then cannot be told by their count from those before.
+void Registratore::Lascia_L_Impianto() {
+  Metti_Tappa();
+  chiuso_ = false;
+  primo_ = Adesso();
 }
 
 /// The older half goes, up to a place where no plant was open.
@@ -227,8 +234,9 @@ void Registratore::Parti(Replica& replica, Plc& plc, const Tappa& tappa) const {
 }
 
 bool Registratore::Vai(Momento momento) {
-  if (plc_.In_Giro() != Giro::Nessuno || momento.Righe < primo_.Righe || momento.Ms < primo_.Ms)
-    return false;
+  if (plc_.In_Giro() != Giro::Nessuno) return false;
+  if (chiuso_ && !Nel_Passato()) Lascia_L_Impianto();
+  if (momento.Righe < primo_.Righe || momento.Ms < primo_.Ms) return false;
   if (!Nel_Passato()) {
     presente_ = Adesso();
     giornale_.Ultima_Riga = plc_.Righe_Fatte;

@@ -134,6 +134,7 @@ class Registratore {
   void Annota(const Atto& entrata);
   void Segui(Replica& replica, std::int64_t da, std::int64_t a) const;
   void Metti_Tappa();
+  void Lascia_L_Impianto();
   void Dimentica();
   const Tappa& Tappa_Prima(Momento momento) const;
   void Parti(Replica& replica, Plc& plc, const Tappa& tappa) const;

@@ -16,6 +16,7 @@
 #include <QTest>
 #include <QToolButton>
 #include <cstdlib>
+#include <numeric>
 #include <random>
 #include <set>
 
@@ -235,18 +236,22 @@ const std::vector<std::string> programma = {
     "= Q0.2",  "LD Q0.0",   "A SM0.4",   "= Q0.3",         "LD I0.4",  "S M0.0, 1",
     "LD I0.5", "R M0.0, 1", "LD M0.0",   "MOVW AIW0, VW2", "LD SM0.0", "MOVW VW10, AQW0"};
 
-int Sessioni() {
+/// Those that once came out otherwise, and a few more; by hand as many as TAVORNO_SESSIONI says,
+/// from TAVORNO_SEME on.
+std::vector<int> Semi() {
   const char* quante = std::getenv("TAVORNO_SESSIONI");
-  return quante ? std::atoi(quante) : 6;
+  const char* da = std::getenv("TAVORNO_SEME");
+  if (!quante) return {1, 2, 3, 4, 5, 6, 5750};
+  std::vector<int> semi(static_cast<std::size_t>(std::atoi(quante)));
+  std::iota(semi.begin(), semi.end(), da ? std::atoi(da) : 1);
+  return semi;
 }
 
 }  // namespace
 
 TEST(SessionInTheWindows, IsTheSameWhenItIsPlayedAgain) {
-  const char* da = std::getenv("TAVORNO_SEME");
-  const int primo = da ? std::atoi(da) : 1;
   int forzate = 0, guasti = 0, passati = 0;
-  for (int seme = primo; seme < primo + Sessioni(); ++seme) {
+  for (const int seme : Semi()) {
     SCOPED_TRACE("seed " + std::to_string(seme));
     Finestre_A_Caso finestre(static_cast<unsigned>(seme));
     finestre.Carica(programma);
@@ -381,6 +386,7 @@ TEST(SessionInTheWindows, GoesBackToWhatTheDiagramShowsAtItsCursor) {
     EXPECT_TRUE(lista.viewport()->visibleRegion().intersects(lista.visualItemRect(&riga)));
   }
   EXPECT_GT(righe_dette, 0);
+  Azione(finestre.pannello, "mnuScansioneIndietro").trigger();
   tempi->Aggiorna();
   EXPECT_EQ(tempi->Dati().Passato, finestre.plc.Tempo.Adesso());
   const std::int64_t qui = finestre.plc.Tempo.Adesso();
