@@ -96,7 +96,10 @@ void Ordine_Finestre::Ricorda_Aperte() {
 }
 
 void Ordine_Finestre::Appena_Mostrata(QWidget& finestra) {
-  if (!assesta_.isActive()) Rispetta_Mani();
+  // Nobody can have moved what lies in the workbench.
+  const bool libere = std::ranges::all_of(
+      dati_, [](const auto& una) { return una.first->isWindow() && una.first->isVisible(); });
+  if (libere && !assesta_.isActive()) Rispetta_Mani();
   if (!D_Esercizio(finestra) && finestra.isWindow()) {
     if (const auto suo = Posti.Di(finestra.objectName())) {
       tornate_[&finestra] = *suo;
