@@ -298,7 +298,7 @@ TEST_F(ScriptFunctions, TheScriptNamesItsPlant) {
 
 TEST_F(ScriptFunctions, WrongNamesAreListed) {
   EXPECT_THAT(Rilievo_Di("premi('imgStrat')", {"NOP"}, 0),
-              HasSubstr("riga 2: l'elemento \"imgStrat\" non esiste; ci sono linKM, imgKM, "));
+              HasSubstr("riga 2: l'elemento \"imgStrat\" non esiste; ci sono linKM, filoQ(0), "));
   EXPECT_THAT(Rilievo_Di("premi('imgM')", {"NOP"}, 0),
               HasSubstr("l'elemento \"imgM\" non si aziona; si azionano imgKM, ImgTer, "));
   EXPECT_THAT(Rilievo_Di("elemento('imgM').Left = 1", {"NOP"}, 0),
