@@ -68,8 +68,9 @@ bool In_Cpu(std::span<const Passo_Scala> passi, const Memoria& cpu) {
     Riga_Src sorgente;
     sorgente.Istr = passo.Istr;
     sorgente.NOp = static_cast<std::uint8_t>(passo.Operandi.size());
-    std::string* const operandi[] = {&sorgente.Op1, &sorgente.Op2, &sorgente.Op3};
-    for (std::size_t n = 0; n < std::size(operandi) && n < passo.Operandi.size(); ++n)
+    constexpr std::size_t massimi = 3;
+    std::string* const operandi[massimi] = {&sorgente.Op1, &sorgente.Op2, &sorgente.Op3};
+    for (std::size_t n = 0; n < massimi && n < passo.Operandi.size(); ++n)
       *operandi[n] = passo.Operandi[n];
     Riga_PLC sua;
     Riempi_Riga(sua, sorgente);

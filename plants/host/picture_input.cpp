@@ -3,11 +3,9 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPointer>
 #include <QToolTip>
 #include <QWheelEvent>
 #include <algorithm>
-#include <functional>
 #include <utility>
 
 #include "plants/host/picture_widget.h"
@@ -19,22 +17,15 @@ namespace {
 
 constexpr int scatto_rotella = 120;  // of a wheel, in eighths of a degree
 
-// The release of the one mouse takes every tool tip away, so what a press has to say waits for it.
-bool tasto_giu = false;
-std::function<void()> da_dire;
-
-void Di(QWidget& quadro, const QRect& posto, const QString& testo) {
-  const auto mostra = [quadro = QPointer<QWidget>(&quadro), posto, testo] {
-    if (quadro != nullptr)
-      QToolTip::showText(quadro->mapToGlobal(posto.bottomLeft()), testo, quadro, posto);
-  };
-  if (tasto_giu)
-    da_dire = mostra;
-  else
-    mostra();
-}
-
 }  // namespace
+
+/// The release of the mouse takes every tool tip away, so what a press has to say waits for it.
+void Quadro::Avvisa(const QRect& posto, const QString& testo) {
+  if (tasto_giu_)
+    da_dire_ = {posto, testo};
+  else
+    QToolTip::showText(mapToGlobal(posto.bottomLeft()), testo, this, posto);
+}
 
 bool Quadro::Si_Opera(const Figura& figura) const {
   return figura.Visible() &&
@@ -106,7 +97,7 @@ void Quadro::Rispondi(const Figura& figura) {
     if (ostacolo.isEmpty())
       QToolTip::hideText();
     else
-      Di(*this, Posto(figura).toAlignedRect(), ostacolo);
+      Avvisa(Posto(figura).toAlignedRect(), ostacolo);
     return;
   }
   const bool doppio = figura.Doppio_Clic && !figura.Clic && !figura.Premi;
@@ -119,9 +110,8 @@ void Quadro::Rispondi(const Figura& figura) {
 
 void Quadro::Spiega(const Figura& figura, const QString& perche) {
   if (figura.ToolTip().empty()) return;
-  Di(*this, Posto(figura).toAlignedRect(),
-     "Ora non ha effetto: " + Detto(figura) +
-         (perche.isEmpty() ? QString() : "\nPerché: " + perche));
+  Avvisa(Posto(figura).toAlignedRect(), "Ora non ha effetto: " + Detto(figura) +
+                                            (perche.isEmpty() ? QString() : "\nPerché: " + perche));
 }
 
 void Quadro::Premi(Figura*& mano, Figura& figura) {
@@ -161,8 +151,8 @@ void Quadro::leaveEvent(QEvent* evento) {
 
 void Quadro::mousePressEvent(QMouseEvent* evento) {
   if (evento->button() != Qt::LeftButton) return;
-  tasto_giu = true;
-  da_dire = nullptr;
+  tasto_giu_ = true;
+  da_dire_.reset();
   Figura* figura = Figura_A(evento->position());
   if (figura == nullptr) return;
   Metti_Fuoco(*figura, false);
@@ -173,14 +163,14 @@ void Quadro::mousePressEvent(QMouseEvent* evento) {
 
 void Quadro::mouseReleaseEvent(QMouseEvent* evento) {
   if (evento->button() != Qt::LeftButton) return;
-  tasto_giu = false;
+  tasto_giu_ = false;
   Rilascia(mouse_, Figura_A(evento->position()) == mouse_);
-  if (const auto dillo = std::exchange(da_dire, nullptr)) dillo();
+  if (const auto detto = std::exchange(da_dire_, std::nullopt)) Avvisa(detto->first, detto->second);
 }
 
 void Quadro::mouseDoubleClickEvent(QMouseEvent* evento) {
   Figura* figura = Figura_A(evento->position());
-  tasto_giu = true;
+  tasto_giu_ = true;
   // Two quick presses of a push button are two presses.
   if (figura == nullptr || !Forza(*figura)) mousePressEvent(evento);
 }

@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include "plants/host/drawings.h"
@@ -125,6 +127,7 @@ class Quadro : public QWidget, public Per_Lettori {
   bool Forza(const Figura& figura);
   void Rispondi(const Figura& figura);
   void Spiega(const Figura& figura, const QString& perche);
+  void Avvisa(const QRect& posto, const QString& testo);
   bool Fai(Cosa che, const Figura& figura, double valore = 0);
   QSize Punti_Di_Schermo() const;
   void Misura_Da_Capo();
@@ -175,6 +178,8 @@ class Quadro : public QWidget, public Per_Lettori {
   QStringList indicati_;         // addresses whose parts are marked
   QStringList puntati_;          // addresses that `Indicata` was told last
   bool senza_effetto_ = false;   // since the last press nothing has changed
+  bool tasto_giu_ = false;       // of the mouse
+  std::optional<std::pair<QRect, QString>> da_dire_;  // once it is let go
   // Held down. There are two, so that a hand on each can hold two buttons at once.
   Figura* mouse_ = nullptr;
   Figura* spazio_ = nullptr;
