@@ -42,7 +42,7 @@ picture print 'Stampe Progetto'
 keys Escape
 wait_gone 'Stampe Progetto'
 focus 'Editor AWL'
-click_at 'Editor AWL' $((837 * QT_SCALE_FACTOR)) $((456 * QT_SCALE_FACTOR))  # its only way in
+click_at 'Editor AWL' $((845 * QT_SCALE_FACTOR)) $((501 * QT_SCALE_FACTOR))  # its only way in
 picture debug 'Finestra Test'
 focus 'Finestra Test'
 keys Escape
