@@ -60,6 +60,11 @@ Diagramma Vista_Scala::Schema_Scelto() const {
   return Rete(rete_).Schema();
 }
 
+/// With the caret on a network's title no symbol is marked: the first one counts.
+int Vista_Scala::Simbolo_Scelto() const {
+  return std::min(std::max(scelto_, 0), Rete(rete_).Simboli() - 1);
+}
+
 void Vista_Scala::Applica(const Modifica& modifica) {
   if (!modifica.Fatta()) {
     if (campo_->Aperto()) campo_->Rifiuta(Frase(modifica.Motivo));
@@ -111,7 +116,7 @@ void Vista_Scala::Cambia_Scelto() {
 void Vista_Scala::Conferma(const QString& testo) {
   const Diagramma schema = Schema_Scelto();
   const int simboli = Quanti_Simboli(schema);
-  const int quale = std::min(scelto_, simboli - 1);
+  const int quale = Simbolo_Scelto();
   const Passo_Scala qui = quale >= 0 ? Simbolo_Numero(schema, quale) : Passo_Scala{};
   const bool vuoto = Da_Completare(qui);
   const Battuta battuta = Leggi_Battuta(A_Byte(testo), cambia_ || vuoto ? qui.Istr : std::string());
@@ -129,7 +134,7 @@ void Vista_Scala::Conferma(const QString& testo) {
   const bool accanto = battuta.Come.Come == Attacco::In_Parallelo;
   const bool contatto = battuta.Come.Cosa == Ruolo::Contatto;
   const Verso verso = contatto && accanto && !vuoto ? Verso::Sotto : Verso::Dopo;
-  Applica(Inserisci(schema, quale, std::min(fino_, simboli - 1), verso, passo));
+  Applica(Inserisci(schema, quale, std::min(std::max(fino_, quale), simboli - 1), verso, passo));
 }
 
 void Vista_Scala::Elimina() {
@@ -142,7 +147,7 @@ void Vista_Scala::Elimina_Piolo() {
 
 void Vista_Scala::Nuovo_Piolo() {
   if (!Posso_Modificare()) return;
-  Applica(tavorno::Nuovo_Piolo(Schema_Scelto(), scelto_));
+  Applica(tavorno::Nuovo_Piolo(Schema_Scelto(), Simbolo_Scelto()));
 }
 
 /// At the end of the block that the chosen network belongs to.

@@ -111,6 +111,7 @@ class Vista_Scala : public QAbstractScrollArea {
   void Applica(const Modifica& modifica);
   void Conferma(const QString& testo);
   Diagramma Schema_Scelto() const;
+  int Simbolo_Scelto() const;
 
   const Plc& plc_;
   const Stato_Progetto& progetto_;

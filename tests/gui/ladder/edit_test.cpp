@@ -27,6 +27,19 @@ TEST_F(Modifica_Scala, WhatIsTypedGoesBesideTheChosenSymbol) {
             "Q0.0   //motore\n=      Q0.1\n");
 }
 
+TEST_F(Modifica_Scala, WithTheCaretOnTheTitleItGoesBesideTheFirstSymbol) {
+  Apri(marcia);
+  for (const char* battuta : {"a i0.3", "= q0.5", "ton t37 +5"}) {
+    Vista().Scegli(0, -1);
+    Batti(battuta);
+  }
+  EXPECT_NE(Main().find("I0.3"), std::string::npos);
+  const std::string prima = Main();
+  Vista().Scegli(0, -1);
+  Premi(Qt::Key_Insert);
+  EXPECT_NE(Main(), prima) << "a new rung";
+}
+
 TEST_F(Modifica_Scala, EachIsOneStepBack) {
   Apri(marcia);
   Vista().Scegli(0, 0);
