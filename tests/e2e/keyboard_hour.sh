@@ -18,10 +18,10 @@ first_switch=26x38+89+400
 mode=130x16+380+682
 options=250x100+20+520
 # In the picture: Start, Stop, the state of the CPU and the green lamp.
-start=76x76+419+171
-stop=76x76+327+171
+start=76x76+394+176
+stop=76x76+292+176
 cpu=50x16+500+322
-lamp=20x20+727+200
+lamp=20x20+722+205
 
 picture() { piece "$1" "$2" "$work/$3.png"; }
 as_in() { looks_like "$1" "$2" "$work/$3.png"; }
