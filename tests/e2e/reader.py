@@ -30,8 +30,7 @@ def ask(question, *args):
         return None
 
 
-def listen():
-    """Opens the bus, and keeps what is announced in `heard`."""
+def open_bus():
     try:
         bus = Gio.bus_get_sync(Gio.BusType.SESSION)
         bus.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None,
@@ -40,7 +39,12 @@ def listen():
         sys.exit(f"FAILED: no accessibility bus: {error.message}")
     if Atspi.init() != 0:
         sys.exit("FAILED: no client of the accessibility bus")
-    Atspi.set_timeout(ANSWER, ANSWER)
+    Atspi.set_timeout(ANSWER, 0)
+
+
+def listen():
+    """Keeps what is announced in `heard`. Only for a program that is on the bus already: one that
+    connects at the same moment can miss that somebody listens, and then announces nothing."""
     listen.er = Atspi.EventListener.new(announced)
     for kind in ("object:property-change:accessible-name", "object:state-changed:checked"):
         ask(listen.er.register, kind)
@@ -169,9 +173,9 @@ def act(inside, role, name):
     wait(f"{role} '{name}' to be allowed", lambda: has(node, Atspi.StateType.ENABLED))
     if not ask(Atspi.Action.get_n_actions, node):
         fail(f"nothing can be done with {role} '{name}'")
-    Atspi.set_timeout(300, ANSWER)
+    Atspi.set_timeout(300, 0)  # without the extra time of a program that has just started
     ask(Atspi.Action.do_action, node, 0)
-    Atspi.set_timeout(ANSWER, ANSWER)
+    Atspi.set_timeout(ANSWER, 0)
 
 
 def write(node, text):

@@ -4,8 +4,8 @@ key. Usage: reader_hour.py FOLDER SOLUTION: a place to save to, the solved first
 program that has just started."""
 import sys
 
-from reader import (Atspi, act, ask, fail, find, get, has, heard, listen, nodes, program, text_of,
-                    wait, wait_gone, wait_window, window, write)
+from reader import (Atspi, act, ask, fail, find, get, has, heard, listen, nodes, open_bus, program,
+                    text_of, wait, wait_gone, wait_window, window, write)
 
 PANEL, EDITOR, PLANT = "Simulatore PLC", "Editor AWL", "00-Marcia/arresto"
 
@@ -136,8 +136,9 @@ def exercise(panel, solution):
 
 def main():
     folder, solution = sys.argv[1:]
-    listen()
+    open_bus()
     wait("the program", program)
+    listen()
     panel = wait_window(PANEL, "frame")
     write_and_mend(panel, folder)
     run_and_step(panel)

@@ -4,7 +4,12 @@
 # accessibility bus and done through it. The bus is this test's own, and without one it fails.
 # Usage: reader_hour.sh PROGRAM PROJECT
 if [ -z "${READER_BUS:-}" ]; then
-  exec env READER_BUS=1 dbus-run-session -- bash "$0" "$@"
+  # The accessibility bus has its socket there; without, the user's own, or another run's, is taken.
+  READER_BUS=$(mktemp -d)
+  trap 'rm -rf "$READER_BUS"' EXIT
+  export READER_BUS XDG_RUNTIME_DIR="$READER_BUS" XDG_CACHE_HOME="$READER_BUS"
+  dbus-run-session -- bash "$0" "$@"
+  exit
 fi
 source "$(dirname "$0")/screen.sh"
 

@@ -22,8 +22,9 @@ open_screen() {
 }
 
 start_screen() {
-  # On a busy machine a key is down for longer than it takes to repeat.
-  coproc xvfb { exec Xvfb -displayfd 1 -screen 0 "${1:-1280x800}x24" -r -nolisten tcp 2>"$work/Xvfb.log"; }
+  # On a busy machine a key is down for longer than it takes to repeat (-r). A screen whose only
+  # client leaves, be it one that asked something, begins anew and turns others away (-noreset).
+  coproc xvfb { exec Xvfb -displayfd 1 -screen 0 "${1:-1280x800}x24" -r -noreset -nolisten tcp 2>"$work/Xvfb.log"; }
   helpers[Xvfb]=$xvfb_PID
   read -r -t "$limit" number <&"${xvfb[0]}" || { alive; fail "the screen has no number"; }
   export DISPLAY=:$number
