@@ -58,7 +58,7 @@ check() {
 export -f stamp owner look check
 
 # shellcheck disable=SC2086
-groups() { xargs awk -v together=20 -f tests/tools/tidy_groups.awk $headers; }
+groups() { xargs awk -v together=20 -f cmake/groups.awk $headers; }
 # shellcheck disable=SC2016
 {
   printf '%s\n' "${sources[@]}" | grep -E "$windows" | groups

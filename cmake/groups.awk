@@ -35,8 +35,15 @@ FNR == 1 {
 /^namespace \{/ { inside = 1; next }
 /^}  \/\/ namespace$/ { inside = 0 }
 (inside || header) && /^[A-Za-z]/ && !/^(namespace|using namespace|public|private|protected)/ {
-  if (header) public[FILENAME] = public[FILENAME] name_of($0) " "
-  else own[FILENAME] = own[FILENAME] name_of($0) " "
+  told = name_of($0) " "
+  if (/^enum [A-Za-z_0-9]* *\{.*\}/) {  # whose values are names of their own
+    values = $0
+    sub(/^[^{]*\{/, "", values)
+    gsub(/[^A-Za-z_0-9]+/, " ", values)
+    told = told values " "
+  }
+  if (header) public[FILENAME] = public[FILENAME] told
+  else own[FILENAME] = own[FILENAME] told
 }
 END {
   for (i = 1; i <= count; ++i) {
