@@ -197,6 +197,61 @@ INSTANTIATE_TEST_SUITE_P(All, CpuFrontSize,
                                            QSize(900, 310), QSize(640, 500), QSize(1280, 620),
                                            QSize(1900, 900)));
 
+/// Where two pictures differ; null when they do not.
+QRect Differenza(const QImage& una, const QImage& altra) {
+  QRect diversa;
+  for (int y = 0; y < una.height(); ++y) {
+    for (int x = 0; x < una.width(); ++x)
+      if (una.pixel(x, y) != altra.pixel(x, y)) diversa |= QRect(x, y, 1, 1);
+  }
+  return diversa;
+}
+
+TEST_F(CpuFront, ATerminalThatIsPointedAtIsMarkedWithItsLed) {
+  const auto ritratto = [&] {
+    QCoreApplication::processEvents();  // the bars take over what the CPU has
+    return fronte.grab().toImage();
+  };
+  const QImage prima = ritratto();
+  std::vector<QRect> segni;
+  for (const bool uscita : {false, true}) {
+    for (int byte = 0; byte < 2; ++byte) {
+      const QWidget& barra = uscita ? static_cast<QWidget&>(fronte.SQ(byte)) : fronte.SI(byte);
+      for (int bit = 0; bit < 8; ++bit) {
+        const QString morsetto =
+            QStringLiteral("%1%2.%3").arg(uscita ? 'Q' : 'I').arg(byte).arg(bit);
+        // The LED is what changes when its bit does.
+        std::string bits(8, '0');
+        bits[static_cast<std::size_t>(bit)] = '1';
+        if (uscita)
+          plc.SQ[byte].Stato_Q(bits);
+        else
+          plc.SI[byte].Stato_I(bits);
+        const QRect led = Differenza(prima, ritratto());
+        EXPECT_TRUE(barra.geometry().contains(led)) << morsetto.toStdString();
+        if (uscita)
+          plc.SQ[byte].Stato_Q("00000000");
+        else
+          plc.SI[byte].Stato_I("00000000");
+
+        fronte.Indica({morsetto});
+        const QRect segno = Differenza(prima, ritratto());
+        EXPECT_TRUE(segno.contains(led.center())) << morsetto.toStdString();
+        // It reaches from the LED beyond the bar, to where the terminal is, and no neighbour.
+        EXPECT_GT(segno.height(), barra.height()) << morsetto.toStdString();
+        for (const QRect& altro : segni)
+          EXPECT_FALSE(segno.contains(altro.center())) << morsetto.toStdString();
+        segni.push_back(segno);
+        fronte.Indica({});
+      }
+    }
+  }
+  fronte.Indica({});
+  EXPECT_EQ(ritratto(), prima);
+  fronte.Indica({"AIW0"});  // there is no terminal of it on the front
+  EXPECT_EQ(ritratto(), prima);
+}
+
 TEST_F(CpuFront, TheTabKeyGoesFromTheFirstRowToTheSecond) {
   fronte.activateWindow();
   Leva(fronte.Sim_I(0), 7).setFocus();

@@ -24,6 +24,7 @@ namespace {
 
 constexpr double minimo = 120;     // twips: 9 pt at 100 %
 constexpr double contrasto = 4.5;  // to one
+constexpr double aria = 30;        // twips beside a text that are free of other texts
 constexpr int pixel_twip = 5;      // twips to a pixel of what is looked at
 
 QString File_Di(int indice) {
@@ -242,18 +243,38 @@ struct Leggibilita : ::testing::TestWithParam<int> {
     return immagine;
   }
 
+  /// Lines, rings and rays keep away from what stands beside them by more than what one sees as a
+  /// touch. A figure's own texts stand in its own shape.
+  void Guarda_Intorno(const Scritta& una, const QRect& pixel, const QImage& fondo,
+                      const std::string& stato) {
+    if (una.Gruppo != u"fondo") return;
+    const QRect intorno = pixel.adjusted(-3, -1, 3, 1).intersected(fondo.rect());
+    const QColor suo = fondo.pixelColor(pixel.center());
+    for (int y = intorno.top(); y <= intorno.bottom(); ++y) {
+      for (int x = intorno.left(); x <= intorno.right(); ++x) {
+        if (pixel.contains(x, y) || Contrasto(suo, fondo.pixelColor(x, y)) < 1.6) continue;
+        if (Nuovo("intorno" + una.Gruppo + una.Testo + QString::number(una.Posto.x())))
+          ADD_FAILURE() << stato << ": " << una << " has something close by at " << x * pixel_twip
+                        << "," << y * pixel_twip;
+        return;
+      }
+    }
+  }
+
   void Guarda(const std::string& stato) {
     const std::vector<Scritta> viste = Viste();
     const QImage fondo = Senza_Scritte();
     for (std::size_t n = 0; n < viste.size(); ++n) {
       const Scritta& una = viste[n];
       for (std::size_t m = n + 1; m < viste.size(); ++m) {
-        if (una.Posto.intersects(viste[m].Posto) && Nuovo(una.Testo + '/' + viste[m].Testo))
+        if (una.Posto.adjusted(-aria, 0, aria, 0).intersects(viste[m].Posto) &&
+            Nuovo(una.Testo + '/' + viste[m].Testo))
           ADD_FAILURE() << stato << ": " << una << " touches " << viste[m];
       }
       const QRect pixel = QRectF(una.Posto.topLeft() / pixel_twip, una.Posto.size() / pixel_twip)
                               .toAlignedRect()
                               .intersected(fondo.rect());
+      Guarda_Intorno(una, pixel, fondo, stato);
       double peggiore = 21;
       QPoint dove;
       for (int y = pixel.top(); y <= pixel.bottom(); ++y) {
