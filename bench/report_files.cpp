@@ -29,6 +29,11 @@ bool Stesso_File(const std::string& uno, const std::string& altro) {
   return !a.empty() && a == b;
 }
 
+/// What an option's own report may be called, and no other.
+std::string Estensione_Sua(const std::string& opzione) {
+  return opzione == "--script" ? ".lua" : opzione == "--uscita" ? ".seduta" : "";
+}
+
 }  // namespace
 
 void Controlla_Rapporti(const Argomenti& argomenti, const std::vector<std::string>& opzioni,
@@ -38,9 +43,10 @@ void Controlla_Rapporti(const Argomenti& argomenti, const std::vector<std::strin
     if (!argomenti.Ha(opzione)) continue;
     const std::string file = argomenti.Testo(opzione, "");
     const std::string estensione = Estensione(file);
-    if (estensione == ".awl" || estensione == ".lua")
+    const bool di_lavoro = estensione == ".awl" || estensione == ".lua" || estensione == ".seduta";
+    if (di_lavoro && estensione != Estensione_Sua(opzione))
       throw Uso_Errato(opzione + ": un rapporto non può chiamarsi \"" + file +
-                       "\", come un progetto o uno script");
+                       "\", come un progetto, uno script o una seduta");
     if (Di_Passaggio(file)) continue;
     if (std::ranges::any_of(occupati, [&](const auto& altro) { return Stesso_File(file, altro); }))
       throw Uso_Errato(opzione + ": il rapporto \"" + file +

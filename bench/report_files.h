@@ -9,7 +9,8 @@
 namespace tavorno {
 
 /// Throws `Uso_Errato` when a report named by one of these options would replace a file of
-/// `letti`, another report, or anything that is called *.AWL or *.lua.
+/// `letti`, another report, or anything that is called *.AWL, *.lua or *.seduta; a script may be
+/// called *.lua and a session *.seduta.
 void Controlla_Rapporti(const Argomenti& argomenti, const std::vector<std::string>& opzioni,
                         const std::vector<std::string>& letti);
 

@@ -104,7 +104,7 @@ int Comando_Rivivi(const Argomenti& argomenti, std::ostream& out) {
   const std::string& file = argomenti.Un_File();
   std::vector<std::string> letti{file};
   if (argomenti.Ha("--confronta")) letti.push_back(argomenti.Testo("--confronta", ""));
-  Controlla_Rapporti(argomenti, {"--vcd", "--svg"}, letti);
+  Controlla_Rapporti(argomenti, {"--vcd", "--svg", "--script"}, letti);
   const Seduta_Registrata registrazione = Apri(file);
   if (argomenti.Ha("--confronta"))
     return Confronta(registrazione, Apri(argomenti.Testo("--confronta", "")), out);

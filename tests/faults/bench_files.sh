@@ -54,6 +54,10 @@ report() {
 report --vcd esegui "$project" --ms 100
 report --svg esegui "$project" --ms 100
 report --svg scala "$project"
+run '' registra "$project" --ms 100 --impianto 0 --uscita "$work/prova.seduta"
+[ $status -eq 0 ] || fail "registra without a fault"
+report --uscita registra "$project" --ms 100
+for option in --vcd --svg --script; do report $option rivivi "$work/prova.seduta"; done
 for option in --csv --junit --vcd --svg; do report $option prova "$project" "$script" --impianto 0; done
 
 # The reports of a class: each is whole or not there, and each that failed is named.

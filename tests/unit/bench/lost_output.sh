@@ -5,6 +5,11 @@ set -euo pipefail
 bench=$1 examples=$2
 progetto=$examples/us00.AWL
 script=$examples/us00.lua
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+mkdir "$work/classe"
+cp "$progetto" "$work/classe/rossi.AWL"
+"$bench" registra "$progetto" --ms 10 --uscita "$work/prova.seduta" >"$work/out"
 
 # Status and message of a command whose output goes nowhere.
 check() {
@@ -26,8 +31,16 @@ for come in full closed; do
   check $come compila "$progetto"
   check $come compila "$progetto" --json
   check $come esegui "$progetto" --ms 10
+  check $come registra "$progetto" --ms 10 --uscita "$work/altra.seduta"
+  check $come rivivi "$work/prova.seduta"
+  check $come rivivi "$work/prova.seduta" --confronta "$work/prova.seduta"
+  check $come rivivi "$work/prova.seduta" --script "$work/mani.lua"
+  check $come scala "$progetto"
+  check $come scala "$progetto" --svg "$work/scala.svg"
   check $come misura "$progetto" --ms 1
   check $come prova --help
   check $come prova "$progetto" "$script" --impianto 0
   check $come prova "$progetto" "$script" --impianto 0 --json
+  check $come classe --help
+  check $come classe "$work/classe" "$script" --impianto 0 --uscita "$work/voti-$come"
 done

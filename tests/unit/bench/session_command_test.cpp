@@ -115,6 +115,26 @@ TEST_F(SessionCommand, RefusesWhatIsNoSessionAndSaysWhy) {
   }
 }
 
+TEST_F(SessionCommand, NoReportReplacesASession) {
+  const std::string seduta = Registra("s.seduta", apertura);
+  const std::string buona = Leggi(seduta);
+  const auto rifiutato = [&](std::vector<std::string> parole) {
+    EXPECT_EQ(Comando(parole), 64) << err;
+    EXPECT_EQ(Leggi(seduta), buona);
+  };
+  for (const char* opzione : {"--script", "--vcd", "--svg"}) {
+    rifiutato({"rivivi", seduta, opzione, seduta});
+    rifiutato({"rivivi", seduta, opzione, In_Cartella("./s.seduta")});
+    rifiutato({"rivivi", seduta, opzione, In_Cartella("altra.seduta")});
+    rifiutato({"rivivi", seduta, opzione, In_Cartella("progetto.AWL")});
+  }
+  rifiutato({"rivivi", seduta, "--vcd", In_Cartella("x.lua")});
+  rifiutato({"rivivi", seduta, "--vcd", In_Cartella("x"), "--script", In_Cartella("x")});
+  rifiutato({"registra", Cancello(), "--ms", "5", "--uscita", In_Cartella("x.lua")});
+  rifiutato(
+      {"registra", Cancello(), "--ms", "5", "--uscita", In_Cartella("x.seduta"), "--vcd", seduta});
+}
+
 TEST_F(SessionCommand, WantsAFileToRecordTo) {
   EXPECT_EQ(Comando({"registra", Cancello()}), 64);
   EXPECT_THAT(err, HasSubstr("--uscita"));
