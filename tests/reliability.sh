@@ -45,7 +45,7 @@ hostile() {
 }
 
 faults() {
-  ctest --test-dir "$tests" -R '^faults\.(project|bench|pictures)$' --output-on-failure >"$work/log" 2>&1 ||
+  ctest --test-dir "$tests" -R '^faults\.(project|bench|pictures|prints|recordings)$' --output-on-failure >"$work/log" 2>&1 ||
     { cat "$work/log"; fail "a fault of the disk"; }
   echo "faults: $(grep -c ' Passed ' "$work/log") groups hold"
   ctest --test-dir "$tests" -R '^faults\.bench$' -V | sed -n 's/^[0-9]*: \([0-9]* calls\)/faults of the bench: \1/p'

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What is seen, as a file.
+#include <QBuffer>
 #include <QImage>
 #include <QPainter>
-#include <QSaveFile>
 
+#include "awl/file_io.h"
 #include "recorder/ui/diagram_window.h"
 #include "widgets/colours.h"
 #include "widgets/file_choice.h"
@@ -50,12 +51,10 @@ bool FrmTempi::Salva(const QString& file, const QString& tipo, QString& perche) 
   misura.Scorrimento = 0;
   misura.Alta = Misura_Disegno::Asse + diagramma_.Alto() + 1;
 
-  QSaveFile aperto(file);
-  bool riuscito = aperto.open(QIODevice::WriteOnly);
-  if (riuscito && tipo == u"svg") {
-    const std::string svg = Come_Svg(Disegna(diagramma_, misura), misura, titolo);
-    riuscito = aperto.write(svg.data(), static_cast<qint64>(svg.size())) >= 0;
-  } else if (riuscito && tipo == u"png") {
+  std::string byte;
+  if (tipo == u"svg") {
+    byte = Come_Svg(Disegna(diagramma_, misura), misura, titolo);
+  } else if (tipo == u"png") {
     QImage immagine((QSizeF(misura.Larga, misura.Alta) * finezza).toSize(), QImage::Format_RGB32);
     immagine.setDevicePixelRatio(finezza);
     immagine.fill(colori::Bianco);
@@ -63,18 +62,20 @@ bool FrmTempi::Salva(const QString& file, const QString& tipo, QString& perche) 
     pittore.setFont(font());
     Dipingi(pittore, Disegna(diagramma_, misura), colori::Carta);
     pittore.end();
-    riuscito = immagine.save(&aperto, "PNG");
-  } else if (riuscito) {
+    QBuffer dentro;
+    dentro.open(QIODevice::WriteOnly);
+    immagine.save(&dentro, "PNG");
+    byte = dentro.data().toStdString();
+  } else {
     std::vector<std::size_t> numeri;
     for (const Segnale& segnale : diagramma_.Mostrati())
       numeri.push_back(*registrazione_.Cerca(segnale.Indirizzo));
-    const std::string vcd =
+    byte =
         Testo_Vcd(registrazione_.Ritaglio(numeri, registrazione_.Inizio(), registrazione_.Fine()));
-    riuscito = aperto.write(vcd.data(), static_cast<qint64>(vcd.size())) >= 0;
   }
-  if (riuscito && aperto.commit()) return true;
-  perche = aperto.errorString();
-  return false;
+  const std::string errore = Scrivi_File(Utf8(file), byte);
+  perche = Q(errore);
+  return errore.empty();
 }
 
 }  // namespace tavorno
