@@ -99,10 +99,34 @@ Contenuto_File Progetto::Contenuto(const std::string& percorso) {
   return file;
 }
 
+/// What there is to say of text that belongs to no block; empty when all of it does.
+static std::string Detto_Di_Fuori(const Lettura& lettura) {
+  if (!lettura.Riuscita() || lettura.Fuori == 0) return "";
+  const std::string prima =
+      "riga " + std::to_string(lettura.Prima_Fuori) + " (\"" + A_Utf8(lettura.Testo_Fuori) + "\")";
+  const std::string motivo =
+      " fuori dai blocchi: un programma comincia con \"ORGANIZATION_BLOCK MAIN:OB1\".";
+  if (lettura.Fuori == 1) return "La " + prima + " non viene letta perché sta" + motivo;
+  return "Righe che non vengono lette: " + std::to_string(lettura.Fuori) + ", dalla " + prima +
+         " in poi, perché stanno" + motivo;
+}
+
 void Progetto::Leggi_Contenuto(const Contenuto_File& contenuto) {
   Nota_Lettura = contenuto.Nota;
   if (contenuto.Errore.empty()) {
-    Leggi_Byte(contenuto.Byte);
+    Lettura letta = Leggi_Sorgente(contenuto.Byte, chkCom, {Righe_Src.begin(), Righe_Src.end()});
+    const std::string fuori = Detto_Di_Fuori(letta);
+    const bool vuoto = letta.Letta.Main.empty() && letta.Letta.Procedure.empty();
+    Prendi(std::move(letta));
+    if (fuori.empty()) return;
+    if (Nessuno_Risponde)
+      Nota_Lettura += (Nota_Lettura.empty() ? "" : " ") + fuori;
+    else if (vuoto)
+      Avvisa({.Titolo = "Attenzione!",
+              .Testo = "Il progetto è vuoto. " + fuori,
+              .Simbolo = Icona::Nessuna,
+              .Scelte = Tasti::Ok,
+              .Dettagli = {}});
     return;
   }
   Lettura illeggibile;

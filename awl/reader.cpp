@@ -75,6 +75,12 @@ class Lettore {
     return apre || riga.starts_with("END_");
   }
 
+  /// Tells what stood outside of all blocks.
+  void Racconta(Lettura& lettura) const {
+    lettura.Fuori = fuori_;
+    lettura.Prima_Fuori = prima_fuori_;
+    lettura.Testo_Fuori = testo_fuori_;
+  }
   int Estranea() const { return estranea_; }
   const std::string& Testo_Estraneo() const { return testo_estraneo_; }
 
@@ -106,6 +112,8 @@ class Lettore {
       riga = righe_.Debug_Line(riga);
     } else if (riga.starts_with("BEGIN")) {
       salta = true;
+    } else if (!in_main_ && !in_sbr_) {
+      Nota_Fuori(riga);
     }
     if (salta) return;
     if (in_main_) {
@@ -126,6 +134,14 @@ class Lettore {
       estranea_ = lette_;
       testo_estraneo_ = riga;
     }
+  }
+
+  void Nota_Fuori(const std::string& riga) {
+    const std::string nuda = Trim(riga);
+    if (nuda.empty() || nuda.starts_with("//")) return;
+    if (++fuori_ > 1) return;
+    prima_fuori_ = lette_;
+    testo_fuori_ = nuda;
   }
 
   /// Where a line that is text of a block would go; behind the last procedure outside of any.
@@ -162,6 +178,8 @@ class Lettore {
   int lette_ = 0;
   int estranea_ = 0;  // line of the first text outside of all blocks
   std::string testo_estraneo_;
+  int fuori_ = 0, prima_fuori_ = 0;  // lines that were dropped, and the first of them
+  std::string testo_fuori_;
   bool chiuso_ = false;  // a block has ended
   int linee_main_ = 0;
   int linee_procedura_ = 0;  // of the last one
@@ -182,6 +200,7 @@ Lettura Leggi_Sorgente(std::string_view byte, Commenti_Listato commenti,
     while (file.Prossima(riga)) {
       if (!file.Finita() || !lettore.Avanzo(riga)) lettore.Leggi(riga);
     }
+    lettore.Racconta(lettura);
     if (righe.NRighe == 0) {
       estranea = lettore.Estranea();
       riga = estranea == 0 ? "" : lettore.Testo_Estraneo();

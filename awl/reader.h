@@ -13,6 +13,9 @@ struct Lettura {
   Sorgente Letta;
   Dettaglio_Lettura Rifiuto;
   std::vector<Diagnosi> Rilievi;  ///< on single lines, in the order of the file
+  int Fuori = 0;        ///< lines of text outside of all blocks, which are dropped; not comments
+  int Prima_Fuori = 0;  ///< the first of them, from 1
+  std::string Testo_Fuori;        ///< of that line, in the code page
   std::vector<Riga_Src> Tabella;  ///< for the next read, which may find something there
 
   bool Riuscita() const { return Rifiuto.Perche == Causa::Nessuna; }

@@ -313,6 +313,19 @@ INSTANTIATE_TEST_SUITE_P(
                     Caso_Utf8{"LeftAsItIs", "", "perch\xC3\xA9", Risposta::No, 1, "perch\xC3\xA9"}),
     [](const auto& caso) { return caso.param.nome; });
 
+TEST_F(EditorCommands, OpenTellsThatAllTextStoodOutsideOfTheBlocks) {
+  Scrivi("uno.AWL", "LD I0.0\r\n= Q0.0\r\nEND_ORGANIZATION_BLOCK\r\n");
+  scelte = {"uno.AWL"};
+  progetto.mnuFileOpen();
+  EXPECT_EQ(
+      Testi_Avvisi(),
+      Lista{"Attenzione!: Il progetto è vuoto. Righe che non vengono lette: 2, dalla riga 1 "
+            "(\"LD I0.0\") in poi, perché stanno fuori dai blocchi: un programma comincia con "
+            "\"ORGANIZATION_BLOCK MAIN:OB1\"."});
+  EXPECT_EQ(progetto.Err_Lettura, 0);
+  EXPECT_EQ(progetto.Testo_Main, "");
+}
+
 TEST_F(EditorCommands, OpenTellsOfCharactersThatGetLost) {
   Scrivi("uno.AWL", "\xEF\xBB\xBF" + File_Main({"//\xE2\x86\x92", "NOT"}));
   scelte = {"uno.AWL"};

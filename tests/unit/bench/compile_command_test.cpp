@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <fstream>
 #include <nlohmann/json.hpp>
 
 #include "command_bed.h"
@@ -86,6 +87,24 @@ TEST_F(CompileCommand, WarnsOfUtf8WithoutAMarkAndConvertsNothing) {
       << err;
   EXPECT_EQ(json["boxes"].size(), 1U) << "no box of the machine tells it";
   EXPECT_EQ(json["prog"][0]["Istr"], "NETWORK 1       //PERCHÃ©");
+}
+
+TEST_F(CompileCommand, WarnsOfLinesOutsideOfAllBlocks) {
+  const std::string file = Progetto_Con({"NOT"});
+  const auto compila = [&](const std::string& byte) {
+    std::ofstream(file, std::ios::binary) << byte;
+    EXPECT_EQ(Comando({"compila", file}), 0);
+    return err;
+  };
+  const std::string intero = "ORGANIZATION_BLOCK MAIN:OB1\r\nNOT\r\nEND_ORGANIZATION_BLOCK\r\n";
+  EXPECT_EQ(compila("// di Anna\r\n\r\n" + intero + "\r\n"), "");
+  EXPECT_NE(compila("di Anna\r\n" + intero).find(": La riga 1 (\"di Anna\") non viene letta"),
+            std::string::npos)
+      << err;
+  EXPECT_NE(compila("// \r\nLD I0.0\r\n= Q0.0\r\nEND_ORGANIZATION_BLOCK\r\n")
+                .find(": Righe che non vengono lette: 2, dalla riga 2 (\"LD I0.0\")"),
+            std::string::npos)
+      << err;
 }
 
 TEST_F(CompileCommand, WritesNamesOfTheCodePageAsUtf8) {
