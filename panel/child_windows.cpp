@@ -309,6 +309,10 @@ void Finestre::Racconta_Al_Diagramma(const QString& messaggio) {
   if (tempi_) tempi_->Racconta(messaggio);
 }
 
+void Finestre::Altra_Seduta() {
+  if (tempi_) tempi_->Altra_Seduta(esercizio_);
+}
+
 void Finestre::Specchia() {
   if (tempi_) tempi_->Aggiorna();
   if (osserva_) osserva_->Aggiorna();

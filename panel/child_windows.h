@@ -84,6 +84,8 @@ class Finestre {
   void Racconta_Al_Diagramma(const QString& messaggio);
   /// Where the active cursor of the open diagram stands.
   std::optional<std::int64_t> Cursore_Del_Diagramma() const;
+  /// Another session was opened: what was recorded of the one before goes.
+  void Altra_Seduta();
   /// Windows that hold something of the CPU by themselves show it as it is now.
   void Specchia();
 

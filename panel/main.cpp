@@ -17,9 +17,9 @@
 #include "panel/run_driver.h"
 #include "panel/safekeeping.h"
 #include "panel/session_bar.h"
+#include "panel/session_wires.h"
 #include "panel/verification.h"
 #include "recorder/recorder.h"
-#include "recorder/rereading.h"
 #include "widgets/message_box.h"
 
 using namespace tavorno;
@@ -69,23 +69,7 @@ int main(int argc, char** argv) {
   finestre.Ricorda_In(ricordi);
   Salvaguardia salvaguardia(progetto, pannello, finestre, Cartella_Copie());
   Barra_Seduta seduta(pannello, plc, registratore, corsa);
-  seduta.Impianto = [&finestre] { return finestre.Impianto(); };
-  seduta.Apri_Impianto = [&finestre](int indice) { finestre.Apri_Impianto(indice); };
-  seduta.Cursore_Del_Diagramma = [&finestre] { return finestre.Cursore_Del_Diagramma(); };
-  seduta.Racconta = [&finestre](const QString& messaggio) {
-    finestre.Racconta_Al_Diagramma(messaggio);
-  };
-  seduta.Specchia_Altre = [&finestre] { finestre.Specchia(); };
-  finestre.Torna_A = [&seduta](std::int64_t ms) { seduta.Torna_A(ms); };
-  finestre.Chi_E_Stato = [&seduta](std::int64_t ms, const std::string& indirizzo) {
-    seduta.Chi_E_Stato_A(ms, indirizzo);
-  };
-  finestre.Rileggi = [&registratore](const std::vector<Segnale>& segnali) {
-    // While a film is shown, the journal is that of the film.
-    return registratore.In_Proiezione() ? nullptr
-                                        : std::make_unique<Rilettura>(registratore, segnali);
-  };
-  finestre.Al_Presente = [&seduta] { seduta.Al_Presente(); };
+  Collega_Seduta(seduta, finestre, registratore);
   const Sala_Verifica sala(pannello, plc, progetto, registratore, corsa, finestre, cartella,
                            guida.Dir_Help);
 

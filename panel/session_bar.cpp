@@ -18,7 +18,6 @@
 #include "panel/session_mirror.h"
 #include "plants/host/host_window.h"
 #include "recorder/past_flow.h"
-#include "recorder/session_file.h"
 #include "widgets/colours.h"
 #include "widgets/file_choice.h"
 #include "widgets/message_box.h"
@@ -250,10 +249,27 @@ void Barra_Seduta::Indietro(const std::function<bool()>& passo) {
   corsa_.Pausa();
   da_quando_.start();
   annullato_ = false;
-  const bool mosso = passo();
+  bool mosso = true;
+  Con_Riguardo([&] { mosso = passo(); });
   progresso_.reset();
   perche_ = mosso ? QString() : Q("Più in là non si va");
   Specchia();
+}
+
+/// A session from a file can end with its CPU, or be one that this program plays otherwise: then
+/// back to its beginning, which could be played.
+void Barra_Seduta::Con_Riguardo(const std::function<void()>& passo) {
+  std::string perche;
+  try {
+    return passo();
+  } catch (const Giornale_Discorde& discorde) {
+    perche = std::string("La seduta non si può rifare fin lì: ") + discorde.what() + ".";
+  } catch (const Fatale& fatale) {
+    perche = "La seduta finisce prima, con la CPU:\n" + Rapporto_Fatale(fatale, plc_);
+  }
+  progresso_.reset();
+  registratore_.Vai(registratore_.Primo());
+  Avvisa(Q(perche));
 }
 
 void Barra_Seduta::Torna_A(std::int64_t ms) {
@@ -274,7 +290,9 @@ void Barra_Seduta::showEvent(QShowEvent* evento) {
 
 void Barra_Seduta::Al_Presente() {
   if (!registratore_.Nel_Passato()) return;
-  registratore_.Torna_Al_Presente();
+  Con_Riguardo([this] { registratore_.Torna_Al_Presente(); });
+  // One that has no end goes on from where it stands.
+  if (registratore_.Nel_Passato()) registratore_.Riprendi_Da_Qui();
   progresso_.reset();
   perche_.clear();
   Specchia();
@@ -336,42 +354,6 @@ void Barra_Seduta::Mostra_Stato() {
   pausa_->setEnabled(!passato);
   al_cursore_->setEnabled(Cursore_Del_Diagramma && Cursore_Del_Diagramma());
   for (QAction* azione : solo_nel_passato_) azione->setEnabled(passato);
-}
-
-// ---- files --------------------------------------------------------------------------------------
-
-void Barra_Seduta::Salva() {
-  const QString file = Chiedi_File(true);
-  if (file.isEmpty()) return;
-  const std::string errore = Salva_Registrazione(Utf8(file), registratore_.Registrata());
-  if (!errore.empty()) Avvisa(Q("La seduta non è stata salvata: " + errore));
-}
-
-void Barra_Seduta::Apri() {
-  if (plc_.In_Giro() != Giro::Nessuno || plc_.PLC_Acceso)
-    return Avvisa(Q("Prima di aprire una seduta fermare la CPU con STOP."));
-  if (Impianto && Impianto())
-    return Avvisa(Q("Prima di aprire una seduta chiudere la finestra dell'impianto."));
-  const QString file = Chiedi_File(false);
-  if (file.isEmpty()) return;
-  std::string motivo;
-  const auto registrazione = Apri_Registrazione(Utf8(file), motivo);
-  if (!registrazione) return Avvisa(Q("La seduta non si può aprire: " + motivo + "."));
-  Al_Presente();
-  const int impianto = Registratore::Impianto_Di(*registrazione);
-  if (impianto >= 0 && Apri_Impianto) Apri_Impianto(impianto);
-  show();
-  corsa_.Pausa();
-  try {
-    registratore_.Prendi(*registrazione);
-  } catch (const Giornale_Discorde& discorde) {
-    Avvisa(Q(std::string("La seduta non si può rifare: ") + discorde.what() + "."));
-  }
-  std::vector<std::string> righe;
-  for (const Riga_PLC& riga : plc_.Prog) righe.push_back(Testo_Riga(riga));
-  pannello_.Controlli().listSrc->Riempi(righe);
-  perche_ = Q(registrazione->Titolo);
-  Specchia();
 }
 
 }  // namespace tavorno

@@ -43,6 +43,8 @@ class Barra_Seduta : public QToolBar {
   std::function<std::optional<std::int64_t>()> Cursore_Del_Diagramma;
   /// What became of the question who did it, for those who asked it elsewhere.
   std::function<void(const QString& messaggio)> Racconta;
+  /// A session was opened in the place of the one before.
+  std::function<void()> Aperta;
   /// Other windows that hold something by themselves are to show what the CPU is now.
   std::function<void()> Specchia_Altre;
 
@@ -59,6 +61,7 @@ class Barra_Seduta : public QToolBar {
   void Crea_Lentezza();
   void Pausa_O_Continua();
   void Indietro(const std::function<bool()>& passo);
+  void Con_Riguardo(const std::function<void()>& passo);
   void Chi_E_Stato();
   void Riprendi();
   void Salva();

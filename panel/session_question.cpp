@@ -44,8 +44,11 @@ void Barra_Seduta::Chi_E_Stato() {
   }
   corsa_.Pausa();
   int riga = -1;
-  const bool trovato = registratore_.Ultimo_Cambio(
-      [dove = *dove](const Plc& plc) { return Scritto(plc, dove); }, riga);
+  bool trovato = false;
+  Con_Riguardo([&] {
+    trovato = registratore_.Ultimo_Cambio(
+        [dove = *dove](const Plc& plc) { return Scritto(plc, dove); }, riga);
+  });
   progresso_.reset();
   const QString nome = bit_->text().trimmed().toUpper();
   Specchia();

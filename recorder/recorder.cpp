@@ -139,13 +139,17 @@ Seduta_Registrata Registratore::Registrata() {
 }
 
 Seduta_Registrata Registratore::Dal_Primo() {
+  if (chiuso_ && !Nel_Passato() && plc_.In_Giro() == Giro::Nessuno) Lascia_L_Impianto();
   Seduta_Registrata tutta = Registrata();
   const Tappa& prima = Tappa_Prima(primo_);
   const Tappa& inizio =
       prima.Apertura >= 0 ? tappe_[static_cast<std::size_t>(prima.Apertura)] : prima;
   tutta.Programma = inizio.Programma;
   tutta.Stato = inizio.Stato;
-  tutta.Voci.Inizio = inizio.Dove;
+  Posto_Giornale dove = inizio.Dove;
+  const std::size_t byte = std::exchange(dove.Byte, 0);
+  dove.Ultima -= std::min(dove.Ultima, byte);
+  tutta.Voci.Dimentica(dove, byte);
   return tutta;
 }
 
@@ -160,7 +164,11 @@ int Registratore::Impianto_Di(const Seduta_Registrata& registrazione) {
 void Registratore::Prendi(const Seduta_Registrata& registrazione) {
   Lettore_Giornale lettore(registrazione.Voci, registrazione.Voci.Inizio);
   std::int64_t ms = registrazione.Stato.Adesso;
-  while (lettore.Prossima()) ms = std::max(ms, lettore.Dove().Ms);
+  Momento primo{registrazione.Stato.Corsa.Righe_Fatte, ms};
+  while (const auto voce = lettore.Prossima()) {
+    ms = std::max(ms, lettore.Dove().Ms);
+    if (voce->Entra.Che == Cosa::Programma) primo = {voce->Righe, lettore.Dove().Ms};
+  }
   if (!lettore.Guasto().empty()) throw Giornale_Discorde(lettore.Guasto());
   replica_.reset();
   Titolo = registrazione.Titolo;
@@ -173,7 +181,7 @@ void Registratore::Prendi(const Seduta_Registrata& registrazione) {
   apertura_ = impianto >= 0 ? 0 : -1;
   analogiche_ = impianto >= 0 && Legge_Analogiche(impianto);
   senza_tappe_ = analogiche_ && !Racconta_Lo_Scambio(giornale_);
-  primo_ = {registrazione.Stato.Corsa.Righe_Fatte, registrazione.Stato.Adesso};
+  primo_ = primo;
   presente_ = {giornale_.Ultima_Riga, ms};
   plc_.Hook.Adesso = Vissuto::Passato;
   Vai(primo_);

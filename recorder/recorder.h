@@ -71,7 +71,8 @@ class Registratore {
 
   /// What has been written down, up to now.
   Seduta_Registrata Registrata();
-  /// The same from the last place before `Primo` on at which no plant was open.
+  /// The same from the last place before `Primo` on at which no plant was open: it opens one plant
+  /// at most, and closes none.
   Seduta_Registrata Dal_Primo();
   std::string Titolo;
 

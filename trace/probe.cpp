@@ -36,6 +36,11 @@ void Sonda::In_Cessione() {
   registrazione_.Scansione(ms, plc_.N_Cicli);
 }
 
+void Sonda::Da_Capo() {
+  ultimo_ = -1;
+  passo_ = false;
+}
+
 void Sonda::Guarda() {
   if (plc_.Hook.Adesso != Vissuto::Presente) return;
   const bool a_meta = plc_.PC != 0 && plc_.PLC_Acceso && !plc_.Attivi.CmdStep;

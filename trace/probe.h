@@ -18,6 +18,9 @@ class Sonda {
   /// Records the present, unless a scan is under way: half of a scan is no state of the process.
   void Guarda();
 
+  /// The clock is another one from now on, and so is what was done last.
+  void Da_Capo();
+
   bool In_Pausa = false;  ///< nothing is recorded, as while the past is on the screen
 
  private:

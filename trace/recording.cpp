@@ -75,6 +75,17 @@ void Registrazione::Anteponi(const Registrazione& prima) {
   while (tenuti_ > Cambi_Massimi) Fai_Posto();
 }
 
+void Registrazione::Svuota() {
+  for (Riga& riga : righe_) {
+    riga.Quando = {};
+    riga.Ultimo = 0;
+  }
+  scansioni_ = {};
+  inizio_ = 0;
+  fine_ = -1;
+  tenuti_ = 0;
+}
+
 void Registrazione::Taglia(std::int64_t ms) {
   for (Riga& riga : righe_) {
     const std::size_t prima = riga.Quando.Cambi();

@@ -44,6 +44,9 @@ class Registrazione {
   /// here.
   void Anteponi(const Registrazione& prima);
 
+  /// Forgets all that was recorded; the signals stay.
+  void Svuota();
+
   /// What came after `ms` did not happen: the run goes on from there.
   void Taglia(std::int64_t ms);
 

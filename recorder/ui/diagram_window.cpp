@@ -127,6 +127,17 @@ void FrmTempi::Riparti(const Esercizio* impianto) {
   Ridisegna();
 }
 
+void FrmTempi::Altra_Seduta(const Esercizio* impianto) {
+  registrazione_.Svuota();
+  sonda_.Da_Capo();
+  diagramma_.Togli_Cursori();
+  diagramma_.Disarma();
+  diagramma_.In_Diretta = true;
+  messaggio_.clear();
+  visti_ = fine_vista_ = -1;
+  Riparti(impianto);
+}
+
 void FrmTempi::Programma_Caricato() {
   if (diagramma_.Mostrati() == iniziali_) Riparti(impianto_);
 }

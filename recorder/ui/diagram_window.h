@@ -43,6 +43,8 @@ class FrmTempi : public QWidget {
 
   /// Another plant was opened or closed: its signals, as at first.
   void Riparti(const Esercizio* impianto);
+  /// Another session was opened, with its plant: nothing of the one before is shown any more.
+  void Altra_Seduta(const Esercizio* impianto);
   /// Another program was loaded: its signals, unless others were chosen meanwhile.
   void Programma_Caricato();
 

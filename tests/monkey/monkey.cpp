@@ -25,6 +25,9 @@
 #include "panel/child_windows.h"
 #include "panel/run_driver.h"
 #include "panel/safekeeping.h"
+#include "panel/session_bar.h"
+#include "panel/session_wires.h"
+#include "recorder/recorder.h"
 #include "tests/support/temporary_folder.h"
 #include "widgets/message_box.h"
 #include "widgets/text.h"
@@ -96,6 +99,10 @@ class Scimmia : public QObject {
   }
 
   int Fatti() const { return fatti_; }
+  QString File_Di_Seduta() {
+    return Uno_Di(8) == 0 ? QString()
+                          : Q((cartella_ / ("s" + std::to_string(Uno_Di(3)) + ".seduta")).string());
+  }
 
  protected:
   /// The program goes on until the steps are done.
@@ -250,13 +257,19 @@ int main(int argc, char** argv) {
   Progetto progetto(plc, {});
   const Iscrizione messaggi =
       plc.Hook.Mostra.Ascolta([](const Avviso& avviso) { Mostra_Avviso(nullptr, avviso); });
+  Registratore registratore(plc);
+  const Iscrizione programmi =
+      progetto.Programma_Cambiato.Ascolta([&registratore] { registratore.Programma_Nuovo(); });
   Guida guida{QStringLiteral(TAVORNO_HELP "/"), QStringLiteral(TAVORNO_HELP "/Panel/"), {}};
   FrmPLC pannello(plc, progetto);
   Guida_Corsa corsa(plc, [&pannello] { pannello.Aggiorna(); });
   Finestre finestre(pannello, plc, progetto, guida);
   Salvaguardia salvaguardia(progetto, pannello, finestre, cartella / "stato");
+  Barra_Seduta seduta(pannello, plc, registratore, corsa);
+  Collega_Seduta(seduta, finestre, registratore);
   pannello.show();
   Scimmia scimmia(seme, passi, pannello, progetto, cartella);
+  seduta.Chiedi_File = [&scimmia](bool) { return scimmia.File_Di_Seduta(); };
   applicazione.Fine_Fatale = [&](const Fatale& fatale) {
     salvaguardia.Scrivi_Ora();
     std::printf("seed %u: a fatal end after %d steps: %s\n", seme, scimmia.Fatti(),

@@ -16,7 +16,6 @@
 #include "plants/host/fault_panel.h"
 #include "plants/host/host_window.h"
 #include "plants/host/picture_widget.h"
-#include "recorder/rereading.h"
 #include "recorder/ui/watch_window.h"
 #include "widgets/command_tables.h"
 
@@ -28,16 +27,6 @@ class Finestre_A_Caso : public Banco_Seduta {
   explicit Finestre_A_Caso(unsigned seme) : caso_(seme) {
     cessione_ = plc.Hook.Ascolta_Cedi_Righe([this] { return Cedi(); });
     barra.Avvisa = [this](const QString& testo) { avvisi.push_back(testo.toStdString()); };
-    barra.Cursore_Del_Diagramma = [this] { return finestre.Cursore_Del_Diagramma(); };
-    barra.Specchia_Altre = [this] { finestre.Specchia(); };
-    barra.Racconta = [this](const QString& testo) { finestre.Racconta_Al_Diagramma(testo); };
-    finestre.Torna_A = [this](std::int64_t ms) { barra.Torna_A(ms); };
-    finestre.Chi_E_Stato = [this](std::int64_t ms, const std::string& indirizzo) {
-      barra.Chi_E_Stato_A(ms, indirizzo);
-    };
-    finestre.Rileggi = [this](const std::vector<Segnale>& segnali) {
-      return std::make_unique<Rilettura>(registratore, segnali);
-    };
     corsa.Attesa = false;
     registratore.Ms_Tra_Tappe = 500;
   }

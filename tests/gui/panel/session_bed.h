@@ -10,6 +10,7 @@
 #include "panel/panel_window.h"
 #include "panel/run_driver.h"
 #include "panel/session_bar.h"
+#include "panel/session_wires.h"
 #include "recorder/session.h"
 #include "tests/support/temporary_folder.h"
 
@@ -30,9 +31,7 @@ struct Banco_Seduta {
   std::vector<std::string> avvisi;
 
   Banco_Seduta() {
-    barra.Impianto = [this] { return finestre.Impianto(); };
-    barra.Apri_Impianto = [this](int indice) { finestre.Apri_Impianto(indice); };
-    finestre.Al_Presente = [this] { barra.Al_Presente(); };
+    Collega_Seduta(barra, finestre, registratore);
     corsa.Ferma();  // its clock is the real one
   }
 

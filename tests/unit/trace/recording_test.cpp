@@ -119,6 +119,19 @@ TEST_F(Recording, WhatComesAfterAMomentCanBeTakenBack) {
   EXPECT_EQ(Cambi("M0.0"), (Coppie{{0, 0}, {10, 1}, {16, 0}}));
 }
 
+TEST_F(Recording, ForgetsAllAndBeginsAnewAtAnotherTime) {
+  Disegna_Onda("M0.0", {{5000, 0}, {5010, 1}});
+  registrazione.Scansione(5010, 3);
+  registrazione.Svuota();
+  EXPECT_TRUE(registrazione.Vuota());
+  EXPECT_EQ(Cambi("M0.0"), Coppie{});
+  EXPECT_TRUE(registrazione.Inizi_Scansione().Fra(0, 10'000, 10).empty());
+  Disegna_Onda("M0.0", {{7, 1}, {9, 0}});
+  EXPECT_EQ(registrazione.Inizio(), 7);
+  EXPECT_EQ(registrazione.Fine(), 9);
+  EXPECT_EQ(Cambi("M0.0"), (Coppie{{7, 1}, {9, 0}}));
+}
+
 TEST_F(Recording, TheBusiestSignalForgetsItsOlderHalf) {
   registrazione.Cambi_Massimi = 100;
   Disegna_Onda("M0.0", {{0, 1}});
