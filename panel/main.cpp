@@ -20,6 +20,7 @@
 #include "panel/session_wires.h"
 #include "panel/verification.h"
 #include "recorder/recorder.h"
+#include "widgets/desktop_theme.h"
 #include "widgets/message_box.h"
 
 using namespace tavorno;
@@ -38,6 +39,7 @@ int main(int argc, char** argv) {
   if (comando.Stato) return *comando.Stato;
   Applicazione::setApplicationName(QStringLiteral("Tavorno"));
   Applicazione::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  Segui_Scrivania();
   Applicazione::setQuitOnLastWindowClosed(false);
   Apri_Risorse();
   Applicazione::setDesktopFileName(QStringLiteral("org.tavorno.Tavorno"));

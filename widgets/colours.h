@@ -57,6 +57,10 @@ QColor Su(const QColor& colore, const QColor& fondo, double contrasto = Leggibil
 
 inline constexpr Tinta Nero{0x000000}, Bianco{0xffffff};
 inline constexpr Tinta Foglio{0xffffff, 0x1f2327};  ///< stands for the desktop's own sheet
+/// A dark desktop where its own colours do not come to us; its sheet is the one above.
+inline constexpr Tinta Scrivania_Scura_Finestra{0x2a2d31}, Scrivania_Scura_Tasto{0x3a3f45};
+inline constexpr Tinta Scrivania_Scura_Testo{0xe6e8ea}, Scrivania_Scura_Spento{0x9aa3b0};
+inline constexpr Tinta Scrivania_Scura_Scelta{0x2f5f9e};
 
 // ---- panel --------------------------------------------------------------------------------------
 
