@@ -45,24 +45,15 @@ class Appoggio {
   fs::path cartella_;
 };
 
-/// The diagrams of the cases that failed, each played once more on its own.
-std::vector<std::string> Diagrammi(const Esito_Progetto& esito, const std::string& percorso,
-                                   Verifiche verifiche) {
-  std::vector<std::string> diagrammi(esito.Casi.size());
-  if (!esito.Compilato) return diagrammi;
-  for (std::size_t n = 0; n < esito.Casi.size(); ++n) {
-    const Caso& caso = esito.Casi[n];
-    if (caso.Superato() || caso.Script_Errato) continue;
-    verifiche.Solo_Caso = caso.Nome;
-    Traccia traccia(Righe_Di(verifiche.Impianto));
-    Esamina(percorso, verifiche, &traccia);
-    const std::string svg = Diagramma_Svg(traccia, caso.Nome, caso.Rilievi.front().Ms);
-    diagrammi[n] = svg.substr(std::min(svg.find("<svg"), svg.size()));
-  }
-  return diagrammi;
+/// The diagram of a case that failed, from the times of its only run; empty for others.
+std::string Diagramma(const Caso_Giocato& giocato) {
+  const Caso& caso = giocato.Esito;
+  if (caso.Superato() || caso.Script_Errato || !giocato.Tempi) return "";
+  const std::string svg = Diagramma_Svg(*giocato.Tempi, caso.Nome, caso.Rilievi.front().Ms);
+  return svg.substr(std::min(svg.find("<svg"), svg.size()));
 }
 
-Voto Esamina_Consegna(const Consegna& consegna, const Verifiche& verifiche) {
+Voto Esamina_Consegna(const Consegna& consegna, Verifiche verifiche) {
   Voto voto;
   voto.Studente = consegna.Studente.empty() ? consegna.File : consegna.Studente;
   if (!consegna.Motivo.empty() || Interruzione::Chiesta()) {
@@ -70,11 +61,15 @@ Voto Esamina_Consegna(const Consegna& consegna, const Verifiche& verifiche) {
                                consegna.Motivo.empty() ? "esame interrotto" : consegna.Motivo);
     return voto;
   }
+  verifiche.Tempi = true;
+  verifiche.Al_Caso = [&voto](const Caso_Giocato& giocato) {
+    voto.Diagrammi.push_back(Diagramma(giocato));
+  };
   voto.Esito = Esamina(consegna.Percorso, verifiche);
+  if (!voto.Esito.Compilato) voto.Diagrammi.clear();
   const std::string byte = Leggi_File(consegna.Percorso).Byte;
   voto.Impronta = Firma_Di(byte);
   voto.Programma = Programma_In_Chiaro(byte);
-  voto.Diagrammi = Diagrammi(voto.Esito, consegna.Percorso, verifiche);
   voto.Esito.Progetto = consegna.File;  // the same wherever it was unpacked
   return voto;
 }

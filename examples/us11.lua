@@ -23,7 +23,7 @@ local function liberi() return tonumber(elemento("etPosti").Caption) end
 
 -- Aspetta, e controlla a ogni scansione che una sbarra non abbia chiusi i due contattori.
 local function aspetta(fino, ms)
-  return attendi_fino(function()
+  return attendi_quando(function()
     local uscite = leggi("QB0")
     if uscite & 3 == 3 or uscite & 192 == 192 then
       pericolo("i due contattori di una sbarra non devono mai essere chiusi insieme")

@@ -36,7 +36,7 @@ local function sorveglia()
 end
 
 local function aspetta(fino, ms)
-  return attendi_fino(function()
+  return attendi_quando(function()
     sorveglia()
     return fino()
   end, ms)

@@ -85,6 +85,7 @@ Ambiente_Script Ambiente_Di(const Verifiche& verifiche, Traccia* traccia) {
   ambiente.Inizio = verifiche.Inizio;
   ambiente.Al_Caso = verifiche.Al_Caso;
   ambiente.Riprendi = verifiche.Riprendi;
+  ambiente.Tempi = verifiche.Tempi;
   return ambiente;
 }
 

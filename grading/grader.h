@@ -20,6 +20,7 @@ struct Verifiche {
   Scorte Inizio;
   Chi_Guarda Al_Caso;     ///< called behind each case; may be empty
   bool Riprendi = false;  ///< with film and times
+  bool Tempi = false;     ///< with times only
 };
 
 /// Runs all scripts on a compiled program. Never throws for what the program or a script does.

@@ -160,7 +160,7 @@ void Esame::Inizia(const std::string& nome, std::optional<double> massimo) {
 }
 
 void Esame::Registra_Tempi() {
-  if (ambiente_.Riprendi) tempi_.emplace(Righe_Di(impianto_));
+  if (ambiente_.Riprendi || ambiente_.Tempi) tempi_.emplace(Righe_Di(impianto_));
   std::vector<Traccia*> tracce;
   if (ambiente_.Registra) tracce.push_back(ambiente_.Registra);
   if (tempi_) tracce.push_back(&*tempi_);

@@ -39,6 +39,7 @@ struct Ambiente_Script {
   Limiti_Script Limiti;
   Chi_Guarda Al_Caso;     ///< called behind each case; may be empty
   bool Riprendi = false;  ///< with film and times
+  bool Tempi = false;     ///< with times only
 };
 
 /// One script at work on one program.

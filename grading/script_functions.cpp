@@ -81,27 +81,44 @@ int Fa_Attendi(lua_State* stato, Esame& esame) {
   return 0;
 }
 
-int Fa_Attendi_Fino(lua_State* stato, Esame& esame) {
-  Arg_Funzione(stato, 1, "attendi_fino");
-  const long long limite = Arg_Intero(stato, 2, "attendi_fino", 0, tempo_massimo);
+/// Calls the function at the top again and again, after the time that `passa` lets go by of what is
+/// left; `dice_ms` tells it how much has gone.
+template <class Passa>
+int Aspetta(lua_State* stato, Esame& esame, const char* nome, bool dice_ms, Passa passa) {
+  Arg_Funzione(stato, 1, nome);
+  const long long limite = Arg_Intero(stato, 2, nome, 0, tempo_massimo);
   esame.Banco();
   const int caso = esame.Numero_Caso;
-  for (long long ms = 0;; ++ms) {
+  for (long long ms = 0;; ms += passa(esame.Banco(), limite - ms)) {
     lua_pushvalue(stato, 1);
-    lua_call(stato, 0, 1);
+    if (dice_ms) lua_pushinteger(stato, ms);
+    lua_call(stato, dice_ms ? 1 : 0, 1);
     const bool vero = Vero(stato, -1);
     lua_pop(stato, 1);
     if (esame.Numero_Caso != caso)
-      throw Errore_Script("attendi_fino: la funzione non può cominciare un'altra prova");
+      throw Errore_Script(std::string(nome) + ": la funzione non può cominciare un'altra prova");
     const bool rotto = !esame.Banco().Guasto().empty();
-    if ((vero && !rotto) || ms == limite || rotto) {
+    if ((vero && !rotto) || ms >= limite || rotto) {
       if (rotto) esame.Banco().Passa(limite - ms);
       lua_pushboolean(stato, vero && !rotto);
       lua_pushinteger(stato, ms);
       return 2;
     }
-    esame.Banco().Passa(1);
   }
+}
+
+int Fa_Attendi_Fino(lua_State* stato, Esame& esame) {
+  return Aspetta(stato, esame, "attendi_fino", false, [](Collaudo& banco, long long) -> long long {
+    banco.Passa(1);
+    return 1;
+  });
+}
+
+int Fa_Attendi_Quando(lua_State* stato, Esame& esame) {
+  return Aspetta(stato, esame, "attendi_quando", true,
+                 [](Collaudo& banco, long long resto) -> long long {
+                   return banco.Passa_Fino_Al_Cambio(resto);
+                 });
 }
 
 // ---- the user's hand ----------------------------------------------------------------------------
@@ -322,6 +339,7 @@ constexpr Riga_Funzione funzioni[] = {
     {"cicli", "cicli(n)", "esegue n scansioni intere, di un millisecondo l'una", Fa_Cicli},
     {"attendi", "attendi(ms)", "lascia passare il tempo virtuale", Fa_Attendi},
     {"attendi_fino", "attendi_fino(funzione, ms)", "aspetta che la funzione dia vero, al massimo ms; restituisce vero o falso e i millisecondi passati", Fa_Attendi_Fino},
+    {"attendi_quando", "attendi_quando(funzione, ms)", "come attendi_fino, ma guarda soltanto quando qualcosa può essere cambiato: è più svelta", Fa_Attendi_Quando},
     {"premi", "premi(elemento)", "preme un elemento dell'impianto; falso se è nascosto", Aziona<&Collaudo::Premi, premi>},
     {"rilascia", "rilascia(elemento)", "lo rilascia", Aziona<&Collaudo::Rilascia, rilascia>},
     {"clic", "clic(elemento)", "un clic; un pulsante resta premuto 100 ms", Aziona<&Collaudo::Clic, clic>},

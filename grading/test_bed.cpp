@@ -226,6 +226,14 @@ void Collaudo::Passa(std::int64_t ms) {
   }
 }
 
+std::int64_t Collaudo::Passa_Fino_Al_Cambio(std::int64_t ms) {
+  const bool scansione = guasto_.empty() && plc_.PLC_Acceso && plc_.Modo_Run == Modo::Cont;
+  const std::int64_t saltati = scansione && riposo_.Sempre_Uguale() ? Salta(ms) : 0;
+  if (saltati == ms) return ms;
+  Passa(1);
+  return saltati + 1;
+}
+
 std::vector<Avviso> Collaudo::Prendi_Avvisi() {
   return std::exchange(avvisi_, {});
 }

@@ -61,6 +61,9 @@ class Collaudo {
   void Cicli(int quanti);  ///< whole scans, a millisecond each
   /// Time passes; the CPU scans if it is running in mode Cont.
   void Passa(std::int64_t ms);
+  /// Time passes until something may have changed, at least 1 and at most `ms`, which is positive;
+  /// returns how much. Only SM0.6 and what merely grows are not looked at.
+  std::int64_t Passa_Fino_Al_Cambio(std::int64_t ms);
 
   // The user's hand. False for a hidden figure; an unknown one, and one that listens to nothing,
   // throws `Errore_Script`. A press and a release over one figure are a click, as in the window.

@@ -59,6 +59,9 @@ class Riposo {
     return uno_qualsiasi ? plc_.Tempo.Prossimo() : plc_.Prossimo_Tick();
   }
 
+  /// While it rests: every scan leaves the whole CPU as it is, not only every second one.
+  bool Sempre_Uguale() const { return periodo_ == 1; }
+
   /// How many of the next scans may be left out at once: 0 to `scansioni`, and no more than fit
   /// into `N_Cicli`.
   std::int64_t Saltabili(std::int64_t scansioni) const {

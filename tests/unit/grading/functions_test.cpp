@@ -52,6 +52,38 @@ TEST_F(ScriptFunctions, AttendiFinoTellsWhetherAndWhen) {
             "");
 }
 
+/// The same instants as a look at each millisecond, with far fewer looks.
+TEST_F(ScriptFunctions, AttendiQuandoLooksWhereSomethingMayHaveChanged) {
+  EXPECT_EQ(Rilievo_Di("ingresso('I0.0', 1) run() local volte = 0 "
+                       "local vero, ms = attendi_quando(function() volte = volte + 1 "
+                       "  return leggi('T37') end, 20000) "
+                       "verifica(vero == true) verifica(ms == 10000, ms) "
+                       "verifica(volte < 2000, volte) "
+                       "local ultimo "
+                       "vero, ms = attendi_quando(function(ora) ultimo = ora end, 50) "
+                       "verifica(vero == false) verifica(ms == 50) verifica(ultimo == 50, ultimo)",
+                       {"LD I0.0", "TON T37 +100"}),
+            "");
+}
+
+TEST_F(ScriptFunctions, AttendiQuandoSeesWhatChangesAtEveryScan) {
+  for (const char* riga : {"INCW VW0", "= M0.0"}) {
+    EXPECT_EQ(Rilievo_Di("run() attendi(500) local prima, cambi = -1, 0 "
+                         "attendi_quando(function() local ora = leggi('VW0') * 2 + leggi('M0.0') "
+                         "  if ora ~= prima then prima, cambi = ora, cambi + 1 end end, 100) "
+                         "verifica(cambi == 101, cambi)",
+                         {riga[0] == '=' ? "LD SM0.6" : "LD SM0.0", riga}),
+              "");
+  }
+}
+
+TEST_F(ScriptFunctions, AttendiQuandoGoesOnWithTheCpuInStop) {
+  EXPECT_EQ(Rilievo_Di("local volte = 0 local vero, ms = attendi_quando(function() "
+                       "volte = volte + 1 return volte == 4 end, 50) "
+                       "verifica(vero) verifica(ms == 3, ms)"),
+            "");
+}
+
 TEST_F(ScriptFunctions, CicloScansOnlyWhatIsAsked) {
   EXPECT_EQ(Rilievo_Di("modo('Ciclo') run() attendi(100) verifica(leggi('VW0') == 1) "
                        "cicli(3) attendi(10) verifica(leggi('VW0') == 4)",
@@ -375,13 +407,13 @@ TEST_F(ScriptFunctions, ACaseInsideACaseIsRefused) {
 
 TEST_F(ScriptFunctions, HelpNamesAllOfThem) {
   EXPECT_EQ(Prova({"--help"}), 0);
-  for (const char* nome :
-       {"run",          "stop",      "modo",     "passo",  "cicli",       "attendi",
-        "attendi_fino", "premi",     "rilascia", "clic",   "doppio_clic", "regola",
-        "ingresso",     "analogico", "leggi",    "scrivi", "elemento",    "messaggi",
-        "verifica",     "serve",     "punti",    "prova",  "usa",         "impianto"})
+  for (const char* nome : {"run",     "stop",         "modo",           "passo",    "cicli",
+                           "attendi", "attendi_fino", "attendi_quando", "premi",    "rilascia",
+                           "clic",    "doppio_clic",  "regola",         "ingresso", "analogico",
+                           "leggi",   "scrivi",       "elemento",       "messaggi", "verifica",
+                           "serve",   "punti",        "prova",          "usa",      "impianto"})
     EXPECT_THAT(out, HasSubstr(std::string("\n  ") + nome + "(")) << nome;
-  EXPECT_EQ(Funzioni_Script().size(), 26);
+  EXPECT_EQ(Funzioni_Script().size(), 27);
 }
 
 TEST_F(ScriptFunctions, TheManualHasAllOfThem) {
