@@ -3,6 +3,7 @@
 
 #include <QScreen>
 #include <QTimer>
+#include <algorithm>
 
 #include "awl/file_io.h"
 #include "grading/script_files.h"
@@ -10,6 +11,7 @@
 #include "grading/ui/verification_window.h"
 #include "panel/program_list.h"
 #include "panel/session_mirror.h"
+#include "panel/window_places.h"
 #include "plants/host/host_window.h"
 #include "widgets/message_box.h"
 #include "widgets/text.h"
@@ -122,12 +124,26 @@ void Sala_Verifica::Proietta() {
   film_->Chiusa = [this] { Torna(); };
   film_->Mostra_Aiuto = [this] { finestre_.Mostra_Aiuto(guida_ + "Verifica.htm#guarda"); };
   if (verifica_) verifica_->hide();
-  // In the lower corner, below the picture of the plant or over its buttons, which do nothing now.
-  const QRect schermo = pannello_.screen()->availableGeometry();
-  film_->adjustSize();
-  film_->resize(film_->size().boundedTo(schermo.size()));
-  film_->move(schermo.left(), schermo.bottom() - film_->height() - 40);
+  Metti_Film();
   Porta_Avanti(*film_);
+}
+
+/// In a corner that leaves the panel free: it will have the same frame.
+void Sala_Verifica::Metti_Film() {
+  const QRect fuori = pannello_.frameGeometry();
+  const QSize bordi = fuori.size() - pannello_.geometry().size();
+  const bool pannello_a_se = pannello_.isWindow() && pannello_.isVisible();
+  film_->adjustSize();
+  const auto posto = [&](const QSize& voluta) {
+    return Posto_Film(pannello_.screen()->availableGeometry(), pannello_a_se ? fuori : QRect(),
+                      {voluta + bordi, film_->minimumSizeHint() + bordi});
+  };
+  // The text of the finding takes more lines where the window is narrower.
+  QSize misura = posto(film_->size()).size() - bordi;
+  misura.setHeight(std::max(misura.height(), film_->heightForWidth(misura.width())));
+  const QRect dove = posto(misura);
+  film_->resize(dove.size() - bordi);
+  film_->move(dove.topLeft());
 }
 
 /// The present is back.

@@ -38,6 +38,7 @@ class Sala_Verifica : public QObject {
   std::optional<Stesura> Programma(std::string& perche) const;
   void Guarda(const Caso_Verificato& caso);
   void Proietta();
+  void Metti_Film();
   void Torna();
   void Specchia(bool passo);
 

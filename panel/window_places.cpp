@@ -29,6 +29,24 @@ QRect Dentro(const QRect& schermo, const QRect& finestra) {
           misura};
 }
 
+QRect Posto_Film(const QRect& schermo, const QRect& pannello, const Misura_Finestra& film) {
+  QSize misura = film.Voluta.boundedTo(schermo.size());
+  const int accanto = pannello.left() - schermo.left();
+  if (!pannello.isEmpty() && accanto >= film.Minima.width())
+    misura.setWidth(std::min(misura.width(), accanto));
+  const int destra = schermo.right() + 1 - misura.width();
+  const int fondo = schermo.bottom() + 1 - misura.height();
+  const auto coperto = [&](const QPoint& angolo) {
+    const QRect comune = pannello.intersected({angolo, misura});
+    return comune.isEmpty() ? 0 : comune.width() * comune.height();
+  };
+  const QPoint angoli[] = {{schermo.left(), fondo},
+                           {destra, fondo},
+                           {destra, schermo.top()},
+                           {schermo.left(), schermo.top()}};
+  return {*std::ranges::min_element(angoli, {}, coperto), misura};
+}
+
 Posti_Impianto Posti_Colonna(const QRect& schermo, const QPoint& angolo,
                              const Misura_Finestra& stati, const Misura_Finestra& pannello) {
   const int larga = schermo.right() + 1 - angolo.x();

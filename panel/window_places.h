@@ -41,4 +41,10 @@ Posti_Impianto Posti_Esercizio(const QRect& schermo, const Misura_Finestra& impi
 Posti_Impianto Posti_Colonna(const QRect& schermo, const QPoint& angolo,
                              const Misura_Finestra& stati, const Misura_Finestra& pannello);
 
+/// Where a film of the plant runs: beside the panel, which shows it too, in the first corner of the
+/// screen that is free (lower left, where the plant's buttons are, before the others); narrower
+/// than it wants where that keeps it from under the panel. Where no corner is free, the one that
+/// hides least of the panel. `pannello` may be empty.
+QRect Posto_Film(const QRect& schermo, const QRect& pannello, const Misura_Finestra& film);
+
 }  // namespace tavorno

@@ -117,6 +117,11 @@ void FrmGuarda::Crea_Riga_Tempo(QBoxLayout& posti) {
       etPosto_->fontMetrics().horizontalAdvance(QStringLiteral("0000,000 s di 0000,000 s")));
   etPosto_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   posti.addWidget(etPosto_);
+  velocita_ = Chiama(QStringLiteral("cmbVelocita"), new QComboBox);
+  for (const Velocita& una : velocita) velocita_->addItem(Q(una.Nome));
+  velocita_->setToolTip(QStringLiteral("Quanto va veloce il film"));
+  velocita_->setAccessibleName(velocita_->toolTip());
+  posti.addWidget(velocita_);
 }
 
 void FrmGuarda::Crea_Riga_Passi(QBoxLayout& posti) {
@@ -137,11 +142,6 @@ void FrmGuarda::Crea_Riga_Passi(QBoxLayout& posti) {
                         passo(&Registratore::Scansione_Avanti)));
   posti.addWidget(Tasto("cmdRigaAvanti", "riga ▶", "Ctrl+Right", "Una riga avanti",
                         passo(&Registratore::Riga_Avanti)));
-  velocita_ = Chiama(QStringLiteral("cmbVelocita"), new QComboBox);
-  for (const Velocita& una : velocita) velocita_->addItem(Q(una.Nome));
-  velocita_->setToolTip(QStringLiteral("Quanto va veloce il film"));
-  velocita_->setAccessibleName(velocita_->toolTip());
-  posti.addWidget(velocita_);
   posti.addStretch();
   posti.addWidget(Tasto("cmdTorna", "Torna al tuo programma", "Esc",
                         "CPU e impianto tornano com'erano prima di guardare", [this] { close(); }));

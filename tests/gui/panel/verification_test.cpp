@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSlider>
 #include <QTableWidget>
@@ -320,6 +321,16 @@ TEST_F(Prova_Verifica, AFilmGoesSlowlyBackAndStepByStep) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&film));
   QTest::keyClick(&film, Qt::Key_Escape);
   EXPECT_FALSE(registratore.In_Proiezione());
+}
+
+TEST_F(Prova_Verifica, AFilmRunsBesideThePanel) {
+  Senza_Autoritenuta();
+  const QRect schermo = pannello.screen()->availableGeometry();
+  pannello.resize(pannello.minimumSizeHint());
+  pannello.move(schermo.left(), schermo.bottom() + 1 - pannello.frameGeometry().height());
+  const FrmGuarda& film = Film(Verdetto(), 0);
+  EXPECT_FALSE(film.frameGeometry().intersects(pannello.frameGeometry()));
+  EXPECT_TRUE(schermo.contains(film.frameGeometry()));
 }
 
 TEST_F(Prova_Verifica, AHandDoesNothingInAFilm) {

@@ -71,6 +71,30 @@ TEST_P(Posti, AWindowThatSticksOutComesBackAndShrinksOnlyWhereItMust) {
   }
 }
 
+TEST_P(Posti, AFilmLeavesThePanelFree) {
+  const Misura_Finestra film{{790, 130}, {430, 110}};
+  for (const QRect& schermo : Liberi(GetParam())) {
+    for (const Misura_Finestra& quale : {impianto, alto}) {
+      const QRect panel = Posti_Esercizio(schermo, quale, stati, pannello, schermo).Pannello;
+      const QRect posto = Posto_Film(schermo, panel, film);
+      EXPECT_TRUE(schermo.contains(posto));
+      EXPECT_FALSE(posto.intersects(panel)) << schermo.width() << 'x' << schermo.height();
+      EXPECT_GE(posto.width(), film.Minima.width());
+      EXPECT_EQ(posto.height(), film.Voluta.height());
+    }
+  }
+}
+
+TEST_P(Posti, AFilmWithoutRoomHidesAsLittleAsItCan) {
+  const Misura_Finestra film{{790, 130}, {700, 110}};
+  for (const QRect& schermo : Liberi(GetParam())) {
+    EXPECT_EQ(Posto_Film(schermo, {}, film).bottomLeft(), schermo.bottomLeft());
+    EXPECT_TRUE(schermo.contains(Posto_Film(schermo, schermo, film)));
+    const QRect basso(schermo.left(), schermo.top() + 200, schermo.width(), schermo.height() - 200);
+    EXPECT_EQ(Posto_Film(schermo, basso, film).topRight(), schermo.topRight());
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Screens, Posti,
                          ::testing::Values(QSize(1366, 768), QSize(1280, 720), QSize(1536, 864),
                                            QSize(960, 600), QSize(1920, 1080)));
