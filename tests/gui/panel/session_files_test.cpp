@@ -15,9 +15,9 @@ namespace tavorno::prova {
 
 namespace {
 
-const std::vector<std::string> programma = {"LD I0.0",  "O Q0.0",        "AN I0.1", "= Q0.0",
-                                            "LD SM0.0", "INCW VW10",     "LD I0.2", "TON T37, 3",
-                                            "LD T37",   "MOVW AIW0, VW2"};
+const std::vector<std::string> salvato = {"LD I0.0",  "O Q0.0",        "AN I0.1", "= Q0.0",
+                                          "LD SM0.0", "INCW VW10",     "LD I0.2", "TON T37, 3",
+                                          "LD T37",   "MOVW AIW0, VW2"};
 
 FrmTempi* Diagramma() {
   for (QWidget* una : QApplication::topLevelWidgets()) {
@@ -56,7 +56,7 @@ struct Session_File : ::testing::Test {
   /// Plays one with a plant (-1: none) and saves it from the menu.
   void Salva_Una(unsigned seme, int impianto) {
     Finestre_A_Caso finestre(seme);
-    finestre.Carica(programma);
+    finestre.Carica(salvato);
     if (impianto >= 0) finestre.finestre.Apri_Impianto(impianto);
     finestre.Gioca(200);
     Scegli(finestre, "mnuSalvaSeduta");
@@ -115,7 +115,7 @@ TEST_P(Other_Session, IsShownByADiagramThatWasOpenBefore) {
 TEST_F(Session_File, OnlyTheLastPlantOfASessionComesIntoItsFile) {
   {
     Finestre_A_Caso finestre(11);
-    finestre.Carica(programma);
+    finestre.Carica(salvato);
     for (const int impianto : {0, 7, 9}) {
       finestre.finestre.Apri_Impianto(impianto);
       finestre.Senza_Caso = true;
@@ -141,7 +141,7 @@ TEST_F(Session_File, OnlyTheLastPlantOfASessionComesIntoItsFile) {
 TEST_F(Session_File, TheFileOfOneWhosePlantHasClosedOpensNone) {
   {
     Finestre_A_Caso finestre(13);
-    finestre.Carica(programma);
+    finestre.Carica(salvato);
     finestre.finestre.Apri_Impianto(7);
     finestre.finestre.Impianto()->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -151,11 +151,12 @@ TEST_F(Session_File, TheFileOfOneWhosePlantHasClosedOpensNone) {
   Scegli(finestre, "mnuApriSeduta");
   EXPECT_EQ(finestre.avvisi, std::vector<std::string>{});
   EXPECT_EQ(finestre.finestre.Impianto(), nullptr);
-  EXPECT_EQ(finestre.plc.NRighe + 1, static_cast<int>(programma.size()) + 1) << "with its MEND";
+  EXPECT_EQ(finestre.plc.NRighe + 1, static_cast<int>(salvato.size()) + 1) << "with its MEND";
 }
 
-// What ended the CPU then must not end the program that looks at it.
-TEST_F(Session_File, OneWithAFatalEndIsGoneThroughUpToIt) {
+// What ended the CPU then must not end the program that looks at it. What the windows themselves
+// note of such an end is not whole, as the program ends with it.
+TEST_F(Session_File, OneThatCannotBePlayedToItsEndIsShownFromItsBeginning) {
   {
     Finestre_A_Caso finestre(15);
     finestre.Carica({"LD SM0.0", "TON T37, 3", "LD T37", "S M0.7, 3"});
@@ -176,7 +177,8 @@ TEST_F(Session_File, OneWithAFatalEndIsGoneThroughUpToIt) {
   ASSERT_EQ(finestre.avvisi, std::vector<std::string>{});
   finestre.pannello.findChild<QAction*>("mnuSecondoAvanti")->trigger();
   ASSERT_EQ(finestre.avvisi.size(), 1U);
-  EXPECT_NE(finestre.avvisi[0].find("La seduta finisce prima"), std::string::npos);
+  EXPECT_EQ(finestre.avvisi[0].rfind("La seduta non si può rifare fin lì: ", 0), 0U)
+      << finestre.avvisi[0];
   EXPECT_TRUE(finestre.registratore.Nel_Passato());
   finestre.barra.Al_Presente();
   EXPECT_FALSE(finestre.registratore.Nel_Passato());
