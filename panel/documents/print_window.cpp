@@ -82,6 +82,7 @@ FrmStampe::FrmStampe(Progetto& progetto, Scelta_Stampante scegli_stampante, QWid
   }
 
   txtList_->setObjectName("txtList");
+  txtList_->setAccessibleName(QStringLiteral("Testo da stampare"));
   txtList_->hide();
 
   auto* tasti = new QVBoxLayout;

@@ -43,9 +43,11 @@ Scelta_Segnali::Scelta_Segnali(QWidget* sopra, const Esercizio* impianto, const 
   txtFiltro_ = Chiama(QStringLiteral("txtFiltro"), new QLineEdit);
   txtFiltro_->setPlaceholderText(
       QStringLiteral("Nome o indirizzo, per esempio KM1, Q0, T37, VW10"));
+  txtFiltro_->setAccessibleName(QStringLiteral("Cerca fra i segnali"));
   txtFiltro_->setToolTip(QStringLiteral("Mostra soltanto i segnali che contengono questo testo"));
   txtFiltro_->setClearButtonEnabled(true);
   lista_ = Chiama(QStringLiteral("lstSegnali"), new QListWidget);
+  lista_->setAccessibleName(QStringLiteral("Segnali"));
   lista_->setToolTip(QStringLiteral("La barra spaziatrice mette e toglie la spunta"));
   lista_->setUniformItemSizes(true);
   for (std::size_t n = 0; n < tutti_.size(); ++n) {

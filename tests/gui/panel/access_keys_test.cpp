@@ -11,10 +11,21 @@
 #include <set>
 #include <vector>
 
+#include "awl/recovery.h"
+#include "awl/ui/recovery_dialog.h"
+#include "awl/ui/uses_list.h"
+#include "grading/ui/film_window.h"
+#include "grading/ui/verification_window.h"
 #include "panel/child_windows.h"
+#include "panel/documents/about_window.h"
+#include "panel/documents/print_window.h"
 #include "panel/panel_bed.h"
 #include "plants/exercises.h"
 #include "plants/host/host_window.h"
+#include "recorder/recorder.h"
+#include "recorder/ui/signal_choice.h"
+#include "recorder/ui/stops_dialog.h"
+#include "support/answers.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -96,6 +107,13 @@ void Esamina_Nomi(const QWidget& finestra) {
   }
 }
 
+void Esamina_Tutto(const QWidget& finestra) {
+  SCOPED_TRACE(Utf8(finestra.objectName() + ' ' + finestra.windowTitle()));
+  Esamina_Finestra(finestra);
+  Esamina_Menu(finestra);
+  Esamina_Nomi(finestra);
+}
+
 struct Tutte_Le_Finestre : Banco_Pannello {
   Guida guida;
   Finestre finestre{pannello, plc, progetto, guida};
@@ -106,9 +124,7 @@ struct Tutte_Le_Finestre : Banco_Pannello {
     for (QWidget* finestra : QApplication::topLevelWidgets()) {
       if (!finestra->isVisible() || !finestra->objectName().startsWith("frm")) continue;
       SCOPED_TRACE(Utf8(finestra->objectName()));
-      Esamina_Finestra(*finestra);
-      Esamina_Menu(*finestra);
-      Esamina_Nomi(*finestra);
+      Esamina_Tutto(*finestra);
       const auto ruolo = QAccessible::queryAccessibleInterface(finestra)->role();
       EXPECT_TRUE(ruolo == QAccessible::Window || ruolo == QAccessible::Dialog) << ruolo;
       ++quante;
@@ -142,6 +158,33 @@ TEST_F(Tutte_Le_Finestre, OfTheExercisesToo) {
     finestre.Separa_Finestre();
     finestre.Impianto()->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+TEST_F(Tutte_Le_Finestre, AndThoseThatComeUpForAMoment) {
+  Risponditore risponditore;
+  QTemporaryDir cartella;
+  Eredita eredita(cartella.path().toStdString());
+  Registratore registratore(plc);
+  const std::function<std::unique_ptr<QWidget>()> aperte[] = {
+      [] { return std::make_unique<FrmAbaut>(); },
+      [&] { return std::make_unique<FrmStampe>(progetto); },
+      [&] { return std::make_unique<FrmRecupera>(eredita, risponditore.Come_Dialoghi(), nullptr); },
+      [] { return std::make_unique<Elenco_Usi>(Elenco_Usi::Legami{}, nullptr); },
+      [] { return std::make_unique<Dialogo_Fermate>(nullptr, Fermate{}, 0); },
+      [&] {
+        return std::make_unique<Scelta_Segnali>(nullptr, &Tabella_Esercizi()[0], plc,
+                                                std::vector<Segnale>{});
+      },
+      [] { return std::make_unique<FrmVerifica>(Tabella_Esercizi()[0], Legami_Verifica{}); },
+      [&] { return std::make_unique<FrmGuarda>(registratore, plc, Caso{}); },
+  };
+  for (const auto& apri : aperte) {
+    const std::unique_ptr<QWidget> finestra = apri();
+    finestra->show();
+    Esamina_Tutto(*finestra);
+    EXPECT_FALSE(finestra->windowTitle().isEmpty());
+    EXPECT_FALSE(Presi_Dal_Tab(*finestra).empty());
   }
 }
 
