@@ -18,9 +18,20 @@ void Quadro::Scegli_Letti() {
   }
 }
 
-/// "I0.2 a 1, Q0.0 a 0", and what is written on it.
+namespace {
+
+/// A contactor can be held against its output, by hand or by a fault: its drawing tells the truth.
+QString Posizione_Detta(const Figura& figura) {
+  if (figura.Picture() == "imgKMON") return QStringLiteral("eccitato");
+  return figura.Picture() == "imgKMOF" ? QStringLiteral("a riposo") : QString();
+}
+
+}  // namespace
+
+/// "eccitato, I0.2 a 1, Q0.0 a 0", and what is written on it.
 QString Quadro::Stato_Detto(const Figura& figura) const {
   QStringList stati;
+  if (const QString posizione = Posizione_Detta(figura); !posizione.isEmpty()) stati << posizione;
   for (const QString& morsetto : Morsetti_Di(figura)) {
     const bool uscita = morsetto.startsWith('Q');
     if (morsetto.startsWith('A') || morsetto.size() != 4) continue;

@@ -85,5 +85,19 @@ TEST_P(Detta_00, APartTellsTheStateOfItsOutput) {
   EXPECT_TRUE(detto("Q0.0 a 1"));
 }
 
+TEST_P(Detta_00, AContactorTellsWhereItStandsAndNotOnlyItsOutput) {
+  const auto stato = [this] {
+    const QPoint centro = banco.Disegno().mapToGlobal(
+        banco.Disegno().Posto(banco.Macchina().Disegno["imgKM"]).toAlignedRect().center());
+    for (int i = 0; i < quadro->childCount(); ++i)
+      if (quadro->child(i)->rect().center() == centro)
+        return Utf8(quadro->child(i)->text(QAccessible::Description));
+    return std::string("no piece");
+  };
+  EXPECT_EQ(stato(), "a riposo, Q0.0 a 0");
+  banco.Macchina().Disegno["imgKM"].Picture = "imgKMON";
+  EXPECT_EQ(stato(), "eccitato, Q0.0 a 0") << "the hand is on it";
+}
+
 }  // namespace
 }  // namespace tavorno
