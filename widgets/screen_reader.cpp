@@ -277,16 +277,17 @@ void Annuncia_Fuoco(QWidget& widget, int pezzo) {
   QAccessible::updateAccessibility(&evento);
 }
 
-Annunci_Parchi::Annunci_Parchi(QWidget& widget) {
+Annunci_Parchi::Annunci_Parchi(QWidget& widget)
+    : Annuncia([&widget](int pezzo) { Annuncia_Nome(widget, pezzo); }) {
   pausa_.setSingleShot(true);
   pausa_.setInterval(Pausa);
-  pausa_.callOnTimeout(&widget, [this, &widget] {
-    for (const int pezzo : std::exchange(cambiati_, {})) Annuncia_Nome(widget, pezzo);
+  pausa_.callOnTimeout(&widget, [this] {
+    for (const int pezzo : std::exchange(cambiati_, {})) Annuncia(pezzo);
   });
 }
 
 void Annunci_Parchi::Cambiato(int pezzo) {
-  if (!QAccessible::isActive()) return;
+  if (!Ascoltato()) return;
   cambiati_.insert(pezzo);
   if (!pausa_.isActive()) pausa_.start();
 }

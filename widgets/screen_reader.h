@@ -5,6 +5,7 @@
 #include <QRect>
 #include <QString>
 #include <QTimer>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
@@ -75,6 +76,9 @@ class Annunci_Parchi {
   explicit Annunci_Parchi(QWidget& widget);
 
   void Cambiato(int pezzo);
+
+  std::function<bool()> Ascoltato = QAccessible::isActive;  ///< a reader is there
+  std::function<void(int pezzo)> Annuncia;                  ///< at first `Annuncia_Nome`
 
   static constexpr int Pausa = 1000;  ///< ms between two rounds
 
