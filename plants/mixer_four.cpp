@@ -20,7 +20,7 @@ constexpr Riga_Figura figure[] = {
     {"imgSp",     3720,  900,  240,  240},
     {"imgLiquido", 3480, 2699, 1500, 1},
     {"shL",       3480, 2700, 1500,    0},
-    {"ShDos",     3810, 2280,  840,  240, "imgDos4"},
+    {"ShDos",     3810, 2340,  840,  240, "imgDos4"},
     {"imgVasca",  3420,  780, 1620, 2040},
     {"imgTG(0)",   360,  900,   60,  840, "imgTOF"},
     {"imgTG(1)",   900,  900,   60,  840, "imgTOF"},
