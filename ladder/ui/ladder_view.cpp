@@ -290,10 +290,7 @@ bool Vista_Scala::event(QEvent* evento) {
     auto* aiuto = static_cast<QHelpEvent*>(evento);
     const Punto_Colpito colpito = Colpito(viewport()->mapFrom(this, aiuto->pos()));
     const QString testo =
-        colpito.Simbolo < 0
-            ? QString()
-            : In_Parole(Rete(colpito.Rete), colpito.Simbolo,
-                        stati_[static_cast<std::size_t>(colpito.Rete)], legami_.Nome);
+        colpito.Simbolo < 0 ? QString() : In_Parole_Di(colpito.Rete, colpito.Simbolo);
     QToolTip::showText(aiuto->globalPos(), testo, this);
     return true;
   }

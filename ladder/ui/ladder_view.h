@@ -54,6 +54,8 @@ class Vista_Scala : public QAbstractScrollArea {
   QString Descrizione() const;
   /// The same of any symbol; -1: of its network.
   QString In_Parole_Di(int rete, int simbolo) const;
+  /// What the author wrote behind the line of a symbol, without its slashes.
+  QString Commento_Di(int rete, int simbolo) const;
   /// Its place in the view, pixels.
   QRect Posto(int rete, int simbolo) const;
 

@@ -60,10 +60,21 @@ QString In_Parole(const Rete_Foglio& rete, int simbolo, const Stato_Rete& stato,
   return parole;
 }
 
+QString Vista_Scala::Commento_Di(int rete, int simbolo) const {
+  const int riga = Rete(rete).Come.Riquadri[static_cast<std::size_t>(simbolo)].Passo.Riga;
+  if (riga < 0) return {};
+  const std::string& linea = foglio_.Righe()[static_cast<std::size_t>(riga)].Testo_Lista;
+  const std::size_t commento = linea.find("//");
+  return commento == std::string::npos ? QString() : Da_Byte(linea.substr(commento + 2)).trimmed();
+}
+
 QString Vista_Scala::In_Parole_Di(int rete, int simbolo) const {
   const Rete_Foglio& questa = Rete(rete);
-  if (simbolo >= 0)
-    return In_Parole(questa, simbolo, stati_[static_cast<std::size_t>(rete)], legami_.Nome);
+  if (simbolo >= 0) {
+    const QString commento = Commento_Di(rete, simbolo);
+    return In_Parole(questa, simbolo, stati_[static_cast<std::size_t>(rete)], legami_.Nome) +
+           (commento.isEmpty() ? QString() : QStringLiteral(" – ") + commento);
+  }
   QString parole = questa.Titolo.simplified();
   if (!questa.Commento.isEmpty()) parole += ' ' + questa.Commento;
   if (!questa.Disegnata()) return parole + ": " + questa.Lista.value(0);

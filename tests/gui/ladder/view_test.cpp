@@ -54,6 +54,21 @@ TEST_F(Scala, NamesOfThePlantStandAboveTheAddresses) {
   EXPECT_TRUE(c_e("SB9"));
 }
 
+TEST_F(Scala, ASymbolSaysWhatIsWrittenBehindItsLine) {
+  Apri("NETWORK 1 //Marcia\nLD I0.0  //pulsante\nAN I0.1\n= Q0.0 //motore\n");
+  EXPECT_TRUE(Vista().In_Parole_Di(0, 0).endsWith(" – pulsante"));
+  EXPECT_TRUE(Vista().Commento_Di(0, 1).isEmpty());
+  EXPECT_FALSE(Vista().In_Parole_Di(0, 1).contains(" – "));
+  EXPECT_TRUE(Vista().In_Parole_Di(0, 2).endsWith(" – motore"));
+  // The drawing stays and its rows move.
+  editor->Scrivi_Testo(0,
+                       A_Capo("NETWORK 1\nLD I0.7 //altro\n= Q0.7\n"
+                              "NETWORK 2 //Marcia\nLD I0.0  //premi\nAN I0.1\n= Q0.0 //motore\n"));
+  scala->Aggiorna();
+  EXPECT_EQ(Vista().Commento_Di(0, 0), "altro");
+  EXPECT_EQ(Vista().Commento_Di(1, 0), "premi");
+}
+
 // ---- live ---------------------------------------------------------------------------------------
 
 TEST_F(Scala, FlowAndNumbersAreThoseOfTheRunningCpu) {
