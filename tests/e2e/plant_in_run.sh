@@ -16,11 +16,10 @@ plant='00-Marcia/arresto'
 # Held until the parts look as they should, since a tap may be shorter than a scan.
 # Usage: press X Y TEST
 press() {
-  act_until "$plant" "move_to '$plant' $1 $2; xdotool mouseup 1 mousedown 1" "coil $3" \
-    "$3" "$plant" $coil "$work/coil.png"
-  wait_until "lamp $3" "$3" "$plant" $lamp "$work/lamp.png"
+  act_until "$plant" "move_to '$plant' $1 $2; xdotool mouseup 1 mousedown 1" "coil and lamp $3" both "$3"
   xdotool mouseup 1
 }
+both() { "$1" "$plant" $coil "$work/coil.png" && "$1" "$plant" $lamp "$work/lamp.png"; }
 
 open_screen 2200x1200  # smaller, and the picture gives way to the other windows
 start_program "$1"
@@ -29,13 +28,12 @@ start_run
 open_by "$panel" 'alt+s Return' "$plant"
 focus "$plant"
 wait_window 'Indicatori Stato'
+wait_until 'the plant to stand still' at_rest "$plant"
 for part in coil lamp button; do piece "$plant" "${!part}" "$work/$part.png"; done
 # shellcheck disable=SC2086
 press $start looks_unlike
 wait_until 'the button to rise' looks_like "$plant" "$button" "$work/button.png"
-for part in coil lamp; do
-  looks_unlike "$plant" "${!part}" "$work/$part.png" || fail "the $part does not hold"
-done
+both looks_unlike || fail 'the contactor does not hold'
 # shellcheck disable=SC2086
 press $stop looks_like
 close_by "$plant" alt+F4

@@ -197,6 +197,16 @@ looks_like() {
 }
 looks_unlike() { ! looks_like "$@"; }
 
+# Whether a window looks the same ten times in a row: what comes up on a busy machine is drawn bit by bit.
+at_rest() {
+  local look
+  import -window "$(visible "$1" | tail -1)" "$work/before.png"
+  for look in 1 2 3 4 5 6 7 8 9 10; do
+    import -window "$(visible "$1" | tail -1)" "$work/now.png"
+    [ "$(compare -metric AE "$work/before.png" "$work/now.png" null: 2>&1)" = 0 ] || return 1
+  done
+}
+
 # Usage: move_to WINDOW X Y
 move_to() { xdotool mousemove --window "$(visible "$1" | tail -1)" "$2" "$3"; }
 
