@@ -6,8 +6,10 @@
 #include "plants/exercises.h"
 #include "plants/host/host_window.h"
 #include "plants/host/picture_widget.h"
+#include "screens/measures.h"
 #include "screens/screens_bed.h"
 #include "widgets/naming.h"
+#include "widgets/text.h"
 #include "widgets/twips.h"
 
 namespace tavorno {
@@ -17,6 +19,7 @@ TEST_F(Schermi, ThePanelFitsWhenTheProgramStarts) {
   Intera(pannello);
   Si_Comanda();
   Si_Vede_La_CPU();
+  Come_Nel_Documento("Panel", pannello);
 }
 
 TEST_F(Schermi, EveryExerciseHasItsThreeWindowsSideBySide) {
@@ -50,6 +53,12 @@ TEST_F(Schermi, EveryExerciseHasItsThreeWindowsSideBySide) {
       EXPECT_GE(scala, 0.4);
     };
     tutto();
+    const QString nome = Q(esercizio.Voce);
+    Come_Nel_Documento(nome, *impianto);
+    if (esercizio.Indice == 0) {
+      Come_Nel_Documento(nome + ": status", *stati);
+      Come_Nel_Documento(nome + ": panel", pannello);
+    }
     const QSize chiusa = impianto->size();
     auto* chkIO = impianto->findChild<QCheckBox*>("chkIO");
     chkIO->click();
@@ -113,6 +122,18 @@ TEST_F(Schermi, EveryOtherWindowOpensWithinTheScreen) {
   Aspetta_Posa();
   EXPECT_EQ(Mostrate().size(), 9U);
   for (QWidget* finestra : Mostrate()) Intera(*finestra);
+  for (const auto& [riga, nome] : {std::pair{"Editor", "frmMain"},
+                                   {"Settings", "frmSetPLC"},
+                                   {"Analog inputs", "frmSimAI"},
+                                   {"Compiled lines", "frmDebug"},
+                                   {"Ladder", "frmScala"},
+                                   {"Timing diagram", "frmTempi"},
+                                   {"Watch window", "frmOsserva"},
+                                   {"Help", "frmBrowser"}}) {
+    const QWidget* finestra = Finestra(nome);
+    ASSERT_NE(finestra, nullptr) << nome;
+    Come_Nel_Documento(riga, *finestra);
+  }
 }
 
 TEST_F(Schermi, AWindowMovedByHandIsLeftAloneUntilTheOrderIsAskedFor) {

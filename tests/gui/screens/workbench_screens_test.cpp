@@ -8,6 +8,7 @@
 #include "plants/exercises.h"
 #include "plants/host/host_window.h"
 #include "plants/host/picture_widget.h"
+#include "screens/measures.h"
 #include "screens/screens_bed.h"
 #include "widgets/naming.h"
 
@@ -57,6 +58,7 @@ TEST_F(Tavolo_Sullo_Schermo, AnExerciseFitsInItsWindowWithAllThatItNeeds) {
     Tavolo& tavolo = Apri();
     Le_Viste(tavolo);
     EXPECT_EQ(Mostrate().size(), 1U) << "one window";
+    if (esercizio.Indice == 0) Come_Nel_Documento("Tavolo di lavoro", tavolo.Finestra());
     const double scala =
         std::min(impianto->Disegno().width() / double(impianto->Disegno().sizeHint().width()),
                  impianto->Disegno().height() / double(impianto->Disegno().sizeHint().height()));
