@@ -19,10 +19,11 @@ look() {
   clazy-standalone --checks=$checks "$1" -- $options >"$2" 2>&1 && ! grep -qE '(warning|error):' "$2"
 }
 check() {
-  local name=${1//\//_} file status=0
-  printf '#include "%s"\n' "$1"/*.cpp >"$found/$name.cpp"
+  local name=${1//\//_} file files status=0
+  mapfile -t files < <(grep -L '^#include <windows.h>' "$1"/*.cpp)  # which is another system's
+  printf '#include "%s"\n' "${files[@]}" >"$found/$name.cpp"
   ! look "$found/$name.cpp" "$found/$name.out" || return 0
-  for file in "$1"/*.cpp; do
+  for file in "${files[@]}"; do
     look "$file" "$found/$name.out" || { cat "$found/$name.out"; status=1; }
   done
   return $status

@@ -13,7 +13,8 @@ found() { find . -path './build*' -prune -o -name "$1" -printf '%P\n' | LC_ALL=C
 headers=$(found '*.h')
 sources=()
 for file in $(found '*.cpp' | grep -vE '^(tests|benchmarks)/'); do
-  [[ $file == *_windows.cpp && -e ${file%_windows.cpp}_posix.cpp ]] || sources+=("$file")
+  [[ $file == *_windows.cpp && -e ${file%_windows.cpp}_posix.cpp ]] ||
+    grep -q '^#include <windows.h>' "$file" || sources+=("$file")
 done
 # shellcheck disable=SC2086
 common=$(cat .clang-tidy "$0" $headers | sha256sum)
