@@ -257,7 +257,7 @@ void Barra_Seduta::Indietro(const std::function<bool()>& passo) {
 }
 
 /// A session from a file can end with its CPU, or be one that this program plays otherwise: then
-/// back to its beginning, which could be played.
+/// back to its beginning. Where not even that can be played, there is no past to look at.
 void Barra_Seduta::Con_Riguardo(const std::function<void()>& passo) {
   std::string perche;
   try {
@@ -268,7 +268,11 @@ void Barra_Seduta::Con_Riguardo(const std::function<void()>& passo) {
     perche = "La seduta finisce prima, con la CPU:\n" + Rapporto_Fatale(fatale, plc_);
   }
   progresso_.reset();
-  registratore_.Vai(registratore_.Primo());
+  try {
+    registratore_.Vai(registratore_.Primo());
+  } catch (const Giornale_Discorde&) {
+    registratore_.Riprendi_Da_Qui();
+  }
   Avvisa(Q(perche));
 }
 

@@ -185,6 +185,23 @@ TEST_F(Session_File, OneThatCannotBePlayedToItsEndIsShownFromItsBeginning) {
   EXPECT_EQ(finestre.avvisi.size(), 2U);
 }
 
+TEST_F(Session_File, OneThatCannotEvenBeginLeavesNoPast) {
+  Finestre_A_Caso finestre(17);
+  finestre.Carica({"LD I0.0", "= Q0.1"});
+  Seduta_Registrata rotta = finestre.registratore.Registrata();
+  const Posto_Giornale fine = rotta.Voci.Fine();
+  rotta.Voci = Giornale(fine.Righe, fine.Ms);
+  rotta.Voci.Scrivi(fine.Righe, {.Che = Cosa::Premi, .Testo = "imgStart"});  // of no plant
+  ASSERT_EQ(Salva_Registrazione(Utf8(file), rotta), "");
+
+  Scegli(finestre, "mnuApriSeduta");
+  ASSERT_EQ(finestre.avvisi.size(), 1U);
+  EXPECT_EQ(finestre.avvisi[0].rfind("La seduta non si può rifare: ", 0), 0U) << finestre.avvisi[0];
+  finestre.barra.Al_Presente();
+  EXPECT_EQ(finestre.avvisi.size(), 2U);
+  EXPECT_FALSE(finestre.registratore.Nel_Passato());
+}
+
 INSTANTIATE_TEST_SUITE_P(Plants, Other_Session, ::testing::Values(-1, 9), [](const auto& caso) {
   return caso.param < 0 ? std::string("None") : "Us" + std::to_string(caso.param);
 });
