@@ -21,6 +21,14 @@ void Posto_Finestra::Rimetti(QWidget& finestra) const {
   finestra.move(angolo_);
 }
 
+void Lascia_Il_Fuoco(const QWidget& parte) {
+  for (const QWidget* sopra = parte.parentWidget(); sopra; sopra = sopra->parentWidget()) {
+    QWidget* a_fuoco = sopra->focusWidget();
+    if (a_fuoco != nullptr && (a_fuoco == &parte || parte.isAncestorOf(a_fuoco)))
+      a_fuoco->clearFocus();
+  }
+}
+
 Prestito::Prestito(QWidget& vista, const QList<QKeySequence>& anche_qui)
     : vista_(&vista),
       era_finestra_(vista.isWindow()),
@@ -40,6 +48,7 @@ Prestito::Prestito(QWidget& vista, const QList<QKeySequence>& anche_qui)
 }
 
 void Prestito::Togli_Dal_Posto() {
+  Lascia_Il_Fuoco(*vista_);
   sopra_ = vista_->parentWidget();
   if (sopra_.isNull() || sopra_->layout() == nullptr) return;
   segnaposto_ = new QWidget(sopra_);
@@ -66,6 +75,7 @@ void Prestito::Rendi(bool mostra) {
     una.Chi->setEnabled(una.Attiva);
   }
   if (vista_.isNull()) return;
+  Lascia_Il_Fuoco(*vista_);
   vista_->setMinimumSize(minima_);
   vista_->setMaximumSize(massima_);
   if (era_finestra_) {

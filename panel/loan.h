@@ -9,6 +9,10 @@
 
 namespace tavorno {
 
+/// Takes the focus from what is about to leave its window: a window goes on pointing to the part
+/// that had its focus last, in another window or long deleted, and asks it when it is next told.
+void Lascia_Il_Fuoco(const QWidget& parte);
+
 /// A widget that is taken from where it is, a window of its own or a place in a layout, to be shown
 /// elsewhere for a while, and comes back as it was: place, size, state, keys.
 class Prestito {

@@ -153,6 +153,7 @@ void Tavolo::Prendi_Barre() {
   for (auto* barra : pannello_.findChildren<QToolBar*>(Qt::FindDirectChildrenOnly)) {
     const bool nascosta = barra->isHidden();
     const Qt::ToolBarArea area = pannello_.toolBarArea(barra);
+    Lascia_Il_Fuoco(*barra);
     pannello_.removeToolBar(barra);
     finestra_->addToolBar(area, barra);
     barra->setVisible(!nascosta);
@@ -166,6 +167,7 @@ void Tavolo::Rendi_Barre() {
     if (barra == nullptr) continue;
     const bool nascosta = barra->isHidden();
     const Qt::ToolBarArea area = finestra_->toolBarArea(barra);
+    Lascia_Il_Fuoco(*barra);
     finestra_->removeToolBar(barra);
     pannello_.addToolBar(area, barra);
     barra->setVisible(!nascosta);

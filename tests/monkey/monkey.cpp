@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QStyleFactory>
 #include <QTest>
@@ -28,6 +29,7 @@
 #include "panel/session_bar.h"
 #include "panel/session_wires.h"
 #include "recorder/recorder.h"
+#include "tests/gui/support/foreign_focus.h"
 #include "tests/support/temporary_folder.h"
 #include "widgets/message_box.h"
 #include "widgets/text.h"
@@ -77,6 +79,32 @@ constexpr Tasto tasti[] = {
 };
 constexpr const char* frammenti[] = {"LD I0.0", "= Q0.0", "TON T37,+5", "CALL SBR_0", "NETWORK 2",
                                      "//nota",  "JMP 1",  "LBL 1",      "MOVW 3,VW0", "x9,,/"};
+
+/// A part under the hand. It may go with the press of a button or a key, and then there is nothing
+/// to let go of.
+class Parte_Viva {
+ public:
+  explicit Parte_Viva(QWidget* parte) : parte_(parte) {}
+
+  void Clicca(Qt::MouseButton tasto, QPoint dove, bool doppio = false) const {
+    if (parte_ && doppio) QTest::mouseDClick(parte_, tasto, {}, dove);
+    if (parte_ && !doppio) QTest::mousePress(parte_, tasto, {}, dove);
+    if (parte_) QTest::mouseRelease(parte_, tasto, {}, dove);
+  }
+  void Batti(Qt::Key tasto, Qt::KeyboardModifiers con) const {
+    if (parte_) QTest::keyPress(parte_, tasto, con);
+    if (parte_) QTest::keyRelease(parte_, tasto, con);
+  }
+  void Scrivi(const char* testo) const {
+    for (; *testo != '\0' && parte_; ++testo) {
+      QTest::keyPress(parte_, *testo);
+      if (parte_) QTest::keyRelease(parte_, *testo);
+    }
+  }
+
+ private:
+  QPointer<QWidget> parte_;
+};
 
 class Scimmia : public QObject {
  public:
@@ -129,6 +157,8 @@ class Scimmia : public QObject {
         Prossimo();
         Fa();
         ++fatti_;
+        for (const std::string& nome : Con_Un_Fuoco_D_Altri())
+          qFatal("a focus that has left it: %s", nome.c_str());
       } else {
         Finisci();
       }
@@ -182,9 +212,11 @@ class Scimmia : public QObject {
     const QPoint dove(static_cast<int>(Uno_Di(parte->width())),
                       static_cast<int>(Uno_Di(parte->height())));
     const Qt::MouseButton tasto = Uno_Di(8) == 0 ? Qt::RightButton : Qt::LeftButton;
+    const Parte_Viva viva(parte);
     switch (Uno_Di(16)) {
       case 0:
-        QTest::mouseDClick(parte, Qt::LeftButton, {}, dove);
+        viva.Clicca(Qt::LeftButton, dove);
+        viva.Clicca(Qt::LeftButton, dove, true);
         break;
       case 1:
         QTest::mousePress(parte, tasto, {}, dove);
@@ -203,14 +235,14 @@ class Scimmia : public QObject {
         Comanda(*finestra);
         break;
       case 6:
-        QTest::keyClicks(parte, QString::fromLatin1(Preso(frammenti)));
+        viva.Scrivi(Preso(frammenti));
         break;
       case 7:
       case 8:
       case 9: {
         const Tasto& scelto = Preso(tasti);
         finestra->activateWindow();
-        QTest::keyClick(parte, scelto.Quale, scelto.Con);
+        viva.Batti(scelto.Quale, scelto.Con);
         break;
       }
       case 10:
@@ -221,7 +253,7 @@ class Scimmia : public QObject {
                                                     static_cast<int>(Uno_Di(41)) - 20));
         break;
       default:
-        QTest::mouseClick(parte, tasto, {}, dove);
+        viva.Clicca(tasto, dove);
     }
   }
   /// A command of the window's menus and bars, "Termina" too.

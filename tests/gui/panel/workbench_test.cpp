@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDockWidget>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QStatusBar>
 #include <set>
@@ -14,6 +15,7 @@
 #include "plants/exercises.h"
 #include "plants/host/host_window.h"
 #include "plants/host/picture_widget.h"
+#include "support/foreign_focus.h"
 
 namespace tavorno {
 namespace {
@@ -265,6 +267,24 @@ TEST_F(Al_Tavolo, TheKeysAreThoseOfTheViewThatHasTheFocus) {
   finestre.Impianto()->close();
 }
 
+TEST_F(Al_Tavolo, NoWindowGoesOnPointingToAFocusThatHasLeftIt) {
+  for (const bool con_impianto : {false, true}) {
+    if (con_impianto) Comando("mnuPrj(0)");
+    for (const char* vista : {"mnuViewTempi", "mnuViewOsserva", "mnuViewStati"}) {
+      SCOPED_TRACE(vista);
+      Comando("mnuViewTavolo");
+      Comando(vista);  // the view itself has the focus
+      EXPECT_EQ(Con_Un_Fuoco_D_Altri(), std::vector<std::string>{});
+      Comando("mnuViewFinestre");
+      EXPECT_EQ(Con_Un_Fuoco_D_Altri(), std::vector<std::string>{});
+    }
+  }
+  A_Fuoco(*c.listSrc);
+  Comando("mnuViewTavolo");
+  EXPECT_EQ(Con_Un_Fuoco_D_Altri(), std::vector<std::string>{});
+  finestre.Impianto()->close();
+}
+
 TEST_F(Al_Tavolo, GoingToAndFroClearsNoCounter) {
   Carica("LD SM0.0\r\n= Q0.0\r\n");
   Comando("mnuPrj(0)");
@@ -287,6 +307,19 @@ TEST_F(Al_Tavolo, TheEditorLeadsBackToIt) {
   EXPECT_FALSE(pannello.isVisible());
   EXPECT_TRUE(QTest::qWaitFor([] { return Finestra("frmTavolo")->isActiveWindow(); }, 20000));
   finestre.Impianto()->close();
+}
+
+TEST(Loan, TakesTheFocusFromWhatLeavesAndFromNothingElse) {
+  QWidget finestra;
+  QWidget vista(&finestra), altra(&finestra);
+  QLineEdit dentro(&vista), fuori(&altra);
+  for (QWidget* a_fuoco : std::initializer_list<QWidget*>{&dentro, &vista, &fuori}) {
+    a_fuoco->setFocus();
+    ASSERT_EQ(finestra.focusWidget(), a_fuoco);
+    Lascia_Il_Fuoco(vista);
+    EXPECT_EQ(finestra.focusWidget(), a_fuoco == &fuori ? &fuori : nullptr);
+    EXPECT_EQ(vista.focusWidget(), nullptr);
+  }
 }
 
 TEST(Workbench, EndsWithTheProgram) {
