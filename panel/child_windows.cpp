@@ -430,18 +430,17 @@ void Finestre::Mostra_Scala() {
 }
 
 void Finestre::Mostra_Stampe() {
-  FrmStampe stampe(progetto_, Scegli_Stampante, QApplication::activeWindow());
-  Mostra_Modale(stampe);
+  Mostra_Modale(new FrmStampe(progetto_, Scegli_Stampante, QApplication::activeWindow()));
 }
 
 void Finestre::Mostra_Info() {
-  FrmAbaut info(QApplication::activeWindow());
-  Mostra_Modale(info);
+  Mostra_Modale(new FrmAbaut(QApplication::activeWindow()));
 }
 
-void Finestre::Mostra_Modale(QDialog& dialogo) {
-  modale_ = &dialogo;
-  dialogo.exec();
+void Finestre::Mostra_Modale(QDialog* dialogo) {
+  modale_ = dialogo;
+  dialogo->exec();
+  delete modale_;  // null when it went with the window under it
 }
 
 void Finestre::Mostra_Aiuto(const QString& indirizzo) {

@@ -120,7 +120,7 @@ class Finestre {
   void Lascia_Tavolo(bool impianto_chiude);
   bool Guida_Al_Tavolo();
   void Cambia_Simboli(const Esercizio* impianto);
-  void Mostra_Modale(QDialog& dialogo);
+  void Mostra_Modale(QDialog* dialogo);
   std::vector<QWidget*> Tutte() const;
   void Fuoco_A(const QWindow* finestra);
 

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 #include "widgets/text.h"
@@ -38,26 +39,30 @@ QWidget* Finestra_Sotto(QWidget* sopra) {
 }
 
 Risposta Mostra_Avviso(QWidget* sopra, const Avviso& avviso) {
-  QMessageBox box(Finestra_Sotto(sopra));
-  box.setObjectName(QStringLiteral("Avviso"));
-  box.setWindowTitle(Q(avviso.Titolo));
-  box.setTextFormat(Qt::PlainText);
-  box.setText(Q(avviso.Testo));
-  box.setIcon(Icona_Qt(avviso.Simbolo));
-  if (!avviso.Dettagli.empty()) box.setDetailedText(Q(avviso.Dettagli));
+  // The window under it may go first, and takes it along.
+  const QPointer<QMessageBox> box = new QMessageBox(Finestra_Sotto(sopra));
+  box->setObjectName(QStringLiteral("Avviso"));
+  box->setWindowTitle(Q(avviso.Titolo));
+  box->setTextFormat(Qt::PlainText);
+  box->setText(Q(avviso.Testo));
+  box->setIcon(Icona_Qt(avviso.Simbolo));
+  if (!avviso.Dettagli.empty()) box->setDetailedText(Q(avviso.Dettagli));
   switch (avviso.Scelte) {
     case Tasti::Ok:
-      box.setStandardButtons(QMessageBox::Ok);
+      box->setStandardButtons(QMessageBox::Ok);
       break;
     case Tasti::Ok_Annulla:
-      box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+      box->setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
       break;
     case Tasti::Si_No:
-      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-      box.setEscapeButton(QMessageBox::Yes);  // saving loses nothing, and can still be cancelled
+      box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+      box->setEscapeButton(QMessageBox::Yes);  // saving loses nothing, and can still be cancelled
       break;
   }
-  switch (box.exec()) {
+  const int scelta = box->exec();
+  if (box.isNull()) return Risposta::Annulla;
+  delete box;
+  switch (scelta) {
     case QMessageBox::Yes:
       return Risposta::Si;
     case QMessageBox::No:

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How the panel leads to other windows, and what it does when the user comes back.
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -7,6 +8,7 @@
 #include <QToolBar>
 
 #include "panel/panel_bed.h"
+#include "support/modal.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -48,6 +50,18 @@ TEST_F(Finestre_Pannello, EveryCommandOpensItsWindow) {
     Azione(pannello, comando).trigger();
     EXPECT_EQ(aperte, std::vector<std::string>{finestra}) << comando;
   }
+}
+
+TEST_F(Banco_Finestre, TheAboutBoxGoesWithTheWindowUnderIt) {
+  finestre.Mostra_Impostazioni();
+  QWidget* sotto = Finestra("frmSetPLC");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return sotto->isActiveWindow(); }, 20000));
+  All_Apertura<QDialog>([&](QDialog& info) {
+    EXPECT_EQ(info.parentWidget(), sotto);
+    delete sotto;
+  });
+  Azione(pannello, "mnuInfAb").trigger();
+  EXPECT_EQ(Finestra("frmAbaut"), nullptr);
 }
 
 TEST_F(Finestre_Pannello, TheScanTimeIsToldInMicroseconds) {

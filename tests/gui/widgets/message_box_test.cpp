@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QDialog>
+#include <QPointer>
 #include <QTest>
 
 #include "support/modal.h"
@@ -89,6 +91,14 @@ TEST(BoxPlace, IsOverItsWindowAndInFrontOfWhatIsModal) {
   modale.setModal(true);
   modale.show();
   EXPECT_EQ(sotto_a(&sua), &modale);
+}
+
+TEST(BoxPlace, GoesWithItsWindowAndThatIsNoConsent) {
+  QPointer<QDialog> sotto = new QDialog;
+  All_Apertura<QMessageBox>([&](QMessageBox&) { delete sotto; });
+  EXPECT_EQ(Mostra_Avviso(sotto, {"", "", Icona::Domanda, Tasti::Ok_Annulla, ""}),
+            Risposta::Annulla);
+  EXPECT_TRUE(sotto.isNull());
 }
 
 }  // namespace
