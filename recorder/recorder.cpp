@@ -59,12 +59,8 @@ void Registratore::Programma_Nuovo() {
     Torna_Al_Presente();
     Metti_Programma(plc_, nuovo);
   }
-  if (Nel_Passato()) {  // there is no way back to what the program made of it
-    replica_.reset();
-    plc_.Hook.Adesso = Vissuto::Presente;
-    programma_ = std::make_shared<const Stesura>(Copia_Programma(plc_));
-    return Ricomincia();
-  }
+  // There is no way back to what the program made of it; an open plant goes on from here too.
+  if (Nel_Passato()) Riprendi_Da_Qui();
   programma_ = std::make_shared<const Stesura>(Copia_Programma(plc_));
   giornale_.Scrivi(plc_.Righe_Fatte, {.Che = Cosa::Programma}, programma_);
   primo_ = Adesso();
@@ -165,17 +161,21 @@ void Registratore::Prendi(const Seduta_Registrata& registrazione) {
   Lettore_Giornale lettore(registrazione.Voci, registrazione.Voci.Inizio);
   std::int64_t ms = registrazione.Stato.Adesso;
   Momento primo{registrazione.Stato.Corsa.Righe_Fatte, ms};
+  std::shared_ptr<const Stesura> ultimo = registrazione.Programma;
   while (const auto voce = lettore.Prossima()) {
     ms = std::max(ms, lettore.Dove().Ms);
-    if (voce->Entra.Che == Cosa::Programma) primo = {voce->Righe, lettore.Dove().Ms};
+    if (voce->Entra.Che != Cosa::Programma) continue;
+    primo = {voce->Righe, lettore.Dove().Ms};
+    ultimo = registrazione.Voci.Programma(voce->Entra.Numero);
   }
   if (!lettore.Guasto().empty()) throw Giornale_Discorde(lettore.Guasto());
+  if (!ultimo) throw Giornale_Discorde("il giornale nomina un programma che non c'è");
   replica_.reset();
   Titolo = registrazione.Titolo;
-  programma_ = registrazione.Programma;
+  programma_ = ultimo;
   giornale_ = registrazione.Voci;
   const auto& barre = registrazione.Stato.SI;
-  tappe_ = {{programma_, registrazione.Stato, giornale_.Inizio, -1,
+  tappe_ = {{registrazione.Programma, registrazione.Stato, giornale_.Inizio, -1,
              Leve{barre[0].Testo, barre[1].Testo}}};
   const int impianto = Impianto_Di(registrazione);
   apertura_ = impianto >= 0 ? 0 : -1;

@@ -48,7 +48,7 @@ class Registratore {
   Registratore(const Registratore&) = delete;
   Registratore& operator=(const Registratore&) = delete;
 
-  /// A new program stands in the CPU's table.
+  /// A new program stands in the CPU's table. In the past, that moment becomes the present.
   void Programma_Nuovo();
   /// Begins anew with the state as it stands; no plant is open. Not in the past.
   void Ricomincia();

@@ -43,6 +43,17 @@ class Finestre_A_Caso : public Banco_Seduta {
     barra.Al_Presente();
   }
 
+  /// Runs so many scans without chance, from the beginning or on from a pause, to a pause.
+  void Corri(int scansioni, Comando_Corsa come = Comando_Corsa::Run) {
+    Senza_Caso = true;
+    const Iscrizione cessione = plc.Hook.Ascolta_Cedi([this, &scansioni] {
+      if (plc.Hook.Adesso == Vissuto::Presente && plc.PC == 0 && --scansioni < 0)
+        plc.Entra(Comando_Corsa::Pausa);
+    });
+    plc.Entra(come);
+    ASSERT_TRUE(plc.In_Pausa());
+  }
+
   unsigned Numero(unsigned massimo) { return static_cast<unsigned>(caso_() % (massimo + 1)); }
 
   bool Senza_Caso = false;                         ///< a run whose hands are somebody else's

@@ -185,6 +185,30 @@ TEST_F(Session_File, OneThatCannotBePlayedToItsEndIsShownFromItsBeginning) {
   EXPECT_EQ(finestre.avvisi.size(), 2U);
 }
 
+TEST_F(Session_File, WhoGoesOnFromItHasTheProgramThatCameLast) {
+  Stesura ultimo;
+  {
+    Finestre_A_Caso finestre(18);
+    finestre.Carica({"LD I0.0", "= Q0.1"});
+    finestre.finestre.Apri_Impianto(9);
+    finestre.Carica(salvato);
+    ultimo = Copia_Programma(finestre.plc);
+    finestre.Corri(5);
+    Scegli(finestre, "mnuSalvaSeduta");
+    ASSERT_EQ(finestre.avvisi, std::vector<std::string>{});
+  }
+  Finestre_A_Caso finestre(19);
+  Scegli(finestre, "mnuApriSeduta");
+  ASSERT_TRUE(finestre.registratore.Vai({}));
+  finestre.registratore.Riprendi_Da_Qui();
+  finestre.registratore.Ms_Tra_Tappe = 0;  // the next entry notes a place to start from
+  finestre.Corri(5, Comando_Corsa::Continua);
+  Azione(finestre.pannello, "mnuRigaIndietro").trigger();
+  ASSERT_TRUE(finestre.registratore.Nel_Passato());
+  EXPECT_EQ(finestre.avvisi, std::vector<std::string>{});
+  EXPECT_EQ(Copia_Programma(finestre.plc), ultimo);
+}
+
 TEST_F(Session_File, OneThatCannotEvenBeginLeavesNoPast) {
   Finestre_A_Caso finestre(17);
   finestre.Carica({"LD I0.0", "= Q0.1"});

@@ -368,6 +368,30 @@ TEST(SessionInTheWindows, GoesBackAndForthAndOnFromThere) {
   }
 }
 
+TEST(SessionInTheWindows, AProgramThatComesInThePastGoesOnFromThereWithThePlant) {
+  Finestre_A_Caso finestre(7);
+  finestre.Carica(programma);
+  finestre.finestre.Apri_Impianto(9);
+  finestre.registratore.Ms_Tra_Tappe = 3'600'000;  // what is gone back to is played from here on
+  finestre.Corri(5);
+  Azione(finestre.pannello, "mnuRigaIndietro").trigger();
+  ASSERT_TRUE(finestre.registratore.Nel_Passato());
+  const std::int64_t qui = finestre.plc.Righe_Fatte;
+  finestre.seduta.progetto.Compila();
+  EXPECT_FALSE(finestre.registratore.Nel_Passato());
+  EXPECT_EQ(finestre.plc.Righe_Fatte, qui);
+  const auto guasti = Guasti_Di(finestre.Fili()->Tabella(), finestre.Fili()->Ingressi_A_Riposo());
+  ASSERT_TRUE(Metti(guasti.back(), true, *finestre.Fili()));
+  finestre.Corri(5, Comando_Corsa::Continua);
+  ASSERT_GT(finestre.plc.Righe_Fatte, qui);
+  const Stato_Intero presente = Elenca_Stato(finestre.plc, finestre.Fili());
+  Azione(finestre.pannello, "mnuRigaIndietro").trigger();
+  EXPECT_TRUE(finestre.registratore.Nel_Passato());
+  EXPECT_TRUE(finestre.avvisi.empty()) << finestre.avvisi[0];
+  Azione(finestre.pannello, "mnuPresente").trigger();
+  EXPECT_EQ(Prima_Differenza(Elenca_Stato(finestre.plc, finestre.Fili()), presente), "");
+}
+
 TEST(SessionInTheWindows, AllOfTheBarIsSeenAtEveryWidthOfThePanel) {
   Finestre_A_Caso finestre(1);
   finestre.Carica(programma);
