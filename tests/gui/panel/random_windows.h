@@ -38,6 +38,7 @@ class Finestre_A_Caso : public Banco_Seduta {
       Tempo();
       Mossa();
       QCoreApplication::processEvents();
+      if (Nuovi_Programmi && Numero(15) == 0) seduta.progetto.Compila();
       Dopo_Una_Mossa();
     }
     barra.Al_Presente();
@@ -56,6 +57,7 @@ class Finestre_A_Caso : public Banco_Seduta {
 
   unsigned Numero(unsigned massimo) { return static_cast<unsigned>(caso_() % (massimo + 1)); }
 
+  bool Nuovi_Programmi = false;                    ///< now and then one comes, in the past too
   bool Senza_Caso = false;                         ///< a run whose hands are somebody else's
   std::function<void()> Dopo_Una_Mossa = [] {};    // while the CPU stands
   int forzate = 0, guasti_messi = 0, passati = 0;  // so often it was done

@@ -48,11 +48,14 @@ std::vector<int> Semi() {
 
 }  // namespace
 
-TEST(SessionInTheWindows, IsTheSameWhenItIsPlayedAgain) {
+class Random_Session : public ::testing::TestWithParam<bool> {};
+
+TEST_P(Random_Session, IsTheSameWhenItIsPlayedAgain) {
   int forzate = 0, guasti = 0, passati = 0;
   for (const int seme : Semi()) {
     SCOPED_TRACE("seed " + std::to_string(seme));
     Finestre_A_Caso finestre(static_cast<unsigned>(seme));
+    finestre.Nuovi_Programmi = GetParam();
     finestre.Carica(programma);
     if (::testing::Test::HasFatalFailure()) return;
     finestre.finestre.Apri_Impianto(seme % 18);  // chance opens others later
@@ -84,6 +87,9 @@ TEST(SessionInTheWindows, IsTheSameWhenItIsPlayedAgain) {
   EXPECT_GT(guasti, 0);
   EXPECT_GT(passati, 0);
 }
+
+INSTANTIATE_TEST_SUITE_P(Programs, Random_Session, ::testing::Bool(),
+                         [](const auto& caso) { return caso.param ? "Several" : "One"; });
 
 TEST(SessionInTheWindows, TheSwitchesStandWhereTheyStoodAtAPastMoment) {
   Finestre_A_Caso finestre(3);
