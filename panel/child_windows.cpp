@@ -160,6 +160,7 @@ Finestre::~Finestre() {
   for (const QWidget* finestra : Tutte()) {
     if (finestra != &pannello_) delete finestra;
   }
+  delete chiuso_;
 }
 
 /// Those that are there. No message box and no file dialog is among them.
@@ -375,6 +376,8 @@ void Finestre::Apri_Impianto(int indice) {
   finestra.Sta_Per_Chiudere = [this] { Al_Presente(); };
   finestra.Chiusa = [this] {
     Lascia_Tavolo(true);
+    chiuso_ = impianto_;
+    impianto_ = nullptr;  // it goes by itself, and is nobody's plant until then
     pannello_.Segna_Impianto(-1);
     Cambia_Simboli(nullptr);
     if (stati_) stati_->close();

@@ -131,7 +131,7 @@ class Finestre {
   Stato_Impianto impianto_aperto_;
   Ordine_Finestre ordine_;
   Menu_File menu_file_;
-  QPointer<Finestra_Impianto> impianto_;
+  QPointer<Finestra_Impianto> impianto_, chiuso_;  // the latter is on its way out
   QPointer<FrmMain> editor_;
   QPointer<FrmSetPLC> impostazioni_;
   QPointer<FrmSimAI> analogici_;

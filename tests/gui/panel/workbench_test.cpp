@@ -172,6 +172,22 @@ TEST_F(Al_Tavolo, APlantThatClosesBringsTheViewsBack) {
   }
 }
 
+TEST_F(Al_Tavolo, APlantThatHasJustClosedIsNotTakenAnyMore) {
+  Comando("mnuPrj(0)");
+  const QPointer<Finestra_Impianto> prima = finestre.Impianto();
+  prima->close();  // and goes when the next event is due
+  ASSERT_FALSE(prima.isNull());
+  EXPECT_EQ(finestre.Impianto(), nullptr);
+  Azione(pannello, "mnuViewTavolo").trigger();
+  EXPECT_EQ(&finestre.Al_Tavolo()->Finestra(), &pannello);
+  Azione(pannello, "mnuPrj(4)").trigger();
+  Aspetta_Posa();
+  EXPECT_TRUE(prima.isNull());
+  ASSERT_NE(finestre.Impianto(), nullptr);
+  EXPECT_EQ(finestre.Al_Tavolo()->Finestra().centralWidget(), finestre.Impianto());
+  finestre.Impianto()->close();
+}
+
 TEST_F(Al_Tavolo, WithoutAPlantThePanelTakesTheViews) {
   Aspetta_Posa();
   const Com_Era prima = Adesso(&pannello);
