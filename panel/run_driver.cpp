@@ -38,6 +38,7 @@ Guida_Corsa::Guida_Corsa(Plc& plc, std::function<void()> aggiorna) : plc_(plc) {
 void Guida_Corsa::Ferma() {
   clock_a_riposo_.stop();
   schermo_.stop();
+  ferma_ = Vero();
 }
 
 // ---- time ---------------------------------------------------------------------------------------

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <chrono>
 #include <functional>
+#include <optional>
 
 #include "panel/scan_clock.h"
 #include "plc/rest.h"
@@ -29,7 +30,8 @@ class Guida_Corsa {
   /// fast a program can run.
   bool Attesa = true;
 
-  /// No more ticks and refreshes: the process is about to end with a report.
+  /// No more ticks and refreshes, and real time stands still: the process is about to end with a
+  /// report, or somebody else moves the clock.
   void Ferma();
 
   /// How long the scans of the run took, or of the last one.
@@ -70,7 +72,7 @@ class Guida_Corsa {
   int Guarda(Istante& vero);
   Istante Inizia_Scansione(Istante adesso);
   Istante Riposa(Istante adesso);
-  Istante Vero() const { return Istante{cronometro_.nsecsElapsed()}; }
+  Istante Vero() const { return ferma_.value_or(Istante{cronometro_.nsecsElapsed()}); }
   Istante Adesso() const { return Adesso(Vero()); }
   Istante Adesso(Istante vero) const;
   void Porta_Al_Presente(Istante adesso);
@@ -86,6 +88,7 @@ class Guida_Corsa {
   Cronometro_Scansioni durate_;
   Iscrizione cessione_;
   QElapsedTimer cronometro_;
+  std::optional<Istante> ferma_;  // where real time stands still
   QTimer clock_a_riposo_, schermo_;
   Istante scansione_{0};  // of the CPU's time
   Istante eventi_{0};     // of the real time
