@@ -248,7 +248,8 @@ struct Leggibilita : ::testing::TestWithParam<int> {
   void Guarda_Intorno(const Scritta& una, const QRect& pixel, const QImage& fondo,
                       const std::string& stato) {
     if (una.Gruppo != u"fondo") return;
-    const QRect intorno = pixel.adjusted(-3, -1, 3, 1).intersected(fondo.rect());
+    const int largo = una.Testo.size() > 1 ? 5 : 3;  // the number of a port stands at its port
+    const QRect intorno = pixel.adjusted(-largo, -1, largo, 1).intersected(fondo.rect());
     const QColor suo = fondo.pixelColor(pixel.center());
     for (int y = intorno.top(); y <= intorno.bottom(); ++y) {
       for (int x = intorno.left(); x <= intorno.right(); ++x) {
@@ -301,6 +302,24 @@ TEST_P(Leggibilita, NoTextIsSmallOrOfAnotherFace) {
   for (const Scritta& scritta : raccolta.Scritte) {
     EXPECT_GE(std::round(scritta.Alta * 10) / 10, minimo) << scritta;
     EXPECT_EQ(scritta.Carattere, Carattere_Disegni) << scritta;
+  }
+}
+
+TEST_P(Leggibilita, RaysOfTwoLampsNeverMeet) {
+  constexpr double raggio = 243;  // twips: from the middle of the drawn lamp to the tips
+  static const QRegularExpression lampada(
+      QStringLiteral("sym-lamp-[a-z]+\" transform=\"translate\\(([\\d.]+),([\\d.]+)\\)(?: "
+                     "scale\\(([\\d.]+)\\))?"));
+  std::vector<std::pair<QPointF, double>> lampade;
+  for (auto trovate = lampada.globalMatch(Leggi(file)); trovate.hasNext();) {
+    const auto una = trovate.next();
+    const double scala = una.captured(3).isEmpty() ? 1 : una.captured(3).toDouble();
+    const QPointF mezzo(una.captured(1).toDouble(), una.captured(2).toDouble());
+    for (const auto& [altra, suo] : lampade) {
+      const double lontane = std::hypot(mezzo.x() - altra.x(), mezzo.y() - altra.y());
+      if (lontane > 0) EXPECT_GE(lontane, raggio * scala + suo) << mezzo.x() << "," << mezzo.y();
+    }
+    lampade.emplace_back(mezzo, raggio * scala);
   }
 }
 
