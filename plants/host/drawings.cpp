@@ -107,6 +107,7 @@ void Disegni::Leggi_Pezzi(const QString& testo) {
   });
   Per_Ogni_Elemento(testo, 2, [this](const QString& id, const QString& elemento) {
     Pezzo& pezzo = pezzi_[id];
+    pezzo.Id = id;
     pezzo.Testo = elemento;
     pezzo.Con = Attributo(elemento, "data-con").split(' ', Qt::SkipEmptyParts);
     pezzo.Entro = Come_Rettangolo(Attributo(elemento, "data-entro"));
@@ -140,16 +141,19 @@ void Disegni::Prepara(Pezzo& pezzo) {
   pezzo.Si_Muove = tutto.contains(moto);
 }
 
-QRectF Disegni::Limiti(const QString& id) const {
+const Disegni::Pezzo* Disegni::Trova(const QString& id) const {
   const auto pezzo = pezzi_.find(id);
-  if (pezzo == pezzi_.end()) return {};
-  if (pezzo->second.Limiti.isNull()) pezzo->second.Limiti = base_->boundsOnElement(id);
-  return pezzo->second.Limiti;
+  return pezzo == pezzi_.end() ? nullptr : &pezzo->second;
 }
 
-bool Disegni::Si_Muove(const QString& id) const {
-  const auto pezzo = pezzi_.find(id);
-  return pezzo != pezzi_.end() && pezzo->second.Si_Muove;
+QRectF Disegni::Limiti(const Pezzo& pezzo) const {
+  if (pezzo.Limiti.isNull()) pezzo.Limiti = base_->boundsOnElement(pezzo.Id);
+  return pezzo.Limiti;
+}
+
+QRectF Disegni::Limiti(const QString& id) const {
+  const Pezzo* pezzo = Trova(id);
+  return pezzo == nullptr ? QRectF() : Limiti(*pezzo);
 }
 
 QStringList Disegni::Con_Chi(const QString& id) const {
@@ -222,8 +226,7 @@ QString Disegni::Definizioni(const QStringList& ids) const {
   return definizioni;
 }
 
-std::unique_ptr<QSvgRenderer> Disegni::Crea(const QString& id, Colore colore, int fase) const {
-  const Pezzo& pezzo = pezzi_.at(id);
+std::unique_ptr<QSvgRenderer> Disegni::Crea(const Pezzo& pezzo, Colore colore, int fase) const {
   const QString testo =
       QStringLiteral(
           "<svg xmlns=\"http://www.w3.org/2000/svg\" "
@@ -235,41 +238,38 @@ std::unique_ptr<QSvgRenderer> Disegni::Crea(const QString& id, Colore colore, in
   return std::make_unique<QSvgRenderer>(testo.toUtf8());
 }
 
-Disegni::Tenuto Disegni::Tieni(const QString& id, Colore colore, int fase, double schermo) {
-  const Pezzo& pezzo = pezzi_.at(id);
-  const QString chiave = id + '|' + QString::number(pezzo.Colorato ? colore : 0) + '|' +
-                         QString::number(pezzo.Si_Muove ? fase : 0) +
-                         (pezzo.Colorato ? Tinta(colore).name() : QString());
+const Disegni::Tenuto& Disegni::Tieni(const Pezzo& pezzo, Colore colore, int fase, double schermo) {
+  const Chiave chiave{&pezzo, pezzo.Colorato ? Tinta(colore).rgb() : 0, pezzo.Colorato ? colore : 0,
+                      pezzo.Si_Muove ? fase : 0};
   if (const Tenuto* tenuto = tenuti_.object(chiave)) return *tenuto;
-  const auto disegno = Crea(id, colore, pezzo.Si_Muove ? fase : 0);
-  const QRectF limiti = disegno->boundsOnElement(id);
+  const auto disegno = Crea(pezzo, colore, chiave.Fase);
+  const QRectF limiti = disegno->boundsOnElement(pezzo.Id);
   const QRectF posto(limiti.topLeft() * scala_tenuti_, limiti.size() * scala_tenuti_);
   // Whole pixels with a margin, so that nothing is cut and nothing is drawn between two pixels.
   const QRect intero = posto.toAlignedRect().adjusted(-1, -1, 1, 1);
-  Tenuto tenuto{QPixmap(intero.size() * schermo), intero.topLeft()};
-  tenuto.Immagine.setDevicePixelRatio(schermo);
-  tenuto.Immagine.fill(Qt::transparent);
-  QPainter dentro(&tenuto.Immagine);
+  auto* tenuto = new Tenuto{QPixmap(intero.size() * schermo), intero.topLeft()};
+  tenuto->Immagine.setDevicePixelRatio(schermo);
+  tenuto->Immagine.fill(Qt::transparent);
+  QPainter dentro(&tenuto->Immagine);
   dentro.setRenderHint(QPainter::Antialiasing);
-  disegno->render(&dentro, id, posto.translated(-tenuto.Posto));
+  disegno->render(&dentro, pezzo.Id, posto.translated(-tenuto->Posto));
   dentro.end();
   const double costo = intero.width() * schermo * intero.height() * schermo * 4 / 1024;
-  tenuti_.insert(chiave, new Tenuto(tenuto),
-                 static_cast<int>(std::clamp(costo, 1.0, memoria / 2.0)));
-  return tenuto;
+  tenuti_.insert(chiave, tenuto, static_cast<int>(std::clamp(costo, 1.0, memoria / 2.0)));
+  return *tenuto;
 }
 
-void Disegni::Disegna(QPainter& pittore, const QString& id, Colore colore, int fase, double scala,
+void Disegni::Disegna(QPainter& pittore, const Pezzo& pezzo, Colore colore, int fase, double scala,
                       const QTransform& posa) {
-  if (!Esiste(id)) return;
   if (posa.type() > QTransform::TxTranslate) {
-    Teso& teso = tesi_[id];
+    Teso& teso = tesi_[&pezzo];
     const QRgb resa = Tinta(colore).rgb();
-    if (!teso.Disegno || teso.Tinto != colore || teso.Resa != resa)
-      teso = {colore, resa, Crea(id, colore, 0)};
-    const QRectF limiti = teso.Disegno->boundsOnElement(id);
-    const QRectF posto(limiti.topLeft() * scala, limiti.size() * scala);
-    teso.Disegno->render(&pittore, id, posa.mapRect(posto));
+    if (!teso.Disegno || teso.Tinto != colore || teso.Resa != resa) {
+      teso = {colore, resa, Crea(pezzo, colore, 0), {}};
+      teso.Limiti = teso.Disegno->boundsOnElement(pezzo.Id);
+    }
+    const QRectF posto(teso.Limiti.topLeft() * scala, teso.Limiti.size() * scala);
+    teso.Disegno->render(&pittore, pezzo.Id, posa.mapRect(posto));
     return;
   }
   const double schermo = pittore.device()->devicePixelRatioF();
@@ -278,7 +278,7 @@ void Disegni::Disegna(QPainter& pittore, const QString& id, Colore colore, int f
     scala_tenuti_ = scala;
     schermo_tenuti_ = schermo;
   }
-  const Tenuto tenuto = Tieni(id, colore, fase, schermo);
+  const Tenuto& tenuto = Tieni(pezzo, colore, fase, schermo);
   const QPointF spostato = tenuto.Posto + QPointF(posa.dx(), posa.dy());
   // Whole dots of the screen keep a moving drawing sharp.
   pittore.drawPixmap(QPointF(std::round(spostato.x() * schermo) / schermo,

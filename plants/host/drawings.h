@@ -2,8 +2,10 @@
 #pragma once
 
 #include <QCache>
+#include <QHashFunctions>
 #include <QPixmap>
 #include <QRectF>
+#include <QRgb>
 #include <QString>
 #include <QStringList>
 #include <QSvgRenderer>
@@ -28,18 +30,31 @@ namespace tavorno {
 /// Attributes of a group tell the rest; they are named at the functions that read them.
 class Disegni {
  public:
+  /// A group of the file, and what its attributes tell. It lives as long as the drawings.
+  struct Pezzo {
+    QString Id, Testo, Simboli;
+    bool Colorato = false;  ///< it looks different in another colour
+    bool Si_Muove = false;  ///< something in it moves
+    QStringList Con;        ///< as `Con_Chi`
+    QRectF Entro, Tocco;
+    mutable QRectF Limiti;  ///< twips; null until they are asked for
+    QString Nome, Rifiuto;
+  };
+
   /// `file`: ":/plants/US-00.svg". A file that cannot be read leaves no drawing.
   explicit Disegni(const QString& file);
 
   bool Valido() const { return misura_.isValid(); }
   QRectF Misura() const { return misura_; }  ///< of the whole picture, twips
   bool Esiste(const QString& id) const { return pezzi_.contains(id); }
-  QRectF Limiti(const QString& id) const;  ///< twips; kept, since finding them walks the drawing
+  /// nullptr when there is no such group.
+  const Pezzo* Trova(const QString& id) const;
+  /// Twips; kept, since finding them walks the drawing.
+  QRectF Limiti(const Pezzo& pezzo) const;
+  QRectF Limiti(const QString& id) const;  ///< null when there is no such group
 
   /// Phases until a moving drawing looks the same again.
   static constexpr int Fasi = 24;
-  /// Something in it moves.
-  bool Si_Muove(const QString& id) const;
   /// Figures ("data-con") with which it moves; empty when it moves as long as it is shown.
   QStringList Con_Chi(const QString& id) const;
   /// What of the picture it never leaves ("data-entro", twips); null without bounds.
@@ -53,7 +68,7 @@ class Disegni {
 
   /// Draws a group at its own place, moved and stretched by `posa`. `scala` is pixels per twip,
   /// without the factor of the screen. What is not stretched is drawn once and kept.
-  void Disegna(QPainter& pittore, const QString& id, Colore colore, int fase, double scala,
+  void Disegna(QPainter& pittore, const Pezzo& pezzo, Colore colore, int fase, double scala,
                const QTransform& posa);
 
   /// The text of a group as it is drawn, without the symbols that it refers to.
@@ -62,13 +77,15 @@ class Disegni {
   QString Definizioni(const QStringList& ids) const;
 
  private:
-  struct Pezzo {
-    QString Testo, Simboli;
-    bool Colorato = false, Si_Muove = false;
-    QStringList Con;
-    QRectF Entro, Tocco;
-    mutable QRectF Limiti;
-    QString Nome, Rifiuto;
+  struct Chiave {
+    const Pezzo* Di;
+    QRgb Resa;  // our shade of its colour, and the number that it has
+    Colore Tinto;
+    int Fase;
+    bool operator==(const Chiave&) const = default;
+    friend std::size_t qHash(const Chiave& chiave, std::size_t seme) {
+      return qHashMulti(seme, chiave.Di, chiave.Resa, chiave.Tinto, chiave.Fase);
+    }
   };
   struct Tenuto {
     QPixmap Immagine;
@@ -76,21 +93,22 @@ class Disegni {
   };
   struct Teso {
     Colore Tinto = 0;
-    unsigned Resa = 0;  // our shade of it
+    QRgb Resa = 0;  // our shade of it
     std::unique_ptr<QSvgRenderer> Disegno;
+    QRectF Limiti;  // twips
   };
 
   void Leggi_Pezzi(const QString& testo);
   void Prepara(Pezzo& pezzo);
-  std::unique_ptr<QSvgRenderer> Crea(const QString& id, Colore colore, int fase) const;
-  Tenuto Tieni(const QString& id, Colore colore, int fase, double schermo);
+  std::unique_ptr<QSvgRenderer> Crea(const Pezzo& pezzo, Colore colore, int fase) const;
+  const Tenuto& Tieni(const Pezzo& pezzo, Colore colore, int fase, double schermo);
 
   QRectF misura_;
   std::unique_ptr<QSvgRenderer> base_;
   std::map<QString, QString> simboli_;
   std::unordered_map<QString, Pezzo> pezzi_;
-  std::map<QString, Teso> tesi_;  // what is stretched is drawn anew each time
-  QCache<QString, Tenuto> tenuti_;
+  std::map<const Pezzo*, Teso> tesi_;  // what is stretched is drawn anew each time
+  QCache<Chiave, Tenuto> tenuti_;
   double scala_tenuti_ = 0;
   double schermo_tenuti_ = 0;
 };

@@ -114,19 +114,26 @@ void Quadro::Spiega(const Figura& figura, const QString& perche) {
                                             (perche.isEmpty() ? QString() : "\nPerché: " + perche));
 }
 
+/// It has sunk or come up.
+void Quadro::Ridisegna(const Figura& figura) {
+  const QRect posto = Posto(figura).toAlignedRect().adjusted(-4, -4, 4, 4);
+  Rifai({posto});
+  update(posto);
+}
+
 void Quadro::Premi(Figura*& mano, Figura& figura) {
   Rilascia(mano, false);
   mano = &figura;
   Avanza(0);  // what changed before has been noticed
   senza_effetto_ = true;
   Fai(Cosa::Premi, figura);
-  update(Posto(figura).toAlignedRect().adjusted(-4, -4, 4, 4));
+  Ridisegna(figura);
 }
 
 void Quadro::Rilascia(Figura*& mano, bool sopra) {
   if (mano == nullptr) return;
   const Figura& figura = *std::exchange(mano, nullptr);
-  update(Posto(figura).toAlignedRect().adjusted(-4, -4, 4, 4));
+  Ridisegna(figura);
   Fai(Cosa::Rilascia, figura);
   if (!sopra) return;
   Fai(Cosa::Clic, figura);

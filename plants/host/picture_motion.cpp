@@ -21,6 +21,26 @@ QRectF Rettangolo(const Figura& figura) {
   return {figura.Left(), figura.Top(), figura.Width(), figura.Height()};
 }
 
+int Area(const QRect& rettangolo) {
+  return rettangolo.width() * rettangolo.height();
+}
+
+/// Two that together are hardly smaller than what holds both become one.
+void Aggiungi(std::vector<QRect>& zone, QRect nuova) {
+  constexpr int costo = 2000;  // pixels that can be drawn in the time that a zone takes by itself
+  for (auto zona = zone.begin(); zona != zone.end();) {
+    const QRect insieme = zona->united(nuova);
+    if (Area(insieme) > Area(*zona) + Area(nuova) + costo) {
+      ++zona;
+      continue;
+    }
+    nuova = insieme;
+    zone.erase(zona);
+    zona = zone.begin();
+  }
+  zone.push_back(nuova);
+}
+
 double Distanza(const QRectF& uno, const QRectF& altro) {
   return std::max({std::abs(uno.left() - altro.left()), std::abs(uno.top() - altro.top()),
                    std::abs(uno.right() - altro.right()), std::abs(uno.bottom() - altro.bottom())});
@@ -47,11 +67,10 @@ void Quadro::Riduci_Animazioni(bool ridotte) {
 }
 
 bool Quadro::Corre(const Vista& vista) const {
-  if (ridotte_ || !vista.Di->Visible() || !disegni_.Si_Muove(vista.Gruppo_Ora)) return false;
-  const QStringList con = disegni_.Con_Chi(vista.Gruppo_Ora);
-  return con.isEmpty() || std::ranges::any_of(con, [this](const QString& nome) {
-           const Vista* altra = Vista_Di(nome);
-           return altra != nullptr && tempo_ - altra->Cambiata < ancora_in_moto;
+  if (ridotte_ || vista.Disegno == nullptr || !vista.Disegno->Si_Muove || !vista.Di->Visible())
+    return false;
+  return vista.Disegno->Con.isEmpty() || std::ranges::any_of(vista.Con, [this](std::size_t altra) {
+           return tempo_ - viste_[altra].Cambiata < ancora_in_moto;
          });
 }
 
@@ -69,7 +88,7 @@ QRectF Quadro::Sporca(Vista& vista) {
 // A figure glides for as long as its last step took, so that steady ticks make a steady way.
 void Quadro::Nota(Vista& vista) {
   vista.Cambiata = tempo_;
-  vista.Gruppo_Ora = Gruppo(*vista.Di);
+  Metti_Gruppo(vista);
   const QRectF meta = Rettangolo(*vista.Di);
   if (meta == vista.Ora && vista.Trascorsi >= vista.Durata) {
     Annuncia_Aspetto(vista);  // what only travels has nothing new to say
@@ -89,7 +108,7 @@ void Quadro::Nota(Vista& vista) {
 
 void Quadro::Avanza(int ms) {
   tempo_ += ms;
-  QRectF sporco;
+  std::vector<QRect> sporche;
   const std::vector<Figura*> cambiate = impianto_.Disegno.Prendi_Cambiate();
   for (Vista& vista : viste_) {
     const bool cambiata = std::ranges::find(cambiate, vista.Di) != cambiate.end();
@@ -104,10 +123,13 @@ void Quadro::Avanza(int ms) {
     }
     const bool corre = Corre(vista);
     if (corre) vista.Fase = static_cast<int>(tempo_ / Ritmo % Disegni::Fasi);
-    if (cambiata || in_via || corre) sporco |= Sporca(vista);
+    if (!cambiata && !in_via && !corre) continue;
+    const QRect sporca = Sporca(vista).toAlignedRect().intersected(rect());
+    if (!sporca.isEmpty()) Aggiungi(sporche, sporca);
   }
-  // One rectangle: what is clipped to many of them is drawn several times as slowly.
-  if (!sporco.isEmpty()) update(sporco.toAlignedRect());
+  if (sporche.empty()) return;
+  Rifai(sporche);
+  for (const QRect& zona : sporche) update(zona);
 }
 
 void Quadro::showEvent(QShowEvent* evento) {

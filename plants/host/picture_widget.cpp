@@ -35,10 +35,10 @@ Quadro::Quadro(Impianto& impianto, const QString& file, QWidget* sopra)
     vista.Di = &figura;
     vista.Scritta.setTextFormat(Qt::PlainText);
     vista.A_Riposo = vista.Ora = Rettangolo(figura);
-    vista.Gruppo_Ora = Gruppo(figura);
     vista.Morsetti = Leggi_Morsetti(figura);
     viste_.push_back(vista);
   }
+  for (Vista& vista : viste_) Metti_Gruppo(vista);
   Scegli_Letti();
 
   ritmo_.setInterval(Ritmo);
@@ -90,6 +90,18 @@ QString Quadro::Gruppo(const Figura& figura) {
   return figura.Picture().empty() ? nome : nome + '.' + Q(figura.Picture());
 }
 
+/// Finds what draws a figure now, so that drawing it needs no search.
+void Quadro::Metti_Gruppo(Vista& vista) {
+  vista.Gruppo_Ora = Gruppo(*vista.Di);
+  vista.Disegno = disegni_.Trova(vista.Gruppo_Ora);
+  vista.Con.clear();
+  if (vista.Disegno == nullptr) return;
+  for (const QString& nome : vista.Disegno->Con) {
+    const Vista* altra = Vista_Di(nome);
+    if (altra != nullptr) vista.Con.push_back(static_cast<std::size_t>(altra - viste_.data()));
+  }
+}
+
 const Quadro::Vista* Quadro::Vista_Di(const QString& nome) const {
   for (const Vista& vista : viste_) {
     if (nome == QLatin1String(vista.Di->Nome.data(), static_cast<int>(vista.Di->Nome.size())))
@@ -101,7 +113,8 @@ const Quadro::Vista* Quadro::Vista_Di(const QString& nome) const {
 // Where a figure paints now, with what its drawing has outside the figure's own rectangle.
 QRectF Quadro::Occupato(const Vista& vista) const {
   if (!vista.Di->Visible()) return {};
-  const QRectF limiti = disegni_.Limiti(vista.Gruppo_Ora).united(vista.A_Riposo);
+  QRectF limiti = vista.A_Riposo;
+  if (vista.Disegno != nullptr) limiti |= disegni_.Limiti(*vista.Disegno);
   const double scala = Scala();
   QTransform posa = Posa(vista, scala);
   const QRectF pixel(limiti.topLeft() * scala, limiti.size() * scala);
@@ -118,15 +131,14 @@ QTransform Quadro::Posa(const Vista& vista, double scala) const {
   return posa;
 }
 
+// The beats have drawn what changed; whoever asks for all may have changed any of it.
 void Quadro::paintEvent(QPaintEvent* evento) {
-  Avanza(0);  // what has changed since the last drawing
-  QPainter pittore(this);
-  pittore.setRenderHint(QPainter::Antialiasing);
-  pittore.translate(Origine());
   if (sfondo_.size() != Punti_Di_Schermo()) Misura_Da_Capo();
-  pittore.drawPixmap(-Origine(), sfondo_);
-  Disegna_Figure(pittore, Scala(), evento->region());
-  pittore.translate(-Origine());
+  Avanza(0);  // what has changed since the last beat
+  if (evento->region() == QRegion(rect())) Rifai({rect()});
+  QPainter pittore(this);
+  pittore.drawPixmap(0, 0, tela_);
+  pittore.setRenderHint(QPainter::Antialiasing);
   Disegna_Indicate(pittore);
   Disegna_Mano(pittore);
 }
@@ -143,10 +155,30 @@ void Quadro::Misura_Da_Capo() {
   sfondo_.fill(colori::Quadro_Fondo);
   QPainter pittore(&sfondo_);
   pittore.translate(Origine());
-  disegni_.Disegna(pittore, QStringLiteral("fondo"), 0, 0, Scala(), {});
+  const Disegni::Pezzo* fondo = disegni_.Trova(QStringLiteral("fondo"));
+  if (fondo != nullptr) disegni_.Disegna(pittore, *fondo, 0, 0, Scala(), {});
+  pittore.end();
+  tela_ = sfondo_.copy();
+  tela_.setDevicePixelRatio(devicePixelRatioF());
+  Rifai({rect()});
 }
 
-void Quadro::Disegna_Figure(QPainter& pittore, double scala, const QRegion& dove) {
+/// Draws anew what stands in these rectangles. One after the other, since
+/// what is clipped to many of them at once is drawn several times as slowly.
+void Quadro::Rifai(const std::vector<QRect>& zone) {
+  if (tela_.size() != Punti_Di_Schermo()) return;  // the next showing begins from nothing
+  QPainter pittore(&tela_);
+  pittore.setRenderHint(QPainter::Antialiasing);
+  for (const QRect& zona : zone) {
+    pittore.setClipRect(zona);
+    pittore.drawPixmap(0, 0, sfondo_);
+    pittore.translate(Origine());
+    Disegna_Figure(pittore, Scala(), zona);
+    pittore.translate(-Origine());
+  }
+}
+
+void Quadro::Disegna_Figure(QPainter& pittore, double scala, const QRect& dove) {
   for (Vista& vista : viste_) {
     if (vista.Di->Visible() && dove.intersects(vista.Ultimo.toAlignedRect()))
       Disegna_Figura(pittore, vista, scala);
@@ -155,7 +187,7 @@ void Quadro::Disegna_Figure(QPainter& pittore, double scala, const QRegion& dove
 
 void Quadro::Disegna_Figura(QPainter& pittore, Vista& vista, double scala) {
   const Figura& figura = *vista.Di;
-  const QRectF entro = disegni_.Entro(vista.Gruppo_Ora);
+  const QRectF entro = vista.Disegno == nullptr ? QRectF() : vista.Disegno->Entro;
   if (!entro.isNull()) {
     pittore.save();
     pittore.setClipRect(QRectF(entro.topLeft() * scala, entro.size() * scala), Qt::IntersectClip);
@@ -164,18 +196,25 @@ void Quadro::Disegna_Figura(QPainter& pittore, Vista& vista, double scala) {
   // What has no sunken drawing of its own sinks under the hand all the same.
   const bool premuta = &figura == mouse_ || &figura == spazio_;
   if (premuta) posa *= QTransform::fromTranslate(0, 10 * scala);
-  disegni_.Disegna(pittore, vista.Gruppo_Ora, figura.FillColor(), vista.Fase, scala, posa);
+  if (vista.Disegno != nullptr)
+    disegni_.Disegna(pittore, *vista.Disegno, figura.FillColor(), vista.Fase, scala, posa);
   if (!entro.isNull()) pittore.restore();
 
   if (figura.Caption().empty()) return;
-  QFont carattere(QLatin1String{Carattere_Disegni});
-  carattere.setPixelSize(std::max(7, static_cast<int>(120 * scala)));
-  pittore.setFont(carattere);
+  const int alta = std::max(7, static_cast<int>(120 * scala));
+  if (carattere_.pixelSize() != alta) {
+    carattere_ = QFont(QLatin1String{Carattere_Disegni});
+    carattere_.setPixelSize(alta);
+  }
+  pittore.setFont(carattere_);
   pittore.setPen(Tinta_Testo(figura.ForeColor()));
   // Its glyphs are looked up once and not at each drawing.
   const QString testo = Q(figura.Caption());
-  if (vista.Scritta.text() != testo) vista.Scritta.setText(testo);
-  vista.Scritta.prepare({}, carattere);
+  if (vista.Alta != alta || vista.Scritta.text() != testo) {
+    vista.Alta = alta;
+    vista.Scritta.setText(testo);
+    vista.Scritta.prepare({}, carattere_);
+  }
   QRectF posto(vista.Ora.topLeft() * scala, vista.Ora.size() * scala);
   if (premuta) posto.translate(0, 10 * scala);
   const QSizeF grande = vista.Scritta.size();

@@ -114,7 +114,10 @@ class Quadro : public QWidget, public Per_Lettori {
     qint64 Mossa = -10000;
     int Fase = 0;
     QString Gruppo_Ora;
+    const Disegni::Pezzo* Disegno = nullptr;  ///< of this group; nullptr for none
+    std::vector<std::size_t> Con;             ///< the figures with which it moves
     QStaticText Scritta;
+    int Alta = 0;          ///< pixels of the letters that its text is laid out for
     QStringList Morsetti;  ///< addresses that it stands for
   };
 
@@ -131,7 +134,10 @@ class Quadro : public QWidget, public Per_Lettori {
   bool Fai(Cosa che, const Figura& figura, double valore = 0);
   QSize Punti_Di_Schermo() const;
   void Misura_Da_Capo();
-  void Disegna_Figure(QPainter& pittore, double scala, const QRegion& dove);
+  void Metti_Gruppo(Vista& vista);
+  void Rifai(const std::vector<QRect>& zone);
+  void Ridisegna(const Figura& figura);
+  void Disegna_Figure(QPainter& pittore, double scala, const QRect& dove);
   void Disegna_Figura(QPainter& pittore, Vista& vista, double scala);
   void Disegna_Mano(QPainter& pittore);
   QTransform Posa(const Vista& vista, double scala) const;
@@ -164,8 +170,10 @@ class Quadro : public QWidget, public Per_Lettori {
 
   Impianto& impianto_;
   mutable Disegni disegni_;
-  std::vector<Vista> viste_;        // in drawing order
-  QPixmap sfondo_;                  // what stands still, for the present size
+  std::vector<Vista> viste_;  // in drawing order
+  QPixmap sfondo_;            // what stands still, for the present size
+  QPixmap tela_;              // the picture as it is now, without the marks of the hand
+  QFont carattere_;
   std::vector<std::size_t> letti_;  // those that screen readers are told of
   Annunci_Parchi annunci_;
   QTimer ritmo_;
