@@ -3,6 +3,7 @@
 // picture_input.cpp.
 #include "plants/host/picture_widget.h"
 
+#include <QBackingStore>
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
@@ -131,11 +132,16 @@ QTransform Quadro::Posa(const Vista& vista, double scala) const {
   return posa;
 }
 
-// The beats have drawn what changed; whoever asks for all may have changed any of it.
+// Pieces on the screen show what the last beat has drawn. What has changed since then would plan
+// one more drawing from within each, so that they follow each other as fast as the plant changes.
 void Quadro::paintEvent(QPaintEvent* evento) {
   if (sfondo_.size() != Punti_Di_Schermo()) Misura_Da_Capo();
-  Avanza(0);  // what has changed since the last beat
-  if (evento->region() == QRegion(rect())) Rifai({rect()});
+  const bool intero = evento->region() == QRegion(rect());
+  QPoint spostato;
+  const bool sullo_schermo =
+      backingStore() != nullptr && redirected(&spostato) == backingStore()->paintDevice();
+  if (intero || !sullo_schermo) Avanza(0);
+  if (intero) Rifai({rect()});
   QPainter pittore(this);
   pittore.drawPixmap(0, 0, tela_);
   pittore.setRenderHint(QPainter::Antialiasing);
