@@ -86,6 +86,9 @@ Pannello_Guasti::Pannello_Guasti(Collegamento& fili, QWidget* sopra)
   auto* area = new QScrollArea;
   area->setWidget(spiega_);
   area->setWidgetResizable(true);
+  // On the ground of the page, and not as a grey patch in it.
+  area->viewport()->setAutoFillBackground(false);
+  spiega_->setAutoFillBackground(false);
   area->setFrameShape(QFrame::NoFrame);
   area->setFocusPolicy(Qt::NoFocus);
   ripara_->setToolTip(QStringLiteral("Toglie tutti i guasti che si possono togliere"));
