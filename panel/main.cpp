@@ -3,7 +3,6 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QSettings>
-#include <QStyleFactory>
 #include <QTimer>
 #include <QTranslator>
 #include <cstdio>
@@ -20,6 +19,7 @@
 #include "panel/session_wires.h"
 #include "panel/verification.h"
 #include "recorder/recorder.h"
+#include "widgets/clear_style.h"
 #include "widgets/desktop_theme.h"
 #include "widgets/message_box.h"
 
@@ -38,7 +38,7 @@ int main(int argc, char** argv) {
   const Riga_Di_Comando comando = Leggi_Riga_Di_Comando(parole, std::cout, std::cerr);
   if (comando.Stato) return *comando.Stato;
   Applicazione::setApplicationName(QStringLiteral("Tavorno"));
-  Applicazione::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  Applicazione::setStyle(new Stile_Chiaro);
   Segui_Scrivania();
   Applicazione::setQuitOnLastWindowClosed(false);
   Apri_Risorse();

@@ -11,7 +11,6 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
-#include <QStyleFactory>
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
@@ -31,6 +30,7 @@
 #include "recorder/recorder.h"
 #include "tests/gui/support/foreign_focus.h"
 #include "tests/support/temporary_folder.h"
+#include "widgets/clear_style.h"
 #include "widgets/message_box.h"
 #include "widgets/text.h"
 
@@ -280,7 +280,7 @@ int main(int argc, char** argv) {
     qputenv(variabile, cartella.string().c_str());
   QDir::setCurrent(Q(cartella.string()));
   Applicazione applicazione(argc, argv);
-  Applicazione::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  Applicazione::setStyle(new Stile_Chiaro);
   Applicazione::setQuitOnLastWindowClosed(false);
   Apri_Risorse();
 

@@ -3,10 +3,10 @@
 
 #include <QApplication>
 #include <QSettings>
-#include <QStyleFactory>
 #include <QTemporaryDir>
 
 #include "assets/resources.h"
+#include "widgets/clear_style.h"
 
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
@@ -16,7 +16,7 @@ int main(int argc, char** argv) {
   for (const QSettings::Format formato : {QSettings::NativeFormat, QSettings::IniFormat})
     QSettings::setPath(formato, QSettings::UserScope, preferenze.path());
   QApplication applicazione(argc, argv);
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new tavorno::Stile_Chiaro);
   QApplication::setQuitOnLastWindowClosed(false);
   tavorno::Apri_Risorse();
   return RUN_ALL_TESTS();
