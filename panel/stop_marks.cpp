@@ -68,7 +68,7 @@ void Fermate_Pannello::Aggiungi_Voci(QMenu& menu) {
     azione->setToolTip(Q(suggerimento));
     connect(azione, &QAction::triggered, this, std::move(fai));
   };
-  voce("mnuFermata", "&Fermata alla riga scelta", "F9",
+  voce("mnuFermata", "&Fermata alla riga scelta", "Ctrl+F9",
        "Mette o toglie la fermata alla riga scelta della lista, come un clic sul margine",
        [this] { Alterna(Riga_Scelta()); });
   voce("mnuFermate", "Fermate e condi&zioni...", "Shift+F9",

@@ -84,7 +84,7 @@ TEST_F(Segni_Di_Fermata, ThereAreAsManyAsOneLikes) {
 
 TEST_F(Segni_Di_Fermata, TheKeyWorksAtTheSelectedLine) {
   c.listSrc->setCurrentRow(3);
-  EXPECT_EQ(Azione(pannello, "mnuFermata").shortcut(), QKeySequence(Qt::Key_F9));
+  EXPECT_EQ(Azione(pannello, "mnuFermata").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_F9));
   Azione(pannello, "mnuFermata").trigger();
   EXPECT_EQ(Segno(3), Forma_Segno::Piena);
   EXPECT_EQ(c.listSrc->item(3)->data(Qt::AccessibleDescriptionRole).toString(), "Fermata: riga 3");
