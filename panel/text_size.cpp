@@ -26,7 +26,8 @@ constexpr char minima[] = "baseMinima";
 constexpr char massima[] = "baseMassima";
 
 void Annota(QWidget& parte) {
-  if (parte.property(punti).isValid()) return;
+  // A text and a diagram note their own.
+  if (parte.property(punti).isValid() || dynamic_cast<AwlEditor*>(&parte) != nullptr) return;
   parte.setProperty(punti, parte.font().pointSizeF());
   parte.setProperty(suo, parte.testAttribute(Qt::WA_SetFont));
   parte.setProperty(minima, parte.minimumSize());
@@ -59,8 +60,7 @@ void Ingrandisci_Testo(AwlEditor& testo, double fattore) {
 void Ingrandisci(QWidget& parte, bool radice, double fattore) {
   if (auto* testo = dynamic_cast<AwlEditor*>(&parte)) return Ingrandisci_Testo(*testo, fattore);
   if (auto* tela = dynamic_cast<Tela_Tempi*>(&parte)) return tela->Ingrandisci(fattore);
-  if (!radice && !parte.property(punti).isValid() && fattore == 1) return;
-  Annota(parte);
+  if (!parte.property(punti).isValid()) return;
   // A font in pixels follows the height of its own part, which grows below.
   const bool in_punti = parte.property(punti).toDouble() > 0;
   if (in_punti && (radice || parte.property(suo).toBool())) {
@@ -122,11 +122,16 @@ void Grandezza_Testo::Applica_A_Tutte() {
 
 /// All but the windows in it and what follows for itself.
 void Grandezza_Testo::Applica(QWidget& radice, double fattore) {
+  QList<QWidget*> parti = radice.findChildren<QWidget*>();
+  parti.removeIf([&](QWidget* parte) {
+    return parte->window() != radice.window() || Seguita(parte) != Seguita(&radice);
+  });
+  // A bold caption takes its size from what is around it, so all are noted before any grows.
+  Annota(radice);
+  if (fattore != 1)
+    for (QWidget* parte : std::as_const(parti)) Annota(*parte);
   Ingrandisci(radice, true, fattore);
-  for (QWidget* parte : radice.findChildren<QWidget*>()) {
-    if (parte->window() == radice.window() && Seguita(parte) == Seguita(&radice))
-      Ingrandisci(*parte, false, fattore);
-  }
+  for (QWidget* parte : std::as_const(parti)) Ingrandisci(*parte, false, fattore);
 }
 
 /// The view that an object belongs to; null: none.

@@ -167,5 +167,26 @@ TEST_F(Testi, TheProjectorTakesTheWindowInFrontAndGivesItBack) {
   EXPECT_EQ(Adesso(), prima);
 }
 
+TEST_F(Testi, TheProjectorGivesEveryFontBack) {
+  const auto caratteri = [this] {
+    std::map<QWidget*, double> ora;
+    for (QWidget* parte : pannello.findChildren<QWidget*>())
+      if (parte->window() == &pannello) ora[parte] = parte->font().pointSizeF();
+    return ora;
+  };
+  const std::map<QWidget*, double> prima = caratteri();
+  QLabel* titolo = nullptr;
+  for (QLabel* etichetta : pannello.findChildren<QLabel*>())
+    if (etichetta->text() == "Programma nella CPU") titolo = etichetta;
+  ASSERT_NE(titolo, nullptr);
+  Grandezza_Testo grandezza;
+  for (int volta = 0; volta < 2; ++volta) {
+    grandezza.Proietta(&pannello);
+    EXPECT_NEAR(titolo->font().pointSizeF(), prima.at(titolo) * 1.5, 0.01) << "bold, of its own";
+    grandezza.Proietta(nullptr);
+    EXPECT_EQ(caratteri(), prima);
+  }
+}
+
 }  // namespace
 }  // namespace tavorno
