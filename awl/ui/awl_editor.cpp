@@ -110,14 +110,20 @@ void AwlEditor::Tingi_Vista() {
   setMarkerBackgroundColor(tinte::Punto_Avvertimento, Segno_Avvertimento);
   setMarkerForegroundColor(tinte::Bordo_Avvertimento, Segno_Avvertimento);
   setMarkerBackgroundColor(tinte::Messaggio.Fondo, Segno_Fondo);
-  setIndicatorForegroundColor(colori::Su(tinte::Fuori_Colonna, foglio, colori::Visibile),
-                              Indicatore_Eccedenza);
-  setIndicatorForegroundColor(colori::Su(tinte::Trovato, foglio, colori::Visibile),
-                              Indicatore_Trovato);
+  Incornicia(Indicatore_Eccedenza, colori::Su(tinte::Fuori_Colonna, foglio, colori::Visibile));
+  Incornicia(Indicatore_Trovato, colori::Su(tinte::Trovato, foglio, colori::Visibile));
   setIndicatorForegroundColor(colori::Su(tinte::Suggerimento, foglio, colori::Visibile),
                               Indicatore_Suggerimento);
   setCallTipsBackgroundColor(tinte::Fumetto.Fondo);
   setCallTipsForegroundColor(tinte::Fumetto.Testo);
+}
+
+/// A frame around letters that stay to be read: a colour is opaque to this component, within too.
+void AwlEditor::Incornicia(int indicatore, const QColor& colore) {
+  constexpr long dentro = 40, bordo = 255;
+  setIndicatorForegroundColor(colore, indicatore);
+  SendScintilla(SCI_INDICSETALPHA, indicatore, dentro);
+  SendScintilla(SCI_INDICSETOUTLINEALPHA, indicatore, bordo);
 }
 
 void AwlEditor::Prepara_Aiuti() {

@@ -133,6 +133,7 @@ class AwlEditor : public QsciScintilla {
   bool Di_Sola_Lettura() const { return genere_ == Genere_Testo::Listato || spento_; }
   void Prepara_Vista();
   void Tingi_Vista();
+  void Incornicia(int indicatore, const QColor& colore);
   void Prepara_Aiuti();
   std::string Linea_Byte(int linea) const;  // UTF-8, without its end
   void Dopo_Carattere(int carattere);

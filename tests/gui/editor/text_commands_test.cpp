@@ -5,6 +5,8 @@
 
 #include "awl/patterns.h"
 #include "editor/editor_bed.h"
+#include "support/desktop.h"
+#include "widgets/colours.h"
 
 namespace tavorno::prova {
 
@@ -102,6 +104,44 @@ TEST_F(TextCommands, FindMarksEveryPlaceAndGoesAround) {
   EXPECT_TRUE(Trova<QWidget>("barRicerca").isHidden());
   EXPECT_EQ(Segnati(txtList()), 0);
   EXPECT_TRUE(txtList().hasFocus());
+}
+
+TEST_F(TextCommands, WhatIsFoundOrTooLongCanStillBeRead) {
+  const Scrivania scrivania;
+  for (const bool scura : {false, true}) {
+    SCOPED_TRACE(scura ? "dark" : "light");
+    if (scura) scrivania.Scura();
+    Avvia_Esempio();
+    txtList().setReadOnly(true);
+    // The letters keep their contrast to what is behind them, with a frame and without.
+    const auto letture = [this] {
+      QCoreApplication::processEvents();
+      const auto mandato = [&](unsigned cosa, int dove) {
+        return static_cast<int>(txtList().SendScintilla(cosa, 0UL, static_cast<long>(dove)));
+      };
+      const int da = txtList().text().indexOf("I0.0"), a = da + 4;
+      const int riga = mandato(QsciScintilla::SCI_POINTYFROMPOSITION, da);
+      const QRect dove(QPoint(mandato(QsciScintilla::SCI_POINTXFROMPOSITION, da) + 1, riga + 2),
+                       QPoint(mandato(QsciScintilla::SCI_POINTXFROMPOSITION, a) - 2, riga + 11));
+      const QImage carta = txtList().viewport()->grab(dove).toImage();
+      double migliore = 1;
+      const QColor fondo = carta.pixelColor(0, 0);
+      for (int y = 0; y < carta.height(); ++y)
+        for (int x = 0; x < carta.width(); ++x)
+          migliore = std::max(migliore, colori::Contrasto(carta.pixelColor(x, y), fondo));
+      return migliore;
+    };
+    ASSERT_GE(letture(), colori::Leggibile);
+    Comanda("mnuCercaTrova");
+    Scrivi_In("txtCerca", "i0.0");
+    ASSERT_EQ(Segnati(txtList()), 2);
+    EXPECT_GE(letture(), colori::Leggibile) << "found";
+    const QString testo = txtList().text();
+    const int riga = static_cast<int>(testo.left(testo.indexOf("I0.0")).count('\n'));
+    Scrivi_In("txtCerca", "");
+    txtList().Segna_Eccedenze({{riga, 0, 40}});
+    EXPECT_GE(letture(), colori::Leggibile) << "too long";
+  }
 }
 
 TEST_F(TextCommands, FindFollowsThePageAndTheTyping) {
