@@ -2,7 +2,6 @@
 #include "widgets/command_tables.h"
 
 #include <QAction>
-#include <QIcon>
 #include <QKeySequence>
 #include <QMainWindow>
 #include <QMenu>
@@ -11,6 +10,8 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <array>
+
+#include "widgets/icons.h"
 
 namespace tavorno {
 
@@ -58,9 +59,9 @@ QToolBar* Crea_Barra(QMainWindow& finestra, const char* nome, std::span<const Ta
   barra->setIconSize(QSize(22, 22));
   for (const Tasto_Barra& tasto : tasti) {
     if (tasto.Stacco) barra->addSeparator();
-    const QIcon icona(QStringLiteral(":/icons/%1.svg").arg(QString::fromUtf8(tasto.Icona)));
     const QString suggerimento = QString::fromUtf8(tasto.Suggerimento);
-    QAction* azione = barra->addAction(icona, suggerimento);
+    QAction* azione = barra->addAction(suggerimento);
+    Metti_Icona(*barra, *azione, QString::fromUtf8(tasto.Icona));
     azione->setObjectName(QStringLiteral("%1(%2)").arg(nome, tasto.Chiave));
     azione->setToolTip(suggerimento);
     azione->setCheckable(tasto.Spunta);

@@ -19,6 +19,7 @@
 
 #include "plants/exercises.h"
 #include "recorder/ui/signal_choice.h"
+#include "widgets/icons.h"
 #include "widgets/message_box.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
@@ -159,7 +160,7 @@ QToolBar* FrmTempi::Crea_Barra_Tempi() {
     azioni_.push_back(azione);
     if (*comando.Icona == '\0') continue;
     if (comando.Stacco) barra->addSeparator();
-    azione->setIcon(QIcon(QStringLiteral(":/icons/%1.svg").arg(Q(comando.Icona))));
+    Metti_Icona(*barra, *azione, Q(comando.Icona));
     barra->addAction(azione);
     if (auto* tasto = qobject_cast<QToolButton*>(barra->widgetForAction(azione))) {
       tasto->setFocusPolicy(Qt::NoFocus);
@@ -167,7 +168,7 @@ QToolBar* FrmTempi::Crea_Barra_Tempi() {
     }
   }
   auto* esporta = Chiama(QStringLiteral("cmdEsporta"), new QToolButton);
-  esporta->setIcon(QIcon(QStringLiteral(":/icons/Save.svg")));
+  Metti_Icona(*esporta, QStringLiteral("Save"));
   esporta->setToolTip(
       QStringLiteral("Salva: disegno SVG (Ctrl+S), immagine PNG (Ctrl+P), "
                      "registrazione VCD (Ctrl+D)"));
