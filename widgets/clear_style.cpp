@@ -77,6 +77,22 @@ QPalette Con_Contorni_Visibili(const QPalette& tinte, bool velati) {
 
 Stile_Chiaro::Stile_Chiaro() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
+void Stile_Chiaro::polish(QPalette& tinte) {
+  using P = QPalette;
+  QProxyStyle::polish(tinte);
+  for (const P::ColorGroup gruppo : {P::Active, P::Inactive, P::Disabled}) {
+    const QColor fondo = tinte.color(gruppo, P::Base);
+    const QColor sua = tinte.color(gruppo, P::PlaceholderText);
+    const auto sopra = [&](int colore, int sotto) {
+      return sotto + (colore - sotto) * sua.alpha() / 255;
+    };
+    const QColor vista(sopra(sua.red(), fondo.red()), sopra(sua.green(), fondo.green()),
+                       sopra(sua.blue(), fondo.blue()));
+    if (colori::Contrasto(vista, fondo) < colori::Leggibile)
+      tinte.setColor(gruppo, P::PlaceholderText, colori::Su(vista, fondo));
+  }
+}
+
 QPalette Stile_Chiaro::Per(const QPalette& tinte, bool velati) const {
   constexpr std::size_t tante = 64;  // palettes of a desktop that has changed go with the rest
   auto& fatte = fatte_[velati ? 1 : 0];

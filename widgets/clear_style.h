@@ -19,6 +19,11 @@ class Stile_Chiaro : public QProxyStyle {
  public:
   Stile_Chiaro();
 
+  using QProxyStyle::polish;
+  /// Hints in empty fields can be read: not every desktop tells a colour for them, and the one
+  /// that is taken then is that of a light one.
+  void polish(QPalette& tinte) override;
+
   void drawPrimitive(PrimitiveElement parte, const QStyleOption* opzioni, QPainter* pittore,
                      const QWidget* sopra) const override;
   void drawControl(ControlElement parte, const QStyleOption* opzioni, QPainter* pittore,

@@ -219,6 +219,21 @@ TEST(ClearStyle, OutlinesCanBeSeenOnEveryGrey) {
   }
 }
 
+TEST(ClearStyle, AHintCanBeReadWhereTheDesktopTellsNoColourForIt) {
+  QPalette scura{QColor(0x31, 0x36, 0x3b), QColor(0x2a, 0x2e, 0x32)};
+  scura.setColor(QPalette::Base, QColor(0x1b, 0x1e, 0x20));
+  scura.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+  QApplication::style()->polish(scura);
+  for (const QPalette::ColorGroup gruppo : {QPalette::Active, QPalette::Disabled}) {
+    const QColor detta = scura.color(gruppo, QPalette::PlaceholderText);
+    EXPECT_EQ(detta.alpha(), 255);
+    EXPECT_GE(Contrasto(detta, scura.color(gruppo, QPalette::Base)), colori::Leggibile);
+  }
+  QPalette buona = scura;
+  QApplication::style()->polish(buona);
+  EXPECT_EQ(buona, scura) << "what can be read stays";
+}
+
 TEST(ClearStyle, AnOutlineFollowsTheDesktopWhileTheProgramRuns) {
   const Scrivania scrivania;
   const auto linea = [] {
