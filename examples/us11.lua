@@ -69,8 +69,15 @@ end
 local function passa(sbarra)
   local prima = liberi()
   premi_e_guarda(sbarra.pulsante)
-  return aspetta(function() return aperta(sbarra) end, 20000)
-    and aspetta(function() return acceso(sbarra.raggio) end, 20000)
+  if not aspetta(function() return aperta(sbarra) end, 20000) then return false end
+  local vista, presto = false, false
+  aspetta(function()
+    local passa_adesso = acceso(sbarra.raggio)
+    if vista and not passa_adesso then return true end
+    vista, presto = vista or passa_adesso, presto or acceso(sbarra.chiude)
+  end, 40000)
+  if presto then pericolo("la sbarra di " .. sbarra.nome .. " non deve scendere finché l'auto non è passata, la prima come le altre") end
+  return vista and not presto
     and aspetta(function() return chiusa(sbarra) end, 40000)
     and (aspetta(function() return liberi() ~= prima end, 20000))
 end
@@ -199,6 +206,47 @@ for _, sbarra in ipairs { entrata, uscita } do
     end)
   end
 
+  local altra = sbarra == entrata and uscita or entrata
+  prova(nome .. ": termico dell'altra sbarra", 2, function()
+    prepara(sbarra)
+    clic(altra.motore)
+    local spenta = not aspetta(function() return acceso(sbarra.movimento) end, 1200)
+    comincia_ad_aprire(sbarra)
+    punti(1, aspetta(function() return aperta(sbarra) end, 20000), "il termico dell'altra sbarra non deve disturbare quella di " .. nome)
+    punti(1, spenta, "la lampada gialla di " .. nome .. " deve restare spenta a sbarra ferma, anche con il termico dell'altra scattato")
+  end)
+
+  -- I guasti nei fili: un raggio che il PLC non vede mai, o che vede sempre, un fine corsa che non dà il segnale.
+  prova(nome .. ": auto che non passa", 2, function()
+    prepara(sbarra)
+    guasto("filo(" .. sbarra.raggio .. ")")
+    premi_e_guarda(sbarra.pulsante)
+    serve(aspetta(function() return aperta(sbarra) end, 20000), "la sbarra di " .. nome .. " si deve aprire fino in fondo")
+    local chiude, ms = aspetta(function() return acceso(sbarra.chiude) end, 30000)
+    punti(2, chiude and ms >= 18000 and ms <= 22000, "se il raggio non si interrompe mai, la sbarra di " .. nome .. " deve chiudersi dopo 20 secondi (da 18 a 22)")
+  end)
+
+  prova(nome .. ": raggio interrotto", 2, function()
+    prepara(sbarra)
+    premi_e_guarda(sbarra.pulsante)
+    local arrivata = serve(aspetta(function() return aperta(sbarra) end, 20000), "la sbarra di " .. nome .. " si deve aprire fino in fondo")
+    guasto("incollato(" .. sbarra.raggio .. ")")
+    sicuro(1, arrivata, not aspetta(function() return acceso(sbarra.chiude) end, 30000), "con il raggio interrotto la sbarra di " .. nome .. " non deve chiudersi, nemmeno dopo 20 secondi")
+    guasto("incollato(" .. sbarra.raggio .. ")", false)
+    punti(1, aspetta(function() return acceso(sbarra.chiude) end, 30000), "quando il raggio torna libero la sbarra di " .. nome .. " deve chiudersi")
+  end)
+
+  prova(nome .. ": tempo massimo in chiusura", 2, function()
+    prepara(sbarra)
+    premi_e_guarda(sbarra.pulsante)
+    local scende = serve(aspetta(function() return acceso(sbarra.chiude) end, 60000), "la sbarra di " .. nome .. " deve arrivare alla fase di chiusura")
+    guasto("incollato(" .. sbarra.chiusa .. ")")
+    guarda(10000)
+    serve(acceso(sbarra.chiude), "una manovra può durare fino a 15 secondi")
+    guarda(6500)
+    sicuro(2, scende, resta_ferma(sbarra, 5000), "dopo 15 secondi di chiusura (da 10 a 16,5) il motore della sbarra di " .. nome .. " deve fermarsi")
+  end)
+
   prova(nome .. ": tempo massimo", 4, function()
     prepara(sbarra)
     local va = comincia_ad_aprire(sbarra)
@@ -221,13 +269,15 @@ for _, sbarra in ipairs { entrata, uscita } do
   end)
 end
 
-prova("garage pieno", 9, function()
+prova("garage pieno", 10, function()
   avvia()
   riempi(6)
   punti(1, liberi() == 0, "devono poter entrare sei auto")
   arriva(entrata)
   premi_e_guarda(entrata.pulsante)
   punti(3, resta_ferma(entrata, 5000), "a garage pieno la sbarra di entrata deve restare chiusa")
+  punti(1, not aspetta(function() return acceso(entrata.movimento) or acceso(uscita.movimento) end, 1200),
+        "a garage pieno e a sbarre ferme le lampade gialle devono essere spente")
   arriva(uscita, 3)
   punti(1, passa(uscita), "a garage pieno un'auto deve poter uscire")
   guarda(2000)
@@ -239,6 +289,19 @@ prova("garage pieno", 9, function()
   arriva(entrata)
   premi_e_guarda(entrata.pulsante)
   punti(2, resta_ferma(entrata, 5000), "di nuovo pieno, la sbarra di entrata deve restare chiusa")
+end)
+
+prova("più uscite", 2, function()
+  avvia()
+  riempi(3)
+  local uscite = 0
+  for posto = 1, 3 do
+    arriva(uscita, posto)
+    if not passa(uscita) then break end
+    uscite = uscite + 1
+    guarda(1000)
+  end
+  punti(2, uscite == 3, "devono poter uscire le auto, una dopo l'altra")
 end)
 
 prova("azzeramento", 2, function()
@@ -269,7 +332,7 @@ for _, ordine in ipairs { { uscita, entrata }, { entrata, uscita } } do
   end)
 end
 
-prova_di_sicurezza(59, function()
+prova_di_sicurezza(71, function()
   avvia()
   riempi(1)
   arriva(uscita, 1)

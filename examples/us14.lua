@@ -27,17 +27,26 @@ local function a_un_piano()
 end
 
 -- Guarda a ogni scansione che cosa c'è di pericoloso.
-local function sorveglia()
-  local uscite = leggi("QB0")
+local function sorveglia(uscite)
   if uscite & 3 == 3 then pericolo("KM1 e KM2 non devono mai essere comandati insieme") end
   if uscite & 12 == 12 then pericolo("KM3 e KM4 non devono mai essere comandati insieme") end
   if uscite & 3 ~= 0 and not chiuse() then pericolo("la cabina non deve mai muoversi con le porte aperte") end
   if uscite & 8 ~= 0 and not a_un_piano() then pericolo("le porte non devono mai aprirsi fra due piani") end
 end
 
+-- La cabina e le porte si possono scambiare in un paio di scansioni, ma non stare comandate insieme.
+local scambio = 20
+
 local function aspetta(fino, ms)
-  return attendi_quando(function()
-    sorveglia()
+  local insieme_da
+  return attendi_quando(function(adesso)
+    local uscite = leggi("QB0")
+    if uscite & 15 ~= 0 then sorveglia(uscite) end
+    local insieme = uscite & 3 ~= 0 and uscite & 12 ~= 0
+    if insieme_da and adesso - insieme_da >= scambio then
+      pericolo("la cabina non deve muoversi mentre si comandano le porte")
+    end
+    insieme_da = insieme and (insieme_da or adesso) or nil
     return fino()
   end, ms)
 end
@@ -47,8 +56,8 @@ local function a_riposo() return chiuse() and leggi("QB0") & 15 == 0 end
 
 local function avvia()
   run()
-  guarda(1000)
-  return serve(leggi("QB0") & 15 == 0 and chiuse(), "senza chiamate la cabina e le porte devono restare ferme")
+  return serve(not aspetta(function() return leggi("QB0") & 15 ~= 0 end, 1000) and chiuse(),
+               "senza chiamate la cabina e le porte devono restare ferme")
 end
 
 local function chiama(pulsante)
@@ -60,6 +69,14 @@ end
 local function va(piano, pulsante)
   chiama(pulsante)
   return aspetta(function() return servito(piano) end, una_corsa)
+end
+
+-- Parte subito nel verso giusto, e arriva.
+local function va_diritta(da, a, pulsante)
+  chiama(pulsante)
+  aspetta(in_corsa, 20000)
+  local verso = acceso(a > da and "Q0.0" or "Q0.1")
+  return aspetta(function() return servito(piani[a]) end, una_corsa) and verso
 end
 
 -- I primi due piani dove si aprono le porte.
@@ -83,19 +100,24 @@ for _, comando in ipairs { "chiamata", "mandata" } do
   prova(comando == "chiamata" and "chiamate ai piani" or "mandate dalla cabina", 8, function()
     avvia()
     local prima
+    local quale = comando == "chiamata" and "lampada" or "in_cabina"
     for _, piano in ipairs(quali) do
-      local lampada = comando == "chiamata" and piano.lampada or piano.in_cabina
+      local lampada = piano[quale]
       local buia = not acceso(lampada)
       chiama(piano[comando])
       guarda(300)
       local accesa = acceso(lampada)
+      for _, altro in ipairs(piani) do
+        local e_qui = comando == "chiamata" and (al_piano(altro) or altro[quale] == prima)
+        if altro ~= piano and not e_qui and acceso(altro[quale]) then accesa = false end
+      end
       local arrivata = serve(aspetta(function() return servito(piano) end, una_corsa),
                              comando .. " al piano " .. piano.nome .. ": la cabina deve arrivare e aprire le porte")
       punti(1, arrivata, comando .. " al piano " .. piano.nome .. ": la cabina deve arrivare e aprire le porte")
       guarda(500)
       -- La lampada del piano può restare accesa finché la cabina è lì.
       local spenta = comando == "chiamata" or not acceso(lampada)
-      punti(0.75, buia and accesa and spenta, comando .. " al piano " .. piano.nome .. ": la sua lampada deve accendersi, e spegnersi quando è servita")
+      punti(0.75, buia and accesa and spenta, comando .. " al piano " .. piano.nome .. ": la sua lampada, e nessun'altra, deve accendersi, e spegnersi quando è servita")
       if prima then punti(1 / 3, not acceso(prima), "lasciato il piano la lampada della " .. comando .. " di prima deve essere spenta") end
       prima = lampada
       guarda(500)
@@ -120,11 +142,27 @@ prova("porte", 6, function()
   punti(1, not aspetta(function() return leggi("QB0") & 15 ~= 0 end, 8000), "servita la mandata la cabina deve restare ferma a porte chiuse")
 end)
 
-prova("chiamata al piano della cabina", 2, function()
+prova("da ogni piano", 3, function()
+  avvia()
+  -- Da ogni piano, arrivata da sotto e da sopra, la cabina va in tutti e due i versi.
+  local da, diritta = 4, true
+  for n, a in ipairs { 3, 4, 2, 3, 1, 2, 1, 3, 2, 4, 3, 1 } do
+    diritta = va_diritta(da, a, n % 2 == 0 and piani[a].chiamata or piani[a].mandata) and diritta
+    serve(servito(piani[a]), "la cabina deve arrivare al piano " .. piani[a].nome)
+    da = a
+  end
+  punti(3, diritta, "da ogni piano la cabina deve partire subito verso il piano chiesto, da dovunque sia arrivata")
+end)
+
+prova("chiamata al piano della cabina", 3, function()
   avvia()
   punti(1, va(terzo, terzo.chiamata), "chiamata dove si trova, la cabina deve aprire le porte")
   aspetta(a_riposo, 20000)
   punti(1, va(terzo, terzo.mandata), "mandata dove si trova, la cabina deve aprire le porte")
+  guarda(500)
+  chiama(terzo.chiamata)
+  punti(1, aspetta(a_riposo, 30000) and va(secondo, secondo.mandata),
+        "chiamata di nuovo al suo piano a porte aperte, la cabina deve poi chiuderle e servire altre richieste")
 end)
 
 prova("persona fra le porte", 4, function()
@@ -140,7 +178,7 @@ prova("persona fra le porte", 4, function()
   punti(1, riaperte and aspetta(chiuse, 15000), "passata la persona le porte devono chiudersi")
 end)
 
-prova("sovraccarico", 7, function()
+prova("sovraccarico", 8, function()
   avvia()
   regola(carico, 8)
   guarda(300)
@@ -157,7 +195,13 @@ prova("sovraccarico", 7, function()
   sicuro(2, true, not aspetta(in_corsa, 15000), "con 9 V di carico la cabina non deve partire")
   regola(carico, 0)
   guarda(200)
-  punti(1, va(terra, terra.mandata) and not acceso("Q1.4"), "tolto il sovraccarico la cabina deve poter partire, e HL9 spegnersi")
+  local di_nuovo = va(terra, terra.mandata)
+  punti(1, di_nuovo and not acceso("Q1.4"), "tolto il sovraccarico la cabina deve poter partire, e HL9 spegnersi")
+  chiama(terzo.mandata)
+  local corre = di_nuovo and aspetta(function() return in_corsa() and not a_un_piano() end, 15000)
+  regola(carico, 9)
+  sicuro(1, corre, not aspetta(function() return acceso("Q0.3") and not a_un_piano() end, 12000),
+         "un sovraccarico durante la corsa non deve aprire le porte fra due piani")
 end)
 
 local function lampade_spente()
@@ -167,8 +211,8 @@ local function lampade_spente()
   return true
 end
 
-for _, verso in ipairs { { nome = "discesa", da = terzo, a = terra, torna = primo }, { nome = "salita", da = terra, a = terzo, torna = terra } } do
-  prova("arresto fra due piani in " .. verso.nome, 6, function()
+for _, verso in ipairs { { nome = "discesa", da = terzo, a = terra, ritorno = "Q0.0" }, { nome = "salita", da = terra, a = terzo, ritorno = "Q0.1" } } do
+  prova("arresto fra due piani in " .. verso.nome, 7, function()
     avvia()
     serve(va(verso.da, verso.da.mandata) and aspetta(a_riposo, 20000), "la cabina deve arrivare al piano " .. verso.da.nome)
     chiama(verso.a.mandata)
@@ -184,7 +228,14 @@ for _, verso in ipairs { { nome = "discesa", da = terzo, a = terra, torna = prim
     rilascia(arresto)
     sicuro(2, corre, not aspetta(in_corsa, 10000), "SB5 in " .. verso.nome .. " deve cancellare le richieste: rilasciato, la cabina non riparte da sola")
     punti(1, corre and lampade_spente(), "SB5 in " .. verso.nome .. " deve spegnere le lampade delle richieste cancellate")
-    punti(1, corre and va(verso.torna, verso.torna.mandata), "dopo SB5 in " .. verso.nome .. " una nuova richiesta deve essere servita")
+    regola(carico, 9)
+    sicuro(1, corre, not aspetta(function() return acceso("Q0.3") end, 2000), "ferma fra due piani in " .. verso.nome .. ", la cabina non deve aprire le porte nemmeno con il sovraccarico")
+    regola(carico, 0)
+    guarda(200)
+    chiama(verso.da.mandata)
+    local torna = aspetta(in_corsa, 15000) and acceso(verso.ritorno)
+    chiama(verso.a.mandata)
+    punti(1, torna and aspetta(function() return servito(verso.da) end, una_corsa), "dopo SB5 in " .. verso.nome .. " una nuova richiesta deve essere servita, partendo dalla sua parte")
   end)
 end
 
@@ -226,7 +277,7 @@ for _, guasto in ipairs {
     end },
 } do
   local quanto = guasto.limite // 1000
-  prova("tempo massimo: " .. guasto.nome, 5, function()
+  prova("tempo massimo: " .. guasto.nome, 6, function()
     avvia()
     local va_bene = serve(guasto.porta(), "la cabina deve arrivare alla fase di " .. guasto.nome)
     blocca(guasto.pulsante)
@@ -235,12 +286,17 @@ for _, guasto in ipairs {
     guarda(2500)
     sicuro(2, va_bene, leggi("QB0") & 15 == 0, "dopo " .. quanto .. " secondi di " .. guasto.nome .. " (uno e mezzo in meno, uno in più) tutto deve fermarsi")
     punti(1, aspetta(function() return acceso("Q1.5") end, 1100), "superato il tempo massimo di " .. guasto.nome .. " deve accendersi HL10")
-    sicuro(1, va_bene, not aspetta(function() return leggi("QB0") & 15 ~= 0 end, 8000), "dopo il tempo massimo di " .. guasto.nome .. " niente deve ripartire da solo")
+    local function riparte() return leggi("QB0") & 15 ~= 0 end
+    local fermo = not aspetta(riparte, 4000)
+    chiama(primo.mandata)
+    chiama(terzo.mandata)
+    sicuro(1, va_bene, fermo and not aspetta(riparte, 4000), "dopo il tempo massimo di " .. guasto.nome .. " niente deve ripartire da solo, e nemmeno con una nuova richiesta")
     premi(arresto)
     guarda(300)
     rilascia(arresto)
     guarda(300)
-    punti(1, not acceso("Q1.5"), "SB5 deve spegnere HL10")
+    local spenta = punti(1, not acceso("Q1.5"), "SB5 deve spegnere HL10")
+    punti(1, spenta and va(secondo, secondo.mandata), "dopo il tempo massimo di " .. guasto.nome .. " e SB5 una nuova richiesta deve essere servita")
   end)
 end
 
@@ -276,7 +332,7 @@ prova("più richieste insieme", 8, function()
   punti(1, di_strada and viste == "terra, terzo", "anche dopo una fermata la cabina deve finire la discesa prima di risalire")
 end)
 
-prova("più richieste in salita", 6, function()
+prova("più richieste in salita", 7, function()
   avvia()
   serve(va(terra, terra.mandata) and aspetta(a_riposo, 20000), "la cabina deve arrivare a terra")
   chiama(terzo.mandata)
@@ -296,6 +352,14 @@ prova("più richieste in salita", 6, function()
   chiama(primo.chiamata)
   viste = fermate(2 * una_corsa)
   punti(2, viste == "secondo, primo", "una chiamata dal piano appena lasciato si serve dopo la salita")
+  serve(aspetta(a_riposo, 30000) and va(secondo, secondo.mandata) and aspetta(a_riposo, 20000), "la cabina deve arrivare al secondo")
+  premi(terra.chiamata)
+  premi(terzo.chiamata)
+  guarda(200)
+  rilascia(terzo.chiamata)
+  rilascia(terra.chiamata)
+  viste = fermate(2 * una_corsa)
+  punti(1, viste == "terra, terzo" or viste == "terzo, terra", "due chiamate nello stesso istante, una sopra e una sotto, devono essere servite tutt'e due")
 end)
 
 prova("STOP e RUN a porte aperte", 2, function()
@@ -315,18 +379,20 @@ prova("STOP e RUN a porte aperte", 2, function()
   punti(1, arrivata, "dopo STOP e RUN a porte aperte una nuova richiesta deve chiuderle ed essere servita")
 end)
 
-prova("STOP e RUN a metà corsa", 2, function()
+prova("STOP e RUN a metà corsa", 3, function()
   avvia()
   chiama(terra.mandata)
+  for _, piano in ipairs(piani) do chiama(piano.chiamata) end
   serve(aspetta(function() return in_corsa() and not a_un_piano() end, 15000), "con la mandata la cabina deve partire")
   stop()
   attendi(2000)
   run()
   sicuro(1, true, not aspetta(in_corsa, 5000), "dopo STOP e RUN la cabina deve aspettare una nuova richiesta")
+  punti(1, lampade_spente(), "dopo STOP e RUN le lampade delle richieste devono essere spente")
   punti(1, va(terra, terra.mandata), "dopo STOP e RUN una nuova richiesta deve essere servita")
 end)
 
-prova_di_sicurezza(71, function()
+prova_di_sicurezza(82, function()
   avvia()
   return va(terra, terra.chiamata) and aspetta(a_riposo, 20000) and (va(secondo, secondo.mandata))
 end, "la cabina deve servire una chiamata e una mandata")
