@@ -5,7 +5,7 @@ function accesa(lampada) return elemento(lampada).Picture ~= "imgLNot" end
 
 -- Accesa in qualche momento dei prossimi due secondi, anche se lampeggia.
 function si_accende(lampada)
-  return attendi_fino(function() return accesa(lampada) end, 2000)
+  return attendi_quando(function() return accesa(lampada) end, 2000)
 end
 
 function premi_per(pulsante, ms)

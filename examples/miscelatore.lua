@@ -40,11 +40,12 @@ end
 
 -- Accesa in qualche momento dei prossimi due secondi, anche se lampeggia.
 function si_accende(punto)
-  return attendi_fino(function() return acceso(punto) end, 2000)
+  return attendi_quando(function() return acceso(punto) end, 2000)
 end
 
--- Guarda la ricetta fino alla fine dello scarico, e chiama "anche" a ogni scansione. I litri sono quelli
--- dei contatori del disegno, che ripartono da zero a ogni inizio del flusso.
+-- Guarda la ricetta fino alla fine dello scarico, e chiama "anche" a ogni cambiamento, con i millisecondi
+-- passati dal cambiamento di prima. I litri sono quelli dei contatori del disegno, che ripartono da zero a
+-- ogni inizio del flusso.
 function osserva_ricetta(ms, scarica, agita, anche)
   local visto = { litri = { 0, 0 }, agitato = 0 }
   local prima = {}
@@ -52,16 +53,20 @@ function osserva_ricetta(ms, scarica, agita, anche)
     local adesso = tonumber(elemento("EtP(" .. n - 1 .. ")").Caption)
     prima[n] = adesso > 2 and adesso or 0  -- il conto di una ricetta di prima non vale
   end
-  visto.finita = attendi_fino(function()
+  local agitava, ultimo = false, 0
+  visto.finita = attendi_quando(function(adesso)
+    local passati = adesso - ultimo
+    ultimo = adesso
     for n = 1, 2 do
       local adesso = tonumber(elemento("EtP(" .. n - 1 .. ")").Caption)
       if adesso > prima[n] then visto.litri[n] = visto.litri[n] + adesso - prima[n] end
       prima[n] = adesso
     end
     if visto.scaricando then return not scarica() end
-    if agita() then visto.agitato = visto.agitato + 1 end
+    if agitava then visto.agitato = visto.agitato + passati end
+    agitava = agita()
     visto.scaricando = scarica()
-    if anche then anche(visto) end
+    if anche then anche(visto, passati) end
   end, ms)
   return visto
 end

@@ -22,7 +22,7 @@ end
 
 local function marcia_a_triangolo()
   marcia_a_stella()
-  serve(attendi_fino(a_triangolo, 13000), "dopo la stella il motore passa a triangolo")
+  serve(attendi_quando(a_triangolo, 13000), "dopo la stella il motore passa a triangolo")
   serve(sempre(1100, a_triangolo), "a triangolo il motore resta in marcia")
 end
 
@@ -117,7 +117,7 @@ prova("avviamento", 10, function()
   attendi(300)
   marcia_a_stella()
   punti(3, acceso(linea) and acceso(stella), "dopo Start il motore gira a stella: KM1 e KM2 chiusi")
-  serve(punti(4, attendi_fino(a_triangolo, 13000), "dopo la stella il motore passa a triangolo: KM1 e KM3 chiusi"),
+  serve(punti(4, attendi_quando(a_triangolo, 13000), "dopo la stella il motore passa a triangolo: KM1 e KM3 chiusi"),
         "il motore arriva a triangolo")
   premi_per("imgStart", 300)
   punti(3, sempre(10000, a_triangolo), "a triangolo il motore resta in marcia, anche se si preme di nuovo Start")
@@ -151,7 +151,7 @@ prova("lampade", 5, function()
   marcia_a_stella()
   local stella_giusta = fissa(verde_stella) and spenta(verde_triangolo) and spenta(blu)
   termico_a_posto = termico_a_posto and not acceso(gialla)
-  serve(attendi_fino(a_triangolo, 13000), "dopo la stella il motore passa a triangolo")
+  serve(attendi_quando(a_triangolo, 13000), "dopo la stella il motore passa a triangolo")
   attendi(100)
   punti(1, stella_giusta, "a stella è accesa soltanto la verde HL3 (Q0.4)")
   punti(1, fissa(verde_triangolo) and spenta(verde_stella) and spenta(blu), "a triangolo è accesa soltanto la verde HL4 (Q0.5)")
@@ -171,9 +171,9 @@ prova("stella incollata", 4, function()
   premi_per("imgStop", 200)
   marcia_a_stella()
   -- KM2 viene tenuto chiuso: il doppio clic lo richiude appena il programma lo apre.
-  serve(attendi_fino(function() return not acceso(stella) end, 13000), "finita la stella KM2 si apre")
+  serve(attendi_quando(function() return not acceso(stella) end, 13000), "finita la stella KM2 si apre")
   if not chiuso(km2) then doppio_clic(km2) end
-  punti(4, not attendi_fino(function() return acceso(triangolo) end, 2500),
+  punti(4, not attendi_quando(function() return acceso(triangolo) end, 2500),
         "se KM2a resta a 1 il triangolo non si chiude")
 end)
 

@@ -25,15 +25,15 @@ end
 
 local function m1_a_triangolo()
   m1_a_stella()
-  serve(attendi_fino(a_triangolo, 13000), "dopo la stella M1 passa a triangolo")
+  serve(attendi_quando(a_triangolo, 13000), "dopo la stella M1 passa a triangolo")
   attendi(100)
 end
 
 -- Tutti e due in marcia; chi non ha il ciclo automatico ci arriva con SB3.
 local function tutto_in_marcia()
   m1_a_triangolo()
-  if not attendi_fino(m2_gira, 12000) then premi_per("imgSM2", 300) end
-  serve(attendi_fino(m2_gira, 15000), "con M1 a triangolo M2 va in marcia")
+  if not attendi_quando(m2_gira, 12000) then premi_per("imgSM2", 300) end
+  serve(attendi_quando(m2_gira, 15000), "con M1 a triangolo M2 va in marcia")
   serve(sempre(1000, function() return a_triangolo() and m2_gira() end), "M1 a triangolo e M2 restano in marcia")
 end
 
@@ -134,13 +134,13 @@ prova("M1 a stella e a triangolo", 9, function()
   attendi(300)
   m1_a_stella()
   punti(2, a_stella() and acceso(linea), "dopo SB2 M1 gira a stella")
-  serve(punti(2, attendi_fino(a_triangolo, 13000), "dopo la stella M1 passa a triangolo"), "M1 arriva a triangolo")
+  serve(punti(2, attendi_quando(a_triangolo, 13000), "dopo la stella M1 passa a triangolo"), "M1 arriva a triangolo")
   punti(2, sempre(8000, a_triangolo), "M1 resta in marcia a triangolo")
   ferma_tutto()
   attendi(300)
   premi("imgStart")
   attendi(100)
-  local _, ms = attendi_fino(function() return not acceso(stella) end, 13000)
+  local _, ms = attendi_quando(function() return not acceso(stella) end, 13000)
   rilascia("imgStart")
   punti(3, ms >= 4300 and ms <= 5500, "la stella dura 5 secondi (tra 4,5 e 5,5)")
 end)
@@ -149,8 +149,8 @@ prova("ciclo automatico", 6, function()
   run()
   attendi(300)
   m1_a_stella()
-  serve(attendi_fino(function() return acceso(triangolo) end, 13000), "dopo la stella M1 passa a triangolo")
-  local partito, ms = attendi_fino(function() return acceso(m2) end, 15000)
+  serve(attendi_quando(function() return acceso(triangolo) end, 13000), "dopo la stella M1 passa a triangolo")
+  local partito, ms = attendi_quando(function() return acceso(m2) end, 15000)
   serve(punti(3, partito, "con un solo comando su SB2 parte anche M2"), "M2 parte da solo")
   punti(3, ms >= 2500 and ms <= 3500, "M2 parte dopo 3 secondi di triangolo (tra 2,5 e 3,5)")
 end)
@@ -203,7 +203,7 @@ prova("contattori che si aprono da soli", 4, function()
   end
 end)
 
-local function si_vede(punto) return attendi_fino(function() return acceso(punto) end, 1200) end
+local function si_vede(punto) return attendi_quando(function() return acceso(punto) end, 1200) end
 
 prova("lampade", 7, function()
   run()
@@ -214,7 +214,7 @@ prova("lampade", 7, function()
   local solo_m1 = acceso(verde1) and not acceso(blu1) and acceso(blu2) and not acceso(verde2)
   attendi(500)
   if not m2_gira() then premi_per("imgSM2", 300) end
-  serve(attendi_fino(m2_gira, 15000), "con M1 a triangolo M2 va in marcia")
+  serve(attendi_quando(m2_gira, 15000), "con M1 a triangolo M2 va in marcia")
   attendi(100)
   punti(1, ferme, "con i motori fermi sono accese le due blu e spente le verdi")
   punti(1, solo_m1 and fissa(verde1) and spenta(blu1), "con M1 in marcia la sua verde HL3 è accesa e la sua blu HL2 spenta")

@@ -18,21 +18,25 @@ local function chiuso() return leggi("I0.2") == 0 end
 -- Aspetta, e guarda a ogni scansione i due contattori e la pausa fra l'uno e l'altro. Un
 -- temporizzatore di mezzo secondo può durare uno scatto, un decimo di secondo, in meno.
 local ora, ultima_chiude, ultima_apre = 0, -1000, -1000
-local function sorveglia()
-  ora = ora + 1
+local chiudeva, apriva = false, false
+local function sorveglia(adesso)
   local c, a = chiude(), apre()
+  if chiudeva then ultima_chiude = adesso end
+  if apriva then ultima_apre = adesso end
   if c and a then pericolo("i due contattori non devono mai essere chiusi insieme") end
-  if c and ora - ultima_apre < 390 or a and ora - ultima_chiude < 390 then
+  if c and adesso - ultima_apre < 390 or a and adesso - ultima_chiude < 390 then
     pericolo("prima di invertire il motore deve restare fermo mezzo secondo")
   end
-  if c then ultima_chiude = ora end
-  if a then ultima_apre = ora end
+  chiudeva, apriva = c, a
 end
 local function aspetta(fino, ms)
-  return attendi_fino(function()
-    sorveglia()
+  local inizio = ora
+  local vero, passati = attendi_quando(function(adesso)
+    sorveglia(inizio + adesso)
     return fino()
   end, ms)
+  ora = inizio + passati
+  return vero, passati
 end
 local function guarda(ms) aspetta(function() return false end, ms) end
 local function sta_fermo(ms) return not aspetta(function() return not fermo() end, ms) end
@@ -44,7 +48,7 @@ local function premi_per(organo, ms)
 end
 
 local function avvia()
-  ultima_chiude, ultima_apre = ora - 1000, ora - 1000
+  ultima_chiude, ultima_apre, chiudeva, apriva = ora - 1000, ora - 1000, false, false
   run()
   return serve(sta_fermo(500), "senza comandi il cancello chiuso deve restare fermo")
 end

@@ -32,18 +32,24 @@ end
 -- Oltre ai litri: il vapore, l'agitatore, la temperatura e HL1, fino all'inizio dello scarico.
 local function osserva(ms)
   local insieme, buio = 0, 0
-  return osserva_ricetta(ms, function() return accesi(scarico) end, function() return acceso(agitatore) end, function(visto)
+  local prima = {}  -- com'erano le uscite fino a questo cambiamento
+  return osserva_ricetta(ms, function() return accesi(scarico) end, function() return acceso(agitatore) end, function(visto, passati)
     if acceso(vapore) then
-      visto.vapore = visto.vapore or 0
-      visto.vapore = visto.vapore + 1
+      visto.vapore = true
       if not acceso(agitatore) then visto.senza_agitatore = true end
       if visto.litri[2] < litri_2 - 1 then visto.presto = true end
     end
-    if visto.dopo == 1000 then visto.chiuso = not acceso(vapore) end
-    if not acceso("Q1.0") then buio = buio + 1 end
+    if prima.buio then buio = buio + passati end
     visto.sempre_luce = buio < 100
-    if visto.dopo or visto.vapore and acceso("I0.7") then visto.dopo = (visto.dopo or 0) + 1 end
-    if accesi(mandata_1) and accesi(mandata_2) then insieme = insieme + 1 end
+    if visto.dopo then
+      local un_secondo = visto.dopo < 1000
+      visto.dopo = visto.dopo + passati
+      if un_secondo and visto.dopo >= 1000 then visto.chiuso = not prima.vapore end
+    elseif visto.vapore and acceso("I0.7") then
+      visto.dopo = 0
+    end
+    if prima.insieme then insieme = insieme + passati end
+    prima = { buio = not acceso("Q1.0"), vapore = acceso(vapore), insieme = accesi(mandata_1) and accesi(mandata_2) }
     visto.insieme = insieme > 100
     visto.gradi = gradi()
     visto.gradi_massimi = math.max(visto.gradi_massimi or 0, visto.gradi)
@@ -83,7 +89,7 @@ for n, prodotto in ipairs { { selettore = "imgCom(1)", velocita = "ME_Speed1", l
     in_manuale()
     regola(prodotto.velocita, 100)
     gira(prodotto.selettore)
-    attendi_fino(function() return litri() > 160 end, 60000)
+    attendi_quando(function() return litri() > 160 end, 60000)
     attendi(3000)
     serve(litri() >= 150, "in manuale il carico deve poter riempire il serbatoio fino a 150 litri")
     sicuro(2, true, litri() <= 163 and spenti(prodotto.linea), "oltre 160 litri il carico del prodotto " .. n .. " deve fermarsi")
@@ -118,7 +124,7 @@ end
 prova("l'automatico vuole SA1 e Start", 3, function()
   in_manuale()
   premi(start)
-  local mosso = attendi_fino(function() return not tutto_fermo() end, 300)
+  local mosso = attendi_quando(function() return not tutto_fermo() end, 300)
   rilascia(start)
   attendi(2000)
   sicuro(1, true, not mosso and tutto_fermo(), "in manuale (SA1 a 0) Start non deve avviare nulla")
@@ -138,7 +144,7 @@ for _, quanti in ipairs { 10, 90 } do
     regola("ME_Speed1", 100)
     in_manuale()
     gira("imgCom(1)")
-    attendi_fino(function() return litri() >= quanti end, 60000)
+    attendi_quando(function() return litri() >= quanti end, 60000)
     gira("imgCom(1)")
     serve(litri() >= quanti and tutto_fermo(), "in manuale SA2 deve caricare il prodotto 1")
     gira(sa1)
@@ -194,7 +200,7 @@ for _, fase in ipairs {
 } do
   prova("Stop durante la fase di " .. fase.nome, 2.5, function()
     in_automatico(22)
-    local va = serve(attendi_fino(fase.in_corso, 300000), "dopo Start si deve arrivare alla fase di " .. fase.nome)
+    local va = serve(attendi_quando(fase.in_corso, 300000), "dopo Start si deve arrivare alla fase di " .. fase.nome)
     attendi(2000)
     punti(0.5, acceso("Q1.0"), "nella fase di " .. fase.nome .. " HL1 deve essere accesa")
     premi(stop_auto)
@@ -222,7 +228,7 @@ for _, caso in ipairs {
 } do
   prova("termico di M" .. caso.motore .. " in automatico", 1, function()
     in_automatico(22)
-    local va = serve(attendi_fino(caso.in_corso, 300000), "dopo Start si deve arrivare alla fase di " .. caso.nome)
+    local va = serve(attendi_quando(caso.in_corso, 300000), "dopo Start si deve arrivare alla fase di " .. caso.nome)
     attendi(1000)
     clic("imgM(" .. caso.motore - 1 .. ")")
     attendi(200)

@@ -44,7 +44,7 @@ local function porta_a(condizione, che_cosa)
   regola("ME_SpedP", 100)
   regola("ME_SpedS", 100)
   avvia()
-  return serve(attendi_fino(condizione, 300000), "dopo Start si deve arrivare " .. che_cosa)
+  return serve(attendi_quando(condizione, 300000), "dopo Start si deve arrivare " .. che_cosa)
 end
 
 local function mescolando() return acceso(agitatore) end
@@ -64,7 +64,10 @@ prova("ricetta", 22, function()
   attendi(500)
   luci_carico = lampade(hl, "1001000")
   local fino, ultima, una_sola, agitato, avvii, pompava, buio = {}, 0, true, 0, 1, true, 0
-  local mescolato = attendi_fino(function()
+  local prima, ultimo = {}, 0  -- com'erano le uscite fino a questo cambiamento
+  local mescolato = attendi_quando(function(adesso)
+    local passati = adesso - ultimo
+    ultimo = adesso
     for n, valvola in ipairs(valvole) do
       if acceso(valvola) then
         fino[n] = litri()
@@ -73,13 +76,15 @@ prova("ricetta", 22, function()
       end
     end
     if aperte() > 1 then una_sola = false end
-    if not acceso("Q1.1") then buio = buio + 1 end
+    if prima.buio then buio = buio + passati end
     if acceso(pompa) and not pompava then avvii = avvii + 1 end
     pompava = acceso(pompa)
-    if acceso(agitatore) then
-      agitato = agitato + 1
-      if agitato == 1000 then luci_mescola = lampade(hl, "1000100") end
+    if prima.mescola then
+      local un_secondo = agitato < 1000
+      agitato = agitato + passati
+      if un_secondo and agitato >= 1000 then luci_mescola = prima.luci end
     end
+    prima = { buio = not acceso("Q1.1"), mescola = acceso(agitatore), luci = lampade(hl, "1000100") }
     return acceso(scarico) or agitato > 0 and not acceso(agitatore)
   end, 400000)
   local attesi = { 40, 80, 120, fine_d }
@@ -104,7 +109,7 @@ prova("ricetta", 22, function()
   attendi(300)
   punti(1, acceso(scarico), "con SA lo scarico deve aprirsi")
   punti(1, lampade(hl, "..10000"), "durante lo scarico HL3 deve essere accesa")
-  local vuoto = attendi_fino(function() return litri() == 0 end, 120000)
+  local vuoto = attendi_quando(function() return litri() == 0 end, 120000)
   attendi(1000)
   punti(2, vuoto and tutto_fermo(), "lo scarico deve arrivare fino a vuoto e chiudersi")
   punti(1, lampade(hl, "0000000"), "finito lo scarico tutte le lampade del ciclo devono essere spente")
@@ -136,7 +141,7 @@ prova("prodotto A mancante", 5, function()
   attendi(2900)
   punti(2, va and not subito and tutto_fermo(), "se per 3 secondi (da 2 a 4) non arrivano impulsi il carico deve fermarsi")
   local cambi, prima = 0, acceso("Q1.1")
-  attendi_fino(function()
+  attendi_quando(function()
     if acceso("Q1.1") ~= prima then cambi, prima = cambi + 1, acceso("Q1.1") end
   end, 3000)
   punti(1, cambi >= 3, "con un prodotto mancante HL2 ciclo attivo deve lampeggiare")
@@ -178,7 +183,7 @@ local fasi = {
   { nome = "scarico", porta = function()
       porta_a(dopo_mescolazione(), "alla fine della mescolazione")
       gira(sa)
-      return serve(attendi_fino(function() return acceso(scarico) end, 2000), "con SA lo scarico deve aprirsi")
+      return serve(attendi_quando(function() return acceso(scarico) end, 2000), "con SA lo scarico deve aprirsi")
     end },
 }
 for _, fase in ipairs(fasi) do
@@ -301,5 +306,5 @@ end)
 prova_di_sicurezza(58, function()
   porta_a(dopo_mescolazione(), "alla fine della mescolazione")
   gira(sa)
-  return (attendi_fino(function() return litri() == 0 end, 120000))
+  return (attendi_quando(function() return litri() == 0 end, 120000))
 end, "Start e SA devono portare la ricetta fino alla fine dello scarico")

@@ -47,13 +47,13 @@ end
 local function osserva(ms, massimo, anche)
   local visti, prima = {}, {}
   for _, movimento in ipairs(movimenti) do prima[movimento] = arrivato(movimento) end
-  attendi_fino(function()
+  attendi_quando(function(passati)
     for _, movimento in ipairs(movimenti) do
       local adesso = arrivato(movimento)
       if adesso and not prima[movimento] then visti[#visti + 1] = movimento end
       prima[movimento] = adesso
     end
-    if anche then anche(#visti) end
+    if anche then anche(#visti, passati) end
     return massimo and #visti >= massimo
   end, ms)
   return visti
@@ -62,16 +62,16 @@ end
 local function in_corsa(cilindro) return not arrivato(cilindro .. "-") and not arrivato(cilindro .. "+") and 1 or 0 end
 local function un_ciclo(anche)
   local insieme = false
-  local visti = osserva(12000, #sequenza, function(quanti)
+  local visti = osserva(12000, #sequenza, function(quanti, passati)
     if in_corsa("A") + in_corsa("B") + in_corsa("C") > 1 then insieme = true end
-    if anche then anche(quanti) end
+    if anche then anche(quanti, passati) end
   end)
   return not insieme and table.concat(visti, ", ") == testo_atteso
 end
 local function niente_si_muove(ms)
   local dove = {}
   for n, movimento in ipairs(movimenti) do dove[n] = arrivato(movimento) end
-  return not attendi_fino(function()
+  return not attendi_quando(function()
     for n, movimento in ipairs(movimenti) do
       if arrivato(movimento) ~= dove[n] then return true end
     end
@@ -81,7 +81,7 @@ end
 local function nel_passo(n)
   if n > 1 and #osserva(12000, n - 1) < n - 1 then return false end
   local partenza = sequenza[n]:sub(1, 1) .. (sequenza[n]:sub(2) == "+" and "-" or "+")
-  return (attendi_fino(function() return not arrivato(partenza) end, 3000))
+  return (attendi_quando(function() return not arrivato(partenza) end, 3000))
 end
 
 local function con_aria()
@@ -95,7 +95,7 @@ end
 
 local function ripristina()
   premi_per("imgSB4", 300)
-  local tornati = attendi_fino(a_riposo, 5000)
+  local tornati = attendi_quando(a_riposo, 5000)
   attendi(300)
   return tornati and acceso(aria)
 end
@@ -139,7 +139,7 @@ prova("condizioni di partenza", 4, function()
     -- Ogni cambio di un'uscita, anche di una lampada, rimette la valvola come la vuole la bobina: il
     -- cilindro resta fuori poco.
     premi(mano.valvola)
-    serve(attendi_fino(function() return not arrivato(mano.dentro) end, 1000), "un cilindro è stato mosso a mano")
+    serve(attendi_quando(function() return not arrivato(mano.dentro) end, 1000), "un cilindro è stato mosso a mano")
     attendi(20)
     premi("imgSB2")
     attendi(40)
@@ -164,8 +164,8 @@ prova("aria che manca a metà ciclo", 4, function()
     attendi(100)
     serve(niente_si_muove(passo == 2 and tempo + 2000 or 2000), "senza aria il ciclo deve aspettare, quanto vuole")
     clic("imgCom")
-    serve(attendi_fino(function() return not a_riposo() end, 5000), "tornata l'aria il ciclo deve riprendere")
-    serve(attendi_fino(a_riposo, 12000), "tornata l'aria il ciclo deve finire")
+    serve(attendi_quando(function() return not a_riposo() end, 5000), "tornata l'aria il ciclo deve riprendere")
+    serve(attendi_quando(a_riposo, 12000), "tornata l'aria il ciclo deve finire")
     attendi(500)
   end
   punti(4, niente_si_muove(2000), "se l'aria manca, in ogni passo il ciclo deve aspettare e poi riprendere da dov'era")
@@ -196,6 +196,7 @@ for _, caso in ipairs {
     clic("ImgEm")
     local fermo = niente_si_muove(3000) and not acceso(aria)
     premi_per("imgSB2", 300)
+    premi_per("imgSB1", 300)
     fermo = fermo and niente_si_muove(1000) and not acceso(aria)
     sicuro(2, va, fermo, "liberato SB5 niente deve muoversi e l'aria non deve tornare finché non si preme SB4")
     punti(1, ripristina(), "dopo l'emergenza SB4 deve ridare l'aria, con la quale i cilindri rientrano")
@@ -208,13 +209,9 @@ end
 for _, caso in ipairs { { passo = 2, bobina = bobine[2], valvola = "cmdV2a" }, { passo = 4, bobina = bobine[3], valvola = "cmdV3a" } } do
   prova("tempo massimo al passo " .. sequenza[caso.passo], 6, function()
     con_aria()
-    local trascorsi = 0
     premi("imgSB2")
     attendi(50)
-    local comincia = attendi_fino(function()
-      trascorsi = trascorsi + 1
-      return acceso(caso.bobina)
-    end, 10000)
+    local comincia, trascorsi = attendi_quando(function() return acceso(caso.bobina) end, 10000)
     rilascia("imgSB2")
     serve(comincia, "il ciclo deve arrivare al movimento " .. sequenza[caso.passo])
     -- Una mano sulla valvola: al rilascio il cilindro rientra anche se la bobina è eccitata.
@@ -222,14 +219,15 @@ for _, caso in ipairs { { passo = 2, bobina = bobine[2], valvola = "cmdV2a" }, {
     premi(caso.valvola)
     attendi(20)
     rilascia(caso.valvola)
-    local via, dopo = attendi_fino(function() return not acceso(aria) end, tempo + 5000)
+    local via, dopo = attendi_quando(function() return not acceso(aria) end, tempo + 5000)
     local totale = trascorsi + dopo + 120
     print("l'aria va via dopo " .. totale .. " ms")
     serve(via and bobine_spente(), "se il ciclo non finisce in 15 secondi le bobine e l'aria devono cadere, come in emergenza")
     punti(2, math.abs(totale - tempo) <= 1500, "il tempo massimo di un ciclo deve essere di 15 secondi (uno e mezzo in più o in meno), dall'inizio")
-    local accesa = attendi_fino(function() return acceso(hl[6]) end, 1100)
+    local accesa = attendi_quando(function() return acceso(hl[6]) end, 1100)
     local fermo = niente_si_muove(2000)
     premi_per("imgSB2", 300)
+    premi_per("imgSB1", 300)
     sicuro(1, true, fermo and niente_si_muove(1000) and not acceso(aria), "passato il tempo massimo niente deve muoversi finché non si preme SB4")
     serve(ripristina(), "dopo il tempo massimo SB4 deve ridare l'aria, con la quale i cilindri rientrano")
     punti(1, accesa and not acceso(hl[6]), "HL6 deve accendersi al tempo massimo e spegnersi con SB4")
@@ -250,7 +248,7 @@ for _, caso in ipairs { { nome = "singolo", pulsante = "imgSB2", passo = 4 }, { 
     attendi(100)
     local spente = bobine_spente()
     premi_per("imgSB4", 300)
-    serve(attendi_fino(a_riposo, 5000), "dopo STOP e RUN i cilindri devono rientrare, con SB4 se occorre")
+    serve(attendi_quando(a_riposo, 5000), "dopo STOP e RUN i cilindri devono rientrare, con SB4 se occorre")
     attendi(300)
     sicuro(2, va, spente and niente_si_muove(4000) and bobine_spente(), "dopo STOP e RUN il ciclo " .. caso.nome .. " non deve riprendere")
     premi_per("imgSB2", 200)
@@ -266,10 +264,9 @@ prova("lampade", 10, function()
   attendi(500)
   punti(1, lampade("100100"), "con l'aria e i cilindri a riposo devono essere accese HL1 e HL4, e nessun'altra")
   premi_per("imgSB2", 50)
-  local sempre_in_corso, da = true, 0
-  local compiuto = un_ciclo(function(visti)
-    da = da + 1
-    if da > 150 and visti < #sequenza and not lampade("101000") then sempre_in_corso = false end
+  local sempre_in_corso = true
+  local compiuto = un_ciclo(function(visti, passati)
+    if passati > 150 and visti < #sequenza and not lampade("101000") then sempre_in_corso = false end
   end)
   punti(2, compiuto and sempre_in_corso, "in tutto il ciclo singolo devono essere accese HL1 e HL3, e nessun'altra")
   attendi(500)
@@ -278,14 +275,14 @@ prova("lampade", 10, function()
   attendi(150)
   punti(2, not a_riposo() and lampade("111000"), "nel ciclo automatico devono essere accese HL1, HL2 e HL3, e nessun'altra")
   premi_per("imgSB3", 100)
-  serve(attendi_fino(a_riposo, 12000), "premuto SB3 il ciclo in corso deve finire")
+  serve(attendi_quando(a_riposo, 12000), "premuto SB3 il ciclo in corso deve finire")
   attendi(500)
   punti(1, lampade("100100"), "finito il ciclo automatico HL2 e HL3 devono spegnersi")
   premi_per("imgSB2", 100)
   serve(nel_passo(2), "il ciclo deve arrivare al movimento " .. sequenza[2])
   clic("ImgEm")
   attendi(200)
-  local vista = attendi_fino(function() return acceso(hl[5]) end, 1100)
+  local vista = attendi_quando(function() return acceso(hl[5]) end, 1100)
   punti(2, vista and lampade("0000.0"), "in emergenza deve essere accesa HL5, fissa o lampeggiante, e nessun'altra a cilindri fuori")
   clic("ImgEm")
   attendi(300)

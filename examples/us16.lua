@@ -35,19 +35,13 @@ local function nuova_fase(o)
   end
 end
 
-local function segna(o)
-  local lampade = leggi("QB0") & 31
-  o.ora = o.ora + 1
-  if lampade ~= o.lampade then
-    o.lampade, o.da = lampade, o.ora
-    local rosso, altre = lampade & 4 ~= 0, lampade & 24 ~= 0
-    if accesa("Q0.1") and (altre or not rosso) then
-      pericolo("con il verde ai pedoni i veicoli devono avere il rosso e nient'altro")
-    end
-    nuova_fase(o)
-  end
-  -- Un cambio di lampade può durare qualche scansione.
-  if o.ora - o.da == 50 then
+-- Le lampade accese finora: un cambio può durare qualche scansione, e il verde che lampeggia è spento al
+-- massimo per un secondo; il resto del tempo una luce c'è.
+local function giudica(o)
+  local lampade, da_quanto = o.lampade, o.ora - o.da
+  if not lampade then return end
+  if da_quanto >= 50 and not o.giudicata then
+    o.giudicata = true
     if (lampade >> 2 & 1) + (lampade >> 3 & 1) + (lampade >> 4 & 1) ~= 1 then o.veicoli = o.veicoli + 1 end
     local pedoni_al_verde = #o.fasi > 0 and o.fasi[#o.fasi].nome == "verde pedoni"
     local rossa, verde = lampade & 1 ~= 0, lampade & 2 ~= 0
@@ -55,16 +49,36 @@ local function segna(o)
       o.pedoni = o.pedoni + 1
     end
   end
-  -- Il verde che lampeggia è spento al massimo per un secondo; il resto del tempo una luce c'è.
-  if lampade & 3 == 0 and o.ora - o.da == 1100 then o.pedoni = o.pedoni + 1 end
+  if lampade & 3 == 0 and da_quanto >= 1100 and not o.buio then
+    o.pedoni, o.buio = o.pedoni + 1, true
+  end
+end
+
+local function segna(o)
+  local lampade = leggi("QB0") & 31
+  giudica(o)
+  if #o.fasi > 0 then o.fasi[#o.fasi].fine = o.ora end
+  if lampade ~= o.lampade then
+    o.lampade, o.da, o.giudicata, o.buio = lampade, o.ora, false, false
+    local rosso, altre = lampade & 4 ~= 0, lampade & 24 ~= 0
+    if accesa("Q0.1") and (altre or not rosso) then
+      pericolo("con il verde ai pedoni i veicoli devono avere il rosso e nient'altro")
+    end
+    nuova_fase(o)
+  end
   if #o.fasi > 0 then o.fasi[#o.fasi].fine = o.ora end
 end
 
 local function osserva(o, ms, fino)
-  return attendi_fino(function()
+  local inizio = o.ora
+  local vero, passati = attendi_quando(function(adesso)
+    o.ora = inizio + adesso
     segna(o)
     return fino and fino()
   end, ms)
+  o.ora = inizio + passati
+  segna(o)
+  return vero, passati
 end
 
 local function in_riga(o)
@@ -81,7 +95,7 @@ local function quante(o, nome)
   return totale
 end
 
-local function lunga(fase) return fase.fine - fase.inizio + 1 end
+local function lunga(fase) return fase.fine - fase.inizio end
 
 -- Quanto dura la fase con questo nome, la prima o la seconda volta; 0 se non c'è.
 local function durata(o, nome, volta)
@@ -177,8 +191,13 @@ prova("prenotazione durante lo sgombero", 1, function()
   local o = nuova_osservazione()
   chiama(o, "imgSB(0)", 200)
   osserva(o, un_minuto, verde_ai_pedoni)
-  serve(osserva(o, un_minuto, function() return #o.fasi > 0 and o.fasi[#o.fasi].nome == "tutto rosso" and lunga(o.fasi[#o.fasi]) > 1500 end)
-        and not verde_ai_pedoni(), "dopo il verde dei pedoni ci vuole il tutto rosso")
+  local sgombero = false
+  for _ = 1, 20 do  -- fra un lampeggio e l'altro il verde dei pedoni è spento per meno di un secondo e mezzo
+    if not osserva(o, un_minuto, function() return fase_adesso() == "tutto rosso" end) then break end
+    sgombero = not osserva(o, 1500, function() return fase_adesso() ~= "tutto rosso" end)
+    if sgombero then break end
+  end
+  serve(sgombero and not verde_ai_pedoni(), "dopo il verde dei pedoni ci vuole il tutto rosso")
   chiama(o, "imgSB(1)", 200)
   osserva(o, un_minuto, verde_ai_veicoli)
   punti(1, osserva(o, un_minuto, verde_ai_pedoni), "una prenotazione nel tutto rosso dopo i pedoni deve valere per il giro seguente")
@@ -226,7 +245,22 @@ prova("STOP e RUN durante il verde ai pedoni", 2, function()
   punti(2, osserva(o, un_minuto, verde_ai_pedoni), "dopo STOP e RUN il semaforo deve riprendere a funzionare")
 end)
 
-prova_di_sicurezza(29, function()
+prova("STOP e RUN durante il giallo", 2, function()
+  a_riposo()
+  local o = nuova_osservazione()
+  chiama(o, "imgSB(0)", 200)
+  serve(osserva(o, 5000, giallo_ai_veicoli), "premuto un pulsante i veicoli devono avere il giallo")
+  osserva(o, 500)
+  stop()
+  attendi(5000)
+  run()
+  o = nuova_osservazione()
+  osserva(o, 40000)
+  serve(verde_ai_veicoli(), "dopo STOP e RUN i veicoli devono riavere il verde entro 40 secondi")
+  punti(2, o.veicoli == 0 and o.pedoni == 0, "anche dopo STOP e RUN per i veicoli, e per i pedoni, deve essere accesa una lampada e una sola")
+end)
+
+prova_di_sicurezza(31, function()
   a_riposo()
   local o = nuova_osservazione()
   chiama(o, "imgSB(0)", 200)

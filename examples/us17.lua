@@ -18,14 +18,11 @@ local function vicino(riferimento, errore) return math.abs(volt() - riferimento)
 -- La tensione di controllo, con un decimo di volt di tolleranza.
 local function velocita(v) return math.abs(leggi("AQW0") / 3200 - v) <= 0.1 end
 
--- Aspetta guardando ogni 10 ms, e controlla a ogni scansione che i due versi non siano comandati
--- insieme.
+-- Aspetta, e controlla a ogni scansione che i due versi non siano comandati insieme.
 local function aspetta(fino, ms)
-  local scansioni = 0
-  return attendi_fino(function()
+  return attendi_quando(function()
     if leggi("QB0") & 3 == 3 then pericolo("MA e MI non devono mai essere comandati insieme") end
-    scansioni = scansioni + 1
-    return scansioni % 10 == 0 and fino()
+    return fino()
   end, ms)
 end
 local function guarda(ms) aspetta(function() return false end, ms) end
@@ -282,7 +279,11 @@ prova("lampade", 6, function()
   guarda(300)
   punti(1, lampade("10000."), "in manuale e ferma lontano dal riferimento deve essere accesa soltanto HL1")
   premi_per(fine, 300)
-  punti(1, lampade("00000."), "dopo Stop, in manuale, le lampade devono essere spente")
+  local spente = lampade("00000.")
+  premi(indietro)
+  guarda(300)
+  punti(1, spente and lampade("00000."), "dopo Stop, in manuale, le lampade devono essere spente, anche premendo SB2")
+  rilascia(indietro)
 end)
 
 prova("STOP e RUN", 1, function()
