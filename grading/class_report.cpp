@@ -90,6 +90,15 @@ const Caso* Trova(const Voto& voto, const std::string& nome) {
   return caso == voto.Esito.Casi.end() ? nullptr : &*caso;
 }
 
+/// The most marks that the case gives to any hand-in.
+double Massimo_Di(const std::vector<Voto>& voti, const std::string& nome) {
+  double massimo = 0;
+  for (const Voto& voto : voti) {
+    if (const Caso* caso = Trova(voto, nome)) massimo = std::max(massimo, caso->Massimo);
+  }
+  return massimo;
+}
+
 }  // namespace
 
 std::string Nome_Pagina(std::size_t posto) {
@@ -105,10 +114,17 @@ std::string Pagina_Studente(const Voto& voto, const Testata& testata) {
   if (!esito.Non_Esaminato.empty())
     return pagina + "<p class=\"no\">Non esaminato: " + In_Xml(esito.Non_Esaminato) + ".</p>\n" +
            Chiudi(testata);
+  if (!esito.Compilato && !esito.Casi.empty() && !esito.Casi.front().Superato()) {
+    const Caso& caso = esito.Casi.front();  // all cases say the same of it
+    pagina += "<p class=\"no\">" + In_Xml(caso.Rilievi.front().Testo) + "</p>\n";
+    if (!caso.Listato.empty()) pagina += "<pre>" + In_Xml(caso.Listato) + "</pre>\n";
+    return pagina + "<p><b>Punti: " + Su_Massimo(esito.Punti(), esito.Massimo()) + ".</b></p>\n" +
+           Chiudi(testata);
+  }
   pagina += "<p><b>Punti: " + Su_Massimo(esito.Punti(), esito.Massimo()) +
             ".</b> Casi superati: " + std::to_string(esito.Superati()) + " su " +
             std::to_string(esito.Casi.size()) + ".</p>\n";
-  std::string listato;  // the same for all cases when the project does not compile
+  std::string listato;  // of the case before: the same is not shown twice
   for (std::size_t n = 0; n < esito.Casi.size(); ++n) {
     const Caso& caso = esito.Casi[n];
     pagina += "<h2 class=\"" + std::string(Classe(caso)) + "\">" + In_Xml(caso.Nome) +
@@ -169,7 +185,8 @@ std::string Pagina_Docente(const std::vector<Voto>& voti, const Testata& testata
               In_Xml(nomi[static_cast<std::size_t>(peggiore - falliti.begin())]) + "” (" +
               std::to_string(*peggiore) + ").";
   pagina += "</p>\n<table>\n<tr><th>Studente</th><th>File</th><th>Esito</th><th>Punti</th>";
-  for (const std::string& nome : nomi) pagina += "<th>" + In_Xml(nome) + "</th>";
+  for (const std::string& nome : nomi)
+    pagina += "<th>" + In_Xml(nome) + "<br>su " + Testo_Punti(Massimo_Di(voti, nome)) + "</th>";
   pagina += "</tr>\n" + righe + "</table>\n";
   const std::vector<Gruppo_Simili> gruppi = Gruppi(voti);
   if (!gruppi.empty()) {

@@ -249,7 +249,9 @@ std::optional<Seduta_Registrata> Collaudo::Ripresa() {
 
 Impianto& Collaudo::Macchina() {
   if (!filo_)
-    throw Errore_Script("nessun impianto: il banco va avviato con l'opzione --impianto N");
+    throw Errore_Script(
+        "nessun impianto: lo script lo nomina con impianto(N), oppure il banco va avviato con "
+        "--impianto N (\"classe\" anche con --esercizio N)");
   return filo_->Macchina();
 }
 

@@ -93,13 +93,18 @@ TEST_F(Class, AnArchiveOfAPlatformBecomesPagesAndTables) {
   for (const char* parte :
        {"<a href=\"studente-001.html\">Bianchi Ugo</a>",
         "<a href=\"studente-004.html\">Verdi Ada</a>", "Consegne: 4, esaminate: 3.",
-        "Media: 1,33 su 4.", "segue &lt;I0.1&gt;", "il nome non finisce con .AWL"})
+        "Media: 1,33 su 4.", "<th>segue &lt;I0.1&gt;<br>su 3</th>", "<th>a riposo<br>su 1</th>",
+        "il nome non finisce con .AWL"})
     EXPECT_THAT(indice, HasSubstr(parte));
   const std::string ugo = Letto("esiti/studente-001.html");
   for (const char* parte : {"<h1>Bianchi Ugo</h1>", "Punti: 0 su 4",
                             "dopo 0,030 s: Q0.0 deve seguire I0.1: perché no?", "<svg "})
     EXPECT_THAT(ugo, HasSubstr(parte));
-  EXPECT_THAT(Letto("esiti/studente-002.html"), HasSubstr("-&gt; Istruzione non riconosciuta"));
+  const std::string pia = Letto("esiti/studente-002.html");
+  EXPECT_THAT(pia, HasSubstr("Il progetto non si compila"));
+  EXPECT_THAT(pia, HasSubstr("-&gt; Istruzione non riconosciuta"));
+  EXPECT_THAT(pia, HasSubstr("Punti: 0 su 4"));
+  EXPECT_THAT(pia, Not(HasSubstr("dopo 0,000 s")));
   const std::string anna = Letto("esiti/studente-003.html");
   EXPECT_THAT(anna, HasSubstr("Punti: 4 su 4"));
   EXPECT_THAT(anna, Not(HasSubstr("<svg ")));

@@ -8,6 +8,7 @@
 namespace tavorno::prova {
 
 using ScriptFunctions = Banco_Esami;
+using ::testing::AllOf;
 using ::testing::HasSubstr;
 
 const std::vector<std::string> autoritenuta = {
@@ -340,7 +341,9 @@ TEST_F(ScriptFunctions, WrongNamesAreListed) {
 }
 
 TEST_F(ScriptFunctions, WithoutAPlantTheHandHasNothingToTouch) {
-  EXPECT_THAT(Rilievo_Di("premi('imgStart')"), HasSubstr("nessun impianto"));
+  EXPECT_THAT(Rilievo_Di("premi('imgStart')"),
+              AllOf(HasSubstr("nessun impianto"), HasSubstr("impianto(N)"),
+                    HasSubstr("--impianto N"), HasSubstr("--esercizio N")));
 }
 
 TEST_F(ScriptFunctions, AFigureOfAFinishedCaseIsRefused) {
