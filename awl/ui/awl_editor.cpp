@@ -196,7 +196,7 @@ void AwlEditor::Sostituisci(std::size_t inizio, std::string_view vecchio, std::s
   while (dopo > 0 && (Taglio_Vietato(vecchio, vecchio.size() - dopo) ||
                       Taglio_Vietato(nuovo, nuovo.size() - dopo)))
     --dopo;
-  SendScintilla(SCI_SETTARGETRANGE, inizio + prima,
+  SendScintilla(SCI_SETTARGETRANGE, static_cast<unsigned long>(inizio + prima),
                 static_cast<long>(inizio + vecchio.size() - dopo));
   const std::string pezzo(nuovo.substr(prima, nuovo.size() - dopo - prima));
   SendScintilla(SCI_REPLACETARGET, pezzo.size(), pezzo.data());

@@ -146,7 +146,7 @@ TEST_F(LineNumbers, AgreeWithTheRowsOfEveryExample) {
   for (const auto& file : std::filesystem::directory_iterator(esempi_del_progetto)) {
     if (file.path().extension() != ".AWL") continue;
     SCOPED_TRACE(file.path().filename());
-    progetto.File_Progetto = file.path();
+    progetto.File_Progetto = file.path().string();
     progetto.LeggiTxt();
     ASSERT_EQ(progetto.Err_Lettura, 0);
     Confronta_Con_Le_Righe();
