@@ -124,7 +124,7 @@ ctr_Garage::ctr_Garage(Orologio& orologio)
   Disegno[uscita_.Motore].Clic = [this] { Termico(uscita_); };
 
   Regolatori["ME_Speed"] = {[this](double valore) {
-                              const auto passo = static_cast<float>(std::lrint(valore));
+                              const auto passo = static_cast<float>(std::llrint(valore));
                               Passo_Sbarra = passo;
                               Passo_Auto = passo + 0.8F;
                             },

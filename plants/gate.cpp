@@ -34,7 +34,7 @@ constexpr Colore costa_libera = Tavolozza(14), costa_premuta = Tavolozza(12);
 
 int Intero_16(float twip) {
   using Limiti = std::numeric_limits<std::int16_t>;
-  return static_cast<int>(std::clamp<long>(std::lrint(twip), Limiti::min(), Limiti::max()));
+  return static_cast<int>(std::clamp<long long>(std::llrint(twip), Limiti::min(), Limiti::max()));
 }
 
 }  // namespace

@@ -101,7 +101,7 @@ ctr_Ascensore::ctr_Ascensore(Orologio& orologio)
   Monta_Selettore();
   Monta_Fotocellula();
 
-  const auto intero = [](double valore) { return static_cast<std::int16_t>(std::lrint(valore)); };
+  const auto intero = [](double valore) { return static_cast<std::int16_t>(std::llrint(valore)); };
   Regolatori["ME_DeltaS"] = {[this, intero](double passo) { Passo_Cabina = intero(passo); },
                              static_cast<double>(Passo_Cabina), -32768, 32767};
   Regolatori["ME_DeltaP"] = {[this, intero](double zona) { Isteresi = intero(zona); },
@@ -191,7 +191,7 @@ void ctr_Ascensore::Tick_timCab() {
   Tendi(Disegno["lin1"], imgP.Top);
   Disegno["extracorsa"].Visible = imgC.Top < tetto_vano || imgC.Top + imgC.Height > fondo_vano;
 
-  const long posizione = std::lrint(imgC.Top);
+  const long long posizione = std::llrint(imgC.Top);
   for (int n = 0; n < 4; ++n) {
     const bool in_zona =
         piani[n].Centro - Isteresi < posizione && posizione < piani[n].Centro + Isteresi;
@@ -215,8 +215,8 @@ void ctr_Ascensore::Mostra_Porte(int indice, bool azionato) {
 
 void ctr_Ascensore::Tick_timP() {
   const int verso = Senso_Porte == 0 ? 1 : -1;
-  const long sinistra = std::lrint(porta_sinistra.Left) + verso * passo_porte;
-  const long destra = std::lrint(porta_destra.Left) - verso * passo_porte;
+  const long long sinistra = std::llrint(porta_sinistra.Left) + verso * passo_porte;
+  const long long destra = std::llrint(porta_destra.Left) - verso * passo_porte;
   Stato_Porte = 2;
   if (Senso_Porte == 0 && (sinistra > sinistra_chiusa || destra < destra_chiusa)) Stato_Porte = 1;
   if (Senso_Porte == 1 && (sinistra < sinistra_aperta || destra > destra_aperta)) Stato_Porte = 0;

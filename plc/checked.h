@@ -25,11 +25,11 @@ inline std::int32_t A_32(long long valore, const char* dove) {
 
 /// An accumulator read as an integer: nearest, a half to the even neighbour.
 inline std::int32_t Arrotonda(float valore) {
-  constexpr float limite = 4.0e9F;  // beyond any 32-bit value, well inside `long`
+  constexpr float limite = 4.0e9F;  // beyond any 32-bit value, well inside `long long`
   if (!(valore > -limite && valore < limite)) [[unlikely]]
     Fatale_Overflow("AC", valore < 0 ? std::numeric_limits<long long>::min()
                                      : std::numeric_limits<long long>::max());
-  return A_32(std::lrint(valore), "AC");
+  return A_32(std::llrint(valore), "AC");
 }
 
 }  // namespace tavorno
