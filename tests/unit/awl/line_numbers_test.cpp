@@ -10,8 +10,6 @@ namespace tavorno::prova {
 namespace {
 
 constexpr int niente = Numerazione::Nessuno;
-const auto esempi_del_progetto =
-    std::filesystem::path(__FILE__).parent_path() / ".." / ".." / ".." / "examples";
 
 /// Which rows a project really gets, against the numbers given beforehand.
 class LineNumbers : public Banco_Progetto {
@@ -143,7 +141,7 @@ TEST_F(LineNumbers, AnEmptyProjectHasItsMendOnly) {
 
 TEST_F(LineNumbers, AgreeWithTheRowsOfEveryExample) {
   int esempi = 0;
-  for (const auto& file : std::filesystem::directory_iterator(esempi_del_progetto)) {
+  for (const auto& file : std::filesystem::directory_iterator(TAVORNO_EXAMPLES)) {
     if (file.path().extension() != ".AWL") continue;
     SCOPED_TRACE(file.path().filename());
     progetto.File_Progetto = file.path().string();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gmock/gmock.h>
 
+#include <regex>
+
 #include "bench/speed.h"
 #include "command_bed.h"
 #include "recorder/session.h"
@@ -8,16 +10,16 @@
 namespace tavorno::prova {
 
 using ::testing::HasSubstr;
-using ::testing::MatchesRegex;
 using SpeedCommand = Banco_Comandi;
 
 TEST_F(SpeedCommand, PrintsLinesAndScansASecond) {
   EXPECT_EQ(Comando({"misura", Progetto_Con({"LD SM0.0", "= Q0.0"}), "--ms", "1"}), 0) << out;
-  EXPECT_THAT(out, MatchesRegex("3 righe: [0-9]+,[0-9] milioni di righe al secondo, "
-                                "[0-9]+,[0-9] ns per riga, [0-9]+,[0-9] mila scansioni al "
-                                "secondo\\.\n"
-                                "Tempo di processore: [0-9]+,[0-9] ns per riga, [0-9]+,[0-9] % "
-                                "del tempo\\.\n"));
+  // The test library's own patterns know no sets on every system.
+  const std::regex due_righe(
+      "3 righe: [0-9]+,[0-9] milioni di righe al secondo, "
+      "[0-9]+,[0-9] ns per riga, [0-9]+,[0-9] mila scansioni al secondo\\.\n"
+      "Tempo di processore: [0-9]+,[0-9] ns per riga, [0-9]+,[0-9] % del tempo\\.\n");
+  EXPECT_TRUE(std::regex_match(out, due_righe)) << out;
 }
 
 TEST_F(SpeedCommand, CountsEveryLineOfEveryScan) {

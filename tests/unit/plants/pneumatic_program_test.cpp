@@ -32,8 +32,7 @@ class PneumaticProgram : public Banco_Impianto, public ::testing::WithParamInter
 
   void SetUp() override {
     Apri(caso.Esercizio);
-    const std::filesystem::path file = std::filesystem::path(__FILE__).parent_path() / ".." / ".." /
-                                       ".." / "examples" / caso.Progetto;
+    const std::filesystem::path file = std::filesystem::path(TAVORNO_EXAMPLES) / caso.Progetto;
     progetto.File_Progetto = file.string();
     progetto.File_Titolo = file.filename().string();
     progetto.LeggiTxt();

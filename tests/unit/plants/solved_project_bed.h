@@ -17,8 +17,7 @@ class Banco_Risolto : public Banco_Impianto {
 
   void Avvia(int numero, const std::string& file) {
     Apri(numero);
-    const std::filesystem::path percorso =
-        std::filesystem::path(__FILE__).parent_path() / ".." / ".." / ".." / "examples" / file;
+    const std::filesystem::path percorso = std::filesystem::path(TAVORNO_EXAMPLES) / file;
     progetto.File_Progetto = percorso.string();
     progetto.File_Titolo = file;
     progetto.LeggiTxt();
