@@ -13,86 +13,86 @@
 namespace tavorno::prova {
 
 /// Status and message of a checked line; 0 and "" when it is accepted.
-struct Verdict {
-  int status = 0;
-  std::string text;
+struct Verdetto_Riga {
+  int stato = 0;
+  std::string testo;
 
-  bool operator==(const Verdict&) const = default;
+  bool operator==(const Verdetto_Riga&) const = default;
 };
 
-inline std::ostream& operator<<(std::ostream& out, const Verdict& verdict) {
-  return out << verdict.status << " \"" << verdict.text << "\"";
+inline std::ostream& operator<<(std::ostream& uscita, const Verdetto_Riga& verdetto) {
+  return uscita << verdetto.stato << " \"" << verdetto.testo << "\"";
 }
 
-inline std::vector<std::string> Words(const std::string& text) {
-  std::istringstream stream(text);
-  std::vector<std::string> words;
-  for (std::string word; stream >> word;) words.push_back(word);
-  return words;
+inline std::vector<std::string> Parole(const std::string& testo) {
+  std::istringstream lettore(testo);
+  std::vector<std::string> parole;
+  for (std::string parola; lettore >> parola;) parole.push_back(parola);
+  return parole;
 }
 
 /// Every operand area that the checker can meet: those it knows, and an unknown and an empty one.
-inline const std::vector<std::string>& AllAreas() {
-  static const std::vector<std::string> areas = [] {
-    std::vector<std::string> list =
-        Words("I Q M SM S T C IB QB MB SMB VB IW QW MW VW AIW AQW VD AC K V L SMW SW LW ZZ");
-    list.emplace_back();
-    return list;
+inline const std::vector<std::string>& Tutte_Le_Aree() {
+  static const std::vector<std::string> aree = [] {
+    std::vector<std::string> lista =
+        Parole("I Q M SM S T C IB QB MB SMB VB IW QW MW VW AIW AQW VD AC K V L SMW SW LW ZZ");
+    lista.emplace_back();
+    return lista;
   }();
-  return areas;
+  return aree;
 }
 
-struct Operand {
+struct Operando_Scritto {
   std::string area;
-  int num = 0;
+  int numero = 0;
   int bit = -1;  ///< -1 without a dot
 
   /// As it is written on a line. A text without any digit has no area.
-  std::string Text() const {
-    std::string text = area.empty() ? "XY" : area + std::to_string(num);
-    if (area == "K" && bit < 0) text = (num < 0 ? "" : "+") + std::to_string(num);
-    if (bit >= 0) text += "." + std::to_string(bit);
-    return text;
+  std::string Come_Testo() const {
+    std::string testo = area.empty() ? "XY" : area + std::to_string(numero);
+    if (area == "K" && bit < 0) testo = (numero < 0 ? "" : "+") + std::to_string(numero);
+    if (bit >= 0) testo += "." + std::to_string(bit);
+    return testo;
   }
 };
 
-inline Riga_Src Source(const std::string& mnemonic, std::vector<std::string> operands) {
-  const auto count = static_cast<std::uint8_t>(operands.size());
-  operands.resize(3);
-  return {mnemonic, operands[0], operands[1], operands[2], count, "", ""};
+inline Riga_Src Riga_Di(const std::string& mnemonico, std::vector<std::string> operandi) {
+  const auto quanti = static_cast<std::uint8_t>(operandi.size());
+  operandi.resize(3);
+  return {mnemonico, operandi[0], operandi[1], operandi[2], quanti, "", ""};
 }
 
 /// "MOVB SMB30, VB0" as the reader would leave it.
-inline Riga_Src Source(const std::string& line) {
-  if (line.starts_with("NETWORK")) return Source(line, {});
-  std::vector<std::string> words = Words(line);
-  const std::string mnemonic = words.front();
-  words.erase(words.begin());
-  for (std::string& word : words) {
-    if (word.back() == ',') word.pop_back();
+inline Riga_Src Riga_Di(const std::string& linea) {
+  if (linea.starts_with("NETWORK")) return Riga_Di(linea, {});
+  std::vector<std::string> parole = Parole(linea);
+  const std::string mnemonico = parole.front();
+  parole.erase(parole.begin());
+  for (std::string& parola : parole) {
+    if (parola.back() == ',') parola.pop_back();
   }
-  return Source(mnemonic, words);
+  return Riga_Di(mnemonico, parole);
 }
 
 /// Compiles and checks single lines, each as a row of `Prog`, the way the compile loop does.
-struct LineChecker {
-  Orologio clock;
-  Plc plc{clock};
+struct Banco_Righe {
+  Orologio orologio;
+  Plc plc{orologio};
 
-  LineChecker() { plc.Prog.Ridimensiona(301); }
+  Banco_Righe() { plc.Prog.Ridimensiona(301); }
 
   /// The row is compiled and checked.
-  int CheckRow(const Riga_Src& source, int row = 0) {
-    Riempi_Riga(plc.Prog[row], source);
-    return Controlla_Riga(plc.Prog[row], source).Stato;
+  int Stato_Riga(const Riga_Src& sorgente, int riga = 0) {
+    Riempi_Riga(plc.Prog[riga], sorgente);
+    return Controlla_Riga(plc.Prog[riga], sorgente).Stato;
   }
 
-  Verdict Check(const Riga_Src& source) {
-    Riempi_Riga(plc.Prog[0], source);
-    const Esito_Riga found = Controlla_Riga(plc.Prog[0], source);
-    return {found.Stato, found.Testo};
+  Verdetto_Riga Controlla(const Riga_Src& sorgente) {
+    Riempi_Riga(plc.Prog[0], sorgente);
+    const Esito_Riga trovato = Controlla_Riga(plc.Prog[0], sorgente);
+    return {trovato.Stato, trovato.Testo};
   }
-  Verdict Check(const std::string& line) { return Check(Source(line)); }
+  Verdetto_Riga Controlla(const std::string& linea) { return Controlla(Riga_Di(linea)); }
 };
 
 }  // namespace tavorno::prova

@@ -14,146 +14,147 @@ namespace tavorno::prova {
 namespace {
 
 /// "LDB<=" as "LDB_lt_eq": test names take letters and digits only.
-std::string TestName(const ::testing::TestParamInfo<std::string>& info) {
-  std::string name;
-  for (const char c : info.param) {
+std::string Nome_Prova(const ::testing::TestParamInfo<std::string>& caso) {
+  std::string nome;
+  for (const char c : caso.param) {
     switch (c) {
       case '=':
-        name += "_eq";
+        nome += "_eq";
         break;
       case '<':
-        name += "_lt";
+        nome += "_lt";
         break;
       case '>':
-        name += "_gt";
+        nome += "_gt";
         break;
       case '+':
-        name += "Add_";
+        nome += "Add_";
         break;
       case '-':
-        name += "Sub_";
+        nome += "Sub_";
         break;
       case '*':
-        name += "Mul_";
+        nome += "Mul_";
         break;
       case '/':
-        name += "Div_";
+        nome += "Div_";
         break;
       default:
-        name += c;
+        nome += c;
     }
   }
-  return name;
+  return nome;
 }
 
-constexpr std::array Samples = {-32768, -1, 0,  1,  2,  3,  4,  5,  6,   20,  21,  28,  29,
-                                30,     34, 35, 36, 40, 41, 63, 64, 100, 101, 255, 256, 32767};
+constexpr std::array Campioni = {-32768, -1, 0,  1,  2,  3,  4,  5,  6,   20,  21,  28,  29,
+                                 30,     34, 35, 36, 40, 41, 63, 64, 100, 101, 255, 256, 32767};
 
 /// A number that the area has, and where it has bounds one that it has not.
-const std::vector<Operand>& GoodAndBad() {
-  static const std::vector<Operand> operands = [] {
-    std::vector<Operand> list;
-    for (const std::string& area : AllAreas()) {
-      list.push_back({area, area == "SMB" ? 28 : 0});
-      const bool bounded = HighestNumber().contains(area) || area == "K" || area == "SMB" ||
-                           area == "AIW" || area == "AQW";
-      if (bounded) list.push_back({area, 257});
+const std::vector<Operando_Scritto>& Buoni_E_Cattivi() {
+  static const std::vector<Operando_Scritto> operandi = [] {
+    std::vector<Operando_Scritto> lista;
+    for (const std::string& area : Tutte_Le_Aree()) {
+      lista.push_back({area, area == "SMB" ? 28 : 0});
+      const bool limitata = Numero_Massimo().contains(area) || area == "K" || area == "SMB" ||
+                            area == "AIW" || area == "AQW";
+      if (limitata) lista.push_back({area, 257});
     }
-    return list;
+    return lista;
   }();
-  return operands;
+  return operandi;
 }
 
 /// Every area with every number.
-std::vector<Operand> AllOperands() {
-  std::vector<Operand> list;
-  for (const std::string& area : AllAreas()) {
-    for (const int number : Samples) {
-      list.push_back({area, number});
+std::vector<Operando_Scritto> Tutti_Gli_Operandi() {
+  std::vector<Operando_Scritto> lista;
+  for (const std::string& area : Tutte_Le_Aree()) {
+    for (const int numero : Campioni) {
+      lista.push_back({area, numero});
       if (area.empty()) break;  // without an area there is no number
     }
   }
-  return list;
+  return lista;
 }
 
-class FamilyRule : public ::testing::TestWithParam<std::string>, protected LineChecker {
+class FamilyRule : public ::testing::TestWithParam<std::string>, protected Banco_Righe {
  protected:
-  const std::string& mnemonic = GetParam();
-  const Rule& rule = RuleOf(mnemonic);
+  const std::string& mnemonico = GetParam();
+  const Regola_Attesa& regola = Regola_Di(mnemonico);
 
-  void Expect(const std::vector<Operand>& operands) {
-    std::vector<std::string> texts;
-    std::string line = mnemonic;
-    for (const Operand& operand : operands) {
-      texts.push_back(operand.Text());
-      line += " " + texts.back();
+  void Aspetta(const std::vector<Operando_Scritto>& operandi) {
+    std::vector<std::string> testi;
+    std::string linea = mnemonico;
+    for (const Operando_Scritto& operando : operandi) {
+      testi.push_back(operando.Come_Testo());
+      linea += " " + testi.back();
     }
-    ASSERT_EQ(Check(Source(mnemonic, texts)), rule.Judge(operands)) << line;
+    ASSERT_EQ(Controlla(Riga_Di(mnemonico, testi)), regola.Giudica(operandi)) << linea;
   }
 
   /// An operand that is accepted there.
-  static Operand Good(const std::optional<Place>& place) {
-    if (!place || place->accepted.empty()) return {"K", 100};
-    const auto& [area, limit] = *place->accepted.begin();
-    return {area, limit.only.empty() ? 0 : limit.only.front()};
+  static Operando_Scritto Buono(const std::optional<Posto_Atteso>& posto) {
+    if (!posto || posto->accettate.empty()) return {"K", 100};
+    const auto& [area, limite] = *posto->accettate.begin();
+    return {area, limite.solo.empty() ? 0 : limite.solo.front()};
   }
-  std::vector<Operand> With(const Operand& op1) const {
-    return rule.operands == 1 ? std::vector{op1} : std::vector{op1, Good(rule.op2)};
+  std::vector<Operando_Scritto> Con(const Operando_Scritto& op1) const {
+    return regola.operandi == 1 ? std::vector{op1} : std::vector{op1, Buono(regola.op2)};
   }
 };
 
 TEST_P(FamilyRule, TakesItsOwnNumberOfOperandsOnly) {
-  const Operand good = Good(rule.op1);
-  const Operand bad{"ZZ", 5};
-  for (const Operand& op1 : {good, bad}) {
-    Expect({});
-    Expect({op1});
-    for (const Operand& op2 : {good, bad, Good(rule.op2)}) {
-      Expect({op1, op2});
-      Expect({op1, op2, good});
-      Expect({op1, op2, bad});
+  const Operando_Scritto buono = Buono(regola.op1);
+  const Operando_Scritto cattivo{"ZZ", 5};
+  for (const Operando_Scritto& op1 : {buono, cattivo}) {
+    Aspetta({});
+    Aspetta({op1});
+    for (const Operando_Scritto& op2 : {buono, cattivo, Buono(regola.op2)}) {
+      Aspetta({op1, op2});
+      Aspetta({op1, op2, buono});
+      Aspetta({op1, op2, cattivo});
     }
   }
-  const std::vector<Operand> three(3, good);
-  for (const std::size_t count : {0U, 1U, 2U, 3U}) {
-    if (count == rule.operands) continue;
-    const std::vector<Operand> given(three.begin(), three.begin() + static_cast<int>(count));
-    EXPECT_EQ(rule.Judge(given), rule.wrongCount);
+  const std::vector<Operando_Scritto> tre(3, buono);
+  for (const std::size_t quanti : {0U, 1U, 2U, 3U}) {
+    if (quanti == regola.operandi) continue;
+    const std::vector<Operando_Scritto> dati(tre.begin(), tre.begin() + static_cast<int>(quanti));
+    EXPECT_EQ(regola.Giudica(dati), regola.se_diverso);
   }
 }
 
 TEST_P(FamilyRule, JudgesEveryAreaAndNumberOfTheFirstOperand) {
-  for (const Operand& op1 : AllOperands()) Expect(With(op1));
+  for (const Operando_Scritto& op1 : Tutti_Gli_Operandi()) Aspetta(Con(op1));
 }
 
 TEST_P(FamilyRule, JudgesEveryAreaAndNumberOfTheSecondOperand) {
-  if (rule.operands != 2) {
-    Expect({Good(rule.op1), Good({})});
+  if (regola.operandi != 2) {
+    Aspetta({Buono(regola.op1), Buono({})});
     return;
   }
-  for (const Operand& op2 : AllOperands()) Expect({Good(rule.op1), op2});
+  for (const Operando_Scritto& op2 : Tutti_Gli_Operandi()) Aspetta({Buono(regola.op1), op2});
 }
 
 TEST_P(FamilyRule, KeepsTheLaterOfTwoFaults) {
-  for (const Operand& op1 : GoodAndBad()) {
-    for (const Operand& op2 : GoodAndBad()) Expect({op1, op2});
+  for (const Operando_Scritto& op1 : Buoni_E_Cattivi()) {
+    for (const Operando_Scritto& op2 : Buoni_E_Cattivi()) Aspetta({op1, op2});
   }
 }
 
 TEST_P(FamilyRule, TestsTheBitOfTheFirstOperandLastOrNotAtAll) {
-  for (Operand op1 : GoodAndBad()) {
+  for (Operando_Scritto op1 : Buoni_E_Cattivi()) {
     for (const int bit : {-1, 0, 7, 8, 9, 32767}) {
       op1.bit = bit;
-      Expect({op1});
-      for (const Operand& op2 : {Good(rule.op2), Operand{"ZZ", 5}, Operand{"VB", 0, 9}}) {
-        Expect({op1, op2});
-        Expect({op1, op2, op2});
+      Aspetta({op1});
+      for (const Operando_Scritto& op2 :
+           {Buono(regola.op2), Operando_Scritto{"ZZ", 5}, Operando_Scritto{"VB", 0, 9}}) {
+        Aspetta({op1, op2});
+        Aspetta({op1, op2, op2});
       }
     }
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, FamilyRule, ::testing::ValuesIn(MnemonicsWithRules()), TestName);
+INSTANTIATE_TEST_SUITE_P(All, FamilyRule, ::testing::ValuesIn(Mnemonici_Con_Regola()), Nome_Prova);
 
 }  // namespace
 }  // namespace tavorno::prova

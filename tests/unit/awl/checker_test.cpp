@@ -14,161 +14,162 @@
 namespace tavorno::prova {
 namespace {
 
-struct CheckedLine : ::testing::Test, LineChecker {};
+struct CheckedLine : ::testing::Test, Banco_Righe {};
 
 // ---- vocabulary -------------------------------------------------------------------------------
 
-const std::vector<std::vector<std::string>> AnyOperands = {
+const std::vector<std::vector<std::string>> Operandi_Vari = {
     {}, {"I0.0"}, {"I0.9"}, {"ZZ999"}, {"AC0", "AC1"}, {"+5", "XY"}, {"VW0", "VW1", "VW2"}};
 
 TEST_F(CheckedLine, IsAcceptedWhateverItsOperandsInTheFirstGroup) {
-  std::vector<std::string> mnemonics = Words(AcceptedWithoutTest);
-  ASSERT_EQ(mnemonics.size(), 13U);
-  for (const char* text : {"NETWORK 1", "NETWORKX", "SBR0", "SBRX", "SBR63", "INT0", "INTEGER"})
-    mnemonics.emplace_back(text);
-  for (const std::string& mnemonic : mnemonics) {
-    for (const auto& operands : AnyOperands)
-      EXPECT_EQ(Check(Source(mnemonic, operands)), Verdict{})
-          << mnemonic << " with " << operands.size() << " operands";
+  std::vector<std::string> mnemonici = Parole(Accettate_Senza_Prova);
+  ASSERT_EQ(mnemonici.size(), 13U);
+  for (const char* testo : {"NETWORK 1", "NETWORKX", "SBR0", "SBRX", "SBR63", "INT0", "INTEGER"})
+    mnemonici.emplace_back(testo);
+  for (const std::string& mnemonico : mnemonici) {
+    for (const auto& operandi : Operandi_Vari)
+      EXPECT_EQ(Controlla(Riga_Di(mnemonico, operandi)), Verdetto_Riga{})
+          << mnemonico << " with " << operandi.size() << " operands";
   }
 }
 
 TEST_F(CheckedLine, IsRefusedForAnyOperandInTheSecondGroup) {
-  const std::vector<std::string> mnemonics = Words(AcceptedWithoutOperands);
-  ASSERT_EQ(mnemonics.size(), 9U);
-  for (const std::string& mnemonic : mnemonics) {
-    for (const auto& operands : AnyOperands)
-      EXPECT_EQ(Check(Source(mnemonic, operands)), operands.empty() ? Verdict{} : NoOperandsAllowed)
-          << mnemonic << " with " << operands.size() << " operands";
+  const std::vector<std::string> mnemonici = Parole(Accettate_Senza_Operandi);
+  ASSERT_EQ(mnemonici.size(), 9U);
+  for (const std::string& mnemonico : mnemonici) {
+    for (const auto& operandi : Operandi_Vari)
+      EXPECT_EQ(Controlla(Riga_Di(mnemonico, operandi)),
+                operandi.empty() ? Verdetto_Riga{} : Operandi_Non_Supportati)
+          << mnemonico << " with " << operandi.size() << " operands";
   }
 }
 
 TEST_F(CheckedLine, IsRefusedWhateverItsOperandsInTheThirdGroup) {
-  const std::vector<std::string> mnemonics = Words(Unsupported);
-  ASSERT_EQ(mnemonics.size(), 92U);
-  for (const std::string& mnemonic : mnemonics) {
-    for (const auto& operands : AnyOperands)
-      EXPECT_EQ(Check(Source(mnemonic, operands)), NotSupported)
-          << mnemonic << " with " << operands.size() << " operands";
+  const std::vector<std::string> mnemonici = Parole(Non_Supportate);
+  ASSERT_EQ(mnemonici.size(), 92U);
+  for (const std::string& mnemonico : mnemonici) {
+    for (const auto& operandi : Operandi_Vari)
+      EXPECT_EQ(Controlla(Riga_Di(mnemonico, operandi)), Non_Supportata)
+          << mnemonico << " with " << operandi.size() << " operands";
   }
 }
 
 TEST_F(CheckedLine, IsUnknownWithAnyOtherMnemonic) {
-  for (const char* mnemonic :
+  for (const char* mnemonico :
        {"",      "FOO",   "L",    "LDX",  "ldn",   "Ld",   "NETWORK", "NETW1", "NET",
         "SB",    "IN",    "sbr0", "int0", "MEND ", " LD",  "LDB",     "LDB==", "LDB=<",
         "LDB=>", "LDB><", "LDI=", "ANB=", "ONW<",  "OLDB", "LDRR",    "AR",    "OR",
         "LDR",   "+",     "+B",   "==",   "=S",    "R0",   "TOFF",    "CTUX",  "MOV",
         "MOVBB", "INC",   "DEC",  "XOR",  "XORDD", "RETN", "MEN",     "BTIX"})
-    for (const auto& operands : AnyOperands)
-      EXPECT_EQ(Check(Source(mnemonic, operands)), Unknown)
-          << '"' << mnemonic << "\" with " << operands.size() << " operands";
+    for (const auto& operandi : Operandi_Vari)
+      EXPECT_EQ(Controlla(Riga_Di(mnemonico, operandi)), Non_Riconosciuta)
+          << '"' << mnemonico << "\" with " << operandi.size() << " operands";
 }
 
 // The reader always gives capitals; the letters of NETWORK count in any case all the same.
 TEST_F(CheckedLine, IsANetworkInSmallLettersToo) {
-  EXPECT_EQ(Check(Source("network 1", {})), Verdict{});
+  EXPECT_EQ(Controlla(Riga_Di("network 1", {})), Verdetto_Riga{});
 }
 
 TEST_F(CheckedLine, KnowsNoMnemonicBeyondTheseGroups) {
-  std::set<std::string> expected;
-  for (const auto& group : {Words(AcceptedWithoutTest), Words(AcceptedWithoutOperands),
-                            Words(Unsupported), MnemonicsWithRules()})
-    expected.insert(group.begin(), group.end());
-  std::set<std::string> known;
-  for (const Istruzione& instruction : Tabella_Istruzioni()) known.insert(instruction.Nome);
-  EXPECT_EQ(known, expected);
-  EXPECT_EQ(known.size(), 13U + 9U + 92U + 98U);
+  std::set<std::string> attese;
+  for (const auto& gruppo : {Parole(Accettate_Senza_Prova), Parole(Accettate_Senza_Operandi),
+                             Parole(Non_Supportate), Mnemonici_Con_Regola()})
+    attese.insert(gruppo.begin(), gruppo.end());
+  std::set<std::string> note;
+  for (const Istruzione& istruzione : Tabella_Istruzioni()) note.insert(istruzione.Nome);
+  EXPECT_EQ(note, attese);
+  EXPECT_EQ(note.size(), 13U + 9U + 92U + 98U);
 }
 
 // ---- the order of the faults, word by word ----------------------------------------------------
 
 TEST_F(CheckedLine, LosesTheFaultOfOp1ToThatOfOp2) {
-  EXPECT_EQ(Check("MOVB VB101, VB0"), AddressOp1);
-  EXPECT_EQ(Check("MOVB VB0, VB101"), AddressOp2);
-  EXPECT_EQ(Check("MOVB VB101, VB101"), AddressOp2);
-  EXPECT_EQ(Check("MOVB VB101, QB0"), WrongArea);
-  EXPECT_EQ(Check("BIR QB0, VW0"), WrongAreaInOp2);
-  EXPECT_EQ(Check("BIR QB0, VB0"), WrongArea);
-  EXPECT_EQ(Check("BTI AC0, VB0"), WrongArea);
-  EXPECT_EQ(Check("BTI AC0, VW0"), WrongAreaInOp1);
-  EXPECT_EQ(Check("LDB= +256, VW0"), WrongAreaOp2);
-  EXPECT_EQ(Check("LDB= VW0, +256"), TooLargeOp2);
-  EXPECT_EQ(Check("LDB= VW0, +255"), WrongAreaOp1);
+  EXPECT_EQ(Controlla("MOVB VB101, VB0"), Indirizzo_Op1);
+  EXPECT_EQ(Controlla("MOVB VB0, VB101"), Indirizzo_Op2);
+  EXPECT_EQ(Controlla("MOVB VB101, VB101"), Indirizzo_Op2);
+  EXPECT_EQ(Controlla("MOVB VB101, QB0"), Area_Non_Supportata);
+  EXPECT_EQ(Controlla("BIR QB0, VW0"), Area_In_Op2);
+  EXPECT_EQ(Controlla("BIR QB0, VB0"), Area_Non_Supportata);
+  EXPECT_EQ(Controlla("BTI AC0, VB0"), Area_Non_Supportata);
+  EXPECT_EQ(Controlla("BTI AC0, VW0"), Area_In_Op1);
+  EXPECT_EQ(Controlla("LDB= +256, VW0"), Area_Op2);
+  EXPECT_EQ(Controlla("LDB= VW0, +256"), Troppo_Grande_Op2);
+  EXPECT_EQ(Controlla("LDB= VW0, +255"), Area_Op1);
 }
 
 TEST_F(CheckedLine, OfATimerPutsTheAreaBeforeTheNumber) {
-  EXPECT_EQ(Check("TON T63, +1"), Verdict{});
-  EXPECT_EQ(Check("TON T64, +1"), AddressTimer);
-  EXPECT_EQ(Check("TON VW64, +1"), WrongArea);
-  EXPECT_EQ(Check("TON VW0, +1"), WrongArea);
-  EXPECT_EQ(Check("TON T64, T1"), WrongArea);
-  EXPECT_EQ(Check("TON SM63.0, VD0"), Verdict{});
-  EXPECT_EQ(Check("TON I64.9, +1"), AddressTimer);
-  EXPECT_EQ(Check("TON I0.9, +1"), Verdict{});
+  EXPECT_EQ(Controlla("TON T63, +1"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("TON T64, +1"), Indirizzo_Timer);
+  EXPECT_EQ(Controlla("TON VW64, +1"), Area_Non_Supportata);
+  EXPECT_EQ(Controlla("TON VW0, +1"), Area_Non_Supportata);
+  EXPECT_EQ(Controlla("TON T64, T1"), Area_Non_Supportata);
+  EXPECT_EQ(Controlla("TON SM63.0, VD0"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("TON I64.9, +1"), Indirizzo_Timer);
+  EXPECT_EQ(Controlla("TON I0.9, +1"), Verdetto_Riga{});
 }
 
 TEST_F(CheckedLine, PutsTheBitBeforeEveryOtherFault) {
-  EXPECT_EQ(Check("LD I9.8"), WrongBit);
-  EXPECT_EQ(Check("LD ZZ0.8"), WrongBit);
-  EXPECT_EQ(Check("LD VW0.8"), WrongBit);
-  EXPECT_EQ(Check("LD I0.8, I0.0"), WrongBit);
-  EXPECT_EQ(Check("LD I0.0, I0.8"), WrongCountLd);
-  EXPECT_EQ(Check("LD"), WrongCountLd);
-  EXPECT_EQ(Check("S Q0.8"), WrongBit);
-  EXPECT_EQ(Check("S Q0.7, Q0.9"), Verdict{});
-  EXPECT_EQ(Check("R T5.8, 1"), WrongBit);
-  EXPECT_EQ(Check("MOVB VB0.9, VB0"), Verdict{});
-  EXPECT_EQ(Check("LD I0.40000"), WrongBit);
+  EXPECT_EQ(Controlla("LD I9.8"), Bit_Non_Ammesso);
+  EXPECT_EQ(Controlla("LD ZZ0.8"), Bit_Non_Ammesso);
+  EXPECT_EQ(Controlla("LD VW0.8"), Bit_Non_Ammesso);
+  EXPECT_EQ(Controlla("LD I0.8, I0.0"), Bit_Non_Ammesso);
+  EXPECT_EQ(Controlla("LD I0.0, I0.8"), Quanti_Operandi_Ld);
+  EXPECT_EQ(Controlla("LD"), Quanti_Operandi_Ld);
+  EXPECT_EQ(Controlla("S Q0.8"), Bit_Non_Ammesso);
+  EXPECT_EQ(Controlla("S Q0.7, Q0.9"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("R T5.8, 1"), Bit_Non_Ammesso);
+  EXPECT_EQ(Controlla("MOVB VB0.9, VB0"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("LD I0.40000"), Bit_Non_Ammesso);
 }
 
 // ---- numbers that no cell holds ---------------------------------------------------------------
 
 TEST_F(CheckedLine, IsRefusedForANumberBeyondSixteenBits) {
-  EXPECT_EQ(Check("MOVW +32767, VW0"), Verdict{});
-  EXPECT_EQ(Check("MOVW -32768, VW0"), Verdict{});
-  for (const char* number : {"+32768", "-32769", "+40000", "65536", "99999999999"}) {
-    EXPECT_EQ(Check(std::string("MOVW ") + number + ", VW0"), TooLargeOp1) << number;
-    EXPECT_EQ(Check(std::string("TON T1, ") + number), TooLargeOp2) << number;
-    EXPECT_EQ(Check(std::string("JMP ") + number), TooLargeOp1) << number;
-    EXPECT_EQ(Check(std::string("XORD AC0, ") + number), TooLargeOp2) << number;
+  EXPECT_EQ(Controlla("MOVW +32767, VW0"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("MOVW -32768, VW0"), Verdetto_Riga{});
+  for (const char* numero : {"+32768", "-32769", "+40000", "65536", "99999999999"}) {
+    EXPECT_EQ(Controlla(std::string("MOVW ") + numero + ", VW0"), Troppo_Grande_Op1) << numero;
+    EXPECT_EQ(Controlla(std::string("TON T1, ") + numero), Troppo_Grande_Op2) << numero;
+    EXPECT_EQ(Controlla(std::string("JMP ") + numero), Troppo_Grande_Op1) << numero;
+    EXPECT_EQ(Controlla(std::string("XORD AC0, ") + numero), Troppo_Grande_Op2) << numero;
   }
-  EXPECT_EQ(Check("MOVW VW-40000, VW0"), TooLargeOp1);
-  EXPECT_EQ(Check("MOVW VW0, VW65536"), TooLargeOp2);
-  EXPECT_EQ(Check("MOVW +40000, +40000"), TooLargeOp2);
-  EXPECT_EQ(Check("MOVW +40000, VB0"), TooLargeOp1);
-  EXPECT_EQ(Check("BIW +40000, QB0"), TooLargeOp1);
-  EXPECT_EQ(Check("BIR QB0, VB40000"), TooLargeOp2);
-  EXPECT_EQ(Check("S Q0.0, 40000"), TooLargeOp2);
-  EXPECT_EQ(Check("LD I40000.0"), TooLargeOp1);
-  EXPECT_EQ(Check("LD I40000.8"), TooLargeOp1);
-  EXPECT_EQ(Check("LD ZZ40000"), TooLargeOp1);
+  EXPECT_EQ(Controlla("MOVW VW-40000, VW0"), Troppo_Grande_Op1);
+  EXPECT_EQ(Controlla("MOVW VW0, VW65536"), Troppo_Grande_Op2);
+  EXPECT_EQ(Controlla("MOVW +40000, +40000"), Troppo_Grande_Op2);
+  EXPECT_EQ(Controlla("MOVW +40000, VB0"), Troppo_Grande_Op1);
+  EXPECT_EQ(Controlla("BIW +40000, QB0"), Troppo_Grande_Op1);
+  EXPECT_EQ(Controlla("BIR QB0, VB40000"), Troppo_Grande_Op2);
+  EXPECT_EQ(Controlla("S Q0.0, 40000"), Troppo_Grande_Op2);
+  EXPECT_EQ(Controlla("LD I40000.0"), Troppo_Grande_Op1);
+  EXPECT_EQ(Controlla("LD I40000.8"), Troppo_Grande_Op1);
+  EXPECT_EQ(Controlla("LD ZZ40000"), Troppo_Grande_Op1);
 }
 
 TEST_F(CheckedLine, KeepsTheGraverFaultOfANumberBeyondSixteenBits) {
-  EXPECT_EQ(Check("NOT +40000"), NoOperandsAllowed);
-  EXPECT_EQ(Check("FOO +40000"), Unknown);
-  EXPECT_EQ(Check("SIN +40000"), NotSupported);
-  EXPECT_EQ(Check("MOVW +40000"), WrongCount);
-  EXPECT_EQ(Check("LD I40000.0, I0.0"), WrongCountLd);
+  EXPECT_EQ(Controlla("NOT +40000"), Operandi_Non_Supportati);
+  EXPECT_EQ(Controlla("FOO +40000"), Non_Riconosciuta);
+  EXPECT_EQ(Controlla("SIN +40000"), Non_Supportata);
+  EXPECT_EQ(Controlla("MOVW +40000"), Quanti_Operandi);
+  EXPECT_EQ(Controlla("LD I40000.0, I0.0"), Quanti_Operandi_Ld);
 }
 
 TEST_F(CheckedLine, TakesTheNameOfAProcedureForNoNumber) {
-  for (const char* mnemonic : {"CALL", "SBR0", "INT0"})
-    EXPECT_EQ(Check(Source(mnemonic, {"PUMP40000"})), Verdict{}) << mnemonic;
+  for (const char* mnemonico : {"CALL", "SBR0", "INT0"})
+    EXPECT_EQ(Controlla(Riga_Di(mnemonico, {"PUMP40000"})), Verdetto_Riga{}) << mnemonico;
 }
 
 // ---- the listing ------------------------------------------------------------------------------
 
 TEST_F(CheckedLine, IsListedByteForByte) {
-  struct Listed {
-    int row;
-    const char* line;
-    const char* text;
-    int status;
-    const char* listing;
+  struct Elencata {
+    int riga;
+    const char* linea;
+    const char* testo;
+    int stato;
+    const char* elenco;
   };
-  const std::vector<Listed> cases = {
+  const std::vector<Elencata> casi = {
       {0, "LD I0.0", "LD     I0.0", 0, "0000 [Ok!   ]: LD     I0.0 "},
       {0, "NETWORK 1", "", 0, "0000 [Ok!   ]:  "},
       {0, "END", "END   ", 2, "0000 [Err. 2]: END    -> Istruzione non supportata"},
@@ -182,31 +183,31 @@ TEST_F(CheckedLine, IsListedByteForByte) {
       {9, "MEND", "\xE0 ", 0, "0009 [Ok!   ]: \xE0  "},
       {100, "MEND", "MEND", 0, "0100 [Ok!   ]: MEND "},
   };
-  for (const Listed& expected : cases) {
+  for (const Elencata& attesa : casi) {
     // Rows in front of it stand in for those of a project.
-    std::vector<Riga_Src> rows(static_cast<std::size_t>(expected.row) + 1, Source("MEND"));
-    rows.back() = Source(expected.line);
-    rows.back().Testo_CPU = expected.text;
-    rows.back().Testo_Lista = "not this one";
-    EXPECT_EQ(CheckRow(rows.back(), expected.row), expected.status) << expected.line;
-    const Compilazione compiled = Compila_Righe(rows);
-    EXPECT_EQ(compiled.Errori, expected.status == 0 ? 0 : 1);
-    const std::vector<Riga_Listato> listing = Listato(rows, compiled.Rilievi);
-    EXPECT_EQ(listing.back().Come_Testo(), expected.listing);
-    EXPECT_EQ(listing.back().Errata, expected.status != 0);
-    EXPECT_TRUE(Testo_Listato(listing).ends_with(std::string(expected.listing) + "\r\r\n"));
+    std::vector<Riga_Src> righe(static_cast<std::size_t>(attesa.riga) + 1, Riga_Di("MEND"));
+    righe.back() = Riga_Di(attesa.linea);
+    righe.back().Testo_CPU = attesa.testo;
+    righe.back().Testo_Lista = "not this one";
+    EXPECT_EQ(Stato_Riga(righe.back(), attesa.riga), attesa.stato) << attesa.linea;
+    const Compilazione compilata = Compila_Righe(righe);
+    EXPECT_EQ(compilata.Errori, attesa.stato == 0 ? 0 : 1);
+    const std::vector<Riga_Listato> elenco = Listato(righe, compilata.Rilievi);
+    EXPECT_EQ(elenco.back().Come_Testo(), attesa.elenco);
+    EXPECT_EQ(elenco.back().Errata, attesa.stato != 0);
+    EXPECT_TRUE(Testo_Listato(elenco).ends_with(std::string(attesa.elenco) + "\r\r\n"));
   }
 }
 
 TEST_F(CheckedLine, IsListedBehindTheLinesBeforeIt) {
-  const std::vector<Riga_Src> rows = {Source("FOO"), Source("MEND")};
-  EXPECT_EQ(Testo_Listato(Listato(rows, Compila_Righe(rows).Rilievi)),
+  const std::vector<Riga_Src> righe = {Riga_Di("FOO"), Riga_Di("MEND")};
+  EXPECT_EQ(Testo_Listato(Listato(righe, Compila_Righe(righe).Rilievi)),
             "0000 [Err. 3]:  -> Istruzione non riconosciuta\r\r\n0001 [Ok!   ]:  \r\r\n");
 }
 
 // ---- the table of messages --------------------------------------------------------------------
 
-const std::vector<std::pair<Verdict, const char*>> MessageTable = {
+const std::vector<std::pair<Verdetto_Riga, const char*>> Tabella_Messaggi = {
     {{2, "-> Istruzione non supportata"}, "FOR"},
     {{3, "-> Istruzione non riconosciuta"}, "FOO"},
     {{3, "-> Operandi non supportati"}, "EU I0.0"},
@@ -232,113 +233,122 @@ const std::vector<std::pair<Verdict, const char*>> MessageTable = {
 };
 
 TEST_F(CheckedLine, GivesEachMessageOfTheTable) {
-  for (const auto& [message, line] : MessageTable) EXPECT_EQ(Check(line), message) << line;
+  for (const auto& [messaggio, linea] : Tabella_Messaggi)
+    EXPECT_EQ(Controlla(linea), messaggio) << linea;
 }
 
 // "-> Valore troppo grande in OP1" with a small g stands in the list of messages too, but no rule
 // gives it.
 TEST_F(CheckedLine, GivesNoMessageOutsideTheTable) {
-  std::set<std::pair<int, std::string>> given;
-  const auto note = [&](const std::string& mnemonic, std::vector<std::string> operands) {
-    const Verdict verdict = Check(Source(mnemonic, std::move(operands)));
-    if (verdict.status != 0) given.emplace(verdict.status, verdict.text);
+  std::set<std::pair<int, std::string>> detti;
+  const auto annota = [&](const std::string& mnemonico, std::vector<std::string> operandi) {
+    const Verdetto_Riga verdetto = Controlla(Riga_Di(mnemonico, std::move(operandi)));
+    if (verdetto.stato != 0) detti.emplace(verdetto.stato, verdetto.testo);
   };
-  for (const Istruzione& instruction : Tabella_Istruzioni()) {
-    note(instruction.Nome, {});
-    for (const std::string& area : AllAreas()) {
-      for (const int number : {0, 28, 64, 300}) {
-        const std::string text = Operand{area, number}.Text();
-        note(instruction.Nome, {text});
-        note(instruction.Nome, {text + ".8"});
-        for (const char* other : {"+5", "AC0", "VW0", "VB0", "C0", "QB0"}) {
-          note(instruction.Nome, {text, other});
-          note(instruction.Nome, {other, text});
+  for (const Istruzione& istruzione : Tabella_Istruzioni()) {
+    annota(istruzione.Nome, {});
+    for (const std::string& area : Tutte_Le_Aree()) {
+      for (const int numero : {0, 28, 64, 300}) {
+        const std::string testo = Operando_Scritto{area, numero}.Come_Testo();
+        annota(istruzione.Nome, {testo});
+        annota(istruzione.Nome, {testo + ".8"});
+        for (const char* altro : {"+5", "AC0", "VW0", "VB0", "C0", "QB0"}) {
+          annota(istruzione.Nome, {testo, altro});
+          annota(istruzione.Nome, {altro, testo});
         }
       }
     }
   }
-  note("FOO", {});
-  std::set<std::pair<int, std::string>> table;
-  for (const auto& [message, line] : MessageTable) table.emplace(message.status, message.text);
-  EXPECT_EQ(given, table);
-  EXPECT_FALSE(given.contains({6, "-> Valore troppo grande in OP1"}));
+  annota("FOO", {});
+  std::set<std::pair<int, std::string>> tabella;
+  for (const auto& [messaggio, linea] : Tabella_Messaggi)
+    tabella.emplace(messaggio.stato, messaggio.testo);
+  EXPECT_EQ(detti, tabella);
+  EXPECT_FALSE(detti.contains({6, "-> Valore troppo grande in OP1"}));
 }
 
 // ---- lines worth a name of their own ----------------------------------------------------------
 
 TEST_F(CheckedLine, OfAContactHasBoundsForByteAndBit) {
-  EXPECT_EQ(Check("LD I1.7"), Verdict{});
-  EXPECT_EQ(Check("LD I2.0"), (Verdict{6, "-> Indirizzo non supportato"}));
-  EXPECT_EQ(Check("LD I0.8"), (Verdict{9, "-> Indirizzo Bit OP1 non ammesso"}));
+  EXPECT_EQ(Controlla("LD I1.7"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("LD I2.0"), (Verdetto_Riga{6, "-> Indirizzo non supportato"}));
+  EXPECT_EQ(Controlla("LD I0.8"), (Verdetto_Riga{9, "-> Indirizzo Bit OP1 non ammesso"}));
 }
 
 TEST_F(CheckedLine, OfAContactMayLackTheDot) {
-  EXPECT_EQ(Check("LD I0"), Verdict{});
+  EXPECT_EQ(Controlla("LD I0"), Verdetto_Riga{});
 }
 
 TEST_F(CheckedLine, OfAContactTakesNoVMemoryAndNoConstant) {
-  EXPECT_EQ(Check("LD V0.0"), (Verdict{6, "-> Operando non supportato"}));
-  EXPECT_EQ(Check("LD K1"), (Verdict{9, "-> Codice operando non riconosciuto"}));
+  EXPECT_EQ(Controlla("LD V0.0"), (Verdetto_Riga{6, "-> Operando non supportato"}));
+  EXPECT_EQ(Controlla("LD K1"), (Verdetto_Riga{9, "-> Codice operando non riconosciuto"}));
 }
 
 TEST_F(CheckedLine, OfAnOutputTakesNoInput) {
-  EXPECT_EQ(Check("= I0.0"), (Verdict{6, "-> Codice elemento non supportato"}));
-  EXPECT_EQ(Check("= Q1.0"), Verdict{});
+  EXPECT_EQ(Controlla("= I0.0"), (Verdetto_Riga{6, "-> Codice elemento non supportato"}));
+  EXPECT_EQ(Controlla("= Q1.0"), Verdetto_Riga{});
 }
 
 TEST_F(CheckedLine, OfASetNeedsACountButDoesNotLookAtIt) {
-  EXPECT_EQ(Check("S Q0.0, 1"), Verdict{});
-  EXPECT_EQ(Check("S Q0.0, 9999"), Verdict{});
-  EXPECT_EQ(Check("S Q0.0, ZZ9999"), Verdict{});
-  EXPECT_EQ(Check("S Q0.0"), (Verdict{5, "-> Numero Operandi non supportati"}));
+  EXPECT_EQ(Controlla("S Q0.0, 1"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("S Q0.0, 9999"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("S Q0.0, ZZ9999"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("S Q0.0"), (Verdetto_Riga{5, "-> Numero Operandi non supportati"}));
 }
 
 TEST_F(CheckedLine, OfATimerHasItsOwnBoundAndNoWordPreset) {
-  EXPECT_EQ(Check("TON T37, +100"), Verdict{});
-  EXPECT_EQ(Check("TON T64, +100"), (Verdict{6, "-> Indirizzo non supportato dal Timer"}));
-  EXPECT_EQ(Check("TON T37, IW0"), (Verdict{6, "-> Codice elemento non supportato"}));
-  EXPECT_EQ(Check("LD T63"), (Verdict{6, "-> Indirizzo non supportato"}));
+  EXPECT_EQ(Controlla("TON T37, +100"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("TON T64, +100"),
+            (Verdetto_Riga{6, "-> Indirizzo non supportato dal Timer"}));
+  EXPECT_EQ(Controlla("TON T37, IW0"), (Verdetto_Riga{6, "-> Codice elemento non supportato"}));
+  EXPECT_EQ(Controlla("LD T63"), (Verdetto_Riga{6, "-> Indirizzo non supportato"}));
 }
 
 TEST_F(CheckedLine, OfACounterHasABound) {
-  EXPECT_EQ(Check("CTU C20, +1"), Verdict{});
-  EXPECT_EQ(Check("CTU C21, +1"), (Verdict{6, "-> Indirizzo Byte non supportato"}));
+  EXPECT_EQ(Controlla("CTU C20, +1"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("CTU C21, +1"), (Verdetto_Riga{6, "-> Indirizzo Byte non supportato"}));
 }
 
 TEST_F(CheckedLine, OfAByteMoveTakesTheListedSpecialBytesAndSmallConstants) {
-  EXPECT_EQ(Check("MOVB SMB30, VB0"), (Verdict{6, "-> Indirizzo Byte OP1 non supportato"}));
-  EXPECT_EQ(Check("MOVB SMB34, VB0"), Verdict{});
-  EXPECT_EQ(Check("LDB= SMB34, VB0"), (Verdict{6, "-> Indirizzo Byte OP1 non supportato"}));
-  EXPECT_EQ(Check("MOVB +300, VB0"), (Verdict{6, "-> Valore troppo Grande in OP1"}));
+  EXPECT_EQ(Controlla("MOVB SMB30, VB0"),
+            (Verdetto_Riga{6, "-> Indirizzo Byte OP1 non supportato"}));
+  EXPECT_EQ(Controlla("MOVB SMB34, VB0"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("LDB= SMB34, VB0"),
+            (Verdetto_Riga{6, "-> Indirizzo Byte OP1 non supportato"}));
+  EXPECT_EQ(Controlla("MOVB +300, VB0"), (Verdetto_Riga{6, "-> Valore troppo Grande in OP1"}));
 }
 
 TEST_F(CheckedLine, OfAWordMoveTakesTheListedAnalogWords) {
-  EXPECT_EQ(Check("MOVW AIW1, VW0"), (Verdict{6, "-> Indirizzo Byte OP1 non supportato"}));
-  EXPECT_EQ(Check("MOVW AIW2, VW0"), Verdict{});
-  EXPECT_EQ(Check("MOVW VW0, AQW2"), Verdict{});
-  EXPECT_EQ(Check("MOVW VW0, AQW4"), (Verdict{6, "-> Indirizzo Byte OP2 non supportato"}));
+  EXPECT_EQ(Controlla("MOVW AIW1, VW0"),
+            (Verdetto_Riga{6, "-> Indirizzo Byte OP1 non supportato"}));
+  EXPECT_EQ(Controlla("MOVW AIW2, VW0"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("MOVW VW0, AQW2"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("MOVW VW0, AQW4"),
+            (Verdetto_Riga{6, "-> Indirizzo Byte OP2 non supportato"}));
 }
 
 TEST_F(CheckedLine, OfTheWordLogicIsAcceptedForXordAlone) {
-  EXPECT_EQ(Check("XORD AC0, AC1"), Verdict{});
-  EXPECT_EQ(Check("XORW AC0, AC1"), (Verdict{2, "-> Istruzione non supportata"}));
+  EXPECT_EQ(Controlla("XORD AC0, AC1"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("XORW AC0, AC1"), (Verdetto_Riga{2, "-> Istruzione non supportata"}));
 }
 
 TEST_F(CheckedLine, IsRefusedInOneOfThreeWays) {
-  EXPECT_EQ(Check("NOT I0.0"), (Verdict{3, "-> Operandi non supportati"}));
-  EXPECT_EQ(Check("END"), (Verdict{2, "-> Istruzione non supportata"}));
-  EXPECT_EQ(Check("FOO"), (Verdict{3, "-> Istruzione non riconosciuta"}));
+  EXPECT_EQ(Controlla("NOT I0.0"), (Verdetto_Riga{3, "-> Operandi non supportati"}));
+  EXPECT_EQ(Controlla("END"), (Verdetto_Riga{2, "-> Istruzione non supportata"}));
+  EXPECT_EQ(Controlla("FOO"), (Verdetto_Riga{3, "-> Istruzione non riconosciuta"}));
 }
 
 TEST_F(CheckedLine, HasBoundsThatAreNotUniform) {
-  EXPECT_EQ(Check("MOVD +255, VD0"), Verdict{});
-  EXPECT_EQ(Check("MOVD +256, VD0"), (Verdict{6, "-> Valore troppo Grande in OP1"}));
-  EXPECT_EQ(Check("MOVW +256, VW0"), Verdict{});
-  EXPECT_EQ(Check("MOVW MW3, VW0"), Verdict{});
-  EXPECT_EQ(Check("LDW= MW3, VW0"), (Verdict{6, "-> Codice elemento non supportato in OP1"}));
-  EXPECT_EQ(Check("LDW= IW0, QW0"), Verdict{});
-  EXPECT_EQ(Check("BTI AC0, VW0"), (Verdict{6, "-> Codice elemento in OP1 non supportato"}));
-  EXPECT_EQ(Check("MOVB VB-1, VB-5"), Verdict{});
+  EXPECT_EQ(Controlla("MOVD +255, VD0"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("MOVD +256, VD0"), (Verdetto_Riga{6, "-> Valore troppo Grande in OP1"}));
+  EXPECT_EQ(Controlla("MOVW +256, VW0"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("MOVW MW3, VW0"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("LDW= MW3, VW0"),
+            (Verdetto_Riga{6, "-> Codice elemento non supportato in OP1"}));
+  EXPECT_EQ(Controlla("LDW= IW0, QW0"), Verdetto_Riga{});
+  EXPECT_EQ(Controlla("BTI AC0, VW0"),
+            (Verdetto_Riga{6, "-> Codice elemento in OP1 non supportato"}));
+  EXPECT_EQ(Controlla("MOVB VB-1, VB-5"), Verdetto_Riga{});
 }
 
 }  // namespace

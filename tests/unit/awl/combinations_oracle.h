@@ -17,351 +17,362 @@
 // How a line ends, worked out from its texts and the memory before it, with none of the CPU's code.
 namespace tavorno::prova {
 
-enum class Ending { Ok, RunTimeError, Fatal, Unforeseen, Inconsistent };
+enum class Fine { Regolare, Errore, Fatale, Imprevisto, Incoerente };
 
-struct Outcome {
-  Ending ending = Ending::Ok;
-  std::optional<double> destination;        ///< value of the cell written, when it matters
-  std::optional<std::array<int, 2>> stack;  ///< top and second cell
-  std::optional<std::array<int, 4>> flags;  ///< SM1.0..SM1.3
+struct Effetto {
+  Fine fine = Fine::Regolare;
+  std::optional<double> destinazione;      ///< value of the cell written, when it matters
+  std::optional<std::array<int, 2>> pila;  ///< top and second cell
+  std::optional<std::array<int, 4>> flag;  ///< SM1.0..SM1.3
 
-  bool operator==(const Outcome&) const = default;
+  bool operator==(const Effetto&) const = default;
 };
 
-inline std::ostream& operator<<(std::ostream& out, const Outcome& outcome) {
-  static constexpr std::array names = {"ok", "run-time error", "fatal", "unknown", "inconsistent"};
-  out << names[static_cast<std::size_t>(outcome.ending)];
-  if (outcome.destination) out << ", destination " << *outcome.destination;
-  if (outcome.stack) out << ", stack " << (*outcome.stack)[0] << ' ' << (*outcome.stack)[1];
-  if (outcome.flags) {
-    out << ", SM1.0-3 ";
-    for (const int flag : *outcome.flags) out << flag;
+inline std::ostream& operator<<(std::ostream& uscita, const Effetto& effetto) {
+  static constexpr std::array nomi = {"ok", "run-time error", "fatal", "unknown", "inconsistent"};
+  uscita << nomi[static_cast<std::size_t>(effetto.fine)];
+  if (effetto.destinazione) uscita << ", destination " << *effetto.destinazione;
+  if (effetto.pila) uscita << ", stack " << (*effetto.pila)[0] << ' ' << (*effetto.pila)[1];
+  if (effetto.flag) {
+    uscita << ", SM1.0-3 ";
+    for (const int flag : *effetto.flag) uscita << flag;
   }
-  return out;
+  return uscita;
 }
 
 /// Whether a list of words with blanks between them has this one.
-inline bool IsIn(std::string_view word, std::string_view list) {
-  if (word.empty()) return false;
-  for (std::size_t at = list.find(word); at != std::string_view::npos;
-       at = list.find(word, at + 1)) {
-    const std::size_t end = at + word.size();
-    if ((at == 0 || list[at - 1] == ' ') && (end == list.size() || list[end] == ' ')) return true;
+inline bool Sta_In(std::string_view parola, std::string_view lista) {
+  if (parola.empty()) return false;
+  for (std::size_t da = lista.find(parola); da != std::string_view::npos;
+       da = lista.find(parola, da + 1)) {
+    const std::size_t fine = da + parola.size();
+    if ((da == 0 || lista[da - 1] == ' ') && (fine == lista.size() || lista[fine] == ' '))
+      return true;
   }
   return false;
 }
 
 /// Last row of an area's table, -1 for an area without one.
-inline int LastRow(const std::string& area) {
-  static const std::map<std::string, int> rows = {
+inline int Ultima_Riga(const std::string& area) {
+  static const std::map<std::string, int> righe = {
       {"I", 1},  {"IB", 1},  {"IW", 1},  {"Q", 1},    {"QB", 1},   {"QW", 1},  {"M", 4},
       {"MB", 4}, {"MW", 4},  {"S", 4},   {"SM", 30},  {"SMB", 30}, {"T", 40},  {"C", 20},
       {"AC", 4}, {"AIW", 4}, {"AQW", 2}, {"VB", 100}, {"VW", 100}, {"VD", 100}};
-  const auto found = rows.find(area);
-  return found == rows.end() ? -1 : found->second;
+  const auto trovato = righe.find(area);
+  return trovato == righe.end() ? -1 : trovato->second;
 }
 
 /// What a move or an arithmetic line leaves in its destination.
-inline std::optional<double> CellValue(const Memoria& m, const std::string& mnemonic,
-                                       const Operand& cell) {
-  const int n = cell.num;
-  if (n < 0 || n > LastRow(cell.area)) return {};
-  if (cell.area == "VB") return m.Mem_VB[n];
-  if (cell.area == "VW") return m.Mem_VW[n];
-  if (cell.area == "VD") return m.Mem_VD[n];
-  if (cell.area == "AC") return m.Mem_AC[n];
-  if (cell.area == "AQW") return m.Mem_AQW[n];
-  if (cell.area == "QB") return m.IP_Q[n].Val_B;
+inline std::optional<double> Valore_Cella(const Memoria& m, const std::string& mnemonico,
+                                          const Operando_Scritto& cella) {
+  const int n = cella.numero;
+  if (n < 0 || n > Ultima_Riga(cella.area)) return {};
+  if (cella.area == "VB") return m.Mem_VB[n];
+  if (cella.area == "VW") return m.Mem_VW[n];
+  if (cella.area == "VD") return m.Mem_VD[n];
+  if (cella.area == "AC") return m.Mem_AC[n];
+  if (cella.area == "AQW") return m.Mem_AQW[n];
+  if (cella.area == "QB") return m.IP_Q[n].Val_B;
   // A preset is what BTI writes; all others mean the value.
-  if (cell.area == "T") return mnemonic == "BTI" ? m.Mem_T[n].PT : m.Mem_T[n].Val;
-  if (cell.area == "C") return mnemonic == "BTI" ? m.Mem_C[n].PV : m.Mem_C[n].Val;
+  if (cella.area == "T") return mnemonico == "BTI" ? m.Mem_T[n].PT : m.Mem_T[n].Val;
+  if (cella.area == "C") return mnemonico == "BTI" ? m.Mem_C[n].PV : m.Mem_C[n].Val;
   return {};
 }
 
-class Oracle {
+class Oracolo {
  public:
-  Oracle(const Memoria& before, int enabled)
-      : m(before), enable(enabled), top(before.Stak[0]), flow((before.Stak[0] & enabled) == 1) {}
+  Oracolo(const Memoria& prima, int abilitata)
+      : m(prima),
+        abilitazione(abilitata),
+        cima(prima.Stak[0]),
+        flusso((prima.Stak[0] & abilitata) == 1) {}
 
-  Outcome Of(const std::string& mnemonic, const Operand& op1, const Operand& op2) {
-    outcome = {};
+  Effetto Di(const std::string& mnemonico, const Operando_Scritto& op1,
+             const Operando_Scritto& op2) {
+    effetto = {};
     try {
-      if (IsIn(mnemonic, "RETI INT INT0 XORD"))
-        outcome.ending = Ending::Unforeseen;
-      else if (mnemonic == "LSCR")
-        Bit(4, op1.num, op1.bit);
-      else if (IsIn(mnemonic, "LD LDN LDI LDNI A AN AI ANI O ON OI ONI"))
-        Contact(mnemonic, op1);
-      else if (IsIn(mnemonic, "= =I S R SI RI"))
-        Output(mnemonic, op1, op2);
-      else if (IsIn(mnemonic, "TON TOF TONR"))
+      if (Sta_In(mnemonico, "RETI INT INT0 XORD"))
+        effetto.fine = Fine::Imprevisto;
+      else if (mnemonico == "LSCR")
+        Indice_Bit(4, op1.numero, op1.bit);
+      else if (Sta_In(mnemonico, "LD LDN LDI LDNI A AN AI ANI O ON OI ONI"))
+        Contatto(mnemonico, op1);
+      else if (Sta_In(mnemonico, "= =I S R SI RI"))
+        Uscita(mnemonico, op1, op2);
+      else if (Sta_In(mnemonico, "TON TOF TONR"))
         Timer(op1, op2);
-      else if (IsIn(mnemonic, "CTU CTD CTUD"))
-        Counter(mnemonic, op1, op2);
-      else if (IsIn(mnemonic, "MOVB MOVW MOVD BIR BIW BTI"))
-        Move(mnemonic, op1, op2);
-      else if (IsIn(mnemonic, "+I -I *I /I +D -D *D /D"))
-        Arithmetic(mnemonic, op1, op2);
-      else if (IsIn(mnemonic, "INCB DECB INCW DECW INCD DECD"))
-        Step(mnemonic, op1);
-      else if (std::string("=<>").find(mnemonic.back()) != std::string::npos)
-        Comparison(mnemonic, op1, op2);
-    } catch (Ending ending) {
-      outcome = {ending, {}, {}, {}};
+      else if (Sta_In(mnemonico, "CTU CTD CTUD"))
+        Contatore(mnemonico, op1, op2);
+      else if (Sta_In(mnemonico, "MOVB MOVW MOVD BIR BIW BTI"))
+        Trasferimento(mnemonico, op1, op2);
+      else if (Sta_In(mnemonico, "+I -I *I /I +D -D *D /D"))
+        Aritmetica(mnemonico, op1, op2);
+      else if (Sta_In(mnemonico, "INCB DECB INCW DECW INCD DECD"))
+        Passo(mnemonico, op1);
+      else if (std::string("=<>").find(mnemonico.back()) != std::string::npos)
+        Confronto(mnemonico, op1, op2);
+    } catch (Fine fine) {
+      effetto = {fine, {}, {}, {}};
     }
-    return outcome;
+    return effetto;
   }
 
  private:
-  using Value = std::optional<long long>;  ///< empty: the soft error of a read
+  using Valore = std::optional<long long>;  ///< empty: the soft error of a read
 
-  static void Index(int number, int last) {
-    if (number < 0 || number > last) throw Ending::Fatal;
+  static void Indice(int numero, int ultimo) {
+    if (numero < 0 || numero > ultimo) throw Fine::Fatale;
   }
-  static void Bit(int lastRow, int row, int bit) {
-    Index(row, lastRow);
-    Index(bit, 8);
+  static void Indice_Bit(int ultima, int riga, int bit) {
+    Indice(riga, ultima);
+    Indice(bit, 8);
   }
-  static long long Fit(long long value, int bits) {
-    const long long limit = 1LL << (bits - 1);
-    if (value < -limit || value >= limit) throw Ending::Fatal;
-    return value;
+  static long long Entra(long long valore, int bit) {
+    const long long limite = 1LL << (bit - 1);
+    if (valore < -limite || valore >= limite) throw Fine::Fatale;
+    return valore;
   }
-  static void SoftError(bool failed) {
-    if (failed) throw Ending::RunTimeError;
+  static void Errore_Se(bool fallito) {
+    if (fallito) throw Fine::Errore;
   }
 
   // ---- reading --------------------------------------------------------------------------------
 
   /// Rounded to the nearest integer, a half to the even one.
-  long long Ac(int number) const {
-    Index(number, 4);
-    const double value = m.Mem_AC[number];
-    double below = std::floor(value);
-    const double rest = value - below;
-    if (rest > 0.5 || (rest == 0.5 && std::fmod(below, 2) != 0)) below += 1;
-    if (std::fabs(below) > 1e10) throw Ending::Fatal;
-    return Fit(static_cast<long long>(below), 32);
+  long long Accumulatore(int numero) const {
+    Indice(numero, 4);
+    const double valore = m.Mem_AC[numero];
+    double sotto = std::floor(valore);
+    const double resto = valore - sotto;
+    if (resto > 0.5 || (resto == 0.5 && std::fmod(sotto, 2) != 0)) sotto += 1;
+    if (std::fabs(sotto) > 1e10) throw Fine::Fatale;
+    return Entra(static_cast<long long>(sotto), 32);
   }
-  static long long Text(const std::string& text) {
-    if (text.empty()) throw Ending::Fatal;
-    return std::stoll(text);
+  static long long Da_Testo(const std::string& testo) {
+    if (testo.empty()) throw Fine::Fatale;
+    return std::stoll(testo);
   }
 
-  Value Byte(const Operand& op, bool special) const {
-    if (op.area == "K") return op.num;
-    if (op.area == "AC") return Ac(op.num);
-    if (!IsIn(op.area, special ? "VB IB QB MB SMB" : "VB IB QB MB")) return {};
-    Index(op.num, LastRow(op.area));
-    if (op.area == "VB") return m.Mem_VB[op.num];
-    if (op.area == "IB") return m.IP_I[op.num].Val_B;
-    if (op.area == "QB") return m.IP_Q[op.num].Val_B;
-    if (op.area == "MB") return m.Mem_M[op.num].Val_B;
-    return m.Mem_SM[op.num].Val_B;
+  Valore Byte(const Operando_Scritto& op, bool speciali) const {
+    if (op.area == "K") return op.numero;
+    if (op.area == "AC") return Accumulatore(op.numero);
+    if (!Sta_In(op.area, speciali ? "VB IB QB MB SMB" : "VB IB QB MB")) return {};
+    Indice(op.numero, Ultima_Riga(op.area));
+    if (op.area == "VB") return m.Mem_VB[op.numero];
+    if (op.area == "IB") return m.IP_I[op.numero].Val_B;
+    if (op.area == "QB") return m.IP_Q[op.numero].Val_B;
+    if (op.area == "MB") return m.Mem_M[op.numero].Val_B;
+    return m.Mem_SM[op.numero].Val_B;
   }
-  Value Word(const Operand& op) const {
-    if (op.area == "K") return op.num;
-    if (op.area == "AC") return Ac(op.num);
-    if (!IsIn(op.area, "VW IW QW MW AIW T C")) return {};
-    Index(op.num, LastRow(op.area));
-    if (op.area == "VW") return m.Mem_VW[op.num];
-    if (op.area == "IW") return Text(m.IP_I[op.num].Txt_B);
-    if (op.area == "QW") return Text(m.IP_Q[op.num].Txt_B);
-    if (op.area == "MW") return Text(m.Mem_M[op.num].Txt_B);
-    if (op.area == "AIW") return m.Mem_AIW[op.num];
-    if (op.area == "T") return m.Mem_T[op.num].Val;
-    return m.Mem_C[op.num].Val;
+  Valore Parola(const Operando_Scritto& op) const {
+    if (op.area == "K") return op.numero;
+    if (op.area == "AC") return Accumulatore(op.numero);
+    if (!Sta_In(op.area, "VW IW QW MW AIW T C")) return {};
+    Indice(op.numero, Ultima_Riga(op.area));
+    if (op.area == "VW") return m.Mem_VW[op.numero];
+    if (op.area == "IW") return Da_Testo(m.IP_I[op.numero].Txt_B);
+    if (op.area == "QW") return Da_Testo(m.IP_Q[op.numero].Txt_B);
+    if (op.area == "MW") return Da_Testo(m.Mem_M[op.numero].Txt_B);
+    if (op.area == "AIW") return m.Mem_AIW[op.numero];
+    if (op.area == "T") return m.Mem_T[op.numero].Val;
+    return m.Mem_C[op.numero].Val;
   }
-  Value Double(const Operand& op) const {
-    if (op.area == "K") return op.num;
-    if (op.area == "AC") return Ac(op.num);
+  Valore Doppia(const Operando_Scritto& op) const {
+    if (op.area == "K") return op.numero;
+    if (op.area == "AC") return Accumulatore(op.numero);
     if (op.area != "VD") return {};
-    Index(op.num, 100);
-    return m.Mem_VD[op.num];
+    Indice(op.numero, 100);
+    return m.Mem_VD[op.numero];
   }
   /// With the upper limit of the width; below it a 16-bit result does not hold the value.
-  Value Limited(char width, const Operand& op) const {
-    if (width == 'D') return Double(op);
-    const Value value = width == 'B' ? Byte(op, false) : Word(op);
-    if (!value || *value > (width == 'B' ? 255 : 32767)) return {};
-    return Fit(*value, 16);
+  Valore Limitata(char larghezza, const Operando_Scritto& op) const {
+    if (larghezza == 'D') return Doppia(op);
+    const Valore valore = larghezza == 'B' ? Byte(op, false) : Parola(op);
+    if (!valore || *valore > (larghezza == 'B' ? 255 : 32767)) return {};
+    return Entra(*valore, 16);
   }
 
   // ---- bits -----------------------------------------------------------------------------------
 
-  int BitValue(const Operand& op, bool immediate) const {
-    if (immediate) {
-      Bit(1, op.num, op.bit);
-      return m.IP_I[op.num].Bit_Dir[op.bit];
+  int Valore_Bit(const Operando_Scritto& op, bool immediato) const {
+    if (immediato) {
+      Indice_Bit(1, op.numero, op.bit);
+      return m.IP_I[op.numero].Bit_Dir[op.bit];
     }
-    Index(op.num, LastRow(op.area));
-    if (op.area == "T") return m.Mem_T[op.num].Uscita;
-    if (op.area == "C") return m.Mem_C[op.num].Uscita;
-    Index(op.bit, 8);
-    if (op.area == "I") return m.IP_I[op.num].Bit_Img[op.bit];
-    if (op.area == "Q") return m.IP_Q[op.num].Bit_Img[op.bit];
-    if (op.area == "M") return m.Mem_M[op.num].Bit[op.bit];
-    if (op.area == "SM") return m.Mem_SM[op.num].Bit[op.bit];
-    return m.Mem_S[op.num].Bit[op.bit];
+    Indice(op.numero, Ultima_Riga(op.area));
+    if (op.area == "T") return m.Mem_T[op.numero].Uscita;
+    if (op.area == "C") return m.Mem_C[op.numero].Uscita;
+    Indice(op.bit, 8);
+    if (op.area == "I") return m.IP_I[op.numero].Bit_Img[op.bit];
+    if (op.area == "Q") return m.IP_Q[op.numero].Bit_Img[op.bit];
+    if (op.area == "M") return m.Mem_M[op.numero].Bit[op.bit];
+    if (op.area == "SM") return m.Mem_SM[op.numero].Bit[op.bit];
+    return m.Mem_S[op.numero].Bit[op.bit];
   }
-  void Join(const std::string& mnemonic, int value) {
-    if (mnemonic.starts_with("LD"))
-      outcome.stack = {value, top};
-    else if (mnemonic.starts_with("A"))
-      outcome.stack = {top & value, m.Stak[1]};
+  void Unisci(const std::string& mnemonico, int valore) {
+    if (mnemonico.starts_with("LD"))
+      effetto.pila = {valore, cima};
+    else if (mnemonico.starts_with("A"))
+      effetto.pila = {cima & valore, m.Stak[1]};
     else
-      outcome.stack = {top | value, m.Stak[1]};
+      effetto.pila = {cima | valore, m.Stak[1]};
   }
-  void Contact(const std::string& mnemonic, const Operand& op) {
-    const int value = BitValue(op, mnemonic.back() == 'I');
-    const bool negated = mnemonic.find('N') != std::string::npos;
-    Join(mnemonic, negated ? 1 - value : value);
+  void Contatto(const std::string& mnemonico, const Operando_Scritto& op) {
+    const int valore = Valore_Bit(op, mnemonico.back() == 'I');
+    const bool negato = mnemonico.find('N') != std::string::npos;
+    Unisci(mnemonico, negato ? 1 - valore : valore);
   }
 
-  void Output(const std::string& mnemonic, const Operand& op, const Operand& count) {
-    if (mnemonic == "=" || mnemonic == "=I") {
-      Bit(LastRow(op.area), op.num, op.bit);
+  void Uscita(const std::string& mnemonico, const Operando_Scritto& op,
+              const Operando_Scritto& quanti) {
+    if (mnemonico == "=" || mnemonico == "=I") {
+      Indice_Bit(Ultima_Riga(op.area), op.numero, op.bit);
       return;
     }
-    const bool element = IsIn(op.area, "T C");
-    const int first = element ? op.num : op.bit;
-    const bool inclusive = mnemonic == "SI" || mnemonic == "RI";
-    const long long last = Fit(first + count.num - (inclusive ? 0 : 1), 16);
-    if (!flow || first > last) return;
-    if (element) {
-      Index(op.num, LastRow(op.area));  // every round means the element named
-    } else if (mnemonic == "R" && op.area == "M") {
-      Bit(4, op.num, first);
-      SoftError(last > 7 && op.num == 4);
+    const bool elemento = Sta_In(op.area, "T C");
+    const int primo = elemento ? op.numero : op.bit;
+    const bool compreso = mnemonico == "SI" || mnemonico == "RI";
+    const long long ultimo = Entra(primo + quanti.numero - (compreso ? 0 : 1), 16);
+    if (!flusso || primo > ultimo) return;
+    if (elemento) {
+      Indice(op.numero, Ultima_Riga(op.area));  // every round means the element named
+    } else if (mnemonico == "R" && op.area == "M") {
+      Indice_Bit(4, op.numero, primo);
+      Errore_Se(ultimo > 7 && op.numero == 4);
     } else {
-      Bit(LastRow(op.area), op.num, first);
-      Index(static_cast<int>(last), 8);
+      Indice_Bit(Ultima_Riga(op.area), op.numero, primo);
+      Indice(static_cast<int>(ultimo), 8);
     }
   }
 
   // ---- timers and counters --------------------------------------------------------------------
 
-  void Timer(const Operand& op, const Operand& preset) const {
-    if (preset.area == "VW")
-      Index(preset.num, 100);
-    else if (preset.area == "AC")
-      Fit(Ac(preset.num), 16);
+  void Timer(const Operando_Scritto& op, const Operando_Scritto& preselezione) const {
+    if (preselezione.area == "VW")
+      Indice(preselezione.numero, 100);
+    else if (preselezione.area == "AC")
+      Entra(Accumulatore(preselezione.numero), 16);
     else
-      SoftError(preset.area != "K");
-    Index(op.num, 40);
+      Errore_Se(preselezione.area != "K");
+    Indice(op.numero, 40);
   }
-  void Counter(const std::string& mnemonic, const Operand& op, const Operand& preset) const {
-    if (preset.area == "VW") Index(preset.num, 100);
-    Index(op.num, 20);
-    if (mnemonic == "CTD") return;  // it stops at 0
-    const bool reset = enable == 1 && top != 0;
-    long long value = reset ? 0 : m.Mem_C[op.num].Val;
-    const bool up = enable == 1 && m.Stak[mnemonic == "CTU" ? 1 : 2] == 1;
-    if (up) value = Fit(value + 1, 16);
-    if (mnemonic == "CTUD" && enable == 1 && m.Stak[1] == 1) Fit(value - 1, 16);
+  void Contatore(const std::string& mnemonico, const Operando_Scritto& op,
+                 const Operando_Scritto& preselezione) const {
+    if (preselezione.area == "VW") Indice(preselezione.numero, 100);
+    Indice(op.numero, 20);
+    if (mnemonico == "CTD") return;  // it stops at 0
+    const bool azzera = abilitazione == 1 && cima != 0;
+    long long valore = azzera ? 0 : m.Mem_C[op.numero].Val;
+    const bool avanti = abilitazione == 1 && m.Stak[mnemonico == "CTU" ? 1 : 2] == 1;
+    if (avanti) valore = Entra(valore + 1, 16);
+    if (mnemonico == "CTUD" && abilitazione == 1 && m.Stak[1] == 1) Entra(valore - 1, 16);
   }
 
   // ---- moves and comparisons ------------------------------------------------------------------
 
-  void Move(const std::string& mnemonic, const Operand& from, const Operand& to) {
-    outcome.destination = CellValue(m, mnemonic, to);
+  void Trasferimento(const std::string& mnemonico, const Operando_Scritto& da,
+                     const Operando_Scritto& a) {
+    effetto.destinazione = Valore_Cella(m, mnemonico, a);
     // MOVB and MOVD do not look at the line enable.
-    if (!(IsIn(mnemonic, "MOVB MOVD") ? top == 1 : flow)) return;
-    Value value;
-    if (mnemonic == "MOVW") {
-      value = Word(from);
-      SoftError(!value || *value > 32767);
-    } else if (mnemonic == "MOVD") {
-      value = Double(from);
+    if (!(Sta_In(mnemonico, "MOVB MOVD") ? cima == 1 : flusso)) return;
+    Valore valore;
+    if (mnemonico == "MOVW") {
+      valore = Parola(da);
+      Errore_Se(!valore || *valore > 32767);
+    } else if (mnemonico == "MOVD") {
+      valore = Doppia(da);
     } else {
-      value = Byte(from, IsIn(mnemonic, "MOVB BTI"));
-      SoftError(!value || (mnemonic != "BTI" && *value > 255));
-      SoftError(mnemonic == "BIW" && to.area != "QB");
+      valore = Byte(da, Sta_In(mnemonico, "MOVB BTI"));
+      Errore_Se(!valore || (mnemonico != "BTI" && *valore > 255));
+      Errore_Se(mnemonico == "BIW" && a.area != "QB");
     }
-    if (mnemonic == "MOVW" && IsIn(to.area, "T C")) return;  // ignored without a word
-    Store(to, *value);
+    if (mnemonico == "MOVW" && Sta_In(a.area, "T C")) return;  // ignored without a word
+    Metti(a, *valore);
   }
 
-  void Comparison(const std::string& mnemonic, const Operand& op1, const Operand& op2) {
-    const std::size_t width = mnemonic.starts_with("LD") ? 2 : 1;
-    const std::string relation = mnemonic.substr(width + 1);
-    const Value second = Limited(mnemonic[width], op2);
-    const Value first = Limited(mnemonic[width], op1);
-    SoftError(!first || !second);
-    const bool holds = relation == "="    ? *first == *second
-                       : relation == "<>" ? *first != *second
-                       : relation == "<"  ? *first < *second
-                       : relation == "<=" ? *first <= *second
-                       : relation == ">"  ? *first > *second
-                                          : *first >= *second;
-    Join(mnemonic, holds ? 1 : 0);
+  void Confronto(const std::string& mnemonico, const Operando_Scritto& op1,
+                 const Operando_Scritto& op2) {
+    const std::size_t larghezza = mnemonico.starts_with("LD") ? 2 : 1;
+    const std::string relazione = mnemonico.substr(larghezza + 1);
+    const Valore secondo = Limitata(mnemonico[larghezza], op2);
+    const Valore primo = Limitata(mnemonico[larghezza], op1);
+    Errore_Se(!primo || !secondo);
+    const bool vale = relazione == "="    ? *primo == *secondo
+                      : relazione == "<>" ? *primo != *secondo
+                      : relazione == "<"  ? *primo < *secondo
+                      : relazione == "<=" ? *primo <= *secondo
+                      : relazione == ">"  ? *primo > *secondo
+                                          : *primo >= *secondo;
+    Unisci(mnemonico, vale ? 1 : 0);
   }
 
   // ---- arithmetic -----------------------------------------------------------------------------
 
-  void Store(const Operand& to, long long value) {
-    Index(to.num, LastRow(to.area));
-    if (to.area == "AC")
-      outcome.destination = static_cast<float>(value);
+  void Metti(const Operando_Scritto& a, long long valore) {
+    Indice(a.numero, Ultima_Riga(a.area));
+    if (a.area == "AC")
+      effetto.destinazione = static_cast<float>(valore);
     else
-      outcome.destination = static_cast<double>(Fit(value, IsIn(to.area, "VD AQW") ? 32 : 16));
+      effetto.destinazione = static_cast<double>(Entra(valore, Sta_In(a.area, "VD AQW") ? 32 : 16));
   }
-  std::array<int, 4> FlagsNow() const {
-    const auto& bits = m.Mem_SM[1].Bit;
-    return {bits[0], bits[1], bits[2], bits[3]};
+  std::array<int, 4> Flag_Adesso() const {
+    const auto& bit = m.Mem_SM[1].Bit;
+    return {bit[0], bit[1], bit[2], bit[3]};
   }
-  void SetFlags(long long result, bool overflow) {
-    outcome.flags = {!overflow && result == 0, overflow, !overflow && result < 0, FlagsNow()[3]};
+  void Metti_Flag(long long risultato, bool trabocco) {
+    effetto.flag = {!trabocco && risultato == 0, trabocco, !trabocco && risultato < 0,
+                    Flag_Adesso()[3]};
   }
 
-  void Arithmetic(const std::string& mnemonic, const Operand& in, const Operand& out) {
-    outcome.destination = CellValue(m, mnemonic, out);
-    outcome.flags = FlagsNow();
-    if (!flow) return;
-    const char operation = mnemonic[0];
-    const bool integer = mnemonic[1] == 'I';
-    const long long a = integer ? *Word(in) : *Double(in);
-    const long long b = integer ? *Word(out) : *Double(out);
-    const bool sum = operation == '+' || operation == '-';
-    SoftError(integer && sum && (a > 32767 || b > 32767));
-    if (operation == '/' && a == 0) {
-      (*outcome.flags)[3] = 1;
+  void Aritmetica(const std::string& mnemonico, const Operando_Scritto& entrata,
+                  const Operando_Scritto& uscita) {
+    effetto.destinazione = Valore_Cella(m, mnemonico, uscita);
+    effetto.flag = Flag_Adesso();
+    if (!flusso) return;
+    const char operazione = mnemonico[0];
+    const bool intero = mnemonico[1] == 'I';
+    const long long a = intero ? *Parola(entrata) : *Doppia(entrata);
+    const long long b = intero ? *Parola(uscita) : *Doppia(uscita);
+    const bool somma = operazione == '+' || operazione == '-';
+    Errore_Se(intero && somma && (a > 32767 || b > 32767));
+    if (operazione == '/' && a == 0) {
+      (*effetto.flag)[3] = 1;
       return;
     }
-    const long long result = Fit(operation == '+'   ? b + a
-                                 : operation == '-' ? b - a
-                                 : operation == '*' ? b * a
-                                                    : b / a,
-                                 32);
+    const long long risultato = Entra(operazione == '+'   ? b + a
+                                      : operazione == '-' ? b - a
+                                      : operazione == '*' ? b * a
+                                                          : b / a,
+                                      32);
     // Each way of overflow is a trait of its own: not written, written as 32767, or not known.
-    const bool overflow = integer            ? result < -32768 || result > 32767
-                          : operation == '+' ? result > 32767
-                                             : false;
-    SetFlags(result, overflow);
-    if (overflow && integer && sum) return;
-    Store(out, overflow ? 32767 : result);
+    const bool trabocco = intero              ? risultato < -32768 || risultato > 32767
+                          : operazione == '+' ? risultato > 32767
+                                              : false;
+    Metti_Flag(risultato, trabocco);
+    if (trabocco && intero && somma) return;
+    Metti(uscita, trabocco ? 32767 : risultato);
   }
 
-  void Step(const std::string& mnemonic, const Operand& op) {
-    outcome.destination = CellValue(m, mnemonic, op);
-    outcome.flags = FlagsNow();
-    if (!flow) return;
-    const char width = mnemonic.back();
-    const long long step = mnemonic.starts_with("INC") ? 1 : -1;
-    const long long value = width == 'B'   ? *Byte(op, false)
-                            : width == 'W' ? *Word(op)
-                                           : *Double(op);
-    const long long result = Fit(value + step, 32);
-    Store(op, result);
-    const long long limit = width == 'B' ? 128 : 32768;
-    SetFlags(result, width != 'D' && (result < -limit || result >= limit));
+  void Passo(const std::string& mnemonico, const Operando_Scritto& op) {
+    effetto.destinazione = Valore_Cella(m, mnemonico, op);
+    effetto.flag = Flag_Adesso();
+    if (!flusso) return;
+    const char larghezza = mnemonico.back();
+    const long long passo = mnemonico.starts_with("INC") ? 1 : -1;
+    const long long valore = larghezza == 'B'   ? *Byte(op, false)
+                             : larghezza == 'W' ? *Parola(op)
+                                                : *Doppia(op);
+    const long long risultato = Entra(valore + passo, 32);
+    Metti(op, risultato);
+    const long long limite = larghezza == 'B' ? 128 : 32768;
+    Metti_Flag(risultato, larghezza != 'D' && (risultato < -limite || risultato >= limite));
   }
 
   const Memoria& m;
-  int enable;
-  int top;
-  bool flow;
-  Outcome outcome;
+  int abilitazione;
+  int cima;
+  bool flusso;
+  Effetto effetto;
 };
 
 }  // namespace tavorno::prova

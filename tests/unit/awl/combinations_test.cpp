@@ -20,49 +20,49 @@ namespace {
 
 // ---- operands and values ----------------------------------------------------------------------
 
-bool HasBits(const std::string& area) {
-  return IsIn(area, "I Q M SM S");
+bool Ha_I_Bit(const std::string& area) {
+  return Sta_In(area, "I Q M SM S");
 }
 
 /// The number with which an area is first offered to the checker.
-Operand Home(const std::string& area) {
-  return {area, area == "SMB" ? 28 : 0, HasBits(area) ? 0 : -1};
+Operando_Scritto Primo_Offerto(const std::string& area) {
+  return {area, area == "SMB" ? 28 : 0, Ha_I_Bit(area) ? 0 : -1};
 }
 
 /// Where values are tried out: the highest number of the area.
-int LastNumber(const std::string& area) {
+int Ultimo_Numero(const std::string& area) {
   if (area == "AIW") return 4;
   if (area == "AQW") return 2;
   if (area == "SMB") return 29;
-  const auto found = HighestNumber().find(area);
-  return found == HighestNumber().end() ? 0 : found->second;
+  const auto trovato = Numero_Massimo().find(area);
+  return trovato == Numero_Massimo().end() ? 0 : trovato->second;
 }
 
 /// Numbers on both sides of the bounds; those that the checker refuses for a line drop out there.
-std::vector<Operand> Numbers(const std::string& area, bool bits) {
+std::vector<Operando_Scritto> Numeri_Di(const std::string& area, bool con_bit) {
   if (area.empty()) return {{area}};
-  std::vector<int> numbers = {0, -1};
+  std::vector<int> numeri = {0, -1};
   if (area == "K")
-    numbers = {0, 1, 2, 9, 255, 256, 32767, -1, -32768};
+    numeri = {0, 1, 2, 9, 255, 256, 32767, -1, -32768};
   else if (area == "SMB")
-    numbers = {28, 29, 34, 35};
-  else if (LastRow(area) >= 0)
-    numbers = {0, LastNumber(area), 41, 63, 101, -1};
-  std::vector<Operand> operands;
-  for (std::size_t i = 0; i < numbers.size(); ++i) {
-    if (i == 1 && numbers[1] == numbers[0]) continue;
-    operands.push_back({area, numbers[i]});
-    if (!bits) continue;
-    for (const int bit : {0, 7}) operands.push_back({area, numbers[i], bit});
+    numeri = {28, 29, 34, 35};
+  else if (Ultima_Riga(area) >= 0)
+    numeri = {0, Ultimo_Numero(area), 41, 63, 101, -1};
+  std::vector<Operando_Scritto> operandi;
+  for (std::size_t i = 0; i < numeri.size(); ++i) {
+    if (i == 1 && numeri[1] == numeri[0]) continue;
+    operandi.push_back({area, numeri[i]});
+    if (!con_bit) continue;
+    for (const int bit : {0, 7}) operandi.push_back({area, numeri[i], bit});
   }
-  return operands;
+  return operandi;
 }
 
-std::vector<double> Values(const std::string& area) {
-  if (HasBits(area)) return {0, 1};
-  if (IsIn(area, "IB QB MB SMB")) return {1, 0, 255, 256, 32767, -1};
-  if (IsIn(area, "IW QW MW")) return {101, 0, 11111111, 32767, 100000, -1};  // -1: no text yet
-  if (IsIn(area, "VB VW T C")) return {1, 0, -1, 255, 256, 32767, -32768};
+std::vector<double> Valori_Di(const std::string& area) {
+  if (Ha_I_Bit(area)) return {0, 1};
+  if (Sta_In(area, "IB QB MB SMB")) return {1, 0, 255, 256, 32767, -1};
+  if (Sta_In(area, "IW QW MW")) return {101, 0, 11111111, 32767, 100000, -1};  // -1: no text yet
+  if (Sta_In(area, "VB VW T C")) return {1, 0, -1, 255, 256, 32767, -32768};
   if (area == "AIW") return {1, 0, -1, 32767, 32768, -32768, -32769};
   if (area == "VD") return {1, 0, -1, 32767, 32768, -40000, 2147483647, -2147483648.0};
   if (area == "AC")
@@ -71,196 +71,201 @@ std::vector<double> Values(const std::string& area) {
   return {0};
 }
 
-void SetCell(Memoria& m, const Operand& cell, double value) {
-  const int n = cell.num;
-  if (n < 0 || n > LastRow(cell.area)) return;
-  const auto word = [&] { return static_cast<std::int16_t>(value); };
-  const auto text = [&] {
-    std::array<char, 16> digits{};
-    if (value >= 0) std::snprintf(digits.data(), digits.size(), "%08d", static_cast<int>(value));
-    return std::string(digits.data());
+void Metti_Cella(Memoria& m, const Operando_Scritto& cella, double valore) {
+  const int n = cella.numero;
+  if (n < 0 || n > Ultima_Riga(cella.area)) return;
+  const auto parola = [&] { return static_cast<std::int16_t>(valore); };
+  const auto testo = [&] {
+    std::array<char, 16> cifre{};
+    if (valore >= 0) std::snprintf(cifre.data(), cifre.size(), "%08d", static_cast<int>(valore));
+    return std::string(cifre.data());
   };
-  const std::string& area = cell.area;
-  if (area == "VB") m.Mem_VB[n] = word();
-  if (area == "VW") m.Mem_VW[n] = word();
-  if (area == "VD") m.Mem_VD[n] = static_cast<std::int32_t>(value);
-  if (area == "AC") m.Mem_AC[n] = static_cast<float>(value);
-  if (area == "AIW") m.Mem_AIW[n] = static_cast<std::int32_t>(value);
-  if (area == "IB") m.IP_I[n].Val_B = word();
-  if (area == "QB") m.IP_Q[n].Val_B = word();
-  if (area == "MB") m.Mem_M[n].Val_B = word();
-  if (area == "SMB") m.Mem_SM[n].Val_B = word();
-  if (area == "IW") m.IP_I[n].Txt_B = text();
-  if (area == "QW") m.IP_Q[n].Txt_B = text();
-  if (area == "MW") m.Mem_M[n].Txt_B = text();
-  const std::uint8_t bit = value == 1 ? 1 : 0;
-  if (area == "T") m.Mem_T[n] = {word(), 0, bit, 0};
-  if (area == "C") m.Mem_C[n] = {word(), 0, bit, 0, 0};
-  if (!HasBits(area) || cell.bit < 0) return;
-  if (area == "I") m.IP_I[n].Bit_Img[cell.bit] = m.IP_I[n].Bit_Dir[cell.bit] = bit;
-  if (area == "Q") m.IP_Q[n].Bit_Img[cell.bit] = bit;
-  if (area == "M") m.Mem_M[n].Bit[cell.bit] = bit;
-  if (area == "S") m.Mem_S[n].Bit[cell.bit] = bit;
-  if (area == "SM") m.Mem_SM[n].Bit[cell.bit] = bit;
+  const std::string& area = cella.area;
+  if (area == "VB") m.Mem_VB[n] = parola();
+  if (area == "VW") m.Mem_VW[n] = parola();
+  if (area == "VD") m.Mem_VD[n] = static_cast<std::int32_t>(valore);
+  if (area == "AC") m.Mem_AC[n] = static_cast<float>(valore);
+  if (area == "AIW") m.Mem_AIW[n] = static_cast<std::int32_t>(valore);
+  if (area == "IB") m.IP_I[n].Val_B = parola();
+  if (area == "QB") m.IP_Q[n].Val_B = parola();
+  if (area == "MB") m.Mem_M[n].Val_B = parola();
+  if (area == "SMB") m.Mem_SM[n].Val_B = parola();
+  if (area == "IW") m.IP_I[n].Txt_B = testo();
+  if (area == "QW") m.IP_Q[n].Txt_B = testo();
+  if (area == "MW") m.Mem_M[n].Txt_B = testo();
+  const std::uint8_t bit = valore == 1 ? 1 : 0;
+  if (area == "T") m.Mem_T[n] = {parola(), 0, bit, 0};
+  if (area == "C") m.Mem_C[n] = {parola(), 0, bit, 0, 0};
+  if (!Ha_I_Bit(area) || cella.bit < 0) return;
+  if (area == "I") m.IP_I[n].Bit_Img[cella.bit] = m.IP_I[n].Bit_Dir[cella.bit] = bit;
+  if (area == "Q") m.IP_Q[n].Bit_Img[cella.bit] = bit;
+  if (area == "M") m.Mem_M[n].Bit[cella.bit] = bit;
+  if (area == "S") m.Mem_S[n].Bit[cella.bit] = bit;
+  if (area == "SM") m.Mem_SM[n].Bit[cella.bit] = bit;
 }
 
 // ---- one execution ----------------------------------------------------------------------------
 
-struct Power {
-  std::int16_t top, enabled;
+struct Corrente {
+  std::int16_t cima, abilitata;
 };
-constexpr std::array<Power, 3> Powers = {{{1, 1}, {0, 1}, {1, 0}}};  // on, off, SCR-disabled
+constexpr std::array<Corrente, 3> Correnti = {{{1, 1}, {0, 1}, {1, 0}}};  // on, off, SCR-disabled
 
-/// Executes the line on a fresh CPU; `expected` is what the oracle says of it.
-struct Execution {
-  Outcome expected, actual;
+/// Executes the line on a fresh CPU; `atteso` is what the oracle says of it.
+struct Esecuzione {
+  Effetto atteso, avuto;
 
-  Execution(const Riga_PLC& line, const std::string& mnemonic, const Operand& op1,
-            const Operand& op2, double value1, double value2, Power power, bool pattern) {
-    Orologio clock;
-    Plc plc(clock);
+  Esecuzione(const Riga_PLC& linea, const std::string& mnemonico, const Operando_Scritto& op1,
+             const Operando_Scritto& op2, double valore1, double valore2, Corrente corrente,
+             bool alterno) {
+    Orologio orologio;
+    Plc plc(orologio);
     plc.Prog.Ridimensiona(3);
-    plc.Prog[1] = line;
-    plc.Prog[1].Abil_SCR = power.enabled;
-    for (const int row : {0, 2}) {
-      plc.Prog[row].Istr = "NOP";
-      Decodifica(plc.Prog[row]);
+    plc.Prog[1] = linea;
+    plc.Prog[1].Abil_SCR = corrente.abilitata;
+    for (const int riga : {0, 2}) {
+      plc.Prog[riga].Istr = "NOP";
+      Decodifica(plc.Prog[riga]);
     }
     plc.NRighe = 2;
     plc.PC = 1;
     plc.PLC_Acceso = -1;
     // Both states of the flags and of the third cell, so that a write shows.
     for (int flag = 0; flag <= 3; ++flag)
-      plc.Mem_SM[1].Bit[flag] = pattern || flag % 2 == 0 ? 1 : 0;
-    SetCell(plc, op1, value1);
-    SetCell(plc, op2, value2);
-    plc.Stak[0] = power.top;
+      plc.Mem_SM[1].Bit[flag] = alterno || flag % 2 == 0 ? 1 : 0;
+    Metti_Cella(plc, op1, valore1);
+    Metti_Cella(plc, op2, valore2);
+    plc.Stak[0] = corrente.cima;
     plc.Stak[1] = 1;
-    plc.Stak[2] = pattern ? 1 : 0;
-    std::vector<std::string> boxes;
+    plc.Stak[2] = alterno ? 1 : 0;
+    std::vector<std::string> avvisi;
     const Iscrizione ascolto =
-        plc.Hook.Mostra.Ascolta([&](const Avviso& box) { boxes.push_back(box.Titolo); });
+        plc.Hook.Mostra.Ascolta([&](const Avviso& avviso) { avvisi.push_back(avviso.Titolo); });
 
-    expected = Oracle(plc, power.enabled).Of(mnemonic, op1, op2);
+    atteso = Oracolo(plc, corrente.abilitata).Di(mnemonico, op1, op2);
     try {
       plc.Esegui_Riga();
-      actual.ending = EndingOf(plc, boxes);
+      avuto.fine = Fine_Di(plc, avvisi);
     } catch (const Fatale&) {
-      actual.ending = boxes.empty() ? Ending::Fatal : Ending::Inconsistent;
+      avuto.fine = avvisi.empty() ? Fine::Fatale : Fine::Incoerente;
     }
-    if (expected.destination)
-      actual.destination = CellValue(
-          plc, mnemonic, mnemonic.starts_with("INC") || mnemonic.starts_with("DEC") ? op1 : op2);
-    if (expected.stack) actual.stack = {plc.Stak[0], plc.Stak[1]};
-    if (expected.flags) {
-      const auto& bits = plc.Mem_SM[1].Bit;
-      actual.flags = {bits[0], bits[1], bits[2], bits[3]};
+    if (atteso.destinazione)
+      avuto.destinazione = Valore_Cella(
+          plc, mnemonico, mnemonico.starts_with("INC") || mnemonico.starts_with("DEC") ? op1 : op2);
+    if (atteso.pila) avuto.pila = {plc.Stak[0], plc.Stak[1]};
+    if (atteso.flag) {
+      const auto& bit = plc.Mem_SM[1].Bit;
+      avuto.flag = {bit[0], bit[1], bit[2], bit[3]};
     }
   }
 
  private:
-  static Ending EndingOf(const Plc& plc, const std::vector<std::string>& boxes) {
-    const bool stopped = plc.PLC_Acceso == 0 && plc.Ferma == -1;
-    if (boxes.empty()) return plc.PLC_Acceso == -1 ? Ending::Ok : Ending::Inconsistent;
-    if (boxes.size() > 1 || !stopped) return Ending::Inconsistent;
-    if (boxes[0] == "Run Time Error" && plc.PC == 1) return Ending::RunTimeError;
-    if (boxes[0] == "Errore in Esecuzione!" && plc.PC == 2) return Ending::Unforeseen;
-    return Ending::Inconsistent;
+  static Fine Fine_Di(const Plc& plc, const std::vector<std::string>& avvisi) {
+    const bool fermato = plc.PLC_Acceso == 0 && plc.Ferma == -1;
+    if (avvisi.empty()) return plc.PLC_Acceso == -1 ? Fine::Regolare : Fine::Incoerente;
+    if (avvisi.size() > 1 || !fermato) return Fine::Incoerente;
+    if (avvisi[0] == "Run Time Error" && plc.PC == 1) return Fine::Errore;
+    if (avvisi[0] == "Errore in Esecuzione!" && plc.PC == 2) return Fine::Imprevisto;
+    return Fine::Incoerente;
   }
 };
 
 // ---- all combinations -------------------------------------------------------------------------
 
-struct Combination {
-  std::vector<std::string> areas;  ///< of its operands
+struct Combinazione {
+  std::vector<std::string> aree;  ///< of its operands
 };
 
-class Combinations : public ::testing::Test, protected LineChecker {
+class Combinations : public ::testing::Test, protected Banco_Righe {
  protected:
   /// The combinations of areas with which the checker accepts a mnemonic.
-  std::vector<Combination> Admitted(const std::string& mnemonic, std::size_t mostOperands = 2) {
-    std::vector<Combination> admitted;
-    const auto offer = [&](const std::vector<std::string>& areas) {
-      std::vector<std::string> texts;
-      for (const std::string& area : areas) texts.push_back(Home(area).Text());
-      if (CheckRow(Source(mnemonic, texts)) == 0) admitted.push_back({areas});
+  std::vector<Combinazione> Ammesse(const std::string& mnemonico,
+                                    std::size_t operandi_massimi = 2) {
+    std::vector<Combinazione> ammesse;
+    const auto offri = [&](const std::vector<std::string>& aree) {
+      std::vector<std::string> testi;
+      for (const std::string& area : aree) testi.push_back(Primo_Offerto(area).Come_Testo());
+      if (Stato_Riga(Riga_Di(mnemonico, testi)) == 0) ammesse.push_back({aree});
     };
-    offer({});
-    for (const std::string& first : AllAreas()) {
-      offer({first});
-      for (const std::string& second : AllAreas()) {
-        if (mostOperands == 2) offer({first, second});
+    offri({});
+    for (const std::string& prima : Tutte_Le_Aree()) {
+      offri({prima});
+      for (const std::string& seconda : Tutte_Le_Aree()) {
+        if (operandi_massimi == 2) offri({prima, seconda});
       }
     }
-    return admitted;
+    return ammesse;
   }
 
   /// Executes every combination of these mnemonics and returns how many there are.
-  std::size_t ExecuteAll(const std::vector<std::string>& mnemonics, std::size_t mostOperands = 2) {
-    std::size_t count = 0;
-    for (const std::string& mnemonic : mnemonics) {
-      for (const Combination& combination : Admitted(mnemonic, mostOperands)) {
-        Execute(mnemonic, combination);
-        ++count;
+  std::size_t Esegui_Tutte(const std::vector<std::string>& mnemonici,
+                           std::size_t operandi_massimi = 2) {
+    std::size_t quanti = 0;
+    for (const std::string& mnemonico : mnemonici) {
+      for (const Combinazione& combinazione : Ammesse(mnemonico, operandi_massimi)) {
+        Esegui(mnemonico, combinazione);
+        ++quanti;
       }
     }
-    return count;
+    return quanti;
   }
 
  private:
-  void Execute(const std::string& mnemonic, const Combination& combination) {
-    const auto& areas = combination.areas;
-    const bool bits = IsIn(mnemonic, "LD LDN LDI LDNI A AN AI ANI O ON OI ONI = =I S R SI RI LSCR");
-    const bool timer = IsIn(mnemonic, "TON TOF TONR");
-    const bool counted = IsIn(mnemonic, "S R SI RI");
-    const std::vector<Operand> none = {{}};
-    std::size_t executed = 0;
-    for (const Operand& op1 : areas.empty() ? none : Numbers(areas[0], bits)) {
-      for (const Operand& op2 : areas.size() < 2 ? none : Numbers(areas[1], false)) {
+  void Esegui(const std::string& mnemonico, const Combinazione& combinazione) {
+    const auto& aree = combinazione.aree;
+    const bool con_bit =
+        Sta_In(mnemonico, "LD LDN LDI LDNI A AN AI ANI O ON OI ONI = =I S R SI RI LSCR");
+    const bool timer = Sta_In(mnemonico, "TON TOF TONR");
+    const bool contata = Sta_In(mnemonico, "S R SI RI");
+    const std::vector<Operando_Scritto> nessuno = {{}};
+    std::size_t eseguite = 0;
+    for (const Operando_Scritto& op1 : aree.empty() ? nessuno : Numeri_Di(aree[0], con_bit)) {
+      for (const Operando_Scritto& op2 : aree.size() < 2 ? nessuno : Numeri_Di(aree[1], false)) {
         // A count is a number and nothing more: the constants try it out for all areas.
-        if (counted && op2.area != "K" && op2.num > 1 && op2.area != "SMB") continue;
-        std::vector<std::string> texts;
-        if (!areas.empty()) texts.push_back(op1.Text());
-        if (areas.size() == 2) texts.push_back(op2.Text());
-        if (CheckRow(Source(mnemonic, texts)) != 0) continue;
+        if (contata && op2.area != "K" && op2.numero > 1 && op2.area != "SMB") continue;
+        std::vector<std::string> testi;
+        if (!aree.empty()) testi.push_back(op1.Come_Testo());
+        if (aree.size() == 2) testi.push_back(op2.Come_Testo());
+        if (Stato_Riga(Riga_Di(mnemonico, testi)) != 0) continue;
         // Two faults at once have a test of their own.
-        if (timer && (op1.num < 0 || op1.num > 40) && !IsIn(op2.area, "K VW AC")) continue;
-        std::string line = mnemonic;
-        for (const std::string& text : texts) line += " " + text;
-        if (!ExecuteLine(line, mnemonic, op1, op2)) return;
-        ++executed;
+        if (timer && (op1.numero < 0 || op1.numero > 40) && !Sta_In(op2.area, "K VW AC")) continue;
+        std::string linea = mnemonico;
+        for (const std::string& testo : testi) linea += " " + testo;
+        if (!Esegui_Linea(linea, mnemonico, op1, op2)) return;
+        ++eseguite;
       }
     }
-    EXPECT_GT(executed, 0U) << mnemonic;
+    EXPECT_GT(eseguite, 0U) << mnemonico;
   }
 
   /// Values vary while both operands are constants or at the last number of their areas.
-  static std::vector<double> ValuesAt(const Operand& op, const Operand& other) {
-    const auto varies = [](const Operand& o) {
-      return o.area == "K" || o.num == LastNumber(o.area);
+  static std::vector<double> Valori_In(const Operando_Scritto& op, const Operando_Scritto& altro) {
+    const auto varia = [](const Operando_Scritto& uno) {
+      return uno.area == "K" || uno.numero == Ultimo_Numero(uno.area);
     };
-    std::vector<double> values = Values(op.area);
-    if (!varies(op) || !varies(other)) values.resize(1);
-    return values;
+    std::vector<double> valori = Valori_Di(op.area);
+    if (!varia(op) || !varia(altro)) valori.resize(1);
+    return valori;
   }
 
   /// Every value with every power; comparisons, which do not look at the power, with fewer.
-  bool ExecuteLine(const std::string& line, const std::string& mnemonic, const Operand& op1,
-                   const Operand& op2) {
-    const Riga_PLC compiled = plc.Prog[0];
-    const bool comparison = Widths.contains(mnemonic);
-    bool pattern = false;
-    for (const double value1 : ValuesAt(op1, op2)) {
-      for (const double value2 : ValuesAt(op2, op1)) {
-        for (std::size_t p = 0; p < Powers.size(); ++p) {
-          if (comparison && p > 0 && value2 != Values(op2.area).front()) continue;
-          for (int round = 0; round < (comparison ? 1 : 2); ++round) {
-            pattern = !pattern;
-            const Execution run(compiled, mnemonic, op1, op2, value1, value2, Powers[p], pattern);
-            if (run.actual == run.expected) continue;
-            ADD_FAILURE() << line << "\n  values " << value1 << ", " << value2 << "; top "
-                          << Powers[p].top << ", line enable " << Powers[p].enabled
-                          << "\n  expected: " << run.expected << "\n  actual: " << run.actual;
+  bool Esegui_Linea(const std::string& linea, const std::string& mnemonico,
+                    const Operando_Scritto& op1, const Operando_Scritto& op2) {
+    const Riga_PLC compilata = plc.Prog[0];
+    const bool confronto = tutti_i_confronti.contains(mnemonico);
+    bool alterno = false;
+    for (const double valore1 : Valori_In(op1, op2)) {
+      for (const double valore2 : Valori_In(op2, op1)) {
+        for (std::size_t p = 0; p < Correnti.size(); ++p) {
+          if (confronto && p > 0 && valore2 != Valori_Di(op2.area).front()) continue;
+          for (int giro = 0; giro < (confronto ? 1 : 2); ++giro) {
+            alterno = !alterno;
+            const Esecuzione corsa(compilata, mnemonico, op1, op2, valore1, valore2, Correnti[p],
+                                   alterno);
+            if (corsa.avuto == corsa.atteso) continue;
+            ADD_FAILURE() << linea << "\n  values " << valore1 << ", " << valore2 << "; top "
+                          << Correnti[p].cima << ", line enable " << Correnti[p].abilitata
+                          << "\n  expected: " << corsa.atteso << "\n  actual: " << corsa.avuto;
             return false;
           }
         }
@@ -270,10 +275,10 @@ class Combinations : public ::testing::Test, protected LineChecker {
   }
 
   /// The comparisons.
-  const std::set<std::string> Widths = [] {
-    const std::vector<std::string> all =
-        Words(Comparisons("B") + " " + Comparisons("W") + " " + Comparisons("D"));
-    return std::set<std::string>(all.begin(), all.end());
+  const std::set<std::string> tutti_i_confronti = [] {
+    const std::vector<std::string> tutti =
+        Parole(Confronti("B") + " " + Confronti("W") + " " + Confronti("D"));
+    return std::set<std::string>(tutti.begin(), tutti.end());
   }();
 };
 
@@ -281,75 +286,75 @@ class Combinations : public ::testing::Test, protected LineChecker {
 // counts all 28 areas.
 
 TEST_F(Combinations, OfContactsEndAsDue) {
-  EXPECT_EQ(ExecuteAll(Words("LD LDN A AN O ON")), 7U * 6);
-  EXPECT_EQ(ExecuteAll(Words("LDI LDNI AI ANI OI ONI")), 1U * 6);
+  EXPECT_EQ(Esegui_Tutte(Parole("LD LDN A AN O ON")), 7U * 6);
+  EXPECT_EQ(Esegui_Tutte(Parole("LDI LDNI AI ANI OI ONI")), 1U * 6);
 }
 
 TEST_F(Combinations, OfOutputsEndAsDue) {
-  EXPECT_EQ(ExecuteAll({"="}), 3U);
-  EXPECT_EQ(ExecuteAll({"=I"}), 1U);
-  EXPECT_EQ(ExecuteAll({"S"}), 3U * 28);
-  EXPECT_EQ(ExecuteAll({"SI", "RI"}), 1U * 28 * 2);
-  EXPECT_EQ(ExecuteAll({"R"}), 5U * 28);
+  EXPECT_EQ(Esegui_Tutte({"="}), 3U);
+  EXPECT_EQ(Esegui_Tutte({"=I"}), 1U);
+  EXPECT_EQ(Esegui_Tutte({"S"}), 3U * 28);
+  EXPECT_EQ(Esegui_Tutte({"SI", "RI"}), 1U * 28 * 2);
+  EXPECT_EQ(Esegui_Tutte({"R"}), 5U * 28);
 }
 
 TEST_F(Combinations, OfTimersAndCountersEndAsDue) {
-  EXPECT_EQ(ExecuteAll({"TON", "TOF", "TONR"}), 7U * 21 * 3);
-  EXPECT_EQ(ExecuteAll({"CTU", "CTD", "CTUD"}), 1U * 2 * 3);
+  EXPECT_EQ(Esegui_Tutte({"TON", "TOF", "TONR"}), 7U * 21 * 3);
+  EXPECT_EQ(Esegui_Tutte({"CTU", "CTD", "CTUD"}), 1U * 2 * 3);
 }
 
 TEST_F(Combinations, OfMovesEndAsDue) {
-  EXPECT_EQ(ExecuteAll({"MOVB"}), 7U * 2);
-  EXPECT_EQ(ExecuteAll({"MOVW"}), 9U * 5);
-  EXPECT_EQ(ExecuteAll({"MOVD"}), 3U * 2);
-  EXPECT_EQ(ExecuteAll({"BIR"}), 1U * 2);
-  EXPECT_EQ(ExecuteAll({"BIW"}), 2U * 2);
-  EXPECT_EQ(ExecuteAll({"BTI"}), 6U * 4);
+  EXPECT_EQ(Esegui_Tutte({"MOVB"}), 7U * 2);
+  EXPECT_EQ(Esegui_Tutte({"MOVW"}), 9U * 5);
+  EXPECT_EQ(Esegui_Tutte({"MOVD"}), 3U * 2);
+  EXPECT_EQ(Esegui_Tutte({"BIR"}), 1U * 2);
+  EXPECT_EQ(Esegui_Tutte({"BIW"}), 2U * 2);
+  EXPECT_EQ(Esegui_Tutte({"BTI"}), 6U * 4);
 }
 
 TEST_F(Combinations, OfArithmeticEndAsDue) {
-  EXPECT_EQ(ExecuteAll({"+I", "-I", "*I", "/I"}), 6U * 4 * 4);
-  EXPECT_EQ(ExecuteAll({"+D", "-D", "*D", "/D"}), 3U * 2 * 4);
-  EXPECT_EQ(ExecuteAll({"INCB", "DECB", "INCW", "DECW", "INCD", "DECD"}), 2U * 6);
+  EXPECT_EQ(Esegui_Tutte({"+I", "-I", "*I", "/I"}), 6U * 4 * 4);
+  EXPECT_EQ(Esegui_Tutte({"+D", "-D", "*D", "/D"}), 3U * 2 * 4);
+  EXPECT_EQ(Esegui_Tutte({"INCB", "DECB", "INCW", "DECW", "INCD", "DECD"}), 2U * 6);
 }
 
 TEST_F(Combinations, OfByteComparisonsEndAsDue) {
-  EXPECT_EQ(ExecuteAll(Words(Comparisons("B"))), 7U * 7 * 18);
+  EXPECT_EQ(Esegui_Tutte(Parole(Confronti("B"))), 7U * 7 * 18);
 }
 
 TEST_F(Combinations, OfWordComparisonsEndAsDue) {
-  EXPECT_EQ(ExecuteAll(Words(Comparisons("W"))), 8U * 8 * 18);
+  EXPECT_EQ(Esegui_Tutte(Parole(Confronti("W"))), 8U * 8 * 18);
 }
 
 TEST_F(Combinations, OfDoubleWordComparisonsEndAsDue) {
-  EXPECT_EQ(ExecuteAll(Words(Comparisons("D"))), 3U * 3 * 18);
+  EXPECT_EQ(Esegui_Tutte(Parole(Confronti("D"))), 3U * 3 * 18);
 }
 
 // The operands of the first list are not looked at: none, and each area as the only one.
 TEST_F(Combinations, OfTheOtherInstructionsEndAsDue) {
-  EXPECT_EQ(ExecuteAll({"NETWORK 1", "NETW", "MEND", "RET", "RETI", "SBR", "SBR0", "INT", "INT0",
-                        "JMP", "LBL", "CALL", "LSCR", "SCRE", "CRET", "XORD"},
-                       1),
+  EXPECT_EQ(Esegui_Tutte({"NETWORK 1", "NETW", "MEND", "RET", "RETI", "SBR", "SBR0", "INT", "INT0",
+                          "JMP", "LBL", "CALL", "LSCR", "SCRE", "CRET", "XORD"},
+                         1),
             29U * 16);
-  EXPECT_EQ(ExecuteAll(Words(AcceptedWithoutOperands)), 9U);
+  EXPECT_EQ(Esegui_Tutte(Parole(Accettate_Senza_Operandi)), 9U);
 }
 
 TEST_F(Combinations, AreSoManyInAll) {
-  std::size_t count = 0;
-  for (const Istruzione& instruction : Tabella_Istruzioni()) {
-    const bool untested = IsIn(instruction.Nome, AcceptedWithoutTest);
-    count += Admitted(instruction.Nome, untested ? 1 : 2).size();
+  std::size_t quanti = 0;
+  for (const Istruzione& istruzione : Tabella_Istruzioni()) {
+    const bool senza_prova = Sta_In(istruzione.Nome, Accettate_Senza_Prova);
+    quanti += Ammesse(istruzione.Nome, senza_prova ? 1 : 2).size();
   }
-  EXPECT_EQ(count, 3588U);
+  EXPECT_EQ(quanti, 3588U);
 }
 
 // Setting the preset is the first thing a timer does, so its fault is met before the timer's.
 TEST_F(Combinations, OfAnUnreadablePresetAndATimerBeyondTheTableEndSoftly) {
-  for (const char* mnemonic : {"TON", "TOF", "TONR"}) {
-    ASSERT_EQ(CheckRow(Source(mnemonic, {"T63", "IB0"})), 0);
-    const Execution run(plc.Prog[0], mnemonic, {"T", 63}, {"IB", 0}, 0, 0, Powers[0], false);
-    EXPECT_EQ(run.expected.ending, Ending::RunTimeError);
-    EXPECT_EQ(run.actual, run.expected) << mnemonic << " T63, IB0";
+  for (const char* mnemonico : {"TON", "TOF", "TONR"}) {
+    ASSERT_EQ(Stato_Riga(Riga_Di(mnemonico, {"T63", "IB0"})), 0);
+    const Esecuzione corsa(plc.Prog[0], mnemonico, {"T", 63}, {"IB", 0}, 0, 0, Correnti[0], false);
+    EXPECT_EQ(corsa.atteso.fine, Fine::Errore);
+    EXPECT_EQ(corsa.avuto, corsa.atteso) << mnemonico << " T63, IB0";
   }
 }
 

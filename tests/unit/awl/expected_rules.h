@@ -17,12 +17,12 @@ namespace tavorno::prova {
 
 // ---- vocabulary -------------------------------------------------------------------------------
 
-inline const char* const AcceptedWithoutTest =
+inline const char* const Accettate_Senza_Prova =
     "NETW MEND RET RETI SBR INT JMP LBL CALL LSCR SCRE CRET XORD";
 
-inline const char* const AcceptedWithoutOperands = "NOT EU ED ALD OLD NOP LPP LPS LRD";
+inline const char* const Accettate_Senza_Operandi = "NOT EU ED ALD OLD NOP LPP LPS LRD";
 
-inline const char* const Unsupported =
+inline const char* const Non_Supportate =
     "LDS AENO HDEF HSC PLS MOVR BMB BMW BMD SWAP ITB ITD DTI DTR ROUND TRUNC BCDI IBCD ITA DTA RTA "
     "DECO ENCO ATH HTA SEG DIV MUL +R -R *R /R SQRT SIN COS TAN LN EXP PID INVB INVW INVD ANDB "
     "ANDW ANDD ORB ORW ORD XORB XORW FOR NEXT SCRT END STOP WDR CRETI ENI DISI ATCH DTCH SLB SLW "
@@ -31,218 +31,251 @@ inline const char* const Unsupported =
 
 // ---- messages ---------------------------------------------------------------------------------
 
-inline const Verdict Unknown{3, "-> Istruzione non riconosciuta"};
-inline const Verdict NotSupported{2, "-> Istruzione non supportata"};
-inline const Verdict NoOperandsAllowed{3, "-> Operandi non supportati"};
-inline const Verdict WrongCount{5, "-> Numero Operandi non supportati"};
-inline const Verdict WrongCountLd{5, "-> Numero di operandi errarto"};
-inline const Verdict WrongArea{6, "-> Codice elemento non supportato"};
-inline const Verdict UnknownArea{6, "-> Codice elemento non riconosciuto"};
-inline const Verdict WrongAreaInOp1{6, "-> Codice elemento in OP1 non supportato"};
-inline const Verdict WrongAreaInOp2{6, "-> Codice elemento in OP2 non supportato"};
-inline const Verdict WrongAreaOp1{6, "-> Codice elemento non supportato in OP1"};
-inline const Verdict WrongAreaOp2{6, "-> Codice elemento non supportato in OP2"};
-inline const Verdict Address{6, "-> Indirizzo non supportato"};
-inline const Verdict AddressTimer{6, "-> Indirizzo non supportato dal Timer"};
-inline const Verdict AddressByte{6, "-> Indirizzo Byte non supportato"};
-inline const Verdict AddressOp1{6, "-> Indirizzo Byte OP1 non supportato"};
-inline const Verdict AddressOp2{6, "-> Indirizzo Byte OP2 non supportato"};
-inline const Verdict WrongOperand{6, "-> Operando non supportato"};
-inline const Verdict TooLargeBiw{6, "-> Valore OP1 troppo Grande"};
-inline const Verdict TooLargeOp1{6, "-> Valore troppo Grande in OP1"};
-inline const Verdict TooLargeOp2{6, "-> Valore troppo Grande in OP2"};
-inline const Verdict WrongBit{9, "-> Indirizzo Bit OP1 non ammesso"};
-inline const Verdict UnknownOperand{9, "-> Codice operando non riconosciuto"};
+inline const Verdetto_Riga Non_Riconosciuta{3, "-> Istruzione non riconosciuta"};
+inline const Verdetto_Riga Non_Supportata{2, "-> Istruzione non supportata"};
+inline const Verdetto_Riga Operandi_Non_Supportati{3, "-> Operandi non supportati"};
+inline const Verdetto_Riga Quanti_Operandi{5, "-> Numero Operandi non supportati"};
+inline const Verdetto_Riga Quanti_Operandi_Ld{5, "-> Numero di operandi errarto"};
+inline const Verdetto_Riga Area_Non_Supportata{6, "-> Codice elemento non supportato"};
+inline const Verdetto_Riga Area_Non_Riconosciuta{6, "-> Codice elemento non riconosciuto"};
+inline const Verdetto_Riga Area_In_Op1{6, "-> Codice elemento in OP1 non supportato"};
+inline const Verdetto_Riga Area_In_Op2{6, "-> Codice elemento in OP2 non supportato"};
+inline const Verdetto_Riga Area_Op1{6, "-> Codice elemento non supportato in OP1"};
+inline const Verdetto_Riga Area_Op2{6, "-> Codice elemento non supportato in OP2"};
+inline const Verdetto_Riga Indirizzo{6, "-> Indirizzo non supportato"};
+inline const Verdetto_Riga Indirizzo_Timer{6, "-> Indirizzo non supportato dal Timer"};
+inline const Verdetto_Riga Indirizzo_Byte{6, "-> Indirizzo Byte non supportato"};
+inline const Verdetto_Riga Indirizzo_Op1{6, "-> Indirizzo Byte OP1 non supportato"};
+inline const Verdetto_Riga Indirizzo_Op2{6, "-> Indirizzo Byte OP2 non supportato"};
+inline const Verdetto_Riga Operando_Non_Supportato{6, "-> Operando non supportato"};
+inline const Verdetto_Riga Troppo_Grande_Biw{6, "-> Valore OP1 troppo Grande"};
+inline const Verdetto_Riga Troppo_Grande_Op1{6, "-> Valore troppo Grande in OP1"};
+inline const Verdetto_Riga Troppo_Grande_Op2{6, "-> Valore troppo Grande in OP2"};
+inline const Verdetto_Riga Bit_Non_Ammesso{9, "-> Indirizzo Bit OP1 non ammesso"};
+inline const Verdetto_Riga Operando_Non_Riconosciuto{9, "-> Codice operando non riconosciuto"};
 
 // ---- rules ------------------------------------------------------------------------------------
 
 /// Highest number of an area; areas with listed numbers, and those of no memory, are not here.
-inline const std::map<std::string, int>& HighestNumber() {
-  static const std::map<std::string, int> table = {
+inline const std::map<std::string, int>& Numero_Massimo() {
+  static const std::map<std::string, int> tabella = {
       {"I", 1},    {"Q", 1},  {"M", 4},  {"SM", 2}, {"S", 2},    {"T", 40},
       {"C", 20},   {"IB", 1}, {"QB", 1}, {"MB", 4}, {"VB", 100}, {"VW", 100},
       {"VD", 100}, {"IW", 0}, {"QW", 0}, {"MW", 3}, {"AC", 3}};
-  return table;
+  return tabella;
 }
 
-struct Limit {
-  std::optional<int> highest;  ///< none: any number
-  std::vector<int> only;       ///< the listed numbers, when there are any
-  Verdict beyond;
+struct Limite {
+  std::optional<int> massimo;  ///< none: any number
+  std::vector<int> solo;       ///< the listed numbers, when there are any
+  Verdetto_Riga oltre;
 };
 
 /// What one operand may be.
-struct Place {
-  std::map<std::string, Limit> accepted;
-  std::vector<std::string> named;  ///< refused with `ifNamed`
-  Verdict ifNamed;
-  Verdict otherwise;
+struct Posto_Atteso {
+  std::map<std::string, Limite> accettate;
+  std::vector<std::string> rifiutate;  ///< refused with `se_rifiutata`
+  Verdetto_Riga se_rifiutata;
+  Verdetto_Riga altrimenti;
 
-  explicit Place(Verdict any) : otherwise(std::move(any)) {}
+  explicit Posto_Atteso(Verdetto_Riga altra) : altrimenti(std::move(altra)) {}
 
-  Place& Named(const std::string& areas, const Verdict& verdict) {
-    named = Words(areas);
-    ifNamed = verdict;
+  Posto_Atteso& Rifiuta(const std::string& aree, const Verdetto_Riga& verdetto) {
+    rifiutate = Parole(aree);
+    se_rifiutata = verdetto;
     return *this;
   }
   /// Areas with the bounds of the memory.
-  Place& Areas(const std::string& areas, const Verdict& beyond) {
-    for (const std::string& area : Words(areas)) {
+  Posto_Atteso& Aree(const std::string& aree, const Verdetto_Riga& oltre) {
+    for (const std::string& area : Parole(aree)) {
       if (area == "AIW")
-        accepted[area] = {{}, {0, 2, 4}, beyond};
+        accettate[area] = {{}, {0, 2, 4}, oltre};
       else if (area == "AQW")
-        accepted[area] = {{}, {0, 2}, beyond};
+        accettate[area] = {{}, {0, 2}, oltre};
       else
-        accepted[area] = {HighestNumber().at(area), {}, beyond};
+        accettate[area] = {Numero_Massimo().at(area), {}, oltre};
     }
     return *this;
   }
-  Place& UpTo(const std::string& areas, int highest, const Verdict& beyond) {
-    for (const std::string& area : Words(areas)) accepted[area] = {highest, {}, beyond};
+  Posto_Atteso& Fino_A(const std::string& aree, int massimo, const Verdetto_Riga& oltre) {
+    for (const std::string& area : Parole(aree)) accettate[area] = {massimo, {}, oltre};
     return *this;
   }
-  Place& AnyNumber(const std::string& areas) {
-    for (const std::string& area : Words(areas)) accepted[area] = {};
+  Posto_Atteso& Ogni_Numero(const std::string& aree) {
+    for (const std::string& area : Parole(aree)) accettate[area] = {};
     return *this;
   }
-  Place& Smb(std::vector<int> numbers, const Verdict& beyond) {
-    accepted["SMB"] = {{}, std::move(numbers), beyond};
+  Posto_Atteso& Smb(std::vector<int> numeri, const Verdetto_Riga& oltre) {
+    accettate["SMB"] = {{}, std::move(numeri), oltre};
     return *this;
   }
 
-  Verdict Judge(const Operand& operand) const {
-    const auto found = accepted.find(operand.area);
-    if (found == accepted.end())
-      return std::ranges::find(named, operand.area) != named.end() ? ifNamed : otherwise;
-    const Limit& limit = found->second;
-    if (!limit.only.empty())
-      return std::ranges::find(limit.only, operand.num) != limit.only.end() ? Verdict{}
-                                                                            : limit.beyond;
-    return limit.highest && operand.num > *limit.highest ? limit.beyond : Verdict{};
+  Verdetto_Riga Giudica(const Operando_Scritto& operando) const {
+    const auto trovato = accettate.find(operando.area);
+    if (trovato == accettate.end())
+      return std::ranges::find(rifiutate, operando.area) != rifiutate.end() ? se_rifiutata
+                                                                            : altrimenti;
+    const Limite& limite = trovato->second;
+    if (!limite.solo.empty())
+      return std::ranges::find(limite.solo, operando.numero) != limite.solo.end() ? Verdetto_Riga{}
+                                                                                  : limite.oltre;
+    return limite.massimo && operando.numero > *limite.massimo ? limite.oltre : Verdetto_Riga{};
   }
 };
 
-struct Rule {
-  std::string mnemonics;
-  std::size_t operands;
-  Verdict wrongCount;
-  Place op1;
-  std::optional<Place> op2;  ///< none: the second operand is not tested
-  bool bitTest;
+struct Regola_Attesa {
+  std::string mnemonici;
+  std::size_t operandi;
+  Verdetto_Riga se_diverso;
+  Posto_Atteso op1;
+  std::optional<Posto_Atteso> op2;  ///< none: the second operand is not tested
+  bool prova_bit;
 
-  Verdict Judge(const std::vector<Operand>& given) const {
-    Verdict verdict;
-    if (given.size() != operands) {
-      verdict = wrongCount;
+  Verdetto_Riga Giudica(const std::vector<Operando_Scritto>& dati) const {
+    Verdetto_Riga verdetto;
+    if (dati.size() != operandi) {
+      verdetto = se_diverso;
     } else {
-      verdict = op1.Judge(given[0]);
+      verdetto = op1.Giudica(dati[0]);
       // Both tests write the same place: the later fault stands.
       if (op2) {
-        const Verdict second = op2->Judge(given[1]);
-        if (second.status != 0) verdict = second;
+        const Verdetto_Riga secondo = op2->Giudica(dati[1]);
+        if (secondo.stato != 0) verdetto = secondo;
       }
     }
-    if (bitTest && !given.empty() && given[0].bit >= 8) verdict = WrongBit;
-    return verdict;
+    if (prova_bit && !dati.empty() && dati[0].bit >= 8) verdetto = Bit_Non_Ammesso;
+    return verdetto;
   }
 };
 
 /// "LDB=", "ADB<>" and so on: the 18 comparisons of one width.
-inline std::string Comparisons(const std::string& width) {
-  std::string list;
-  for (const char* connection : {"LD", "A", "O"}) {
-    for (const char* relation : {"=", "<>", "<", "<=", ">", ">="})
-      list += std::string(list.empty() ? "" : " ") + connection + width + relation;
+inline std::string Confronti(const std::string& larghezza) {
+  std::string lista;
+  for (const char* connessione : {"LD", "A", "O"}) {
+    for (const char* relazione : {"=", "<>", "<", "<=", ">", ">="})
+      lista += std::string(lista.empty() ? "" : " ") + connessione + larghezza + relazione;
   }
-  return list;
+  return lista;
 }
 
-inline const std::vector<Rule>& Rules() {
+inline const std::vector<Regola_Attesa>& Regole_Attese() {
   // A bit output: areas refused by name, and anything else as unknown.
-  const auto element = [](const std::string& accepted, const std::string& refused) {
-    return Place(UnknownArea).Areas(accepted, AddressByte).Named(refused, WrongArea);
+  const auto elemento = [](const std::string& accettate, const std::string& altre) {
+    return Posto_Atteso(Area_Non_Riconosciuta)
+        .Aree(accettate, Indirizzo_Byte)
+        .Rifiuta(altre, Area_Non_Supportata);
   };
-  const auto byteValue = [](const Verdict& area, const Verdict& beyond, const Verdict& large) {
-    return Place(area).Areas("IB QB MB VB AC", beyond).Smb({28, 29}, beyond).UpTo("K", 255, large);
+  const auto valore_byte = [](const Verdetto_Riga& area, const Verdetto_Riga& oltre,
+                              const Verdetto_Riga& grande) {
+    return Posto_Atteso(area)
+        .Aree("IB QB MB VB AC", oltre)
+        .Smb({28, 29}, oltre)
+        .Fino_A("K", 255, grande);
   };
-  const auto wordValue = [](const Verdict& area, const Verdict& beyond) {
-    return Place(area).Areas("IW QW VW T C AC AIW", beyond).AnyNumber("K");
+  const auto valore_parola = [](const Verdetto_Riga& area, const Verdetto_Riga& oltre) {
+    return Posto_Atteso(area).Aree("IW QW VW T C AC AIW", oltre).Ogni_Numero("K");
   };
-  const auto doubleValue = [](const Verdict& area, const Verdict& beyond) {
-    return Place(area).Areas("VD AC", beyond).AnyNumber("K");
+  const auto valore_doppio = [](const Verdetto_Riga& area, const Verdetto_Riga& oltre) {
+    return Posto_Atteso(area).Aree("VD AC", oltre).Ogni_Numero("K");
   };
-  static const std::vector<Rule> rules = {
+  static const std::vector<Regola_Attesa> regole = {
       {"LD LDN A AN O ON",
        1,
-       WrongCountLd,
-       Place(UnknownOperand).Areas("I Q M SM S T C", Address).Named("V L", WrongOperand),
+       Quanti_Operandi_Ld,
+       Posto_Atteso(Operando_Non_Riconosciuto)
+           .Aree("I Q M SM S T C", Indirizzo)
+           .Rifiuta("V L", Operando_Non_Supportato),
        {},
        true},
-      {"LDI LDNI AI ANI OI ONI", 1, WrongCount, element("I", "Q T C V L K M SM S"), {}, true},
-      {"=", 1, WrongCount, element("Q M S", "I T C V L K SM"), {}, true},
-      {"=I", 1, WrongCount, element("Q", "I T C V L K M SM S"), {}, true},
-      {"S", 2, WrongCount, element("Q M S", "I T C V L K SM"), {}, true},
-      {"SI RI", 2, WrongCount, element("Q", "I T C V L K M SM S"), {}, true},
-      {"R", 2, WrongCount, element("Q M S T C", "I V L K SM"), {}, true},
-      {"TON TOF TONR", 2, WrongCount, Place(WrongArea).UpTo("I Q M SM S T C", 63, AddressTimer),
-       Place(Verdict{}).Named("QW IW MW SMW SW LW T", WrongArea), false},
-      {"CTU CTD CTUD", 2, WrongCount, Place(WrongArea).Areas("C", AddressByte),
-       Place(WrongArea).AnyNumber("K VW"), false},
-      {"MOVB", 2, WrongCount,
-       Place(WrongArea)
-           .Areas("IB QB MB VB AC", AddressOp1)
-           .Smb({28, 29, 34, 35}, AddressOp1)
-           .UpTo("K", 255, TooLargeOp1),
-       Place(WrongArea).Areas("VB AC", AddressOp2), false},
-      {"MOVW", 2, WrongCount,
-       Place(WrongArea).Areas("IW QW MW VW T C AC AIW", AddressOp1).AnyNumber("K"),
-       Place(WrongArea).Areas("VW T C AC AQW", AddressOp2), false},
-      {"MOVD", 2, WrongCount,
-       Place(WrongArea).Areas("VD AC", AddressOp1).UpTo("K", 255, TooLargeOp1),
-       Place(WrongArea).Areas("VD AC", AddressOp2), false},
-      {"BIR", 2, WrongCount, Place(WrongArea).Areas("IB", AddressOp1),
-       Place(WrongAreaInOp2).Areas("VB AC", AddressOp2), false},
-      {"BIW", 2, WrongCount, Place(WrongArea).Areas("VB", AddressOp1).UpTo("K", 255, TooLargeBiw),
-       Place(WrongAreaInOp2).Areas("QB AC", AddressOp2), false},
-      {"BTI", 2, WrongCount,
-       Place(WrongAreaInOp1)
-           .Areas("IB QB MB VB", AddressOp1)
-           .Smb({28, 29, 34, 35}, AddressOp1)
-           .UpTo("K", 255, TooLargeOp1),
-       Place(WrongArea).Areas("VW T C AC", AddressOp2), false},
-      {"+I -I *I /I", 2, WrongCount,
-       Place(WrongArea).Areas("VW T C AC AIW", AddressOp1).AnyNumber("K"),
-       Place(WrongArea).Areas("VW T C AC", AddressOp2), false},
-      {"+D -D *D /D", 2, WrongCount, doubleValue(WrongArea, AddressOp1),
-       Place(WrongArea).Areas("VD AC", AddressOp2), false},
-      {"INCB DECB", 1, WrongCount, Place(WrongArea).Areas("VB AC", AddressOp1), {}, false},
-      {"INCW DECW", 1, WrongCount, Place(WrongArea).Areas("VW AC", AddressOp1), {}, false},
-      {"INCD DECD", 1, WrongCount, Place(WrongArea).Areas("VD AC", AddressOp1), {}, false},
-      {Comparisons("B"), 2, WrongCount, byteValue(WrongAreaOp1, AddressOp1, TooLargeOp1),
-       byteValue(WrongAreaOp2, AddressOp2, TooLargeOp2), false},
-      {Comparisons("W"), 2, WrongCount, wordValue(WrongAreaOp1, AddressOp1),
-       wordValue(WrongAreaOp2, AddressOp2), false},
-      {Comparisons("D"), 2, WrongCount, doubleValue(WrongAreaOp1, AddressOp1),
-       doubleValue(WrongAreaOp2, AddressOp2), false},
+      {"LDI LDNI AI ANI OI ONI", 1, Quanti_Operandi, elemento("I", "Q T C V L K M SM S"), {}, true},
+      {"=", 1, Quanti_Operandi, elemento("Q M S", "I T C V L K SM"), {}, true},
+      {"=I", 1, Quanti_Operandi, elemento("Q", "I T C V L K M SM S"), {}, true},
+      {"S", 2, Quanti_Operandi, elemento("Q M S", "I T C V L K SM"), {}, true},
+      {"SI RI", 2, Quanti_Operandi, elemento("Q", "I T C V L K M SM S"), {}, true},
+      {"R", 2, Quanti_Operandi, elemento("Q M S T C", "I V L K SM"), {}, true},
+      {"TON TOF TONR", 2, Quanti_Operandi,
+       Posto_Atteso(Area_Non_Supportata).Fino_A("I Q M SM S T C", 63, Indirizzo_Timer),
+       Posto_Atteso(Verdetto_Riga{}).Rifiuta("QW IW MW SMW SW LW T", Area_Non_Supportata), false},
+      {"CTU CTD CTUD", 2, Quanti_Operandi,
+       Posto_Atteso(Area_Non_Supportata).Aree("C", Indirizzo_Byte),
+       Posto_Atteso(Area_Non_Supportata).Ogni_Numero("K VW"), false},
+      {"MOVB", 2, Quanti_Operandi,
+       Posto_Atteso(Area_Non_Supportata)
+           .Aree("IB QB MB VB AC", Indirizzo_Op1)
+           .Smb({28, 29, 34, 35}, Indirizzo_Op1)
+           .Fino_A("K", 255, Troppo_Grande_Op1),
+       Posto_Atteso(Area_Non_Supportata).Aree("VB AC", Indirizzo_Op2), false},
+      {"MOVW", 2, Quanti_Operandi,
+       Posto_Atteso(Area_Non_Supportata)
+           .Aree("IW QW MW VW T C AC AIW", Indirizzo_Op1)
+           .Ogni_Numero("K"),
+       Posto_Atteso(Area_Non_Supportata).Aree("VW T C AC AQW", Indirizzo_Op2), false},
+      {"MOVD", 2, Quanti_Operandi,
+       Posto_Atteso(Area_Non_Supportata)
+           .Aree("VD AC", Indirizzo_Op1)
+           .Fino_A("K", 255, Troppo_Grande_Op1),
+       Posto_Atteso(Area_Non_Supportata).Aree("VD AC", Indirizzo_Op2), false},
+      {"BIR", 2, Quanti_Operandi, Posto_Atteso(Area_Non_Supportata).Aree("IB", Indirizzo_Op1),
+       Posto_Atteso(Area_In_Op2).Aree("VB AC", Indirizzo_Op2), false},
+      {"BIW", 2, Quanti_Operandi,
+       Posto_Atteso(Area_Non_Supportata)
+           .Aree("VB", Indirizzo_Op1)
+           .Fino_A("K", 255, Troppo_Grande_Biw),
+       Posto_Atteso(Area_In_Op2).Aree("QB AC", Indirizzo_Op2), false},
+      {"BTI", 2, Quanti_Operandi,
+       Posto_Atteso(Area_In_Op1)
+           .Aree("IB QB MB VB", Indirizzo_Op1)
+           .Smb({28, 29, 34, 35}, Indirizzo_Op1)
+           .Fino_A("K", 255, Troppo_Grande_Op1),
+       Posto_Atteso(Area_Non_Supportata).Aree("VW T C AC", Indirizzo_Op2), false},
+      {"+I -I *I /I", 2, Quanti_Operandi,
+       Posto_Atteso(Area_Non_Supportata).Aree("VW T C AC AIW", Indirizzo_Op1).Ogni_Numero("K"),
+       Posto_Atteso(Area_Non_Supportata).Aree("VW T C AC", Indirizzo_Op2), false},
+      {"+D -D *D /D", 2, Quanti_Operandi, valore_doppio(Area_Non_Supportata, Indirizzo_Op1),
+       Posto_Atteso(Area_Non_Supportata).Aree("VD AC", Indirizzo_Op2), false},
+      {"INCB DECB",
+       1,
+       Quanti_Operandi,
+       Posto_Atteso(Area_Non_Supportata).Aree("VB AC", Indirizzo_Op1),
+       {},
+       false},
+      {"INCW DECW",
+       1,
+       Quanti_Operandi,
+       Posto_Atteso(Area_Non_Supportata).Aree("VW AC", Indirizzo_Op1),
+       {},
+       false},
+      {"INCD DECD",
+       1,
+       Quanti_Operandi,
+       Posto_Atteso(Area_Non_Supportata).Aree("VD AC", Indirizzo_Op1),
+       {},
+       false},
+      {Confronti("B"), 2, Quanti_Operandi, valore_byte(Area_Op1, Indirizzo_Op1, Troppo_Grande_Op1),
+       valore_byte(Area_Op2, Indirizzo_Op2, Troppo_Grande_Op2), false},
+      {Confronti("W"), 2, Quanti_Operandi, valore_parola(Area_Op1, Indirizzo_Op1),
+       valore_parola(Area_Op2, Indirizzo_Op2), false},
+      {Confronti("D"), 2, Quanti_Operandi, valore_doppio(Area_Op1, Indirizzo_Op1),
+       valore_doppio(Area_Op2, Indirizzo_Op2), false},
   };
-  return rules;
+  return regole;
 }
 
-inline const Rule& RuleOf(const std::string& mnemonic) {
-  for (const Rule& rule : Rules()) {
-    const std::vector<std::string> words = Words(rule.mnemonics);
-    if (std::ranges::find(words, mnemonic) != words.end()) return rule;
+inline const Regola_Attesa& Regola_Di(const std::string& mnemonico) {
+  for (const Regola_Attesa& regola : Regole_Attese()) {
+    const std::vector<std::string> parole = Parole(regola.mnemonici);
+    if (std::ranges::find(parole, mnemonico) != parole.end()) return regola;
   }
-  throw std::out_of_range(mnemonic);
+  throw std::out_of_range(mnemonico);
 }
 
-inline std::vector<std::string> MnemonicsWithRules() {
-  std::vector<std::string> all;
-  for (const Rule& rule : Rules()) {
-    const std::vector<std::string> words = Words(rule.mnemonics);
-    all.insert(all.end(), words.begin(), words.end());
+inline std::vector<std::string> Mnemonici_Con_Regola() {
+  std::vector<std::string> tutti;
+  for (const Regola_Attesa& regola : Regole_Attese()) {
+    const std::vector<std::string> parole = Parole(regola.mnemonici);
+    tutti.insert(tutti.end(), parole.begin(), parole.end());
   }
-  return all;
+  return tutti;
 }
 
 }  // namespace tavorno::prova

@@ -76,17 +76,17 @@ TEST_F(Recovery, APartOfACopyIsNone) {
 TEST_F(Recovery, ADamagedCopyIsReadOrRefused) {
   std::mt19937 caso{4711};
   const std::string byte = Byte_Di(Esempio());
-  int refused = 0;
+  int rifiutate = 0;
   for (int i = 0; i < 5000; ++i) {
     std::string guasto = byte;
     for (int k = 0; k < 3; ++k) guasto[caso() % guasto.size()] = static_cast<char>(caso() % 256);
     const std::optional<Copia_Progetto> letta = Leggi_Copia(guasto);
-    if (!letta) ++refused;
+    if (!letta) ++rifiutate;
     if (letta) {
       EXPECT_LE(Stato_Di(*letta).Num_SBR, Procedure_Massime);
     }
   }
-  EXPECT_GT(refused, 0);
+  EXPECT_GT(rifiutate, 0);
 }
 
 TEST_F(Recovery, TooManyProceduresAreRefused) {
