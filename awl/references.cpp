@@ -16,12 +16,6 @@ namespace tavorno {
 
 namespace {
 
-/// What an instruction does with its operands.
-struct Usi_Operandi {
-  Uso Primo = Uso::Lettura;
-  Uso Secondo = Uso::Entrambi;  // most of those without a rule compute into their second operand
-};
-
 struct Usi_Regola {
   const Regola* Quale;
   Usi_Operandi Usi;
@@ -48,15 +42,6 @@ const std::array<Usi_Regola, 18> usi_regole = {{
     {&regole::Inc_W, {Uso::Entrambi, Uso::Lettura}},
     {&regole::Inc_D, {Uso::Entrambi, Uso::Lettura}},
 }};
-
-Usi_Operandi Usi_Istruzione(const Istruzione& istruzione) {
-  if (istruzione.Operandi == nullptr) {
-    if (istruzione.Gruppo_Manuale == Famiglia::Confronti) return {Uso::Lettura, Uso::Lettura};
-    return {};
-  }
-  const auto* trovata = std::ranges::find(usi_regole, istruzione.Operandi, &Usi_Regola::Quale);
-  return trovata == usi_regole.end() ? Usi_Operandi{Uso::Lettura, Uso::Lettura} : trovata->Usi;
-}
 
 std::optional<int> Numero(std::string_view testo) {
   if (testo.starts_with('+')) testo.remove_prefix(1);
@@ -136,6 +121,15 @@ void Aggiungi_Linea(std::string_view linea, Posto_Riga posto, std::vector<Riferi
 }
 
 }  // namespace
+
+Usi_Operandi Usi_Istruzione(const Istruzione& istruzione) {
+  if (istruzione.Operandi == nullptr) {
+    if (istruzione.Gruppo_Manuale == Famiglia::Confronti) return {Uso::Lettura, Uso::Lettura};
+    return {};
+  }
+  const auto* trovata = std::ranges::find(usi_regole, istruzione.Operandi, &Usi_Regola::Quale);
+  return trovata == usi_regole.end() ? Usi_Operandi{Uso::Lettura, Uso::Lettura} : trovata->Usi;
+}
 
 std::string Nome_Operando(std::string_view scritto) {
   const Operando parti = Split_Operando(Maiuscole(scritto));

@@ -13,6 +13,8 @@
 // Where the texts of a project name operands, labels and procedures, as they stand in the editor.
 namespace tavorno {
 
+struct Istruzione;
+
 enum class Genere_Nome : std::uint8_t { Operando, Etichetta, Procedura };
 
 /// What is named. `Nome` is its one form: an operand in capitals without leading zeros ("I0.3",
@@ -31,6 +33,13 @@ enum class Uso : std::uint8_t {
   Entrambi,     ///< reads an operand and writes it
   Definizione,  ///< a label's own line
 };
+
+/// What an instruction does with its operands, as far as it has them.
+struct Usi_Operandi {
+  Uso Primo = Uso::Lettura;
+  Uso Secondo = Uso::Entrambi;  ///< most of those without a rule compute into it
+};
+Usi_Operandi Usi_Istruzione(const Istruzione& istruzione);
 
 struct Riferimento {
   Nominato Di;

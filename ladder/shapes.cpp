@@ -7,7 +7,9 @@
 #include <string_view>
 #include <utility>
 
+#include "awl/references.h"
 #include "plc/codepage.h"
+#include "plc/instructions.h"
 
 namespace tavorno {
 
@@ -18,40 +20,48 @@ constexpr double mezza_altezza = 12;
 constexpr double per_lettera = 7.5;
 constexpr double rientro_scatola = 14;
 
+using Nomi_Piedini = std::array<std::string_view, 2>;
+
 /// What stands beside the wires of a box and before its operands.
 struct Piedini {
-  std::string_view Istr;
   std::array<std::string_view, 3> Ingressi;
   bool Primo_Sopra;  ///< the first operand is the box's own name and stands above it
-  std::array<std::string_view, 2> Operandi;
+  Nomi_Piedini Operandi;
 };
-constexpr std::array scatole = {
-    Piedini{"TON", {"IN"}, true, {"", "PT"}},
-    Piedini{"TOF", {"IN"}, true, {"", "PT"}},
-    Piedini{"TONR", {"IN"}, true, {"", "PT"}},
-    Piedini{"CTU", {"CU", "R"}, true, {"", "PV"}},
-    Piedini{"CTD", {"CD", "LD"}, true, {"", "PV"}},
-    Piedini{"CTUD", {"CU", "CD", "R"}, true, {"", "PV"}},
-    Piedini{"+I", {"EN"}, false, {"IN1", "IN2=OUT"}},
-    Piedini{"-I", {"EN"}, false, {"IN1", "IN2=OUT"}},
-    Piedini{"*I", {"EN"}, false, {"IN1", "IN2=OUT"}},
-    Piedini{"/I", {"EN"}, false, {"IN1", "IN2=OUT"}},
-    Piedini{"+D", {"EN"}, false, {"IN1", "IN2=OUT"}},
-    Piedini{"-D", {"EN"}, false, {"IN1", "IN2=OUT"}},
-    Piedini{"*D", {"EN"}, false, {"IN1", "IN2=OUT"}},
-    Piedini{"/D", {"EN"}, false, {"IN1", "IN2=OUT"}},
-    Piedini{"INCB", {"EN"}, false, {"IN=OUT", ""}},
-    Piedini{"INCW", {"EN"}, false, {"IN=OUT", ""}},
-    Piedini{"INCD", {"EN"}, false, {"IN=OUT", ""}},
-    Piedini{"DECB", {"EN"}, false, {"IN=OUT", ""}},
-    Piedini{"DECW", {"EN"}, false, {"IN=OUT", ""}},
-    Piedini{"DECD", {"EN"}, false, {"IN=OUT", ""}},
+/// Boxes whose wires have names of their own.
+struct Scatola_Propria {
+  std::string_view Istr;
+  Piedini Suoi;
 };
-constexpr Piedini scatola_comune = {"", {"EN"}, false, {"IN", "OUT"}};
+constexpr std::array scatole_proprie = {
+    Scatola_Propria{"TON", {{"IN"}, true, {"", "PT"}}},
+    Scatola_Propria{"TOF", {{"IN"}, true, {"", "PT"}}},
+    Scatola_Propria{"TONR", {{"IN"}, true, {"", "PT"}}},
+    Scatola_Propria{"CTU", {{"CU", "R"}, true, {"", "PV"}}},
+    Scatola_Propria{"CTD", {{"CD", "LD"}, true, {"", "PV"}}},
+    Scatola_Propria{"CTUD", {{"CU", "CD", "R"}, true, {"", "PV"}}},
+};
 
-const Piedini& Piedini_Di(const std::string& istr) {
-  const auto riga = std::ranges::find(scatole, istr, &Piedini::Istr);
-  return riga == scatole.end() ? scatola_comune : *riga;
+/// The operands of any other box are named by what the instruction does with them.
+Nomi_Piedini Nomi_Operandi(const std::string& istr) {
+  const Istruzione* istruzione = Cerca_Istruzione(istr);
+  if (istruzione == nullptr || istruzione->Operandi == nullptr) return {"IN", "OUT"};
+  const Usi_Operandi usi = Usi_Istruzione(*istruzione);
+  const bool solo = istruzione->Operandi->Operandi == 1;
+  switch (solo ? usi.Primo : usi.Secondo) {
+    case Uso::Scrittura:
+      return solo ? Nomi_Piedini{"OUT"} : Nomi_Piedini{"IN", "OUT"};
+    case Uso::Entrambi:
+      return solo ? Nomi_Piedini{"IN=OUT"} : Nomi_Piedini{"IN1", "IN2=OUT"};
+    default:
+      return solo ? Nomi_Piedini{"IN"} : Nomi_Piedini{"IN1", "IN2"};
+  }
+}
+
+Piedini Piedini_Di(const std::string& istr) {
+  const auto* riga = std::ranges::find(scatole_proprie, istr, &Scatola_Propria::Istr);
+  if (riga != scatole_proprie.end()) return riga->Suoi;
+  return {{"EN"}, false, Nomi_Operandi(istr)};
 }
 
 std::string Operando(const Passo_Scala& passo, std::size_t quale) {
@@ -203,7 +213,7 @@ class Tracciatore {
   }
 
   void Scatola(const Riquadro& r) {
-    const Piedini& piedini = Piedini_Di(r.Passo.Istr);
+    const Piedini piedini = Piedini_Di(r.Passo.Istr);
     const double sinistra = X(r.Colonna) + rientro_scatola;
     const double larghezza = r.Larghezza * larghezza_cella - 2 * rientro_scatola;
     const double sopra = Y(r.Riga) - 20;

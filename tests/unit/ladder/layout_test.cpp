@@ -183,6 +183,22 @@ TEST(Traccia_Forme, ABoxStaysInItsRowsAndNamesItsOperands) {
   EXPECT_GT(nome.Y, trova("EN").Y + 12);
 }
 
+TEST(Traccia_Forme, ABoxNamesItsOperandsByWhatBecomesOfThem) {
+  const auto piedini = [](const std::string& riga) {
+    std::string nomi;
+    for (const Scritta& scritta : Traccia_Forme(Impaginata("LD I0.0\n" + riga + "\n"), {}).Scritte)
+      if (scritta.Stile == Stile_Scritta::Piedino) nomi += scritta.Testo + " ";
+    return nomi;
+  };
+  EXPECT_EQ(piedini("TON T37 +10"), "IN PT ");
+  EXPECT_EQ(piedini("BIR IB0 VB0"), "EN OUT IN ");
+  EXPECT_EQ(piedini("+I VW0 VW2"), "EN IN2=OUT IN1 ");
+  EXPECT_EQ(piedini("/D VD0 VD2"), "EN IN2=OUT IN1 ");
+  EXPECT_EQ(piedini("DECB VB0"), "EN IN=OUT ");
+  EXPECT_EQ(piedini("INCD VD0"), "EN IN=OUT ");
+  EXPECT_EQ(piedini("XORD AC0 AC1"), "EN OUT IN ");
+}
+
 TEST(Come_Svg, LiveWiresHaveTheirClass) {
   const Disegno disegno = Impaginata("LD I0.0\n= Q0.0\n");
   const Tratteggio_Rete forme = Traccia_Forme(disegno, {});
