@@ -13,39 +13,6 @@
 namespace tavorno::prova {
 namespace {
 
-/// "LDB<=" as "LDB_lt_eq": test names take letters and digits only.
-std::string Nome_Prova(const ::testing::TestParamInfo<std::string>& caso) {
-  std::string nome;
-  for (const char c : caso.param) {
-    switch (c) {
-      case '=':
-        nome += "_eq";
-        break;
-      case '<':
-        nome += "_lt";
-        break;
-      case '>':
-        nome += "_gt";
-        break;
-      case '+':
-        nome += "Add_";
-        break;
-      case '-':
-        nome += "Sub_";
-        break;
-      case '*':
-        nome += "Mul_";
-        break;
-      case '/':
-        nome += "Div_";
-        break;
-      default:
-        nome += c;
-    }
-  }
-  return nome;
-}
-
 constexpr std::array Campioni = {-32768, -1, 0,  1,  2,  3,  4,  5,  6,   20,  21,  28,  29,
                                  30,     34, 35, 36, 40, 41, 63, 64, 100, 101, 255, 256, 32767};
 
@@ -154,7 +121,8 @@ TEST_P(FamilyRule, TestsTheBitOfTheFirstOperandLastOrNotAtAll) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, FamilyRule, ::testing::ValuesIn(Mnemonici_Con_Regola()), Nome_Prova);
+INSTANTIATE_TEST_SUITE_P(All, FamilyRule, ::testing::ValuesIn(Mnemonici_Con_Regola()),
+                         [](const auto& caso) { return Nome_Prova(caso.param); });
 
 }  // namespace
 }  // namespace tavorno::prova

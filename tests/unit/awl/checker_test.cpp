@@ -23,7 +23,6 @@ const std::vector<std::vector<std::string>> Operandi_Vari = {
 
 TEST_F(CheckedLine, IsAcceptedWhateverItsOperandsInTheFirstGroup) {
   std::vector<std::string> mnemonici = Parole(Accettate_Senza_Prova);
-  ASSERT_EQ(mnemonici.size(), 13U);
   for (const char* testo : {"NETWORK 1", "NETWORKX", "SBR0", "SBRX", "SBR63", "INT0", "INTEGER"})
     mnemonici.emplace_back(testo);
   for (const std::string& mnemonico : mnemonici) {
@@ -35,7 +34,6 @@ TEST_F(CheckedLine, IsAcceptedWhateverItsOperandsInTheFirstGroup) {
 
 TEST_F(CheckedLine, IsRefusedForAnyOperandInTheSecondGroup) {
   const std::vector<std::string> mnemonici = Parole(Accettate_Senza_Operandi);
-  ASSERT_EQ(mnemonici.size(), 9U);
   for (const std::string& mnemonico : mnemonici) {
     for (const auto& operandi : Operandi_Vari)
       EXPECT_EQ(Controlla(Riga_Di(mnemonico, operandi)),
@@ -46,7 +44,6 @@ TEST_F(CheckedLine, IsRefusedForAnyOperandInTheSecondGroup) {
 
 TEST_F(CheckedLine, IsRefusedWhateverItsOperandsInTheThirdGroup) {
   const std::vector<std::string> mnemonici = Parole(Non_Supportate);
-  ASSERT_EQ(mnemonici.size(), 92U);
   for (const std::string& mnemonico : mnemonici) {
     for (const auto& operandi : Operandi_Vari)
       EXPECT_EQ(Controlla(Riga_Di(mnemonico, operandi)), Non_Supportata)
@@ -74,12 +71,14 @@ TEST_F(CheckedLine, IsANetworkInSmallLettersToo) {
 TEST_F(CheckedLine, KnowsNoMnemonicBeyondTheseGroups) {
   std::set<std::string> attese;
   for (const auto& gruppo : {Parole(Accettate_Senza_Prova), Parole(Accettate_Senza_Operandi),
-                             Parole(Non_Supportate), Mnemonici_Con_Regola()})
-    attese.insert(gruppo.begin(), gruppo.end());
+                             Parole(Non_Supportate), Mnemonici_Con_Regola()}) {
+    EXPECT_FALSE(gruppo.empty());
+    for (const std::string& mnemonico : gruppo)
+      EXPECT_TRUE(attese.insert(mnemonico).second) << mnemonico << " is told twice";
+  }
   std::set<std::string> note;
   for (const Istruzione& istruzione : Tabella_Istruzioni()) note.insert(istruzione.Nome);
   EXPECT_EQ(note, attese);
-  EXPECT_EQ(note.size(), 13U + 9U + 92U + 98U);
 }
 
 // ---- the order of the faults, word by word ----------------------------------------------------

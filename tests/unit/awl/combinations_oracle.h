@@ -8,6 +8,7 @@
 #include <map>
 #include <optional>
 #include <ostream>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -111,6 +112,8 @@ class Oracolo {
         Passo(mnemonico, op1);
       else if (std::string("=<>").find(mnemonico.back()) != std::string::npos)
         Confronto(mnemonico, op1, op2);
+      else if (!mnemonico.starts_with("NETWORK") && !Sta_In(mnemonico, senza_effetti))
+        throw std::invalid_argument("not known here: " + mnemonico);
     } catch (Fine fine) {
       effetto = {fine, {}, {}, {}};
     }
@@ -118,6 +121,10 @@ class Oracolo {
   }
 
  private:
+  /// What ends well whatever stands around it, and writes no cell that is compared here.
+  static constexpr std::string_view senza_effetti =
+      "NETW MEND RET SBR SBR0 JMP LBL CALL SCRE CRET NOT EU ED ALD OLD NOP LPP LPS LRD";
+
   using Valore = std::optional<long long>;  ///< empty: the soft error of a read
 
   static void Indice(int numero, int ultimo) {

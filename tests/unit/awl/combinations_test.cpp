@@ -282,70 +282,51 @@ class Combinations : public ::testing::Test, protected Banco_Righe {
   }();
 };
 
-// The counts are areas of op1 times areas of op2 times mnemonics; an operand that is not tested
-// counts all 28 areas.
-
-TEST_F(Combinations, OfContactsEndAsDue) {
-  EXPECT_EQ(Esegui_Tutte(Parole("LD LDN A AN O ON")), 7U * 6);
-  EXPECT_EQ(Esegui_Tutte(Parole("LDI LDNI AI ANI OI ONI")), 1U * 6);
-}
-
-TEST_F(Combinations, OfOutputsEndAsDue) {
-  EXPECT_EQ(Esegui_Tutte({"="}), 3U);
-  EXPECT_EQ(Esegui_Tutte({"=I"}), 1U);
-  EXPECT_EQ(Esegui_Tutte({"S"}), 3U * 28);
-  EXPECT_EQ(Esegui_Tutte({"SI", "RI"}), 1U * 28 * 2);
-  EXPECT_EQ(Esegui_Tutte({"R"}), 5U * 28);
-}
-
-TEST_F(Combinations, OfTimersAndCountersEndAsDue) {
-  EXPECT_EQ(Esegui_Tutte({"TON", "TOF", "TONR"}), 7U * 21 * 3);
-  EXPECT_EQ(Esegui_Tutte({"CTU", "CTD", "CTUD"}), 1U * 2 * 3);
-}
-
-TEST_F(Combinations, OfMovesEndAsDue) {
-  EXPECT_EQ(Esegui_Tutte({"MOVB"}), 7U * 2);
-  EXPECT_EQ(Esegui_Tutte({"MOVW"}), 9U * 5);
-  EXPECT_EQ(Esegui_Tutte({"MOVD"}), 3U * 2);
-  EXPECT_EQ(Esegui_Tutte({"BIR"}), 1U * 2);
-  EXPECT_EQ(Esegui_Tutte({"BIW"}), 2U * 2);
-  EXPECT_EQ(Esegui_Tutte({"BTI"}), 6U * 4);
-}
-
-TEST_F(Combinations, OfArithmeticEndAsDue) {
-  EXPECT_EQ(Esegui_Tutte({"+I", "-I", "*I", "/I"}), 6U * 4 * 4);
-  EXPECT_EQ(Esegui_Tutte({"+D", "-D", "*D", "/D"}), 3U * 2 * 4);
-  EXPECT_EQ(Esegui_Tutte({"INCB", "DECB", "INCW", "DECW", "INCD", "DECD"}), 2U * 6);
-}
-
-TEST_F(Combinations, OfByteComparisonsEndAsDue) {
-  EXPECT_EQ(Esegui_Tutte(Parole(Confronti("B"))), 7U * 7 * 18);
-}
-
-TEST_F(Combinations, OfWordComparisonsEndAsDue) {
-  EXPECT_EQ(Esegui_Tutte(Parole(Confronti("W"))), 8U * 8 * 18);
-}
-
-TEST_F(Combinations, OfDoubleWordComparisonsEndAsDue) {
-  EXPECT_EQ(Esegui_Tutte(Parole(Confronti("D"))), 3U * 3 * 18);
-}
-
-// The operands of the first list are not looked at: none, and each area as the only one.
-TEST_F(Combinations, OfTheOtherInstructionsEndAsDue) {
-  EXPECT_EQ(Esegui_Tutte({"NETWORK 1", "NETW", "MEND", "RET", "RETI", "SBR", "SBR0", "INT", "INT0",
-                          "JMP", "LBL", "CALL", "LSCR", "SCRE", "CRET", "XORD"},
-                         1),
-            29U * 16);
-  EXPECT_EQ(Esegui_Tutte(Parole(Accettate_Senza_Operandi)), 9U);
-}
-
-TEST_F(Combinations, AreSoManyInAll) {
-  std::size_t quanti = 0;
-  for (const Istruzione& istruzione : Tabella_Istruzioni()) {
-    const bool senza_prova = Sta_In(istruzione.Nome, Accettate_Senza_Prova);
-    quanti += Ammesse(istruzione.Nome, senza_prova ? 1 : 2).size();
+/// With how many combinations of areas a rule is kept, as expected of the checker.
+std::size_t Quante_Tenute(const Regola_Attesa& regola) {
+  const auto tenuta = [&](const std::vector<Operando_Scritto>& operandi) {
+    return regola.Giudica(operandi) == Verdetto_Riga{} ? 1U : 0U;
+  };
+  std::size_t quante = 0;
+  for (const std::string& prima : Tutte_Le_Aree()) {
+    const Operando_Scritto op1 = Primo_Offerto(prima);
+    if (regola.operandi == 1) {
+      quante += tenuta({op1});
+      continue;
+    }
+    for (const std::string& seconda : Tutte_Le_Aree())
+      quante += tenuta({op1, Primo_Offerto(seconda)});
   }
-  EXPECT_EQ(quanti, 3588U);
+  return quante;
+}
+
+class RuleCombinations : public Combinations,
+                         public ::testing::WithParamInterface<Regola_Attesa> {};
+
+TEST_P(RuleCombinations, EndAsDue) {
+  const std::size_t quante = Quante_Tenute(GetParam());
+  EXPECT_GT(quante, 0U);
+  for (const std::string& mnemonico : Parole(GetParam().mnemonici))
+    EXPECT_EQ(Esegui_Tutte({mnemonico}), quante) << mnemonico;
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, RuleCombinations, ::testing::ValuesIn(Regole_Attese()),
+                         [](const auto& caso) {
+                           return Nome_Prova(Parole(caso.param.mnemonici)[0]);
+                         });
+
+// The operands of the first group are not looked at: none, and each area as the only one.
+TEST_F(Combinations, OfTheOtherInstructionsEndAsDue) {
+  std::vector<std::string> mnemonici = Parole(Accettate_Senza_Prova);
+  for (const char* scritto : {"NETWORK 1", "SBR0", "INT0"}) mnemonici.emplace_back(scritto);
+  EXPECT_EQ(Esegui_Tutte(mnemonici, 1), mnemonici.size() * (1 + Tutte_Le_Aree().size()));
+  const std::vector<std::string> nudi = Parole(Accettate_Senza_Operandi);
+  EXPECT_EQ(Esegui_Tutte(nudi), nudi.size());
+}
+
+TEST_F(Combinations, OfRefusedInstructionsThereAreNone) {
+  for (const std::string& mnemonico : Parole(Non_Supportate))
+    EXPECT_TRUE(Ammesse(mnemonico).empty()) << mnemonico;
 }
 
 // Setting the preset is the first thing a timer does, so its fault is met before the timer's.

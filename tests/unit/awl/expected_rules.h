@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <map>
 #include <optional>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -148,6 +149,10 @@ struct Regola_Attesa {
   }
 };
 
+inline void PrintTo(const Regola_Attesa& regola, std::ostream* uscita) {
+  *uscita << regola.mnemonici;
+}
+
 /// "LDB=", "ADB<>" and so on: the 18 comparisons of one width.
 inline std::string Confronti(const std::string& larghezza) {
   std::string lista;
@@ -259,6 +264,39 @@ inline const std::vector<Regola_Attesa>& Regole_Attese() {
        valore_doppio(Area_Op2, Indirizzo_Op2), false},
   };
   return regole;
+}
+
+/// "LDB<=" as "LDB_lt_eq": test names take letters and digits only.
+inline std::string Nome_Prova(const std::string& mnemonico) {
+  std::string nome;
+  for (const char c : mnemonico) {
+    switch (c) {
+      case '=':
+        nome += "_eq";
+        break;
+      case '<':
+        nome += "_lt";
+        break;
+      case '>':
+        nome += "_gt";
+        break;
+      case '+':
+        nome += "Add_";
+        break;
+      case '-':
+        nome += "Sub_";
+        break;
+      case '*':
+        nome += "Mul_";
+        break;
+      case '/':
+        nome += "Div_";
+        break;
+      default:
+        nome += c;
+    }
+  }
+  return nome;
 }
 
 inline const Regola_Attesa& Regola_Di(const std::string& mnemonico) {
