@@ -99,8 +99,8 @@ constexpr const char* ass_2       = "Ass.  I/O";
 constexpr const char* ipostazioni  = "Ipostazioni";
 constexpr const char* impostazioni = "Impostazioni";
 
-std::array<Esercizio, 18> Esercizi() {
-  return {{
+auto Esercizi() {
+  return std::to_array<Esercizio>({
       {0, "00-Marcia/Arresto M.A.T.",
        "frmMA", "MA", "KM", "US-00.htm",
        " 00-Marcia/arresto M.A.T.",
@@ -191,14 +191,14 @@ std::array<Esercizio, 18> Esercizi() {
        " 17-Controllo di Posizione.",
        "ME_StatoI", "ME_StatoQ", 4095, 6210, assegnaz, impostazioni,
        {}, false, true, "Enabled", Righe_IO_17(), Crea_Assi},
-  }};
+  });
 }
 // clang-format on
 
 }  // namespace
 
 std::span<const Esercizio> Tabella_Esercizi() {
-  static const std::array<Esercizio, 18> esercizi = Esercizi();
+  static const auto esercizi = Esercizi();
   return esercizi;
 }
 

@@ -78,7 +78,8 @@ TEST_P(ExercisePage, TellsWhatItsScriptAsksFor) {
   EXPECT_NE(page.find("assegna " + Testo_Punti(of_cases) + " punti"), std::string::npos);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ExercisePage, ::testing::Range(0, 18));
+INSTANTIATE_TEST_SUITE_P(All, ExercisePage,
+                         ::testing::Range(0, static_cast<int>(Tabella_Esercizi().size())));
 
 /// A help folder in the making.
 class Generator : public ::testing::Test {

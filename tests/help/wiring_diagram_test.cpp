@@ -119,7 +119,8 @@ TEST_P(Diagram, KnowsAllItsInputDevices) {
     EXPECT_NE(Riconosci(row).Tipo, Contatto) << row.Simbolo << " " << row.Commento;
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Diagram, ::testing::Range(0, 18));
+INSTANTIATE_TEST_SUITE_P(All, Diagram,
+                         ::testing::Range(0, static_cast<int>(Tabella_Esercizi().size())));
 
 TEST(Drawing, WritesLengthsWithAtMostTwoDecimals) {
   EXPECT_EQ(Numero_Svg(12), "12");

@@ -49,7 +49,7 @@ TEST_P(Esportata, ThePictureSavedIsThePictureSeen) {
   EXPECT_GT(Differenza(salvata, altro), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Esercizi, Esportata, ::testing::Range(0, 18));
+INSTANTIATE_TEST_SUITE_P(Esercizi, Esportata, ::testing::ValuesIn(Con_Impianto()));
 
 TEST(Export, TheMenuSavesVectorsAndPoints) {
   Banco_Host banco{13};

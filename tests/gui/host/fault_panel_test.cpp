@@ -143,7 +143,7 @@ TEST_P(Guasti_Di_Tutti, ComeAndGoThroughThePanel) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Esercizi, Guasti_Di_Tutti, ::testing::Range(0, 18));
+INSTANTIATE_TEST_SUITE_P(Esercizi, Guasti_Di_Tutti, ::testing::ValuesIn(Con_Impianto()));
 
 }  // namespace
 }  // namespace tavorno

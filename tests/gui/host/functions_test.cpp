@@ -153,7 +153,7 @@ struct Funzioni : ::testing::TestWithParam<int> {
     return {};
   }
 };
-INSTANTIATE_TEST_SUITE_P(Esercizi, Funzioni, ::testing::Range(0, 18));
+INSTANTIATE_TEST_SUITE_P(Esercizi, Funzioni, ::testing::ValuesIn(Con_Impianto()));
 
 bool Comando_O_Lampada(const Riga_IO& riga) {
   const QString commento = Q(riga.Commento);

@@ -156,7 +156,7 @@ TEST_P(Misurate, LieOnTheirScaleAtRest) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Esercizi, Misurate, ::testing::Range(0, 18));
+INSTANTIATE_TEST_SUITE_P(Esercizi, Misurate, ::testing::ValuesIn(Con_Impianto()));
 
 TEST(Quantities, APistonGoesFromNothingToAHundred) {
   Banco_Host banco(4);

@@ -15,7 +15,7 @@ struct Indicazioni : ::testing::TestWithParam<int> {
   Banco_Host banco{GetParam()};
   const Esercizio& esercizio = Tabella_Esercizi()[static_cast<std::size_t>(GetParam())];
 };
-INSTANTIATE_TEST_SUITE_P(Esercizi, Indicazioni, ::testing::Range(0, 18));
+INSTANTIATE_TEST_SUITE_P(Esercizi, Indicazioni, ::testing::ValuesIn(Con_Impianto()));
 
 TEST_P(Indicazioni, EveryRowHasAPartThatCanBeSeenAtRest) {
   for (const Riga_IO& riga : esercizio.Righe_IO) {

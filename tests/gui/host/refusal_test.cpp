@@ -103,7 +103,7 @@ TEST_F(Rifiuti, WhileTheSwitchesDriveTheInputsTheCpuDoesNotHear) {
 struct Operabili : ::testing::TestWithParam<int> {
   Banco_Host banco{GetParam()};
 };
-INSTANTIATE_TEST_SUITE_P(Esercizi, Operabili, ::testing::Range(0, 18));
+INSTANTIATE_TEST_SUITE_P(Esercizi, Operabili, ::testing::ValuesIn(Con_Impianto()));
 
 TEST_P(Operabili, WhatDoesNothingWhenPressedSaysWhy) {
   Quadro& quadro = banco.Disegno();

@@ -21,7 +21,7 @@ struct Detta : ::testing::TestWithParam<int> {
     return nullptr;
   }
 };
-INSTANTIATE_TEST_SUITE_P(Esercizi, Detta, ::testing::Range(0, 18));
+INSTANTIATE_TEST_SUITE_P(Esercizi, Detta, ::testing::ValuesIn(Con_Impianto()));
 
 TEST_P(Detta, EveryPartThatCanBeOperatedOrStandsForATerminalHasAName) {
   EXPECT_EQ(quadro->role(), QAccessible::Canvas);

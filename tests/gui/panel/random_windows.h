@@ -195,7 +195,10 @@ class Finestre_A_Caso : public Banco_Seduta {
     passati += registratore.Nel_Passato();
   }
 
-  void Apri() { finestre.Apri_Impianto(static_cast<int>(Numero(17))); }
+  void Apri() {
+    finestre.Apri_Impianto(
+        static_cast<int>(Numero(static_cast<unsigned>(Tabella_Esercizi().size()) - 1)));
+  }
   void Chiudi() {
     finestre.Impianto()->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

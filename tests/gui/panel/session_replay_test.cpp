@@ -58,7 +58,8 @@ TEST_P(Random_Session, IsTheSameWhenItIsPlayedAgain) {
     finestre.Nuovi_Programmi = GetParam();
     finestre.Carica(programma);
     if (::testing::Test::HasFatalFailure()) return;
-    finestre.finestre.Apri_Impianto(seme % 18);  // chance opens others later
+    finestre.finestre.Apri_Impianto(
+        seme % static_cast<int>(Tabella_Esercizi().size()));  // chance opens others later
     finestre.Gioca(400);
     forzate += finestre.forzate;
     guasti += finestre.guasti_messi;

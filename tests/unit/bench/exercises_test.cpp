@@ -40,7 +40,8 @@ TEST_P(Exercise, ASolvedProjectCompilesAndRunsAHundredTimes) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, Exercise, ::testing::Range(0, 18));
+INSTANTIATE_TEST_SUITE_P(All, Exercise,
+                         ::testing::Range(0, static_cast<int>(Tabella_Esercizi().size())));
 
 }  // namespace
 }  // namespace tavorno

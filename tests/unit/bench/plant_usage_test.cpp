@@ -10,8 +10,11 @@ using ::testing::HasSubstr;
 
 struct Mano_Errata {
   std::vector<std::string> opzioni;
-  const char* motivo;
+  std::string motivo;
 };
+
+const std::string fuori_tabella = "il valore di --impianto deve essere un numero intero tra 0 e " +
+                                  std::to_string(Tabella_Esercizi().size() - 1);
 
 class WrongPlantUse : public Banco_Comandi, public ::testing::WithParamInterface<Mano_Errata> {};
 
@@ -28,12 +31,9 @@ INSTANTIATE_TEST_SUITE_P(
     PlantNumbers, WrongPlantUse,
     ::testing::Values(
         Mano_Errata{{"--impianto"}, "manca il valore dell'opzione --impianto"},
-        Mano_Errata{{"--impianto", "18"},
-                    "il valore di --impianto deve essere un numero intero tra 0 e 17"},
-        Mano_Errata{{"--impianto", "-1"},
-                    "il valore di --impianto deve essere un numero intero tra 0 e 17"},
-        Mano_Errata{{"--impianto", "US-00"},
-                    "il valore di --impianto deve essere un numero intero tra 0 e 17"},
+        Mano_Errata{{"--impianto", std::to_string(Tabella_Esercizi().size())}, fuori_tabella},
+        Mano_Errata{{"--impianto", "-1"}, fuori_tabella},
+        Mano_Errata{{"--impianto", "US-00"}, fuori_tabella},
         Mano_Errata{{"--mani", "0:premi:imgStart"}, "--mani vuole anche --impianto"},
         Mano_Errata{{"--impianto", "0", "--ingressi", "0:AI0=1,5:I0.1=1"},
                     "con --impianto gli ingressi digitali li dà l'impianto: usare --mani"}));

@@ -326,7 +326,9 @@ TEST_F(ScriptFunctions, TheScriptNamesItsPlant) {
   EXPECT_THAT(Esito({"NOP"}, script, 3).Primo_Rilievo(),
               HasSubstr("questo script è per l'impianto 0, e non per il 3"));
   EXPECT_THAT(Rilievo_Di("impianto(0)"), HasSubstr("va chiamata in testa allo script"));
-  EXPECT_THAT(Esito({"NOP"}, "impianto(18)").Primo_Rilievo(), HasSubstr("tra 0 e 17"));
+  const std::size_t quanti = Tabella_Esercizi().size();
+  EXPECT_THAT(Esito({"NOP"}, "impianto(" + std::to_string(quanti) + ")").Primo_Rilievo(),
+              HasSubstr("tra 0 e " + std::to_string(quanti - 1)));
 }
 
 TEST_F(ScriptFunctions, WrongNamesAreListed) {

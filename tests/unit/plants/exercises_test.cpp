@@ -153,7 +153,12 @@ TEST_P(ExerciseRow, TableGroupsInputsBeforeOutputsInOrderOfAddress) {
   EXPECT_FALSE(simboli.empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ExerciseRow, ::testing::Range(0, 18));
+INSTANTIATE_TEST_SUITE_P(All, ExerciseRow,
+                         ::testing::Range(0, static_cast<int>(std::size(attesi))));
+
+TEST(Exercises, AreThoseToldHere) {
+  EXPECT_EQ(Tabella_Esercizi().size(), std::size(attesi));
+}
 
 TEST(ExerciseTable, MakesFreshPlants) {
   Orologio orologio;

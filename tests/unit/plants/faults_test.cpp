@@ -110,7 +110,8 @@ TEST_P(Faults, DangerousOnesSayWhetherTheContactOpensOrWelds) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Exercises, Faults, ::testing::Range(0, 18));
+INSTANTIATE_TEST_SUITE_P(Exercises, Faults,
+                         ::testing::Range(0, static_cast<int>(Tabella_Esercizi().size())));
 
 class WireFaults : public Banco_Impianto {};
 
