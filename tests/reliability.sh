@@ -71,10 +71,12 @@ run_plant() {
 hours() {
   local n hour day again
   echo "plant  KB after 1 h  KB after 24 h  lines"
-  for n in 00 01 02 03 04 05 06 07 08 09 10 11 12 13 14 15 16 17; do
-    hour=$(run_plant $n 3600000 "$work/hour")
-    day=$(run_plant $n 86400000 "$work/day")
-    again=$(run_plant $n 86400000 "$work/again")
+  for n in "$root"/examples/us[0-9][0-9].AWL; do
+    n=$(basename "$n" .AWL)
+    n=${n#us}
+    hour=$(run_plant "$n" 3600000 "$work/hour")
+    day=$(run_plant "$n" 86400000 "$work/day")
+    again=$(run_plant "$n" 86400000 "$work/again")
     grep -q '^Fine: 86400000 ms' "$work/day" || fail "us$n did not last: $(tail -1 "$work/day")"
     cmp -s "$work/day" "$work/again" || fail "two runs of us$n differ"
     echo "us$n   $hour  $day  $(wc -l <"$work/day")"

@@ -4,13 +4,13 @@
 #include <algorithm>
 #include <array>
 
+#include "plants/exercises.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tavorno::prova {
 
 namespace {
 
-constexpr int esercizi = 18;
 constexpr double limite = 0.10;
 constexpr double limite_dei_simili = 0.15;
 
@@ -55,6 +55,7 @@ std::vector<Ostile> Consegne_Ostili(const Esempio& esempio, const std::filesyste
   }
   Aggiungi("copia gli ingressi", copia);
   for (const int passo : {-1, 1}) {
+    const int esercizi = static_cast<int>(Tabella_Esercizi().size());
     const Esempio vicino{(esempio.Numero + passo + esercizi) % esercizi};
     consegne.push_back({"soluzione di " + vicino.Nome(), vicino.Soluzione().string(),
                         Simili(esempio.Numero, vicino.Numero) ? limite_dei_simili : limite});

@@ -6,6 +6,7 @@
 #include <exception>
 #include <iostream>
 
+#include "plants/exercises.h"
 #include "plc/codepage.h"
 #include "tests/grading/exercise_bed.h"
 #include "tests/grading/mutants.h"
@@ -58,8 +59,10 @@ int main(int argc, char** argv) {
   using namespace tavorno::prova;
   Esempio esempio{-1};
   if (argc >= 2) std::from_chars(argv[1], argv[1] + std::strlen(argv[1]), esempio.Numero);
-  if (esempio.Numero < 0 || esempio.Numero > 17 || argc > 4) {
-    std::cerr << "Usage: script_mutants N [PROJECT.AWL [SCRIPT.lua]], N from 0 to 17\n";
+  const int ultimo = static_cast<int>(tavorno::Tabella_Esercizi().size()) - 1;
+  if (esempio.Numero < 0 || esempio.Numero > ultimo || argc > 4) {
+    std::cerr << "Usage: script_mutants N [PROJECT.AWL [SCRIPT.lua]], N from 0 to " << ultimo
+              << "\n";
     return 64;
   }
   try {

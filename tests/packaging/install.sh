@@ -28,7 +28,7 @@ home=$(dirname "$(readlink -f "$usr/bin/tavorno")")
 
 # A script that names another one finds it, and grades a teacher's solution in full.
 solutions=$folder/teacher/share/tavorno/solutions
-diff <(list "$solutions") <(seq -f './us%02g.AWL' 0 17)
+diff <(list "$solutions") <(cd "$2/examples" && find . -name 'us[0-9][0-9].AWL' | sort)
 [ -z "$(find "$usr" -name 'us[0-9][0-9].AWL')" ]
 [ -z "$(find "$usr" -name '*.lua' -exec grep -l END_ORGANIZATION_BLOCK {} +)" ]
 diff <(list "$usr/share/tavorno/examples") \

@@ -49,11 +49,10 @@ states="
 17 work   programma:$examples/us17.AWL ms:500 premi:imgP(0) ms:300 rilascia:imgP(0) ms:6000
 17 fault  regola:UpD1=8 clic:imgFCA uscite:0000000010000000
 "
-number=0
-while [ $number -lt 18 ]; do
-  printf -v name '%02d' $number
-  "$preview" $number "$out/US-$name-rest.png" "$scale" 2>/dev/null || true
-  number=$((number + 1))
+for solution in "$examples"/us[0-9][0-9].AWL; do
+  name=$(basename "$solution" .AWL)
+  name=${name#us}
+  "$preview" "$((10#$name))" "$out/US-$name-rest.png" "$scale" 2>/dev/null || true
 done
 while read -r exercise state steps; do
   [ -n "$exercise" ] || continue
