@@ -156,10 +156,6 @@ TEST_P(ExerciseRow, TableGroupsInputsBeforeOutputsInOrderOfAddress) {
 INSTANTIATE_TEST_SUITE_P(All, ExerciseRow,
                          ::testing::Range(0, static_cast<int>(std::size(attesi))));
 
-TEST(Exercises, AreThoseToldHere) {
-  EXPECT_EQ(Tabella_Esercizi().size(), std::size(attesi));
-}
-
 TEST(ExerciseTable, MakesFreshPlants) {
   Orologio orologio;
   Plc plc(orologio);
@@ -175,8 +171,8 @@ TEST(ExerciseTable, MakesFreshPlants) {
   }
 }
 
-TEST(ExerciseTable, HasEighteenRows) {
-  EXPECT_EQ(Tabella_Esercizi().size(), 18U);
+TEST(ExerciseTable, HasTheRowsToldHereAndNoOther) {
+  EXPECT_EQ(Tabella_Esercizi().size(), std::size(attesi));
   EXPECT_STREQ(Scheda_1, " Assegnazioni I/0");
 }
 
