@@ -143,7 +143,9 @@ class Scimmia : public QObject {
   }
 
  private:
-  unsigned Uno_Di(std::size_t quanti) { return static_cast<unsigned>(caso_() % quanti); }
+  unsigned Uno_Di(std::size_t quanti) {
+    return static_cast<unsigned>(caso_() % std::max<std::size_t>(quanti, 1));
+  }
   template <class Elenco>
   auto& Preso(Elenco& elenco) {
     return elenco[Uno_Di(std::size(elenco))];
@@ -256,11 +258,15 @@ class Scimmia : public QObject {
         viva.Clicca(tasto, dove);
     }
   }
-  /// A command of the window's menus and bars, "Termina" too.
-  void Comanda(const QWidget& finestra) {
+  /// A command of the window's menus and bars, "Termina" too. A menu closes before what was chosen
+  /// in it begins.
+  void Comanda(QWidget& finestra) {
     QList<QAction*> voci = finestra.findChildren<QAction*>();
     voci.removeIf([](const QAction* v) { return !v->isEnabled() || v->menu() != nullptr; });
-    if (!voci.isEmpty()) voci[static_cast<int>(Uno_Di(voci.size()))]->trigger();
+    if (voci.isEmpty()) return;
+    const QPointer<QAction> voce = voci[static_cast<int>(Uno_Di(voci.size()))];
+    if (finestra.windowType() == Qt::Popup) finestra.close();
+    if (voce) voce->trigger();
   }
 
   std::mt19937 caso_;
