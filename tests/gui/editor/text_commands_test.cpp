@@ -119,7 +119,8 @@ TEST_F(TextCommands, WhatIsFoundOrTooLongCanStillBeRead) {
       const auto mandato = [&](unsigned cosa, int dove) {
         return static_cast<int>(txtList().SendScintilla(cosa, 0UL, static_cast<long>(dove)));
       };
-      const int da = txtList().text().indexOf("I0.0"), a = da + 4;
+      const auto da = static_cast<int>(txtList().text().indexOf("I0.0"));
+      const int a = da + 4;
       const int riga = mandato(QsciScintilla::SCI_POINTYFROMPOSITION, da);
       const QRect dove(QPoint(mandato(QsciScintilla::SCI_POINTXFROMPOSITION, da) + 1, riga + 2),
                        QPoint(mandato(QsciScintilla::SCI_POINTXFROMPOSITION, a) - 2, riga + 11));
