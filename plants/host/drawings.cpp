@@ -238,7 +238,7 @@ std::unique_ptr<QSvgRenderer> Disegni::Crea(const Pezzo& pezzo, Colore colore, i
   return std::make_unique<QSvgRenderer>(testo.toUtf8());
 }
 
-const Disegni::Tenuto& Disegni::Tieni(const Pezzo& pezzo, Colore colore, int fase, double schermo) {
+Disegni::Tenuto Disegni::Tieni(const Pezzo& pezzo, Colore colore, int fase, double schermo) {
   const Chiave chiave{&pezzo, pezzo.Colorato ? Tinta(colore).rgb() : 0, pezzo.Colorato ? colore : 0,
                       pezzo.Si_Muove ? fase : 0};
   if (const Tenuto* tenuto = tenuti_.object(chiave)) return *tenuto;
@@ -247,16 +247,17 @@ const Disegni::Tenuto& Disegni::Tieni(const Pezzo& pezzo, Colore colore, int fas
   const QRectF posto(limiti.topLeft() * scala_tenuti_, limiti.size() * scala_tenuti_);
   // Whole pixels with a margin, so that nothing is cut and nothing is drawn between two pixels.
   const QRect intero = posto.toAlignedRect().adjusted(-1, -1, 1, 1);
-  auto* tenuto = new Tenuto{QPixmap(intero.size() * schermo), intero.topLeft()};
-  tenuto->Immagine.setDevicePixelRatio(schermo);
-  tenuto->Immagine.fill(Qt::transparent);
-  QPainter dentro(&tenuto->Immagine);
+  Tenuto tenuto{QPixmap(intero.size() * schermo), intero.topLeft()};
+  tenuto.Immagine.setDevicePixelRatio(schermo);
+  tenuto.Immagine.fill(Qt::transparent);
+  QPainter dentro(&tenuto.Immagine);
   dentro.setRenderHint(QPainter::Antialiasing);
-  disegno->render(&dentro, pezzo.Id, posto.translated(-tenuto->Posto));
+  disegno->render(&dentro, pezzo.Id, posto.translated(-tenuto.Posto));
   dentro.end();
   const double costo = intero.width() * schermo * intero.height() * schermo * 4 / 1024;
-  tenuti_.insert(chiave, tenuto, static_cast<int>(std::clamp(costo, 1.0, memoria / 2.0)));
-  return *tenuto;
+  tenuti_.insert(chiave, new Tenuto(tenuto),
+                 static_cast<int>(std::clamp(costo, 1.0, memoria / 2.0)));
+  return tenuto;
 }
 
 void Disegni::Disegna(QPainter& pittore, const Pezzo& pezzo, Colore colore, int fase, double scala,
@@ -278,7 +279,7 @@ void Disegni::Disegna(QPainter& pittore, const Pezzo& pezzo, Colore colore, int 
     scala_tenuti_ = scala;
     schermo_tenuti_ = schermo;
   }
-  const Tenuto& tenuto = Tieni(pezzo, colore, fase, schermo);
+  const Tenuto tenuto = Tieni(pezzo, colore, fase, schermo);
   const QPointF spostato = tenuto.Posto + QPointF(posa.dx(), posa.dy());
   // Whole dots of the screen keep a moving drawing sharp.
   pittore.drawPixmap(QPointF(std::round(spostato.x() * schermo) / schermo,

@@ -101,7 +101,7 @@ class Disegni {
   void Leggi_Pezzi(const QString& testo);
   void Prepara(Pezzo& pezzo);
   std::unique_ptr<QSvgRenderer> Crea(const Pezzo& pezzo, Colore colore, int fase) const;
-  const Tenuto& Tieni(const Pezzo& pezzo, Colore colore, int fase, double schermo);
+  Tenuto Tieni(const Pezzo& pezzo, Colore colore, int fase, double schermo);
 
   QRectF misura_;
   std::unique_ptr<QSvgRenderer> base_;
