@@ -144,7 +144,11 @@ void Ordine_Finestre::Metti(QWidget& finestra, const QRect& cornice, bool tutte)
 }
 
 void Ordine_Finestre::Porta(QWidget& finestra, const QRect& cornice) const {
-  finestra.resize(cornice.size().shrunkBy(Bordi(finestra)));
+  // A late answer of the window manager may have given the window another size that it has not
+  // heard of yet, and a move would ask for that one again. Only a size that changes is asked for.
+  const QSize misura = cornice.size().shrunkBy(Bordi(finestra));
+  if (finestra.size() == misura) finestra.resize(misura + QSize(1, 0));
+  finestra.resize(misura);
   finestra.move(cornice.topLeft());
 }
 
