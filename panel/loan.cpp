@@ -6,19 +6,16 @@
 namespace tavorno {
 
 Posto_Finestra::Posto_Finestra(const QWidget& finestra)
-    : angolo_(finestra.pos()), misura_(finestra.size()), stato_(finestra.windowState()) {
+    : posto_(finestra.geometry()), stato_(finestra.windowState()) {
   // What is maximised goes back to the rectangle that it would go back to anyway.
-  if (!stato_.testFlag(Qt::WindowMaximized) && !stato_.testFlag(Qt::WindowFullScreen)) return;
-  const QRect normale = finestra.normalGeometry();
-  angolo_ = normale.topLeft();
-  misura_ = normale.size();
+  if (stato_.testFlag(Qt::WindowMaximized) || stato_.testFlag(Qt::WindowFullScreen))
+    posto_ = finestra.normalGeometry();
 }
 
 void Posto_Finestra::Rimetti(QWidget& finestra) const {
   finestra.setWindowState(stato_ & ~Qt::WindowActive);
   if (stato_.testFlag(Qt::WindowMaximized) || stato_.testFlag(Qt::WindowFullScreen)) return;
-  finestra.resize(misura_);
-  finestra.move(angolo_);
+  finestra.setGeometry(posto_);
 }
 
 void Lascia_Il_Fuoco(const QWidget& parte) {

@@ -55,8 +55,7 @@ class Posto_Finestra {
   void Rimetti(QWidget& finestra) const;
 
  private:
-  QPoint angolo_;
-  QSize misura_;
+  QRect posto_;  // without the frame, which a window that fills the screen has not
   Qt::WindowStates stato_;
 };
 

@@ -36,6 +36,13 @@ wait_until 'the button to rise' looks_like "$plant" "$button" "$work/button.png"
 both looks_unlike || fail 'the contactor does not hold'
 # shellcheck disable=SC2086
 press $stop looks_like
+# For the projector and back: to the pixel where it was, though its frame was gone meanwhile.
+place() { xdotool getwindowgeometry --shell "$(visible "$panel" | tail -1)" | grep -E '^(X|Y|WIDTH|HEIGHT)='; }
+before=$(place)
+elsewhere() { [ "$(place)" != "$before" ]; }
+back() { [ "$(place)" = "$before" ]; }
+act_until "$panel" 'keys F11' 'the panel to fill the screen' elsewhere
+act_until "$panel" 'keys F11' 'the panel to be back in its place' back
 close_by "$plant" alt+F4
 wait_gone 'Indicatori Stato'
 ends_with 0 "$panel" ctrl+q
