@@ -11,7 +11,7 @@ namespace tavorno {
 // ---- contacts -----------------------------------------------------------------------------------
 
 namespace {
-/// Inlined into each contact, so that each has a branch of its own on the area.
+/// Inlined, so that of the areas only the one at hand is left.
 [[gnu::always_inline]] inline std::int16_t Leggi_Bit(const Memoria& memoria, Area area, int num,
                                                      int bit, std::int16_t& err) {
   err = 0;
@@ -49,9 +49,10 @@ namespace {
 
 /// A contact on an image bit: `unisci` makes the stack operation out of the bit that was read.
 template <class Unisci>
-Esito Contatto(Plc& plc, const Riga_PLC& riga, Unisci unisci) {
+[[gnu::always_inline]] inline Esito Contatto(Plc& plc, const Riga_PLC& riga, Area area,
+                                             Unisci unisci) {
   std::int16_t err = 0;
-  const std::int16_t bit = Leggi_Bit(plc, riga.Codice1, riga.Num1, riga.Bit1, err);
+  const std::int16_t bit = Leggi_Bit(plc, area, riga.Num1, riga.Bit1, err);
   if (err) return Esito::Errore;
   unisci(bit);
   return Esito::Avanti;
@@ -64,23 +65,24 @@ Esito Contatto_Immediato(Plc& plc, const Riga_PLC& riga, Unisci unisci) {
   return Esito::Avanti;
 }
 
-Esito Istr_LD(Plc& plc, Riga_PLC& riga) {
-  return Contatto(plc, riga, [&plc](std::int16_t x) { plc.GestStak(Op_Pila::Spingi, x); });
+[[gnu::always_inline]] inline Esito Istr_LD(Plc& plc, Riga_PLC& riga, Area area) {
+  return Contatto(plc, riga, area, [&plc](std::int16_t x) { plc.GestStak(Op_Pila::Spingi, x); });
 }
-Esito Istr_LDN(Plc& plc, Riga_PLC& riga) {
-  return Contatto(plc, riga, [&plc](std::int16_t x) { plc.GestStak(Op_Pila::Spingi, Negato(x)); });
+[[gnu::always_inline]] inline Esito Istr_LDN(Plc& plc, Riga_PLC& riga, Area area) {
+  return Contatto(plc, riga, area,
+                  [&plc](std::int16_t x) { plc.GestStak(Op_Pila::Spingi, Negato(x)); });
 }
-Esito Istr_A(Plc& plc, Riga_PLC& riga) {
-  return Contatto(plc, riga, [&plc](std::int16_t x) { Cima_E(plc, x); });
+[[gnu::always_inline]] inline Esito Istr_A(Plc& plc, Riga_PLC& riga, Area area) {
+  return Contatto(plc, riga, area, [&plc](std::int16_t x) { Cima_E(plc, x); });
 }
-Esito Istr_AN(Plc& plc, Riga_PLC& riga) {
-  return Contatto(plc, riga, [&plc](std::int16_t x) { Cima_E(plc, Negato(x)); });
+[[gnu::always_inline]] inline Esito Istr_AN(Plc& plc, Riga_PLC& riga, Area area) {
+  return Contatto(plc, riga, area, [&plc](std::int16_t x) { Cima_E(plc, Negato(x)); });
 }
-Esito Istr_O(Plc& plc, Riga_PLC& riga) {
-  return Contatto(plc, riga, [&plc](std::int16_t x) { Cima_O(plc, x); });
+[[gnu::always_inline]] inline Esito Istr_O(Plc& plc, Riga_PLC& riga, Area area) {
+  return Contatto(plc, riga, area, [&plc](std::int16_t x) { Cima_O(plc, x); });
 }
-Esito Istr_ON(Plc& plc, Riga_PLC& riga) {
-  return Contatto(plc, riga, [&plc](std::int16_t x) { Cima_O(plc, Negato(x)); });
+[[gnu::always_inline]] inline Esito Istr_ON(Plc& plc, Riga_PLC& riga, Area area) {
+  return Contatto(plc, riga, area, [&plc](std::int16_t x) { Cima_O(plc, Negato(x)); });
 }
 Esito Istr_LDI(Plc& plc, Riga_PLC& riga) {
   return Contatto_Immediato(plc, riga,
@@ -172,9 +174,9 @@ void Scrivi_Marker(Memoria& memoria, int riga, int bit, std::uint8_t valore) {
   Scrivi_Lettura(marker.Txt_B, byte);
 }
 
-Esito Istr_Assegna(Plc& plc, Riga_PLC& riga) {
+[[gnu::always_inline]] inline Esito Istr_Assegna(Plc& plc, Riga_PLC& riga, Area area) {
   const auto valore = static_cast<std::int16_t>(plc.Stak[0] & riga.Abil_SCR);
-  switch (riga.Codice1) {
+  switch (area) {
     case Area::Q:
       plc.IP_Q[riga.Num1].Bit_Img[riga.Bit1] = static_cast<std::uint8_t>(valore);
       plc.Aggiorna_IPQ(riga.Num1);
@@ -200,10 +202,10 @@ Esito Istr_Assegna_I(Plc& plc, Riga_PLC& riga) {
   return Esito::Avanti;
 }
 
-Esito Istr_S(Plc& plc, Riga_PLC& riga) {
+[[gnu::always_inline]] inline Esito Istr_S(Plc& plc, Riga_PLC& riga, Area area) {
   const int ultimo = A_16(A_16(riga.Bit1 + riga.Num2, "S") - 1, "S");
   const bool flusso = Flusso(plc, riga);
-  switch (riga.Codice1) {
+  switch (area) {
     case Area::Q:
       for (int bit = riga.Bit1; flusso && bit <= ultimo; ++bit)
         plc.IP_Q[riga.Num1].Bit_Img[bit] = 1;
@@ -222,13 +224,13 @@ Esito Istr_S(Plc& plc, Riga_PLC& riga) {
   }
 }
 
-Esito Istr_R(Plc& plc, Riga_PLC& riga) {
+[[gnu::always_inline]] inline Esito Istr_R(Plc& plc, Riga_PLC& riga, Area area) {
   const bool flusso = Flusso(plc, riga);
   // On T and C the count runs over element numbers, and every round means the element named.
-  const bool elemento = riga.Codice1 == Area::T || riga.Codice1 == Area::C;
+  const bool elemento = area == Area::T || area == Area::C;
   const int primo = elemento ? riga.Num1 : riga.Bit1;
   const int ultimo = A_16(A_16(primo + riga.Num2, "R") - 1, "R");
-  switch (riga.Codice1) {
+  switch (area) {
     case Area::Q:
       for (int bit = primo; flusso && bit <= ultimo; ++bit) plc.IP_Q[riga.Num1].Bit_Img[bit] = 0;
       plc.Aggiorna_IPQ(riga.Num1);
@@ -298,16 +300,16 @@ Esito Istr_RI(Plc& plc, Riga_PLC& riga) {
 // clang-format off
 righe::Righe righe::Contatti() {
   return Insieme_Di({Di(Famiglia::Contatti, Gruppo::Con_Regola, {
-      {.Nome = "LD", .Operandi = &regole::Contatto, .Esegui = Istr_LD, .Aiuto = "Carica il bit in cima alla pila: contatto normalmente aperto"},
-      {.Nome = "LDN", .Operandi = &regole::Contatto, .Esegui = Istr_LDN, .Aiuto = "Carica il bit negato: contatto normalmente chiuso"},
+      {.Nome = "LD", .Operandi = &regole::Contatto, .Esegui = Per_Area<Istr_LD>(), .Aiuto = "Carica il bit in cima alla pila: contatto normalmente aperto"},
+      {.Nome = "LDN", .Operandi = &regole::Contatto, .Esegui = Per_Area<Istr_LDN>(), .Aiuto = "Carica il bit negato: contatto normalmente chiuso"},
       {.Nome = "LDI", .Operandi = &regole::Contatto_Immediato, .Esegui = Istr_LDI, .Aiuto = "Carica subito lo stato dell'ingresso fisico"},
       {.Nome = "LDNI", .Operandi = &regole::Contatto_Immediato, .Esegui = Istr_LDNI, .Aiuto = "Carica subito lo stato negato dell'ingresso fisico"},
-      {.Nome = "A", .Operandi = &regole::Contatto, .Esegui = Istr_A, .Aiuto = "AND del bit con la cima della pila: contatto in serie"},
-      {.Nome = "AN", .Operandi = &regole::Contatto, .Esegui = Istr_AN, .Aiuto = "AND del bit negato: contatto chiuso in serie"},
+      {.Nome = "A", .Operandi = &regole::Contatto, .Esegui = Per_Area<Istr_A>(), .Aiuto = "AND del bit con la cima della pila: contatto in serie"},
+      {.Nome = "AN", .Operandi = &regole::Contatto, .Esegui = Per_Area<Istr_AN>(), .Aiuto = "AND del bit negato: contatto chiuso in serie"},
       {.Nome = "AI", .Operandi = &regole::Contatto_Immediato, .Esegui = Istr_AI, .Aiuto = "AND con l'ingresso fisico, letto subito"},
       {.Nome = "ANI", .Operandi = &regole::Contatto_Immediato, .Esegui = Istr_ANI, .Aiuto = "AND con l'ingresso fisico negato, letto subito"},
-      {.Nome = "O", .Operandi = &regole::Contatto, .Esegui = Istr_O, .Aiuto = "OR del bit con la cima della pila: contatto in parallelo"},
-      {.Nome = "ON", .Operandi = &regole::Contatto, .Esegui = Istr_ON, .Aiuto = "OR del bit negato: contatto chiuso in parallelo"},
+      {.Nome = "O", .Operandi = &regole::Contatto, .Esegui = Per_Area<Istr_O>(), .Aiuto = "OR del bit con la cima della pila: contatto in parallelo"},
+      {.Nome = "ON", .Operandi = &regole::Contatto, .Esegui = Per_Area<Istr_ON>(), .Aiuto = "OR del bit negato: contatto chiuso in parallelo"},
       {.Nome = "OI", .Operandi = &regole::Contatto_Immediato, .Esegui = Istr_OI, .Aiuto = "OR con l'ingresso fisico, letto subito"},
       {.Nome = "ONI", .Operandi = &regole::Contatto_Immediato, .Esegui = Istr_ONI, .Aiuto = "OR con l'ingresso fisico negato, letto subito"},
   }), Di(Famiglia::Contatti, Gruppo::Senza_Operandi, {
@@ -330,10 +332,10 @@ righe::Righe righe::Pila() {
 
 righe::Righe righe::Uscite() {
   return Di(Famiglia::Uscite, Gruppo::Con_Regola, {
-      {.Nome = "=", .Operandi = &regole::Uscita, .Esegui = Istr_Assegna, .Aiuto = "Assegna la cima della pila al bit: bobina"},
+      {.Nome = "=", .Operandi = &regole::Uscita, .Esegui = Per_Area<Istr_Assegna>(), .Aiuto = "Assegna la cima della pila al bit: bobina"},
       {.Nome = "=I", .Operandi = &regole::Uscita_Immediata, .Esegui = Istr_Assegna_I, .Aiuto = "Assegna la cima della pila all'uscita fisica, subito"},
-      {.Nome = "S", .Operandi = &regole::Set, .Esegui = Istr_S, .Aiuto = "Mette a 1 N bit a partire da quello indicato"},
-      {.Nome = "R", .Operandi = &regole::Reset, .Esegui = Istr_R, .Aiuto = "Mette a 0 N bit a partire da quello indicato, oppure azzera un temporizzatore o un contatore"},
+      {.Nome = "S", .Operandi = &regole::Set, .Esegui = Per_Area<Istr_S>(), .Aiuto = "Mette a 1 N bit a partire da quello indicato"},
+      {.Nome = "R", .Operandi = &regole::Reset, .Esegui = Per_Area<Istr_R>(), .Aiuto = "Mette a 0 N bit a partire da quello indicato, oppure azzera un temporizzatore o un contatore"},
       {.Nome = "SI", .Operandi = &regole::Set_Immediato, .Esegui = Istr_SI, .Aiuto = "Mette a 1 subito N+1 uscite fisiche"},
       {.Nome = "RI", .Operandi = &regole::Set_Immediato, .Esegui = Istr_RI, .Aiuto = "Mette a 0 N+1 uscite nell'immagine"},
   });

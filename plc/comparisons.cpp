@@ -17,19 +17,19 @@ bool Vale(Relazione relazione, std::int32_t primo, std::int32_t secondo) {
 
 /// The second operand is read first, and the first one in any case. `letti`: both could be read.
 template <auto Lettura>
-[[gnu::always_inline]] inline bool Tiene(const Memoria& memoria, const Riga_PLC& riga,
+[[gnu::always_inline]] inline bool Tiene(const Memoria& memoria, const Riga_PLC& riga, Area area,
                                          bool& letti) {
   std::int32_t primo = 0, secondo = 0;
   letti = Lettura(memoria, riga.Codice2, riga.Num2, secondo);
-  letti = Lettura(memoria, riga.Codice1, riga.Num1, primo) && letti;
+  letti = Lettura(memoria, area, riga.Num1, primo) && letti;
   return letti && Vale(riga.Confronto, primo, secondo);
 }
 
 /// A failure of either operand leaves the stack alone.
 template <auto Lettura>
-Esito Confronto(Plc& plc, const Riga_PLC& riga) {
+[[gnu::always_inline]] inline Esito Confronto(Plc& plc, const Riga_PLC& riga, Area area) {
   bool letti = false;
-  const std::int16_t r = Tiene<Lettura>(plc, riga, letti) ? 1 : 0;
+  const std::int16_t r = Tiene<Lettura>(plc, riga, area, letti) ? 1 : 0;
   if (!letti) return Esito::Errore;
   switch (riga.Unione) {
     case Connessione::LD:
@@ -48,19 +48,19 @@ Esito Confronto(Plc& plc, const Riga_PLC& riga) {
 template <auto Lettura>
 bool Confronta(const Memoria& memoria, const Riga_PLC& riga, std::int16_t& err) {
   bool letti = false;
-  const bool tiene = Tiene<Lettura>(memoria, riga, letti);
+  const bool tiene = Tiene<Lettura>(memoria, riga, riga.Codice1, letti);
   if (!letti) err = -1;
   return tiene;
 }
 
-Esito Istr_Confronto_B(Plc& plc, Riga_PLC& riga) {
-  return Confronto<Operando_B>(plc, riga);
+[[gnu::always_inline]] inline Esito Istr_Confronto_B(Plc& plc, Riga_PLC& riga, Area area) {
+  return Confronto<Operando_B>(plc, riga, area);
 }
-Esito Istr_Confronto_W(Plc& plc, Riga_PLC& riga) {
-  return Confronto<Operando_W>(plc, riga);
+[[gnu::always_inline]] inline Esito Istr_Confronto_W(Plc& plc, Riga_PLC& riga, Area area) {
+  return Confronto<Operando_W>(plc, riga, area);
 }
-Esito Istr_Confronto_D(Plc& plc, Riga_PLC& riga) {
-  return Confronto<Operando_D>(plc, riga);
+[[gnu::always_inline]] inline Esito Istr_Confronto_D(Plc& plc, Riga_PLC& riga, Area area) {
+  return Confronto<Operando_D>(plc, riga, area);
 }
 
 }  // namespace
@@ -84,12 +84,12 @@ righe::Righe righe::Confronti() {
     const char* lettera;
     const char* nome;
     const Regola* regola;
-    Ramo ramo;
+    Rami rami;
   };
   static const std::array<Larghezza, 3> larghezze = {{
-      {"B", "byte", &regole::Confronto_B, Istr_Confronto_B},
-      {"W", "parole", &regole::Confronto_W, Istr_Confronto_W},
-      {"D", "doppie parole", &regole::Confronto_D, Istr_Confronto_D},
+      {"B", "byte", &regole::Confronto_B, Per_Area<Istr_Confronto_B>()},
+      {"W", "parole", &regole::Confronto_W, Per_Area<Istr_Confronto_W>()},
+      {"D", "doppie parole", &regole::Confronto_D, Per_Area<Istr_Confronto_D>()},
   }};
   static constexpr std::array<std::pair<const char*, Relazione>, 6> relazioni = {{
       {"=", Relazione::Uguale},
@@ -114,7 +114,7 @@ righe::Righe righe::Confronti() {
         accettate.push_back(
             {.Nome = std::string(sigla) + larghezza.lettera + segno,
              .Operandi = larghezza.regola,
-             .Esegui = larghezza.ramo,
+             .Esegui = larghezza.rami,
              .Aiuto = verbo + " il confronto tra " + larghezza.nome + ": OP1 " + segno + " OP2",
              .Unione = connessione,
              .Confronto = relazione});

@@ -203,12 +203,12 @@ void Decodifica(Riga_PLC& riga) {
   static const Istruzione sconosciuta;
   const Istruzione* trovata = Cerca_Istruzione(riga.Istr);
   const Istruzione& istruzione = trovata ? *trovata : sconosciuta;
-  riga.Esegui = istruzione.Esegui;
   riga.Unione = istruzione.Unione;
   riga.Confronto = istruzione.Confronto;
   riga.Nel_Programma = istruzione.Nel_Programma;
   riga.Codice1 = Cerca_Area(riga.Area1);
   riga.Codice2 = Cerca_Area(riga.Area2);
+  riga.Esegui = istruzione.Esegui[riga.Codice1];
 }
 
 }  // namespace tavorno

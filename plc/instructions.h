@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "plc/area.h"
 #include "plc/branch.h"
 #include "plc/operand_rules.h"
 
@@ -41,6 +44,32 @@ enum class Famiglia : std::uint8_t {
 };
 std::string_view Nome_Famiglia(Famiglia famiglia);  ///< in Italian, UTF-8
 
+/// The branches of an instruction by the area of its first operand. A branch alone is that of all.
+class Rami {
+ public:
+  using Tutti = std::array<Ramo, tabella_aree.size()>;
+
+  constexpr Rami(Ramo uno) { rami_.fill(uno); }
+  constexpr explicit Rami(const Tutti& rami) : rami_(rami) {}
+
+  constexpr Ramo operator[](Area area) const { return rami_[static_cast<std::size_t>(area)]; }
+  bool operator==(const Rami&) const = default;
+
+ private:
+  Tutti rami_{};
+};
+
+/// A branch for each area out of one function that is told it: a line knows its area as soon as it
+/// is filled, and what the function does for others is left out.
+template <Esito (&istr)(Plc&, Riga_PLC&, Area)>
+constexpr Rami Per_Area() {
+  return []<std::size_t... n>(std::index_sequence<n...>) {
+    return Rami(Rami::Tutti{
+        [](Plc& plc, Riga_PLC& riga) { return istr(plc, riga, static_cast<Area>(n)); }...});
+  }
+  (std::make_index_sequence<tabella_aree.size()>());
+}
+
 /// One mnemonic: the single source for the checker, the interpreter, the link of jumps and
 /// procedures, the editor's colouring and completion, and the manual page of the instruction set.
 struct Istruzione {
@@ -48,7 +77,7 @@ struct Istruzione {
   Famiglia Gruppo_Manuale{};
   Gruppo Trattamento{};
   const Regola* Operandi = nullptr;          ///< set exactly when `Trattamento` is `Con_Regola`
-  Ramo Esegui = Senza_Ramo;                  ///< `Ramo_Assente()` where the interpreter has none
+  Rami Esegui = Senza_Ramo;                  ///< `Ramo_Assente()` where the interpreter has none
   std::string Aiuto = {};                    ///< one line of Italian, UTF-8
   Connessione Unione = Connessione::LD;      ///< comparisons only
   Relazione Confronto = Relazione::Nessuna;  ///< comparisons only

@@ -109,7 +109,8 @@ TEST(InstructionTable, HasARuleExactlyWhereOperandsAreChecked) {
 TEST(InstructionTable, HasABranchForEveryAcceptedRowButThree) {
   Nomi senza_ramo;
   for (const Istruzione& istruzione : Tabella_Istruzioni()) {
-    EXPECT_TRUE(istruzione.Esegui != nullptr) << istruzione.Nome;
+    for (const Riga_Area& area : tabella_aree)
+      EXPECT_TRUE(istruzione.Esegui[area.Codice] != nullptr) << istruzione.Nome << area.Nome;
     if (istruzione.Trattamento != Gruppo::Non_Supportata && istruzione.Esegui == Ramo_Assente())
       senza_ramo.insert(istruzione.Nome);
   }
@@ -206,7 +207,7 @@ TEST(InstructionTable, LineIsDecodedFromItsTexts) {
   riga.Area1 = "VW";
   riga.Area2 = "K";
   Decodifica(riga);
-  EXPECT_EQ(riga.Esegui, Cerca_Istruzione("AW<=")->Esegui);
+  EXPECT_EQ(riga.Esegui, Cerca_Istruzione("AW<=")->Esegui[Area::VW]);
   EXPECT_EQ(riga.Unione, Connessione::A);
   EXPECT_EQ(riga.Confronto, Relazione::Minore_Uguale);
   EXPECT_EQ(riga.Codice1, Area::VW);
