@@ -22,7 +22,7 @@ struct Usi_Regola {
 };
 
 // Rules that are not named only read.
-const std::array<Usi_Regola, 18> usi_regole = {{
+const auto usi_regole = std::to_array<Usi_Regola>({
     {&regole::Uscita, {Uso::Scrittura, Uso::Lettura}},
     {&regole::Uscita_Immediata, {Uso::Scrittura, Uso::Lettura}},
     {&regole::Set, {Uso::Scrittura, Uso::Lettura}},
@@ -41,7 +41,7 @@ const std::array<Usi_Regola, 18> usi_regole = {{
     {&regole::Inc_B, {Uso::Entrambi, Uso::Lettura}},
     {&regole::Inc_W, {Uso::Entrambi, Uso::Lettura}},
     {&regole::Inc_D, {Uso::Entrambi, Uso::Lettura}},
-}};
+});
 
 std::optional<int> Numero(std::string_view testo) {
   if (testo.starts_with('+')) testo.remove_prefix(1);

@@ -150,8 +150,7 @@ struct Esecuzione {
       avuto.fine = avvisi.empty() ? Fine::Fatale : Fine::Incoerente;
     }
     if (atteso.destinazione)
-      avuto.destinazione = Valore_Cella(
-          plc, mnemonico, mnemonico.starts_with("INC") || mnemonico.starts_with("DEC") ? op1 : op2);
+      avuto.destinazione = Valore_Cella(plc, mnemonico, op2.area.empty() ? op1 : op2);
     if (atteso.pila) avuto.pila = {plc.Stak[0], plc.Stak[1]};
     if (atteso.flag) {
       const auto& bit = plc.Mem_SM[1].Bit;
@@ -213,8 +212,7 @@ class Combinations : public ::testing::Test, protected Banco_Righe {
  private:
   void Esegui(const std::string& mnemonico, const Combinazione& combinazione) {
     const auto& aree = combinazione.aree;
-    const bool con_bit =
-        Sta_In(mnemonico, "LD LDN LDI LDNI A AN AI ANI O ON OI ONI = =I S R SI RI LSCR");
+    const bool con_bit = mnemonico == "LSCR" || Vuole_Un_Bit(mnemonico);
     const bool timer = Sta_In(mnemonico, "TON TOF TONR");
     const bool contata = Sta_In(mnemonico, "S R SI RI");
     const std::vector<Operando_Scritto> nessuno = {{}};

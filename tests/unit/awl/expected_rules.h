@@ -307,6 +307,13 @@ inline const Regola_Attesa& Regola_Di(const std::string& mnemonico) {
   throw std::out_of_range(mnemonico);
 }
 
+/// Whether the first operand is one bit. Words without a rule want none.
+inline bool Vuole_Un_Bit(const std::string& mnemonico) {
+  return std::ranges::any_of(Regole_Attese(), [&](const Regola_Attesa& regola) {
+    return regola.prova_bit && std::ranges::count(Parole(regola.mnemonici), mnemonico) > 0;
+  });
+}
+
 inline std::vector<std::string> Mnemonici_Con_Regola() {
   std::vector<std::string> tutti;
   for (const Regola_Attesa& regola : Regole_Attese()) {
