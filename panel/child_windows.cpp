@@ -89,6 +89,16 @@ void Finestre::Prepara(QWidget& finestra, const char* pagina) {
                    [this, pagina] { Mostra_Aiuto(guida_.Dir_Help + QString::fromUtf8(pagina)); });
 }
 
+/// A window that only shows what it is made with. F1 opens `pagina`, a part of the panel's help.
+template <class Finestra, class... Cosa>
+void Finestre::Mostra_Altra(const char* pagina, Cosa&... cosa) {
+  Porta_Avanti(Trova(altre_[typeid(Finestra)], [&]() -> QWidget* {
+    auto* finestra = new Finestra(cosa...);
+    Prepara(*finestra, pagina);
+    return finestra;
+  }));
+}
+
 Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
     : pannello_(pannello),
       plc_(plc),
@@ -97,7 +107,8 @@ Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
       ordine_(pannello),
       menu_file_(Recenti, QCoreApplication::applicationDirPath(),
                  [this](const QString& file) { Apri_File(file); }) {
-  menu_file_.Metti_In(pannello_);
+  const Azioni_Pannello& azioni = pannello_.Azioni();
+  menu_file_.Metti_In(*azioni.mnuFile, *azioni.mnuFileEnd, *azioni.mnuFileOpen);
   Legami_Pannello legami;
   legami.Disponi_Finestre = [this] {
     if (tavolo_)
@@ -129,8 +140,14 @@ Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
   legami.Mostra_Analogici = [this] { Mostra_Analogici(); };
   legami.Mostra_Stati = [this] { Mostra_Stati(); };
   legami.Mostra_Scala = [this] { Mostra_Scala(); };
-  legami.Mostra_Osserva = [this] { Mostra_Osserva(); };
   legami.Mostra_Tempi = [this] { Mostra_Tempi(); };
+  legami.Altre = {
+      {{.Livello = 1,
+        .Nome = "mnuViewOsserva",
+        .Testo = "Finestra di &osservazione",
+        .Tasti = "Ctrl+T"},
+       [this] { Mostra_Osserva(); }},
+  };
   legami.Verifica = [this] {
     if (Verifica) Verifica();
   };
@@ -150,7 +167,7 @@ void Finestre::Ricorda_In(QSettings& dove) {
   Recenti.Ricorda_In(dove);
   ordine_.Posti.Ricorda_In(dove);
   const bool daltonici = dove.value(QLatin1String(chiave_daltonici)).toBool();
-  Azione(pannello_, QStringLiteral("mnuViewDaltonici")).setChecked(daltonici);
+  pannello_.Azioni().mnuViewDaltonici->setChecked(daltonici);
   colori::Per_Daltonici(daltonici);
 }
 
@@ -168,7 +185,10 @@ std::vector<QWidget*> Finestre::Tutte() const {
   std::vector<QWidget*> tutte;
   for (QWidget* finestra :
        std::initializer_list<QWidget*>{&pannello_, impianto_, editor_, impostazioni_, analogici_,
-                                       stati_, tempi_, osserva_, debug_, scala_, aiuto_}) {
+                                       stati_, tempi_, osserva_, scala_, aiuto_}) {
+    if (finestra != nullptr) tutte.push_back(finestra);
+  }
+  for (const auto& [tipo, finestra] : altre_) {
     if (finestra != nullptr) tutte.push_back(finestra);
   }
   return tutte;
@@ -203,7 +223,8 @@ FrmMain& Finestre::Editor() {
     legami.Mostra_Aiuto = [this](const QString& pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
     legami.File_Usato = [this](const QString& file) { Recenti.Usato(file); };
     auto* editor = new FrmMain(progetto_, plc_, std::move(legami));
-    menu_file_.Metti_In(*editor);
+    const Azioni_Editor& azioni = editor->Azioni();
+    menu_file_.Metti_In(*azioni.mnuFile, *azioni.mnuFileEnd, *azioni.mnuFileOpen);
     editor->Usa_Simboli(Simboli_Di(esercizio_));
     editor->addActions(pannello_.Comandi_Di_Testo());
     for (QWidget* parte : editor->findChildren<QWidget*>()) {
@@ -397,11 +418,7 @@ void Finestre::Apri_Impianto(int indice) {
 }
 
 void Finestre::Mostra_Debug() {
-  Porta_Avanti(Trova(debug_, [this] {
-    auto* finestra = new FrmDebug(progetto_);
-    Prepara(*finestra, "Index.htm#editor");
-    return finestra;
-  }));
+  Mostra_Altra<FrmDebug>("Index.htm#editor", progetto_);
 }
 
 /// The ladder names its operands as the plant does.

@@ -4,8 +4,10 @@
 #include <QObject>
 #include <QPointer>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
+#include <typeindex>
 #include <vector>
 
 #include "awl/project.h"
@@ -27,7 +29,6 @@ namespace tavorno {
 
 class Finestra_Impianto;
 struct Copia_Progetto;
-class FrmDebug;
 class FrmMain;
 class FrmOsserva;
 class FrmScala;
@@ -107,6 +108,8 @@ class Finestre {
  private:
   template <class Finestra, class Crea>
   Finestra& Trova(QPointer<Finestra>& finestra, Crea crea);
+  template <class Finestra, class... Cosa>
+  void Mostra_Altra(const char* pagina, Cosa&... cosa);
   void Prepara(QWidget& finestra, const char* pagina);
   FrmMain& Editor();
   FrmStatiL& Stati(bool col_pannello = true);
@@ -138,9 +141,9 @@ class Finestre {
   QPointer<FrmStatiL> stati_;
   QPointer<FrmTempi> tempi_;
   QPointer<FrmOsserva> osserva_;
-  QPointer<FrmDebug> debug_;
   QPointer<FrmScala> scala_;
-  const Esercizio* esercizio_ = nullptr;  // that is open
+  std::map<std::type_index, QPointer<QWidget>> altre_;  // that nobody here needs to know
+  const Esercizio* esercizio_ = nullptr;                // that is open
   Grandezza_Testo testo_;
   QSettings* ricordi_ = nullptr;
   std::unique_ptr<Tavolo> tavolo_;

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel/file_menus.h"
 
+#include <QAction>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMainWindow>
 #include <QMenu>
 #include <QRegularExpression>
 #include <utility>
 
-#include "widgets/command_tables.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
 
@@ -72,10 +71,8 @@ Menu_File::Menu_File(const File_Recenti& recenti, QString cartella_programma,
                      std::function<void(const QString& file)> apri)
     : recenti_(recenti), cartella_(std::move(cartella_programma)), apri_(std::move(apri)) {}
 
-void Menu_File::Metti_In(QMainWindow& finestra) const {
-  QAction& fine = Azione(finestra, QStringLiteral("mnuFileEnd"));
-  const QAction* apri = &Azione(finestra, QStringLiteral("mnuFileOpen"));
-  auto* file = Azione(finestra, QStringLiteral("mnuFile")).menu();
+void Menu_File::Metti_In(const QAction& titolo, QAction& fine, const QAction& apri) const {
+  QMenu* file = titolo.menu();
   const auto sotto = [&](const char* nome, const QString& testo, const QString& aiuto) {
     auto* menu = new QMenu(testo, file);
     menu->menuAction()->setObjectName(QLatin1String(nome));
@@ -89,8 +86,8 @@ void Menu_File::Metti_In(QMainWindow& finestra) const {
   QMenu* recenti = sotto("mnuFileRecenti", QStringLiteral("File &recenti"),
                          QStringLiteral("Apre uno dei progetti usati per ultimi"));
   file->insertSeparator(&fine);
-  connect(file, &QMenu::aboutToShow, esempi, [esempi, recenti, apri] {
-    for (QMenu* menu : {esempi, recenti}) menu->setEnabled(apri->isEnabled());
+  connect(file, &QMenu::aboutToShow, esempi, [esempi, recenti, &apri] {
+    for (QMenu* menu : {esempi, recenti}) menu->setEnabled(apri.isEnabled());
   });
   connect(esempi, &QMenu::aboutToShow, this, [this, esempi] { Riempi_Esempi(*esempi); });
   connect(recenti, &QMenu::aboutToShow, this, [this, recenti] { Riempi_Recenti(*recenti); });

@@ -8,7 +8,7 @@
 
 #include "panel/recent_files.h"
 
-class QMainWindow;
+class QAction;
 class QMenu;
 
 namespace tavorno {
@@ -31,8 +31,8 @@ class Menu_File : public QObject {
   Menu_File(const File_Recenti& recenti, QString cartella_programma,
             std::function<void(const QString& file)> apri);
 
-  /// Before "Termina", which the window has; chosen as long as its "mnuFileOpen" can be.
-  void Metti_In(QMainWindow& finestra) const;
+  /// Into the menu of `titolo`, before `fine`; chosen as long as `apri` can be.
+  void Metti_In(const QAction& titolo, QAction& fine, const QAction& apri) const;
 
  private:
   void Riempi_Esempi(QMenu& menu) const;

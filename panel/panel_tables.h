@@ -13,9 +13,8 @@ struct Azioni_Pannello {
   QAction *mnuFile, *mnuFileNew, *mnuFileOpen, *mnuFileEdit, *mnuFileEnd;
   QAction *mnuPlc, *mnuPlcRun, *mnuPlcStop, *mnuPlcStep, *mnuPlcCont, *mnuPLCCiclo, *mnuPLCPiu;
   QAction *mnuView, *mnuViewTB, *mnuViewSTB, *mnuViewSet, *mnuViewKOP, *mnuViewIO, *mnuViewStati,
-      *mnuViewTempi, *mnuViewOsserva, *mnuViewVerifica, *mnuViewDisponi, *mnuViewTavolo,
-      *mnuViewFinestre, *mnuViewPiu, *mnuViewMeno, *mnuViewNormale, *mnuViewProiettore,
-      *mnuViewDaltonici;
+      *mnuViewTempi, *mnuViewVerifica, *mnuViewDisponi, *mnuViewTavolo, *mnuViewFinestre,
+      *mnuViewPiu, *mnuViewMeno, *mnuViewNormale, *mnuViewProiettore, *mnuViewDaltonici;
   QAction *mnuProgetti, *MnuHLP, *mnuHlpGen, *mnuHlpSet, *mnuInfAb;
   std::vector<QAction*> mnuPrj;  ///< the exercises, by index
 
@@ -27,7 +26,8 @@ struct Azioni_Pannello {
 };
 
 /// Rows that fill `azioni` when the menus and the bar are made of them. Without the entries of
-/// `mnuProgetti`, which follow from the table of exercises.
+/// `mnuProgetti`, which follow from the table of exercises, and of the windows that have a row in
+/// child_windows.cpp.
 std::vector<Voce_Menu> Menu_Pannello(Azioni_Pannello& azioni);
 std::vector<Tasto_Barra> Barra_Pannello(Azioni_Pannello::Tasti& tasti);
 

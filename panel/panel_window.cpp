@@ -73,7 +73,6 @@ void FrmPLC::Collega_Finestre(Legami_Pannello legami) {
       {a_.mnuViewIO, legami_.Mostra_Analogici, bool(legami_.Mostra_Analogici)},
       {a_.mnuViewStati, legami_.Mostra_Stati, bool(legami_.Mostra_Stati)},
       {a_.mnuViewTempi, legami_.Mostra_Tempi, bool(legami_.Mostra_Tempi)},
-      {a_.mnuViewOsserva, legami_.Mostra_Osserva, bool(legami_.Mostra_Osserva)},
       {a_.mnuViewVerifica, legami_.Verifica, bool(legami_.Verifica)},
       {a_.mnuViewDisponi, legami_.Disponi_Finestre, bool(legami_.Disponi_Finestre)},
       {a_.mnuViewTavolo, legami_.Mostra_Tavolo, bool(legami_.Mostra_Tavolo)},
@@ -91,6 +90,8 @@ void FrmPLC::Collega_Finestre(Legami_Pannello legami) {
   for (const auto& riga : voci) {
     if (riga.esiste) Al_Comando(riga.voce, riga.apri);
   }
+  for (const Voce_Finestra& riga : legami_.Altre)
+    Al_Comando(&Aggiungi_Voce(*a_.mnuView->menu(), riga.Voce, a_.mnuViewVerifica), riga.Apri);
 }
 
 // ---- menus --------------------------------------------------------------------------------------

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "awl/project.h"
 #include "awl/ui/start_mode.h"
@@ -15,8 +16,15 @@
 #include "plants/cover_mode.h"
 #include "plc/plc.h"
 #include "trace/line_state.h"
+#include "widgets/command_tables.h"
 
 namespace tavorno {
+
+/// A window with its entry in the menu "Visualizza".
+struct Voce_Finestra {
+  Voce_Menu Voce;
+  std::function<void()> Apri;
+};
 
 /// How the panel reaches the other windows. A member that is empty disables its command.
 struct Legami_Pannello {
@@ -26,7 +34,7 @@ struct Legami_Pannello {
   std::function<void()> Mostra_Stati;
   std::function<void()> Mostra_Scala;
   std::function<void()> Mostra_Tempi;
-  std::function<void()> Mostra_Osserva;
+  std::vector<Voce_Finestra> Altre;  ///< more windows, in front of the entry for `Verifica`
   std::function<void()> Verifica;
   std::function<void()> Mostra_Info;
   std::function<void(int indice)> Mostra_Impianto;  ///< an exercise of the table
@@ -68,6 +76,7 @@ class FrmPLC : public QMainWindow {
   void PLC_Sportello(Modo_Sportello modo);
 
   Controlli_Pannello& Controlli() { return c_; }
+  const Azioni_Pannello& Azioni() const { return a_; }
 
   /// How long the scans take, asked four times a second at most; while it is empty nothing is told.
   std::function<Tempo_Scansioni()> Durate;

@@ -96,11 +96,10 @@ Tavolo::Tavolo(QMainWindow& pannello, Finestra_Impianto* impianto, const Viste_T
 
 Tavolo::~Tavolo() {
   finestra_->removeEventFilter(this);
-  if (impianto_)
-    if (auto* chkIO = impianto_->findChild<QCheckBox*>(QStringLiteral("chkIO"))) {
-      disconnect(chkIO, nullptr, this, nullptr);
-      chkIO->setChecked(tabella_spuntata_);
-    }
+  if (impianto_) {
+    disconnect(&impianto_->chkIO(), nullptr, this, nullptr);
+    impianto_->chkIO().setChecked(tabella_spuntata_);
+  }
   // The panel is whole before it is seen, and is so before the windows in front of it.
   Rendi_Viste(false);
   if (finestra_ == &pannello_) {
@@ -134,9 +133,8 @@ void Tavolo::Prendi_Impianto(Finestra_Impianto& impianto) {
   finestra_->setObjectName(QStringLiteral("frmTavolo"));
   finestra_->setWindowTitle(impianto.windowTitle());
   finestra_->setWindowIcon(impianto.windowIcon());
-  auto* chkIO = impianto.findChild<QCheckBox*>(QStringLiteral("chkIO"));
-  tabella_spuntata_ = chkIO->isChecked();
-  connect(chkIO, &QCheckBox::toggled, this, [this](bool spuntata) {
+  tabella_spuntata_ = impianto.chkIO().isChecked();
+  connect(&impianto.chkIO(), &QCheckBox::toggled, this, [this](bool spuntata) {
     QDockWidget* riquadro = Riquadro(Vista_Tavolo::Tabella_IO);
     if (riquadro == nullptr) return;
     riquadro->setVisible(spuntata);
@@ -162,9 +160,8 @@ void Tavolo::Prendi_Barre() {
 }
 
 void Tavolo::Rendi_Barre() {
-  for (const QPointer<QWidget>& uno : barre_) {
-    auto* barra = qobject_cast<QToolBar*>(uno);
-    if (barra == nullptr) continue;
+  for (const QPointer<QToolBar>& barra : barre_) {
+    if (barra.isNull()) continue;
     const bool nascosta = barra->isHidden();
     const Qt::ToolBarArea area = finestra_->toolBarArea(barra);
     Lascia_Il_Fuoco(*barra);
@@ -212,7 +209,7 @@ void Tavolo::Disponi() {
     prima = riquadro;
   }
   if (davanti != nullptr) davanti->raise();
-  if (impianto_) impianto_->findChild<QCheckBox*>(QStringLiteral("chkIO"))->setChecked(true);
+  if (impianto_) impianto_->chkIO().setChecked(true);
   if (davanti != nullptr) davanti->raise();
   Misura();
 }

@@ -16,6 +16,7 @@
 #include "panel/loan.h"
 
 class QDockWidget;
+class QToolBar;
 
 namespace tavorno {
 
@@ -88,7 +89,7 @@ class Tavolo : public QObject {
   std::optional<Prestito> prestito_impianto_;
   std::vector<Prestito> prestiti_;
   std::array<QPointer<QDockWidget>, viste_del_tavolo> riquadri_;
-  QList<QPointer<QWidget>> barre_;
+  QList<QPointer<QToolBar>> barre_;
   QList<QKeySequence> tasti_;
   bool tabella_spuntata_ = false;  // the plant's tick before
   bool a_mano_ = false;            // the user has moved a border

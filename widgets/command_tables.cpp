@@ -45,10 +45,17 @@ void Crea_Menu(QMainWindow& finestra, std::span<const Voce_Menu> voci) {
     } else if (*voce.Nome == '\0') {
       sopra->addSeparator();
     } else {
-      Prepara(*sopra->addAction(testo), voce);
-      sopra->setToolTipsVisible(sopra->toolTipsVisible() || *voce.Aiuto != '\0');
+      Aggiungi_Voce(*sopra, voce);
     }
   }
+}
+
+QAction& Aggiungi_Voce(QMenu& menu, const Voce_Menu& voce, QAction* davanti_a) {
+  auto* azione = new QAction(QString::fromUtf8(voce.Testo), &menu);
+  menu.insertAction(davanti_a, azione);
+  Prepara(*azione, voce);
+  menu.setToolTipsVisible(menu.toolTipsVisible() || *voce.Aiuto != '\0');
+  return *azione;
 }
 
 QToolBar* Crea_Barra(QMainWindow& finestra, const char* nome, std::span<const Tasto_Barra> tasti) {

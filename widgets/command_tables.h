@@ -7,6 +7,7 @@
 
 class QAction;
 class QMainWindow;
+class QMenu;
 class QObject;
 class QToolBar;
 class QWidget;
@@ -40,6 +41,9 @@ struct Tasto_Barra {
 };
 
 void Crea_Menu(QMainWindow& finestra, std::span<const Voce_Menu> voci);
+
+/// One more entry of a menu, in front of another of its entries or, without one, at the end.
+QAction& Aggiungi_Voce(QMenu& menu, const Voce_Menu& voce, QAction* davanti_a = nullptr);
 
 /// A fixed bar at the top, with icons of one size.
 QToolBar* Crea_Barra(QMainWindow& finestra, const char* nome, std::span<const Tasto_Barra> tasti);

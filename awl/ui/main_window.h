@@ -63,6 +63,8 @@ class FrmMain : public QMainWindow {
   /// What the open plant calls its operands; empty without a plant.
   void Usa_Simboli(const Simboli& simboli);
 
+  const Azioni_Editor& Azioni() const { return a_; }
+
   // For who shows the project in another way.
   /// Where the caret stands, of the text in front; none on the listing.
   std::optional<Posto_Riga> Posto_Cursore() const;

@@ -8,7 +8,7 @@ namespace tavorno {
 
 std::vector<Voce_Menu> Menu_Editor(Azioni_Editor& azioni) {
   std::vector<Voce_Menu> voci = {
-      {.Livello = 0, .Nome = "mnuFile", .Testo = "&File"},
+      {.Livello = 0, .Nome = "mnuFile", .Testo = "&File", .Dove = &azioni.mnuFile},
       {.Livello = 1,
        .Nome = "mnuFileNew",
        .Testo = "&Nuovo File .AWL",

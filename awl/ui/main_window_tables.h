@@ -12,7 +12,8 @@ namespace tavorno {
 
 /// The commands of the editor, by their fixed names.
 struct Azioni_Editor {
-  QAction *mnuFileNew, *mnuFileOpen, *mnuFileSave, *mnuFileTxtImp, *mnuFileTxtExp, *mnufiltxtT;
+  QAction *mnuFile, *mnuFileNew, *mnuFileOpen, *mnuFileSave, *mnuFileTxtImp, *mnuFileTxtExp,
+      *mnufiltxtT;
   QAction *mnuFileStp, *mnuFileEnd, *mnuPlcCompile, *mnuPlcCarica, *mnuViewTB, *mnuViewSTB,
       *mnuViewKOP;
   std::array<QAction*, 3> mnuViewC;

@@ -30,35 +30,93 @@ namespace {
 constexpr int periodo = 40;  // ms: what the eye can follow
 constexpr double passo_zoom = 1.2;
 
-const Voce_Menu menu[] = {
-    {.Livello = 0, .Nome = "mnuScFile", .Testo = "&File"},
-    {.Livello = 1, .Nome = "mnuScStampa", .Testo = "Sta&mpa…", .Tasti = "Ctrl+P"},
-    {.Livello = 1, .Nome = "mnuScPdf", .Testo = "Salva come &PDF…"},
-    {.Livello = 1, .Nome = "mnuScSvg", .Testo = "Salva come &SVG…"},
-    {.Livello = 1, .Nome = "mnuScPng", .Testo = "Salva come P&NG…"},
-    {.Livello = 1, .Nome = "", .Testo = ""},
-    {.Livello = 1, .Nome = "mnuScChiudi", .Testo = "&Chiudi", .Tasti = "Ctrl+W"},
-    {.Livello = 0, .Nome = "mnuScModifica", .Testo = "&Modifica"},
-    {.Livello = 1, .Nome = "mnuScAnnulla", .Testo = "&Annulla", .Tasti = "Ctrl+Z"},
-    {.Livello = 1, .Nome = "mnuScRipeti", .Testo = "&Ripeti", .Tasti = "Ctrl+Y"},
-    {.Livello = 1, .Nome = "", .Testo = ""},
-    {.Livello = 1, .Nome = "mnuScCambia", .Testo = "&Cambia il simbolo", .Tasti = "F2"},
-    {.Livello = 1, .Nome = "mnuScElimina", .Testo = "&Elimina il simbolo", .Tasti = "Del"},
-    {.Livello = 1, .Nome = "mnuScSimboli", .Testo = "&Inserisci"},
-    {.Livello = 1, .Nome = "", .Testo = ""},
-    {.Livello = 1, .Nome = "mnuScPiolo", .Testo = "&Nuovo circuito", .Tasti = "Ins"},
-    {.Livello = 1, .Nome = "mnuScViaPiolo", .Testo = "E&limina il circuito", .Tasti = "Ctrl+Del"},
-    {.Livello = 1, .Nome = "mnuScRete", .Testo = "Nuovo &segmento", .Tasti = "Ctrl+Ins"},
-    {.Livello = 0, .Nome = "mnuScVista", .Testo = "&Visualizza"},
-    {.Livello = 1, .Nome = "mnuScPiu", .Testo = "&Ingrandisci", .Tasti = "Ctrl++"},
-    {.Livello = 1, .Nome = "mnuScMeno", .Testo = "&Riduci", .Tasti = "Ctrl+-"},
-    {.Livello = 1, .Nome = "mnuScReale", .Testo = "Grandezza &normale", .Tasti = "Ctrl+0"},
-    {.Livello = 1, .Nome = "mnuScAdatta", .Testo = "&Adatta alla larghezza", .Tasti = "Ctrl+9"},
-    {.Livello = 1, .Nome = "", .Testo = ""},
-    {.Livello = 1, .Nome = "mnuScTesto", .Testo = "&Vai al testo"},
-    {.Livello = 0, .Nome = "mnuScAiuto", .Testo = "&Help"},
-    {.Livello = 1, .Nome = "mnuScGuida", .Testo = "&Guida allo schema", .Tasti = "F1"},
-};
+std::vector<Voce_Menu> Menu(Azioni_Scala& a) {
+  return {
+      {.Livello = 0, .Nome = "mnuScFile", .Testo = "&File"},
+      {.Livello = 1,
+       .Nome = "mnuScStampa",
+       .Testo = "Sta&mpa…",
+       .Tasti = "Ctrl+P",
+       .Dove = &a.mnuScStampa},
+      {.Livello = 1, .Nome = "mnuScPdf", .Testo = "Salva come &PDF…", .Dove = &a.mnuScPdf},
+      {.Livello = 1, .Nome = "mnuScSvg", .Testo = "Salva come &SVG…", .Dove = &a.mnuScSvg},
+      {.Livello = 1, .Nome = "mnuScPng", .Testo = "Salva come P&NG…", .Dove = &a.mnuScPng},
+      {.Livello = 1, .Nome = "", .Testo = ""},
+      {.Livello = 1,
+       .Nome = "mnuScChiudi",
+       .Testo = "&Chiudi",
+       .Tasti = "Ctrl+W",
+       .Dove = &a.mnuScChiudi},
+      {.Livello = 0, .Nome = "mnuScModifica", .Testo = "&Modifica"},
+      {.Livello = 1,
+       .Nome = "mnuScAnnulla",
+       .Testo = "&Annulla",
+       .Tasti = "Ctrl+Z",
+       .Dove = &a.mnuScAnnulla},
+      {.Livello = 1,
+       .Nome = "mnuScRipeti",
+       .Testo = "&Ripeti",
+       .Tasti = "Ctrl+Y",
+       .Dove = &a.mnuScRipeti},
+      {.Livello = 1, .Nome = "", .Testo = ""},
+      {.Livello = 1,
+       .Nome = "mnuScCambia",
+       .Testo = "&Cambia il simbolo",
+       .Tasti = "F2",
+       .Dove = &a.mnuScCambia},
+      {.Livello = 1,
+       .Nome = "mnuScElimina",
+       .Testo = "&Elimina il simbolo",
+       .Tasti = "Del",
+       .Dove = &a.mnuScElimina},
+      {.Livello = 1, .Nome = "mnuScSimboli", .Testo = "&Inserisci", .Dove = &a.mnuScSimboli},
+      {.Livello = 1, .Nome = "", .Testo = ""},
+      {.Livello = 1,
+       .Nome = "mnuScPiolo",
+       .Testo = "&Nuovo circuito",
+       .Tasti = "Ins",
+       .Dove = &a.mnuScPiolo},
+      {.Livello = 1,
+       .Nome = "mnuScViaPiolo",
+       .Testo = "E&limina il circuito",
+       .Tasti = "Ctrl+Del",
+       .Dove = &a.mnuScViaPiolo},
+      {.Livello = 1,
+       .Nome = "mnuScRete",
+       .Testo = "Nuovo &segmento",
+       .Tasti = "Ctrl+Ins",
+       .Dove = &a.mnuScRete},
+      {.Livello = 0, .Nome = "mnuScVista", .Testo = "&Visualizza"},
+      {.Livello = 1,
+       .Nome = "mnuScPiu",
+       .Testo = "&Ingrandisci",
+       .Tasti = "Ctrl++",
+       .Dove = &a.mnuScPiu},
+      {.Livello = 1,
+       .Nome = "mnuScMeno",
+       .Testo = "&Riduci",
+       .Tasti = "Ctrl+-",
+       .Dove = &a.mnuScMeno},
+      {.Livello = 1,
+       .Nome = "mnuScReale",
+       .Testo = "Grandezza &normale",
+       .Tasti = "Ctrl+0",
+       .Dove = &a.mnuScReale},
+      {.Livello = 1,
+       .Nome = "mnuScAdatta",
+       .Testo = "&Adatta alla larghezza",
+       .Tasti = "Ctrl+9",
+       .Dove = &a.mnuScAdatta},
+      {.Livello = 1, .Nome = "", .Testo = ""},
+      {.Livello = 1, .Nome = "mnuScTesto", .Testo = "&Vai al testo", .Dove = &a.mnuScTesto},
+      {.Livello = 0, .Nome = "mnuScAiuto", .Testo = "&Help"},
+      {.Livello = 1,
+       .Nome = "mnuScGuida",
+       .Testo = "&Guida allo schema",
+       .Tasti = "F1",
+       .Dove = &a.mnuScGuida},
+  };
+}
 
 QString Filtro(const QString& tipo) {
   if (tipo == u"pdf") return QStringLiteral("Documenti PDF (*.pdf *.PDF)");
@@ -89,7 +147,7 @@ FrmScala::FrmScala(const Plc& plc, const Stato_Progetto& progetto, Legami_Scala 
     servizi_.Avvisa = [this](const QString& testo) {
       QMessageBox::warning(this, QStringLiteral("Errore!"), testo);
     };
-  Crea_Menu(*this, menu);
+  Crea_Menu(*this, Menu(a_));
   Crea_Barre();
   Crea_Comandi();
   vista_->Scelta_Cambiata = [this] { Racconta(); };
@@ -130,7 +188,7 @@ void FrmScala::Crea_Barre() {
   barra->setContextMenuPolicy(Qt::PreventContextMenu);
   addToolBar(barra);
   auto* simboli = new QMenu(this);
-  Azione(*this, QStringLiteral("mnuScSimboli")).setMenu(simboli);
+  a_.mnuScSimboli->setMenu(simboli);
   for (const Simbolo_Barra& simbolo : Simboli_Barra()) {
     const QString istr = QString::fromUtf8(simbolo.Istr);
     auto* voce = Chiama(QString::fromUtf8(simbolo.Nome),
@@ -154,33 +212,32 @@ void FrmScala::Crea_Barre() {
 }
 
 void FrmScala::Crea_Comandi() {
-  const auto al = [this](const char* nome, auto comando) {
-    Collega(*this, QString::fromUtf8(nome), comando);
+  const auto al = [this](QAction* voce, auto comando) {
+    connect(voce, &QAction::triggered, this, comando);
   };
-  al("mnuScStampa", [this] { Stampa(); });
-  for (const char* tipo : {"Pdf", "Svg", "Png"})
-    al((std::string("mnuSc") + tipo).c_str(),
-       [this, tipo] { Salva(QString::fromUtf8(tipo).toLower()); });
-  al("mnuScChiudi", [this] { close(); });
-  al("mnuScAnnulla", [this] { vista_->Annulla(false); });
-  al("mnuScRipeti", [this] { vista_->Annulla(true); });
-  al("mnuScCambia", [this] { vista_->Cambia_Scelto(); });
-  al("mnuScElimina", [this] { vista_->Elimina(); });
-  al("mnuScPiolo", [this] { vista_->Nuovo_Piolo(); });
-  al("mnuScViaPiolo", [this] { vista_->Elimina_Piolo(); });
-  al("mnuScRete", [this] { vista_->Nuova_Rete(); });
-  al("mnuScPiu", [this] { vista_->Ingrandisci(vista_->Ingrandimento() * passo_zoom); });
-  al("mnuScMeno", [this] { vista_->Ingrandisci(vista_->Ingrandimento() / passo_zoom); });
-  al("mnuScReale", [this] { vista_->Ingrandisci(1); });
-  al("mnuScAdatta", [this] { vista_->Adatta(); });
-  al("mnuScTesto", [this] { vista_->Vai_Al_Testo(); });
-  al("mnuScGuida", [this] { servizi_.Mostra_Aiuto(); });
-  Azione(*this, QStringLiteral("mnuScGuida")).setEnabled(bool(servizi_.Mostra_Aiuto));
-  Azione(*this, QStringLiteral("mnuScStampa")).setEnabled(bool(servizi_.Scegli_Stampante));
+  al(a_.mnuScStampa, [this] { Stampa(); });
+  al(a_.mnuScPdf, [this] { Salva(QStringLiteral("pdf")); });
+  al(a_.mnuScSvg, [this] { Salva(QStringLiteral("svg")); });
+  al(a_.mnuScPng, [this] { Salva(QStringLiteral("png")); });
+  al(a_.mnuScChiudi, [this] { close(); });
+  al(a_.mnuScAnnulla, [this] { vista_->Annulla(false); });
+  al(a_.mnuScRipeti, [this] { vista_->Annulla(true); });
+  al(a_.mnuScCambia, [this] { vista_->Cambia_Scelto(); });
+  al(a_.mnuScElimina, [this] { vista_->Elimina(); });
+  al(a_.mnuScPiolo, [this] { vista_->Nuovo_Piolo(); });
+  al(a_.mnuScViaPiolo, [this] { vista_->Elimina_Piolo(); });
+  al(a_.mnuScRete, [this] { vista_->Nuova_Rete(); });
+  al(a_.mnuScPiu, [this] { vista_->Ingrandisci(vista_->Ingrandimento() * passo_zoom); });
+  al(a_.mnuScMeno, [this] { vista_->Ingrandisci(vista_->Ingrandimento() / passo_zoom); });
+  al(a_.mnuScReale, [this] { vista_->Ingrandisci(1); });
+  al(a_.mnuScAdatta, [this] { vista_->Adatta(); });
+  al(a_.mnuScTesto, [this] { vista_->Vai_Al_Testo(); });
+  al(a_.mnuScGuida, [this] { servizi_.Mostra_Aiuto(); });
+  a_.mnuScGuida->setEnabled(bool(servizi_.Mostra_Aiuto));
+  a_.mnuScStampa->setEnabled(bool(servizi_.Scegli_Stampante));
   // What the right button offers at a symbol.
-  for (const char* nome : {"mnuScCambia", "mnuScElimina", "mnuScSimboli", "mnuScPiolo",
-                           "mnuScViaPiolo", "mnuScRete", "mnuScTesto"})
-    vista_->addAction(&Azione(*this, QString::fromUtf8(nome)));
+  vista_->addActions({a_.mnuScCambia, a_.mnuScElimina, a_.mnuScSimboli, a_.mnuScPiolo,
+                      a_.mnuScViaPiolo, a_.mnuScRete, a_.mnuScTesto});
 }
 
 QString FrmScala::Titolo_Stampa() const {

@@ -24,6 +24,14 @@ struct Servizi_Scala {
   std::function<void(const QString& testo)> Avvisa;  ///< a failure; by default a message box
 };
 
+/// The commands of the ladder's window, by their fixed names.
+struct Azioni_Scala {
+  QAction *mnuScStampa, *mnuScPdf, *mnuScSvg, *mnuScPng, *mnuScChiudi;
+  QAction *mnuScAnnulla, *mnuScRipeti, *mnuScCambia, *mnuScElimina, *mnuScSimboli, *mnuScPiolo,
+      *mnuScViaPiolo, *mnuScRete;
+  QAction *mnuScPiu, *mnuScMeno, *mnuScReale, *mnuScAdatta, *mnuScTesto, *mnuScGuida;
+};
+
 /// The ladder of the project in a window of its own: the view with its commands.
 class FrmScala : public QMainWindow {
  public:
@@ -46,6 +54,7 @@ class FrmScala : public QMainWindow {
   Nome_Simbolico nome_;
   Servizi_Scala servizi_;
   Vista_Scala* vista_;
+  Azioni_Scala a_{};
   QLabel* etScelto_;
   QLabel* etZoom_;
   QTimer* timScala_;

@@ -7,7 +7,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
-#include <QSlider>
 #include <QTabWidget>
 #include <algorithm>
 #include <initializer_list>
@@ -106,12 +105,13 @@ Collegamento* Finestra_Impianto::Riapri() {
   return collegamento_.get();
 }
 
+QCheckBox& Finestra_Impianto::chkIO() const {
+  return *comandi_->chkIO;
+}
+
 void Finestra_Impianto::Specchia() {
   comandi_->chkSim->setChecked(collegamento_->chkSim());
-  for (std::size_t n = 0; n < collegamento_->Tabella().Cursori.size(); ++n) {
-    auto* cursore = findChild<QSlider*>(Q(collegamento_->Tabella().Cursori[n].Nome));
-    if (cursore != nullptr) cursore->setValue(collegamento_->Valore(n));
-  }
+  impostazioni_->Specchia();
   Aggiorna();
   quadro_->update();
 }
@@ -173,7 +173,8 @@ void Finestra_Impianto::Collega_Comandi() {
 QTabWidget* Finestra_Impianto::Crea_Schede() {
   auto* schede = Chiama(QStringLiteral("SSTab1"), new QTabWidget);
   schede->addTab(tabella_, Q(Scheda_1));
-  schede->addTab(new Pagina_Impostazioni(*collegamento_), Q(collegamento_->Tabella().Scheda_2));
+  impostazioni_ = new Pagina_Impostazioni(*collegamento_);
+  schede->addTab(impostazioni_, Q(collegamento_->Tabella().Scheda_2));
   schede->addTab(guasti_, QStringLiteral("Guasti"));
   return schede;
 }

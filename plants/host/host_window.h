@@ -9,11 +9,13 @@
 #include "plants/host/io_history.h"
 #include "plants/link.h"
 
+class QCheckBox;
 class QGridLayout;
 class QTabWidget;
 
 namespace tavorno {
 
+class Pagina_Impostazioni;
 class Pannello_Guasti;
 class Quadro;
 class Riga_Comandi;
@@ -42,6 +44,7 @@ class Finestra_Impianto : public QWidget {
   Quadro& Disegno() { return *quadro_; }
   Collegamento& Fili() { return *collegamento_; }
   QTabWidget& Schede() { return *schede_; }  ///< table, settings and faults
+  QCheckBox& chkIO() const;                  ///< whether the table shows
   /// Makes plant and picture anew, which have not spoken yet, and hands out their wires.
   Collegamento* Riapri();
   /// Shows ticks and sliders as the wires have them, after another time was put back.
@@ -82,6 +85,7 @@ class Finestra_Impianto : public QWidget {
   Tabella_IO* tabella_;
   Pannello_Guasti* guasti_;
   Riga_Comandi* comandi_;
+  Pagina_Impostazioni* impostazioni_ = nullptr;
   QGridLayout* posti_;
   QTabWidget* schede_ = nullptr;
   QTimer sguardo_;

@@ -68,6 +68,7 @@ QGroupBox* Pagina_Impostazioni::Crea_Cursore(std::size_t numero) {
   auto* cornice =
       Chiama(QStringLiteral("Frame%1").arg(numero + 1), new QGroupBox(Q(cursore.Cornice)));
   auto* slider = Chiama(Q(cursore.Nome), new QSlider(Qt::Horizontal));
+  cursori_.push_back(slider);
   slider->setAccessibleName(Q(cursore.Cornice));
   slider->setRange(cursore.Minimo, cursore.Massimo);
   slider->setSingleStep(cursore.Passo_Piccolo);
@@ -91,6 +92,10 @@ QGroupBox* Pagina_Impostazioni::Crea_Cursore(std::size_t numero) {
   posti->addWidget(new Numeri(*slider), 1, 0);
   posti->addWidget(valore, 0, 1);
   return cornice;
+}
+
+void Pagina_Impostazioni::Specchia() {
+  for (std::size_t n = 0; n < cursori_.size(); ++n) cursori_[n]->setValue(fili_.Valore(n));
 }
 
 void Pagina_Impostazioni::resizeEvent(QResizeEvent* evento) {

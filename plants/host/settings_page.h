@@ -2,11 +2,13 @@
 #pragma once
 
 #include <QScrollArea>
+#include <vector>
 
 #include "plants/link.h"
 
 class QBoxLayout;
 class QGroupBox;
+class QSlider;
 
 namespace tavorno {
 
@@ -17,6 +19,9 @@ class Pagina_Impostazioni : public QScrollArea {
   /// The link must outlive it.
   explicit Pagina_Impostazioni(Collegamento& fili, QWidget* sopra = nullptr);
 
+  /// Shows the sliders as the wires have them.
+  void Specchia();
+
  protected:
   void resizeEvent(QResizeEvent* evento) override;
 
@@ -25,6 +30,7 @@ class Pagina_Impostazioni : public QScrollArea {
 
   Collegamento& fili_;
   QBoxLayout* posti_;
+  std::vector<QSlider*> cursori_;  // in the order of the exercise's table
 };
 
 }  // namespace tavorno

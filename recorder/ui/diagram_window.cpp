@@ -205,18 +205,19 @@ QWidget* FrmTempi::Crea_Ricerca() {
     Cerca(QApplication::keyboardModifiers().testFlag(Qt::ShiftModifier) ? -1 : 1);
     Ridisegna();
   });
-  const auto tasto = [&](const char* nome, Qt::ArrowType freccia, const char* azione) {
+  const auto tasto = [&](const char* nome, Qt::ArrowType freccia, void (FrmTempi::*comando)()) {
     auto* nuovo = Chiama(QString::fromUtf8(nome), new QToolButton);
     nuovo->setArrowType(freccia);
     nuovo->setFocusPolicy(Qt::NoFocus);
-    QAction* sua = findChild<QAction*>(QString::fromUtf8(azione));
+    const auto riga = std::ranges::find(Comandi(), comando, &Comando_Tempi::Fai);
+    QAction* sua = azioni_[static_cast<std::size_t>(riga - Comandi().begin())];
     nuovo->setToolTip(sua->toolTip());
     nuovo->setAccessibleName(sua->text());
     connect(nuovo, &QToolButton::clicked, sua, &QAction::trigger);
     posti->addWidget(nuovo);
   };
-  tasto("cmdIndietro", Qt::UpArrow, "cmdCerca_Prima");
-  tasto("cmdAvanti", Qt::DownArrow, "cmdCerca_Dopo");
+  tasto("cmdIndietro", Qt::UpArrow, &FrmTempi::Cerca_Prima);
+  tasto("cmdAvanti", Qt::DownArrow, &FrmTempi::Cerca_Dopo);
   return ricerca;
 }
 

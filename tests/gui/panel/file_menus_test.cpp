@@ -79,7 +79,8 @@ TEST_F(FileMenus, OpenWhatIsChosenWhereProjectsCanBeOpened) {
     aperti << file;
     recenti.Usato(file);
   });
-  menu.Metti_In(finestra);
+  menu.Metti_In(Azione(finestra, "mnuFile"), Azione(finestra, "mnuFileEnd"),
+                Azione(finestra, "mnuFileOpen"));
   EXPECT_EQ(Voci(finestra, "mnuFileEsempi"), QStringList{"Primo && unico"});
   EXPECT_EQ(Voci(finestra, "mnuFileRecenti"), QStringList{"Ancora nessuno"});
   Voci(finestra, "mnuFileEsempi");

@@ -48,7 +48,6 @@ const std::vector<Voce> voci = {
     {"mnuView", "mnuViewIO", "Simulatore Ingressi A&nalogici", -1},
     {"mnuView", "mnuViewStati", "Finestra Stati &Elementi", -1},
     {"mnuView", "mnuViewTempi", "Dia&gramma dei tempi", -1},
-    {"mnuView", "mnuViewOsserva", "Finestra di &osservazione", -1},
     {"mnuView", "mnuViewVerifica", "&Verifica del programma", -1},
     {"mnuView", "", "", -1},
     {"mnuView", "mnuViewDisponi", "&Disponi finestre", -1},
@@ -103,23 +102,13 @@ TEST_F(Testi_Pannello, MenuEntriesInOrder) {
 }
 
 TEST_F(Testi_Pannello, ShortCuts) {
-  const std::map<QString, QString> attesi = {{"mnuFileNew", "Ctrl+N"},
-                                             {"mnuFileOpen", "Ctrl+O"},
-                                             {"mnuFileEdit", "Ctrl+E"},
-                                             {"mnuFileEnd", "Ctrl+Q"},
-                                             {"mnuPlcRun", "F5"},
-                                             {"mnuViewTempi", "Ctrl+D"},
-                                             {"mnuViewOsserva", "Ctrl+T"},
-                                             {"mnuPlcStop", "Shift+F5"},
-                                             {"mnuPLCPiu", "F10"},
-                                             {"mnuHlpGen", "F1"},
-                                             {"mnuViewVerifica", "F9"},
-                                             {"mnuViewTavolo", "Ctrl+L"},
-                                             {"mnuViewFinestre", "Ctrl+Shift+L"},
-                                             {"mnuViewPiu", "Ctrl++"},
-                                             {"mnuViewMeno", "Ctrl+-"},
-                                             {"mnuViewNormale", "Ctrl+0"},
-                                             {"mnuViewProiettore", "F11"}};
+  const std::map<QString, QString> attesi = {
+      {"mnuFileNew", "Ctrl+N"},    {"mnuFileOpen", "Ctrl+O"},   {"mnuFileEdit", "Ctrl+E"},
+      {"mnuFileEnd", "Ctrl+Q"},    {"mnuPlcRun", "F5"},         {"mnuViewTempi", "Ctrl+D"},
+      {"mnuPlcStop", "Shift+F5"},  {"mnuPLCPiu", "F10"},        {"mnuHlpGen", "F1"},
+      {"mnuViewVerifica", "F9"},   {"mnuViewTavolo", "Ctrl+L"}, {"mnuViewFinestre", "Ctrl+Shift+L"},
+      {"mnuViewPiu", "Ctrl++"},    {"mnuViewMeno", "Ctrl+-"},   {"mnuViewNormale", "Ctrl+0"},
+      {"mnuViewProiettore", "F11"}};
   std::map<QString, QString> presenti;
   for (const QAction* azione : pannello.findChildren<QAction*>()) {
     if (!azione->shortcut().isEmpty())

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QRadioButton>
 #include <QStatusBar>
 #include <QToolBar>
@@ -27,7 +28,8 @@ struct Finestre_Pannello : Banco_Pannello {
     legami.Mostra_Impostazioni = [this] { aperte.push_back("frmSetPLC"); };
     legami.Mostra_Analogici = [this] { aperte.push_back("frmSimAI"); };
     legami.Mostra_Stati = [this] { aperte.push_back("frmStatiL"); };
-    legami.Mostra_Osserva = [this] { aperte.push_back("frmOsserva"); };
+    legami.Altre = {{{1, "mnuViewPrima", "P"}, [this] { aperte.push_back("frmPrima"); }},
+                    {{1, "mnuViewSeconda", "S"}, [this] { aperte.push_back("frmSeconda"); }}};
     legami.Mostra_Tempi = [this] { aperte.push_back("frmTempi"); };
     legami.Mostra_Info = [this] { aperte.push_back("frmAbaut"); };
     legami.Mostra_Aiuto = [this](const char* pagina) { aperte.push_back(pagina); };
@@ -37,19 +39,42 @@ struct Finestre_Pannello : Banco_Pannello {
 
 TEST_F(Finestre_Pannello, EveryCommandOpensItsWindow) {
   const std::vector<std::pair<const char*, const char*>> comandi = {
-      {"mnuFileNew", "editor 2"},       {"mnuFileOpen", "editor 3"},
-      {"mnuViewSet", "frmSetPLC"},      {"mnuViewIO", "frmSimAI"},
-      {"mnuViewStati", "frmStatiL"},    {"mnuViewTempi", "frmTempi"},
-      {"mnuViewOsserva", "frmOsserva"}, {"mnuInfAb", "frmAbaut"},
-      {"mnuHlpGen", "Index.htm"},       {"mnuHlpSet", "SET_IST.htm"},
-      {"tB1(New)", "editor 2"},         {"tB1(Open)", "editor 3"},
-      {"tB1(SetPLC)", "frmSetPLC"},     {"tB1(SetIst)", "SET_IST.htm"},
-      {"tB1(Debug)", "frmStatiL"},      {"tB1(Info)", "frmAbaut"}};
+      {"mnuFileNew", "editor 2"},     {"mnuFileOpen", "editor 3"},
+      {"mnuViewSet", "frmSetPLC"},    {"mnuViewIO", "frmSimAI"},
+      {"mnuViewStati", "frmStatiL"},  {"mnuViewTempi", "frmTempi"},
+      {"mnuViewPrima", "frmPrima"},   {"mnuViewSeconda", "frmSeconda"},
+      {"mnuInfAb", "frmAbaut"},       {"mnuHlpGen", "Index.htm"},
+      {"mnuHlpSet", "SET_IST.htm"},   {"tB1(New)", "editor 2"},
+      {"tB1(Open)", "editor 3"},      {"tB1(SetPLC)", "frmSetPLC"},
+      {"tB1(SetIst)", "SET_IST.htm"}, {"tB1(Debug)", "frmStatiL"},
+      {"tB1(Info)", "frmAbaut"}};
   for (const auto& [comando, finestra] : comandi) {
     aperte.clear();
     Azione(pannello, comando).trigger();
     EXPECT_EQ(aperte, std::vector<std::string>{finestra}) << comando;
   }
+}
+
+TEST_F(Finestre_Pannello, MoreWindowsStandInFrontOfTheGrading) {
+  const QList<QAction*> voci = Azione(pannello, "mnuView").menu()->actions();
+  const auto posto = voci.indexOf(&Azione(pannello, "mnuViewVerifica"));
+  ASSERT_GE(posto, 3);
+  EXPECT_EQ(voci[posto - 1]->objectName(), "mnuViewSeconda");
+  EXPECT_EQ(voci[posto - 2]->objectName(), "mnuViewPrima");
+  EXPECT_EQ(voci[posto - 3]->objectName(), "mnuViewTempi");
+}
+
+TEST_F(Banco_Finestre, TheWatchWindowStandsBelowTheDiagramAndOpensByItsKey) {
+  const QList<QAction*> voci = Azione(pannello, "mnuView").menu()->actions();
+  QAction& voce = Azione(pannello, "mnuViewOsserva");
+  EXPECT_EQ(voci.indexOf(&voce), voci.indexOf(&Azione(pannello, "mnuViewTempi")) + 1);
+  EXPECT_LT(voci.indexOf(&voce), voci.indexOf(&Azione(pannello, "mnuViewVerifica")));
+  EXPECT_EQ(voce.text(), "Finestra di &osservazione");
+  EXPECT_EQ(voce.shortcut().toString(), "Ctrl+T");
+  EXPECT_FALSE(voce.isCheckable());
+  EXPECT_EQ(Finestra("frmOsserva"), nullptr);
+  voce.trigger();
+  EXPECT_NE(Finestra("frmOsserva"), nullptr);
 }
 
 TEST_F(Banco_Finestre, TheAboutBoxGoesWithTheWindowUnderIt) {
