@@ -331,7 +331,7 @@ constexpr Riga_Funzione funzioni[] = {
     {"punti", "punti(n, condizione, messaggio)", "n punti se la condizione è vera, altrimenti il caso non è superato; restituisce la condizione", Fa_Punti},
     {"serve", "serve(condizione, messaggio)", "una premessa: se è falsa il caso non è superato e i punti che seguono non si guadagnano", Fa_Serve},
     {"verifica", "verifica(condizione, messaggio)", "se la condizione è falsa il caso non è superato e non dà punti; restituisce la condizione", Fa_Verifica},
-    {"impianto", "impianto(numero)", "in testa allo script, l'impianto per cui è fatto (0..17)", Fa_Impianto},
+    {"impianto", "impianto(numero)", "in testa allo script, l'impianto per cui è fatto", Fa_Impianto},
     {"run", "run()", "avvia la CPU; nei modi Cont e Ciclo esegue subito la prima scansione", Fa_Run},
     {"stop", "stop()", "ferma la CPU", Fa_Stop},
     {"modo", "modo(\"Cont\"|\"Ciclo\"|\"Step\")", "sceglie il modo: Cont scandisce mentre il tempo passa, Ciclo con cicli(n), Step con passo()", Fa_Modo},

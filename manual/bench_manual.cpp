@@ -24,9 +24,9 @@ constexpr Opzione_Manuale esegui[] = {
       "inputs over time, for instance \"0:I0.1=1,500:I0.1=0\";\n"
       "an analog channel in volts: \"800:AI0=2.5\""}},
     {{"--impianto N"},
-     {"collega l'impianto dell'esercizio N (0..17): gli ingressi\n"
+     {"collega l'impianto dell'esercizio N ({esercizi}): gli ingressi\n"
       "li dà lui, e accanto agli indirizzi si leggono i simboli",
-      "connects the plant of exercise N (0..17): it gives the inputs,\n"
+      "connects the plant of exercise N ({esercizi}): it gives the inputs,\n"
       "and symbols stand beside the addresses"}},
     {{"--mani LISTA", "--mani LIST"},
      {"ciò che la mano fa sull'impianto, con i nomi delle figure:\n"

@@ -7,7 +7,8 @@ namespace {
 
 constexpr Opzione_Manuale prova[] = {
     {{"--impianto N"},
-     {"l'esercizio collegato alla CPU (0..17)", "the exercise connected to the CPU (0..17)"}},
+     {"l'esercizio collegato alla CPU ({esercizi})",
+      "the exercise connected to the CPU ({esercizi})"}},
     {{"--caso NOME", "--caso NAME"},
      {"esegue soltanto la prova con questo nome", "plays only the case of this name"}},
     {{"--junit FILE"},
@@ -55,8 +56,10 @@ constexpr Manuale manuale_prova = {
 
 constexpr Opzione_Manuale classe[] = {
     {{"--esercizio N"},
-     {"lo script che il programma porta con sé per\nl'esercizio (0..17), al posto di SCRIPT.lua",
-      "the script that comes with the program for the\nexercise (0..17), in place of SCRIPT.lua"}},
+     {"lo script che il programma porta con sé per\nl'esercizio ({esercizi}), al posto di "
+      "SCRIPT.lua",
+      "the script that comes with the program for the\nexercise ({esercizi}), in place of "
+      "SCRIPT.lua"}},
     {{"--uscita DIR"},
      {"la cartella dei rapporti, che deve essere nuova o vuota\n"
       "(normalmente esiti- e il nome dello script):\n"
@@ -67,8 +70,9 @@ constexpr Opzione_Manuale classe[] = {
       "indice.html, a page per student, simili.html,\n"
       "punti.csv, junit.xml, esiti.json"}},
     {{"--impianto N"},
-     {"l'esercizio collegato alla CPU (0..17); senza, quello che\nlo script nomina",
-      "the exercise connected to the CPU (0..17); without it, the\none that the script names"}},
+     {"l'esercizio collegato alla CPU ({esercizi}); senza, quello che\nlo script nomina",
+      "the exercise connected to the CPU ({esercizi}); without it, the\none that the script "
+      "names"}},
     {{"--processi N"},
      {"quante consegne alla volta (normalmente i processori)",
       "how many hand-ins at a time (normally the processors)"}},

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "plants/exercises.h"
+
 namespace tavorno {
 
 namespace {
@@ -11,12 +13,21 @@ namespace {
 constexpr std::size_t rientro_testo = 6;
 constexpr std::size_t rientro_opzione = 25;
 
+/// `testo` with the numbers of the exercises in it.
+std::string Con_Numeri(std::string_view testo) {
+  static constexpr std::string_view segno = "{esercizi}";
+  std::string risultato(testo);
+  for (std::size_t i = risultato.find(segno); i != std::string::npos; i = risultato.find(segno, i))
+    risultato.replace(i, segno.size(), "0.." + std::to_string(Tabella_Esercizi().size() - 1));
+  return risultato;
+}
+
 /// Every line of `testo` behind `rientro` blanks, but for the first one.
 std::string Rientrato(const char* testo, std::size_t rientro) {
   std::string risultato;
-  for (const char* c = testo; *c != '\0'; ++c) {
-    risultato += *c;
-    if (*c == '\n') risultato.append(rientro, ' ');
+  for (const char c : Con_Numeri(testo)) {
+    risultato += c;
+    if (c == '\n') risultato.append(rientro, ' ');
   }
   return risultato;
 }
@@ -43,7 +54,8 @@ void Scrivi_Uso(std::string& testo, const Comando_Manuale& comando) {
 
 /// `testo` with what man(7) would take for a command made plain. Every "-" is one that may be
 /// typed, so that it can be copied out of the page.
-std::string Protetto(std::string_view testo) {
+std::string Protetto(std::string_view scritto) {
+  const std::string testo = Con_Numeri(scritto);
   std::string risultato;
   for (std::size_t i = 0; i < testo.size(); ++i) {
     const bool inizio = i == 0 || testo[i - 1] == '\n';
@@ -83,7 +95,7 @@ void Sintassi(std::string& pagina, const Manuale& manuale, Lingua lingua) {
   }
 }
 
-void Comandi(std::string& pagina, const Manuale& manuale, Lingua lingua) {
+void Capitoli_Comandi(std::string& pagina, const Manuale& manuale, Lingua lingua) {
   for (const Comando_Manuale& comando : manuale.Comandi) {
     if (comando.Rimando) continue;
     pagina +=
@@ -133,8 +145,8 @@ std::string Pagina_Man(const Manuale& manuale, std::span<const Manuale> parti,
   Titolo(pagina, {"DESCRIZIONE", "DESCRIPTION"}, lingua);
   pagina += Paragrafi(manuale.Descrizione.In(lingua));
   Titolo(pagina, {"COMANDI", "COMMANDS"}, lingua);
-  Comandi(pagina, manuale, lingua);
-  for (const Manuale& parte : parti) Comandi(pagina, parte, lingua);
+  Capitoli_Comandi(pagina, manuale, lingua);
+  for (const Manuale& parte : parti) Capitoli_Comandi(pagina, parte, lingua);
   for (const Capitolo& capitolo : capitoli) {
     Titolo(pagina, capitolo.Titolo, lingua);
     pagina += Paragrafi(capitolo.Testo.In(lingua));

@@ -13,6 +13,7 @@ enum class Lingua : std::uint8_t { Italiano, Inglese };
 
 /// A text in two languages, UTF-8; the second one is left out where it is the same. A line end is
 /// kept by --help; in the manual it is one only in front of a line that begins with a quote.
+/// "{esercizi}" stands for the numbers of the exercises, "0..17".
 struct Testo_Manuale {
   const char* Italiano;
   const char* Inglese = nullptr;

@@ -13,6 +13,7 @@
 #include <QWheelEvent>
 
 #include "panel/documents/about_window.h"
+#include "plants/exercises.h"
 #include "widgets/text.h"
 #include "widgets/twips.h"
 
@@ -129,14 +130,14 @@ TEST_F(About, TheWheelOverThePictureMovesTheBar) {
   EXPECT_GT(vsV().value(), 0);
 }
 
-TEST(About_Picture, NamesTheEighteenExercises) {
+TEST(About_Picture, NamesTheExercises) {
   QFile file(Q(":/about/about.svg"));
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const QByteArray disegno = file.readAll();
   EXPECT_TRUE(QSvgRenderer(disegno).isValid());
-  for (int i = 0; i < 18; ++i) {
-    const QString numero = Q(">%1</text>").arg(i, 2, 10, QChar('0'));
-    EXPECT_EQ(QString::fromUtf8(disegno).count(numero), 1) << i;
+  for (const Esercizio& esercizio : Tabella_Esercizi()) {
+    const QString numero = Q(">%1</text>").arg(esercizio.Indice, 2, 10, QChar('0'));
+    EXPECT_EQ(QString::fromUtf8(disegno).count(numero), 1) << esercizio.Indice;
   }
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "manual/manuals.h"
+#include "plants/exercises.h"
 
 namespace tavorno {
 
@@ -45,6 +46,18 @@ TEST(Help, IndentsTextsAndOptions) {
             "  prova altro\n"
             "      Vedi altrove.\n"
             "\nStato di uscita: 0 bene,\n1 male.\n");
+}
+
+TEST(Help, TellsTheNumbersOfTheExercises) {
+  const std::string numeri = "(0.." + std::to_string(Tabella_Esercizi().size() - 1) + ")";
+  for (const Manuale* manuale : {&Manuale_Banco(), &Manuale_Prova(), &Manuale_Classe()}) {
+    EXPECT_THAT(Aiuto(*manuale), HasSubstr(numeri)) << manuale->Nome;
+    EXPECT_THAT(Aiuto(*manuale), Not(HasSubstr("{"))) << manuale->Nome;
+    for (const Lingua lingua : {Lingua::Italiano, Lingua::Inglese}) {
+      EXPECT_THAT(Pagina(lingua, *manuale), HasSubstr(numeri)) << manuale->Nome;
+      EXPECT_THAT(Pagina(lingua, *manuale), Not(HasSubstr("{"))) << manuale->Nome;
+    }
+  }
 }
 
 TEST(ManPage, HasHeadNameAndBothLanguages) {
