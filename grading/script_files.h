@@ -17,7 +17,7 @@ struct Sorgente_Script {
 /// Reads a script. What goes wrong is thrown as `std::runtime_error`, in Italian.
 Sorgente_Script Leggi_Sorgente(const std::string& file);
 
-/// The script that comes with the program for an exercise, 0..17, below the program's folder.
+/// The script that comes with the program for an exercise, below the program's folder.
 std::filesystem::path File_Esercizio(const std::filesystem::path& cartella_programma,
                                      int esercizio);
 

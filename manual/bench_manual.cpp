@@ -7,8 +7,8 @@ namespace {
 
 constexpr Opzione_Manuale compila[] = {
     {{"--json"},
-     {"un oggetto JSON con listing, errors, boxes e prog",
-      "a JSON object with listing, errors, boxes and prog"}},
+     {"un oggetto JSON con listing, errors, boxes, diagnostics e prog",
+      "a JSON object with listing, errors, boxes, diagnostics and prog"}},
 };
 
 constexpr Opzione_Manuale esegui[] = {

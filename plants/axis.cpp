@@ -40,7 +40,7 @@ struct ctr_Assi::Comando {
 
 /// A limit switch, normally closed.
 struct ctr_Assi::Limite {
-  int Ingresso;
+  Morsetto_I Ingresso;
   const char* Interruttore;
   const char* Spia;
 };
@@ -48,14 +48,14 @@ struct ctr_Assi::Limite {
 // The power comes first, so that what the direction bits start in the same scan finds it.
 // clang-format off
 const ctr_Assi::Comando ctr_Assi::comandi_[] = {
-    {{"imgL0", 3, "imgLG"}, &ctr_Assi::Potenza_On,     -1},
-    {{"imgL2", 1, "imgLV"}, &ctr_Assi::Marcia_Avanti,   0},
-    {{"imgL1", 2, "imgLV"}, &ctr_Assi::Marcia_Indietro, 1},
+    {{"imgL0", Q(0, 2), "imgLG"}, &ctr_Assi::Potenza_On,     -1},
+    {{"imgL2", Q(0, 0), "imgLV"}, &ctr_Assi::Marcia_Avanti,   0},
+    {{"imgL1", Q(0, 1), "imgLV"}, &ctr_Assi::Marcia_Indietro, 1},
 };
 // clang-format on
 
-const ctr_Assi::Limite ctr_Assi::indietro_ = {6, "imgFCI", "shI"};
-const ctr_Assi::Limite ctr_Assi::avanti_ = {7, "imgFCA", "shA"};
+const ctr_Assi::Limite ctr_Assi::indietro_ = {I(0, 5), "imgFCI", "shI"};
+const ctr_Assi::Limite ctr_Assi::avanti_ = {I(0, 6), "imgFCA", "shA"};
 
 ctr_Assi::ctr_Assi(Plc& plc)
     : Impianto(figure, default_ingressi, Invio::Doppio),

@@ -53,22 +53,28 @@ constexpr Riga_Figura figure[] = {
 };
 
 constexpr Riga_Pulsante pulsanti[] = {
-    // name, input, down, up, picture down, picture up
-    {"imgP(0)", 1, '1', '0', "imgVON", "imgVOFF"},
-    {"imgP(1)", 2, '0', '1', "imgRON", "imgROFF"},
-    {"imgP(2)", 3, '1', '0', "imgBON", "imgBOFF"},
-    {"imgP(3)", 4, '1', '0', "imgBON", "imgBOFF"},
+    {.Nome = "imgP(0)", .Posizione = I(0, 0), .Giu = '1', .Su = '0', .Picture_Giu = "imgVON",
+     .Picture_Su = "imgVOFF"},
+    {.Nome = "imgP(1)", .Posizione = I(0, 1), .Giu = '0', .Su = '1', .Picture_Giu = "imgRON",
+     .Picture_Su = "imgROFF"},
+    {.Nome = "imgP(2)", .Posizione = I(0, 2), .Giu = '1', .Su = '0', .Picture_Giu = "imgBON",
+     .Picture_Su = "imgBOFF"},
+    {.Nome = "imgP(3)", .Posizione = I(0, 3), .Giu = '1', .Su = '0', .Picture_Giu = "imgBON",
+     .Picture_Su = "imgBOFF"},
 };
 
-constexpr Riga_Commutatore selettori[] = {{"imgCom", 5, '1', '0', "imgCD", "imgCS"}};
+constexpr Riga_Commutatore selettori[] = {
+    {.Nome = "imgCom", .Posizione = I(0, 4), .Azionato = '1', .Riposo = '0', .Picture_Azionato = "imgCD",
+     .Picture_Riposo = "imgCS"},
+};
 
 constexpr Riga_Lampada lampade[] = {
-    {"imgL(0)", 4, "imgLN"},
-    {"imgL(1)", 5, "imgLB"},
-    {"imgL(2)", 6, "imgLV"},
-    {"imgL(3)", 7, "imgLV"},
-    {"imgL(4)", 8, "imgLB"},
-    {"imgL(5)", 9, "imgLR"},
+    {"imgL(0)", Q(0, 3), "imgLN"},
+    {"imgL(1)", Q(0, 4), "imgLB"},
+    {"imgL(2)", Q(0, 5), "imgLV"},
+    {"imgL(3)", Q(0, 6), "imgLV"},
+    {"imgL(4)", Q(0, 7), "imgLB"},
+    {"imgL(5)", Q(1, 0), "imgLR"},
 };
 // clang-format on
 

@@ -18,24 +18,25 @@ constexpr Riga_Figura figure[] = {
 };
 
 constexpr Riga_Pulsante pulsanti[] = {
-    // name, input, down, up, picture down, picture up
-    {"imgSB(0)", 1, '1', '0', "imgRON", "imgROFF"},
-    {"imgSB(1)", 2, '1', '0', "imgRON", "imgROFF"},
+    {.Nome = "imgSB(0)", .Posizione = I(0, 0), .Giu = '1', .Su = '0', .Picture_Giu = "imgRON",
+     .Picture_Su = "imgROFF"},
+    {.Nome = "imgSB(1)", .Posizione = I(0, 1), .Giu = '1', .Su = '0', .Picture_Giu = "imgRON",
+     .Picture_Su = "imgROFF"},
 };
 
 struct Riga_Luce {
   const char* Nome;
-  int Uscita;
+  Morsetto_Q Uscita;
   const char* Accesa;
   const char* Spenta;
 };
 
 constexpr Riga_Luce luci[] = {
-    {"imgP1", 1, "imgP(0)", "imgP(1)"},
-    {"imgP2", 2, "imgP(2)", "imgP(3)"},
-    {"imgR",  3, "imgR1",   "imgR0"},
-    {"imgG",  4, "imgG1",   "imgG0"},
-    {"imgV",  5, "imgV1",   "imgV0"},
+    {"imgP1", Q(0, 0), "imgP(0)", "imgP(1)"},
+    {"imgP2", Q(0, 1), "imgP(2)", "imgP(3)"},
+    {"imgR", Q(0, 2), "imgR1",   "imgR0"},
+    {"imgG", Q(0, 3), "imgG1",   "imgG0"},
+    {"imgV", Q(0, 4), "imgV1",   "imgV0"},
 };
 // clang-format on
 

@@ -17,17 +17,18 @@ struct Cursore {
   const char* Nome;     ///< "slid1(0)"
   const char* Cornice;  ///< caption of the frame around it
   int Minimo, Massimo;
-  int Passo_Piccolo, Passo_Grande;
-  int Inizio;           ///< where it stands when the window opens
-  bool Al_Caricamento;  ///< its value is written when the window opens, not only when it moves
-  const char* Scrive;   ///< property of the plant; nullptr: it has no effect
-  int Zero, Pendenza;   ///< property := Zero + Pendenza * value
+  int Passo_Piccolo = 1;
+  int Passo_Grande = 1;
+  int Inizio = 0;                ///< where it stands when the window opens
+  bool Al_Caricamento = false;   ///< written when the window opens too, not only when it moves
+  const char* Scrive = nullptr;  ///< property of the plant; nullptr: it has no effect
+  int Zero = 0, Pendenza = 0;    ///< property := Zero + Pendenza * value
 };
 
-/// One of the eighteen exercises: a plant, its host window and its table of inputs and outputs.
+/// One of the exercises: a plant, its host window and its table of inputs and outputs.
 /// Texts are UTF-8 and exact.
 struct Esercizio {
-  int Indice;            ///< 0 to 17, as `Impianto_Nr` and as the index of `mnuPrj`
+  int Indice;            ///< its place in the table, as `Impianto_Nr` and as the index of `mnuPrj`
   const char* Voce;      ///< caption of `mnuPrj`
   const char* Host;      ///< name of the host window
   const char* Nome;      ///< name of the plant in it
@@ -40,10 +41,10 @@ struct Esercizio {
   int Altezza_Aperta;    ///< and with it
   const char* Voce_IO;   ///< caption of `chkIO`
   const char* Scheda_2;  ///< caption of the second tab
-  std::span<const Cursore> Cursori;
-  bool Analogici;        ///< analog values of the plant go to `Volt_AI`
-  bool Ascolta_chkSim;   ///< a click on `chkSim` has a handler
-  const char* Attivare;  ///< a property that the host sets to True on load, or nullptr
+  std::span<const Cursore> Cursori = {};
+  bool Analogici = false;          ///< analog values of the plant go to `Volt_AI`
+  bool Ascolta_chkSim = true;      ///< a click on `chkSim` has a handler
+  const char* Attivare = nullptr;  ///< a property that the host sets to True on load, or nullptr
   Elenco_IO Righe_IO;
   std::unique_ptr<Impianto> (*Crea)(Plc&);  ///< nullptr while there is no such plant
 };
@@ -51,7 +52,7 @@ struct Esercizio {
 /// Caption of the first tab, with the digit zero.
 inline constexpr const char* Scheda_1 = " Assegnazioni I/0";
 
-/// The exercises in the order of the menu, `Indice` 0 to 17.
+/// The exercises in the order of the menu.
 std::span<const Esercizio> Tabella_Esercizi();
 
 /// The table of an exercise; empty without one.

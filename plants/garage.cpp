@@ -42,16 +42,17 @@ constexpr float fuori = -600;  // the car has left the picture
 /// One way through the wall with its motor, and what sees a car there.
 struct ctr_Garage::Corsia {
   const char *Sensore, *Lampada_Sensore;
-  int Presenza;  ///< input of the sensor
+  Morsetto_I Presenza;  ///< of the sensor
   const char *Raggio, *Lampada_Raggio;
-  int Interrotto;  ///< input of the photocell
+  Morsetto_I Interrotto;  ///< of the photocell
   const char *Motore, *Contatto_Termico;
-  int Termico;             ///< input of the thermal relay
-  int Apertura, Chiusura;  ///< inputs of the auxiliary contacts
+  Morsetto_I Termico;             ///< of the thermal relay
+  Morsetto_I Apertura, Chiusura;  ///< of the auxiliary contacts
 };
 
 struct ctr_Garage::Contattore {
-  int Uscita, Ingresso;
+  Morsetto_Q Uscita;
+  Morsetto_I Ingresso;
   const char *Nome, *Contatto;
   Temporizzatore ctr_Garage::*Moto;
   const Corsia* Di;
@@ -62,36 +63,54 @@ struct ctr_Garage::Contattore {
 struct ctr_Garage::Sbarra {
   const char* Nome;
   float Verso, Limite;
-  int Lasciato;  ///< input of the limit switch that it leaves
+  Morsetto_I Lasciato;  ///< of the limit switch that it leaves
   const char* Spia_Lasciato;
-  int Raggiunto;  ///< input of the one that it reaches
+  Morsetto_I Raggiunto;  ///< of the one that it reaches
   const char* Spia_Raggiunto;
   std::int16_t ctr_Garage::*Aperta;
-  std::int16_t Alla_Fine;                  ///< that flag at the end
-  Temporizzatore ctr_Garage::*Via_Libera;  ///< car that then drives; nullptr for none
+  std::int16_t Alla_Fine;                            ///< that flag at the end
+  Temporizzatore ctr_Garage::*Via_Libera = nullptr;  ///< car that then drives, if any
 };
 
 // clang-format off
 const ctr_Garage::Corsia ctr_Garage::entrata_ = {
-    "shI", "imgLTI",  2, "linFC(0)", "imgLFC0",  5, "imgMI", "imgFR(0)",  8,  6,  7};
+    .Sensore = "shI", .Lampada_Sensore = "imgLTI", .Presenza = I(0, 1),
+    .Raggio = "linFC(0)", .Lampada_Raggio = "imgLFC0", .Interrotto = I(0, 4),
+    .Motore = "imgMI", .Contatto_Termico = "imgFR(0)", .Termico = I(0, 7),
+    .Apertura = I(0, 5), .Chiusura = I(0, 6)};
 const ctr_Garage::Corsia ctr_Garage::uscita_ = {
-    "shU", "imgLTU", 10, "linFC(1)", "imgLFCU", 13, "imgMU", "imgFR(1)", 16, 15, 14};
+    .Sensore = "shU", .Lampada_Sensore = "imgLTU", .Presenza = I(1, 1),
+    .Raggio = "linFC(1)", .Lampada_Raggio = "imgLFCU", .Interrotto = I(1, 4),
+    .Motore = "imgMU", .Contatto_Termico = "imgFR(1)", .Termico = I(1, 7),
+    .Apertura = I(1, 6), .Chiusura = I(1, 5)};
 
 const ctr_Garage::Contattore ctr_Garage::contattori_[] = {
-    {1,  6, "shKM(0)", "imgKMa(0)", &ctr_Garage::timSBIOpen,  &entrata_, true},
-    {2,  7, "shKM(1)", "imgKMa(1)", &ctr_Garage::timSBIClose, &entrata_, false},
-    {7, 14, "shKM(3)", "imgKMa(3)", &ctr_Garage::timSBUClose, &uscita_,  false},
-    {8, 15, "shKM(2)", "imgKMa(2)", &ctr_Garage::timSBUOpen,  &uscita_,  false},
+    {.Uscita = Q(0, 0), .Ingresso = I(0, 5), .Nome = "shKM(0)", .Contatto = "imgKMa(0)",
+     .Moto = &ctr_Garage::timSBIOpen, .Di = &entrata_, .Ferma = true},
+    {.Uscita = Q(0, 1), .Ingresso = I(0, 6), .Nome = "shKM(1)", .Contatto = "imgKMa(1)",
+     .Moto = &ctr_Garage::timSBIClose, .Di = &entrata_, .Ferma = false},
+    {.Uscita = Q(0, 6), .Ingresso = I(1, 5), .Nome = "shKM(3)", .Contatto = "imgKMa(3)",
+     .Moto = &ctr_Garage::timSBUClose, .Di = &uscita_, .Ferma = false},
+    {.Uscita = Q(0, 7), .Ingresso = I(1, 6), .Nome = "shKM(2)", .Contatto = "imgKMa(2)",
+     .Moto = &ctr_Garage::timSBUOpen, .Di = &uscita_, .Ferma = false},
 };
 
 const ctr_Garage::Sbarra ctr_Garage::apre_ingresso_ = {
-    "shS0",  1, 1800,  3, "shSQ2",  4, "shSQ3", &ctr_Garage::Sbarra_I_Aperta, -1, &ctr_Garage::Timer1};
+    .Nome = "shS0", .Verso = 1, .Limite = 1800,
+    .Lasciato = I(0, 2), .Spia_Lasciato = "shSQ2", .Raggiunto = I(0, 3), .Spia_Raggiunto = "shSQ3",
+    .Aperta = &ctr_Garage::Sbarra_I_Aperta, .Alla_Fine = -1, .Via_Libera = &ctr_Garage::Timer1};
 const ctr_Garage::Sbarra ctr_Garage::chiude_ingresso_ = {
-    "shS0", -1,  660,  4, "shSQ3",  3, "shSQ2", &ctr_Garage::Sbarra_I_Aperta,  0, nullptr};
+    .Nome = "shS0", .Verso = -1, .Limite = 660,
+    .Lasciato = I(0, 3), .Spia_Lasciato = "shSQ3", .Raggiunto = I(0, 2), .Spia_Raggiunto = "shSQ2",
+    .Aperta = &ctr_Garage::Sbarra_I_Aperta, .Alla_Fine = 0};
 const ctr_Garage::Sbarra ctr_Garage::apre_uscita_ = {
-    "shS1", -1, 1740, 11, "shSQ5", 12, "shSQ6", &ctr_Garage::Sbarra_U_Aperta, -1, &ctr_Garage::timOut2};
+    .Nome = "shS1", .Verso = -1, .Limite = 1740,
+    .Lasciato = I(1, 2), .Spia_Lasciato = "shSQ5", .Raggiunto = I(1, 3), .Spia_Raggiunto = "shSQ6",
+    .Aperta = &ctr_Garage::Sbarra_U_Aperta, .Alla_Fine = -1, .Via_Libera = &ctr_Garage::timOut2};
 const ctr_Garage::Sbarra ctr_Garage::chiude_uscita_ = {
-    "shS1",  1, 2940, 12, "shSQ6", 11, "shSQ5", &ctr_Garage::Sbarra_U_Aperta,  0, nullptr};
+    .Nome = "shS1", .Verso = 1, .Limite = 2940,
+    .Lasciato = I(1, 3), .Spia_Lasciato = "shSQ6", .Raggiunto = I(1, 2), .Spia_Raggiunto = "shSQ5",
+    .Aperta = &ctr_Garage::Sbarra_U_Aperta, .Alla_Fine = 0};
 // clang-format on
 
 ctr_Garage::ctr_Garage(Orologio& orologio)

@@ -85,24 +85,25 @@ constexpr Riga_Figura figure[] = {
 };
 
 constexpr Riga_Pulsante pulsanti[] = {
-    // name, input, down, up, picture down, picture up
-    {"imgPSB(0)", 1, '1', '0', "imgNON", "imgNOFF"},
-    {"imgPSB(1)", 9, '1', '0', "imgNON", "imgNOFF"},
+    {.Nome = "imgPSB(0)", .Posizione = I(0, 0), .Giu = '1', .Su = '0', .Picture_Giu = "imgNON",
+     .Picture_Su = "imgNOFF"},
+    {.Nome = "imgPSB(1)", .Posizione = I(1, 0), .Giu = '1', .Su = '0', .Picture_Giu = "imgNON",
+     .Picture_Su = "imgNOFF"},
 };
 
 constexpr Riga_Lampada lampade[] = {
-    {"imgLSI(0)", 3, "imgLV"},
-    {"imgLSI(1)", 4, "imgLR"},
-    {"imgLSU(0)", 5, "imgLV"},
-    {"imgLSU(1)", 6, "imgLR"},
+    {"imgLSI(0)", Q(0, 2), "imgLV"},
+    {"imgLSI(1)", Q(0, 3), "imgLR"},
+    {"imgLSU(0)", Q(0, 4), "imgLV"},
+    {"imgLSU(1)", Q(0, 5), "imgLR"},
 };
 
 /// Lamps that are a coloured shape.
 struct Riga_Lampeggiante {
   const char* Nome;
-  int Uscita;
+  Morsetto_Q Uscita;
 };
-constexpr Riga_Lampeggiante lampeggianti[] = {{"shHL5", 9}, {"shHL6", 10}};
+constexpr Riga_Lampeggiante lampeggianti[] = {{"shHL5", Q(1, 0)}, {"shHL6", Q(1, 1)}};
 // clang-format on
 
 }  // namespace tavorno::garage

@@ -41,17 +41,23 @@ int Intero_16(float twip) {
 
 /// What one of the contactors does, and the limit switch at the end of its way.
 struct Ctr_Canc::Direzione {
-  int Uscita;
+  Morsetto_Q Uscita;
   const char* Contattore;
   const char* Filo;
-  int Ingresso;  ///< position of the limit switch, normally closed
+  Morsetto_I Ingresso;  ///< of the limit switch, normally closed
   const char* Levetta;
 };
 
-// clang-format off
-const Ctr_Canc::Direzione Ctr_Canc::chiusura_ = {3, "imgKm1", "shKM1", 3, "shC"};
-const Ctr_Canc::Direzione Ctr_Canc::apertura_ = {4, "imgKM2", "shKM2", 1, "shA"};
-// clang-format on
+const Ctr_Canc::Direzione Ctr_Canc::chiusura_ = {.Uscita = Q(0, 2),
+                                                 .Contattore = "imgKm1",
+                                                 .Filo = "shKM1",
+                                                 .Ingresso = I(0, 2),
+                                                 .Levetta = "shC"};
+const Ctr_Canc::Direzione Ctr_Canc::apertura_ = {.Uscita = Q(0, 3),
+                                                 .Contattore = "imgKM2",
+                                                 .Filo = "shKM2",
+                                                 .Ingresso = I(0, 0),
+                                                 .Levetta = "shA"};
 
 Ctr_Canc::Ctr_Canc(Orologio& orologio)
     : Impianto(figure, default_ingressi, Invio::Doppio),

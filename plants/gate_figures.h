@@ -30,9 +30,9 @@ constexpr Riga_Figura figure[] = {
     {"shC",      1290, 2250,  180,  240, "operato", "", "I0.2"},
     {"shA",      5760, 2250,  180,  240, "riposo", "", "I0.0"},
 
-    {"etCom(1)", 6270,  315,  240,  330, "", "Selettore a chiave in posizione 1 (SA_1), I0.7"},
+    {"etCom(1)", I(783, 5),  315,  240,  330, "", "Selettore a chiave in posizione 1 (SA_1), I0.7"},
     {"imgCom",   6570,  210,  540,  540, chiave_a_riposo},
-    {"etCom(2)", 7170,  315,  240,  330, "", "Selettore a chiave in posizione 2 (SA_2), I1.0"},
+    {"etCom(2)", I(896, 1),  315,  240,  330, "", "Selettore a chiave in posizione 2 (SA_2), I1.0"},
     {"imgSB(2)", 8010,  270,  420,  420, "imgVOFF", "Pulsante (SB1), I1.1"},
     {"imgL",     6450, 1140,  180,  180, "imgLOF"},
     {"imgSB(0)", 6780, 1020,  420,  420, "imgBOFF", "Telecomando (SB2), I1.2"},
@@ -49,27 +49,28 @@ constexpr Riga_Figura figure[] = {
 };
 
 constexpr Riga_Pulsante pulsanti[] = {
-    // name, input, down, up, picture down, picture up
-    {"imgSB(1)", 12, '0', '1', "imgRON", "imgROFF"},
-    {"imgSB(2)", 10, '1', '0', "imgVON", "imgVOFF"},
+    {.Nome = "imgSB(1)", .Posizione = I(1, 3), .Giu = '0', .Su = '1', .Picture_Giu = "imgRON",
+     .Picture_Su = "imgROFF"},
+    {.Nome = "imgSB(2)", .Posizione = I(1, 1), .Giu = '1', .Su = '0', .Picture_Giu = "imgVON",
+     .Picture_Su = "imgVOFF"},
 };
 
 /// A side of the key selector, which springs back.
 struct Riga_Selettore {
   const char* Nome;
-  int Posizione;  ///< of the input
+  Morsetto_I Posizione;
   const char* Picture;
 };
 
 constexpr Riga_Selettore selettore[] = {
-    {"etCom(1)", 8, "imgC1"},
-    {"etCom(2)", 9, "imgC2"},
+    {"etCom(1)", I(0, 7), "imgC1"},
+    {"etCom(2)", I(1, 0), "imgC2"},
 };
 
 constexpr Riga_Lampada lampade[] = {
-    {"imgHL1", 5, "imgLV"},
-    {"imgHL2", 6, "imgLG"},
-    {"imgHL3", 7, "imgLB"},
+    {"imgHL1", Q(0, 4), "imgLV"},
+    {"imgHL2", Q(0, 5), "imgLG"},
+    {"imgHL3", Q(0, 6), "imgLB"},
 };
 // clang-format on
 

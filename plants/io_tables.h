@@ -5,7 +5,7 @@
 
 namespace tavorno {
 
-/// The tables of the eighteen exercises, in the order in which they are shown.
+/// The tables of the exercises, in the order in which they are shown.
 Elenco_IO Righe_IO_00();
 Elenco_IO Righe_IO_01();
 Elenco_IO Righe_IO_02();

@@ -21,10 +21,10 @@ constexpr int B1 = 15, SQ5 = 5, SQ6 = 16;  // positions of the inputs
 
 // clang-format off
 constexpr Riga_Piano piani[] = {
-    {4580, 1, "T"},
-    {3380, 2, "1"},
-    {2180, 3, "2"},
-    {1000, 4, "3"},
+    {4580, I(0, 0), "T"},
+    {3380, I(0, 1), "1"},
+    {2180, I(0, 2), "2"},
+    {1000, I(0, 3), "3"},
 };
 // clang-format on
 
@@ -60,7 +60,7 @@ std::span<const Riga_Piano> Piani_Ascensore() {
 
 /// What one of the four contactors does, and the key of the service box in its place.
 struct ctr_Ascensore::Comando {
-  int Uscita;
+  Morsetto_Q Uscita;
   const char *Pulsante, *Caption;
   std::uint8_t Senso;
   const char* Freccia;  ///< of the cabin's motor; nullptr: it moves the doors
@@ -68,10 +68,10 @@ struct ctr_Ascensore::Comando {
 
 // clang-format off
 const ctr_Ascensore::Comando ctr_Ascensore::comandi_[] = {
-    {1, "cmdSu",    "Salita",       1, "imgSu"},
-    {2, "cmdGiu",   "Discesa",      0, "imgGiu"},
-    {3, "cmdOpen",  "Chiudi Porte", 0, nullptr},  // named crosswise to what they do
-    {4, "cmdClose", "Apri Porte",   1, nullptr},
+    {Q(0, 0), "cmdSu",    "Salita",       1, "imgSu"},
+    {Q(0, 1), "cmdGiu",   "Discesa",      0, "imgGiu"},
+    {Q(0, 2), "cmdOpen",  "Chiudi Porte", 0, nullptr},  // named crosswise to what they do
+    {Q(0, 3), "cmdClose", "Apri Porte",   1, nullptr},
 };
 // clang-format on
 

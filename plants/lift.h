@@ -11,8 +11,8 @@ namespace tavorno {
 
 /// A floor of the lift, as its sensor knows it.
 struct Riga_Piano {
-  int Centro;    ///< `Top` of the cabin that stands level, twips
-  int Ingresso;  ///< position of the input of its sensor
+  int Centro;           ///< `Top` of the cabin that stands level, twips
+  Morsetto_I Ingresso;  ///< of its sensor
   const char* EtP;
 };
 

@@ -80,29 +80,37 @@ constexpr Riga_Figura figure[] = {
 };
 
 constexpr Riga_Pulsante pulsanti[] = {
-    // name, input, down, up, picture down, picture up
-    {"imgPP(0)",  9, '1', '0', "imgBON", "imgBOFF"},
-    {"imgPP(1)",  8, '1', '0', "imgBON", "imgBOFF"},
-    {"imgPP(2)",  7, '1', '0', "imgBON", "imgBOFF"},
-    {"imgPP(3)",  6, '1', '0', "imgBON", "imgBOFF"},
-    {"imgPC(0)", 14, '1', '0', "imgBON", "imgBOFF"},
-    {"imgPC(1)", 13, '1', '0', "imgBON", "imgBOFF"},
-    {"imgPC(2)", 12, '1', '0', "imgBON", "imgBOFF"},
-    {"imgPC(3)", 11, '1', '0', "imgBON", "imgBOFF"},
-    {"imgPC(4)", 10, '0', '1', "imgRON", "imgROFF"},
+    {.Nome = "imgPP(0)", .Posizione = I(1, 0), .Giu = '1', .Su = '0', .Picture_Giu = "imgBON",
+     .Picture_Su = "imgBOFF"},
+    {.Nome = "imgPP(1)", .Posizione = I(0, 7), .Giu = '1', .Su = '0', .Picture_Giu = "imgBON",
+     .Picture_Su = "imgBOFF"},
+    {.Nome = "imgPP(2)", .Posizione = I(0, 6), .Giu = '1', .Su = '0', .Picture_Giu = "imgBON",
+     .Picture_Su = "imgBOFF"},
+    {.Nome = "imgPP(3)", .Posizione = I(0, 5), .Giu = '1', .Su = '0', .Picture_Giu = "imgBON",
+     .Picture_Su = "imgBOFF"},
+    {.Nome = "imgPC(0)", .Posizione = I(1, 5), .Giu = '1', .Su = '0', .Picture_Giu = "imgBON",
+     .Picture_Su = "imgBOFF"},
+    {.Nome = "imgPC(1)", .Posizione = I(1, 4), .Giu = '1', .Su = '0', .Picture_Giu = "imgBON",
+     .Picture_Su = "imgBOFF"},
+    {.Nome = "imgPC(2)", .Posizione = I(1, 3), .Giu = '1', .Su = '0', .Picture_Giu = "imgBON",
+     .Picture_Su = "imgBOFF"},
+    {.Nome = "imgPC(3)", .Posizione = I(1, 2), .Giu = '1', .Su = '0', .Picture_Giu = "imgBON",
+     .Picture_Su = "imgBOFF"},
+    {.Nome = "imgPC(4)", .Posizione = I(1, 1), .Giu = '0', .Su = '1', .Picture_Giu = "imgRON",
+     .Picture_Su = "imgROFF"},
 };
 
 constexpr Riga_Lampada lampade[] = {
-    {"imgLP(0)",   5, "imgLG"},
-    {"imgLP(1)",   6, "imgLG"},
-    {"imgLP(2)",   7, "imgLG"},
-    {"imgLP(3)",   8, "imgLG"},
-    {"imgLC(3)",   9, "imgLG"},
-    {"imgLC(2)",  10, "imgLG"},
-    {"imgLC(1)",  11, "imgLG"},
-    {"imgLC(0)",  12, "imgLG"},
-    {"imgLOver",  13, "imgLR"},
-    {"imgLAlarm", 14, "imgLR"},
+    {"imgLP(0)", Q(0, 4), "imgLG"},
+    {"imgLP(1)", Q(0, 5), "imgLG"},
+    {"imgLP(2)", Q(0, 6), "imgLG"},
+    {"imgLP(3)", Q(0, 7), "imgLG"},
+    {"imgLC(3)", Q(1, 0), "imgLG"},
+    {"imgLC(2)", Q(1, 1), "imgLG"},
+    {"imgLC(1)", Q(1, 2), "imgLG"},
+    {"imgLC(0)", Q(1, 3), "imgLG"},
+    {"imgLOver", Q(1, 4), "imgLR"},
+    {"imgLAlarm", Q(1, 5), "imgLR"},
 };
 // clang-format on
 

@@ -84,20 +84,27 @@ constexpr Riga_Livello righe_livello[] = {
 };
 
 constexpr Riga_Lampada lampade[] = {
-    {"imgL(7)",  8, "imgLR"}, {"imgL(8)",  9, "imgLR"}, {"imgL(0)", 10, "imgLV"},
-    {"imgL(4)", 11, "imgLB"}, {"imgL(1)", 12, "imgLV"}, {"imgL(2)", 13, "imgLV"},
-    {"imgL(3)", 14, "imgLV"}, {"imgL(5)", 15, "imgLG"}, {"imgL(6)", 16, "imgLG"},
+    {"imgL(7)", Q(0, 7), "imgLR"}, {"imgL(8)", Q(1, 0), "imgLR"}, {"imgL(0)", Q(1, 1), "imgLV"},
+    {"imgL(4)", Q(1, 2), "imgLB"}, {"imgL(1)", Q(1, 3), "imgLV"}, {"imgL(2)", Q(1, 4), "imgLV"},
+    {"imgL(3)", Q(1, 5), "imgLV"}, {"imgL(5)", Q(1, 6), "imgLG"}, {"imgL(6)", Q(1, 7), "imgLG"},
 };
 
 constexpr Riga_Pulsante pulsanti[] = {
-    {"imgSB(0)", 1, '1', '0', "imgSBON", "imgSBOF"},
-    {"imgSB(1)", 6, '0', '1', "imgSBON", "imgSBOF"},
-    {"imgSB(2)", 8, '1', '0', "imgSBON", "imgSBOF"},
+    {.Nome = "imgSB(0)", .Posizione = I(0, 0), .Giu = '1', .Su = '0', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
+    {.Nome = "imgSB(1)", .Posizione = I(0, 5), .Giu = '0', .Su = '1', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
+    {.Nome = "imgSB(2)", .Posizione = I(0, 7), .Giu = '1', .Su = '0', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
 };
 
-constexpr Riga_Termico termici[] = {{"imgM(0)", "imgFR(0)", 9}, {"imgM(1)", "imgFR(1)", 10}};
+constexpr Riga_Termico termici[] = {{"imgM(0)", "imgFR(0)", I(1, 0)}, {"imgM(1)", "imgFR(1)", I(1, 1)}};
 
-constexpr Riga_Commutatore commutatori[] = {{"imgCom", 11, '1', '0', "imgComON", "imgComOF"}};
+constexpr Riga_Commutatore commutatori[] = {
+    {.Nome = "imgCom", .Posizione = I(1, 2), .Azionato = '1', .Riposo = '0',
+     .Picture_Azionato = "imgComON",
+     .Picture_Riposo = "imgComOF"},
+};
 // clang-format on
 
 constexpr Schema_Serbatoio schema = {

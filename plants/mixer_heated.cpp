@@ -103,27 +103,34 @@ constexpr Riga_Mandata mandate[] = {
 constexpr int livelli[] = {5, 6};
 
 constexpr Riga_Lampada lampade[] = {
-    {"imgL(0)",  9, "imgLV"}, {"imgL(1)", 10, "imgLV"}, {"imgL(2)", 11, "imgLB"},
-    {"imgL(3)", 12, "imgLR"}, {"imgL(4)", 13, "imgLG"}, {"imgL(5)", 14, "imgLG"},
-    {"imgL(6)", 15, "imgLG"}, {"imgL(7)", 16, "imgLG"},
+    {"imgL(0)", Q(1, 0), "imgLV"}, {"imgL(1)", Q(1, 1), "imgLV"}, {"imgL(2)", Q(1, 2), "imgLB"},
+    {"imgL(3)", Q(1, 3), "imgLR"}, {"imgL(4)", Q(1, 4), "imgLG"}, {"imgL(5)", Q(1, 5), "imgLG"},
+    {"imgL(6)", Q(1, 6), "imgLG"}, {"imgL(7)", Q(1, 7), "imgLG"},
 };
 
 constexpr Riga_Pulsante pulsanti[] = {
-    {"imgSB(0)", 11, '1', '0', "imgSBON", "imgSBOF"},
-    {"imgSB(1)", 12, '0', '1', "imgSBON", "imgSBOF"},
+    {.Nome = "imgSB(0)", .Posizione = I(1, 2), .Giu = '1', .Su = '0', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
+    {.Nome = "imgSB(1)", .Posizione = I(1, 3), .Giu = '0', .Su = '1', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
 };
 
 constexpr Riga_Termico termici[] = {
-    {"imgM(0)", "imgFR(0)", 3}, {"imgM(1)", "imgFR(1)", 4},
-    {"imgM(2)", "imgFR(2)", 7}, {"imgM(3)", "imgFR(3)", 9},
+    {"imgM(0)", "imgFR(0)", I(0, 2)}, {"imgM(1)", "imgFR(1)", I(0, 3)},
+    {"imgM(2)", "imgFR(2)", I(0, 6)}, {"imgM(3)", "imgFR(3)", I(1, 0)},
 };
 
 constexpr Riga_Commutatore commutatori[] = {
-    {"imgCom(0)", 10, '1', '0', "imgComON", "imgComOF"},
-    {"imgCom(1)", 13, '1', '0', "imgComON", "imgComOF"},
-    {"imgCom(2)", 14, '1', '0', "imgComON", "imgComOF"},
-    {"imgCom(3)", 15, '1', '0', "imgComON", "imgComOF"},
-    {"imgCom(4)", 16, '1', '0', "imgComON", "imgComOF"},
+    {.Nome = "imgCom(0)", .Posizione = I(1, 1), .Azionato = '1', .Riposo = '0', .Picture_Azionato = "imgComON",
+     .Picture_Riposo = "imgComOF"},
+    {.Nome = "imgCom(1)", .Posizione = I(1, 4), .Azionato = '1', .Riposo = '0', .Picture_Azionato = "imgComON",
+     .Picture_Riposo = "imgComOF"},
+    {.Nome = "imgCom(2)", .Posizione = I(1, 5), .Azionato = '1', .Riposo = '0', .Picture_Azionato = "imgComON",
+     .Picture_Riposo = "imgComOF"},
+    {.Nome = "imgCom(3)", .Posizione = I(1, 6), .Azionato = '1', .Riposo = '0', .Picture_Azionato = "imgComON",
+     .Picture_Riposo = "imgComOF"},
+    {.Nome = "imgCom(4)", .Posizione = I(1, 7), .Azionato = '1', .Riposo = '0', .Picture_Azionato = "imgComON",
+     .Picture_Riposo = "imgComOF"},
 };
 // clang-format on
 

@@ -68,25 +68,39 @@ constexpr Riga_Mandata mandate[] = {
 constexpr int livelli[] = {3, 4};
 
 constexpr Riga_Lampada lampade[] = {
-    {"imgL(0)",  7, "imgLV"}, {"imgL(1)",  8, "imgLV"}, {"imgL(2)",  9, "imgLV"},
-    {"imgL(3)", 10, "imgLV"}, {"imgL(4)", 11, "imgLG"}, {"imgL(5)", 12, "imgLB"},
-    {"imgL(6)", 13, "imgLB"}, {"imgL(7)", 14, "imgLR"},
+    {"imgL(0)", Q(0, 6), "imgLV"}, {"imgL(1)", Q(0, 7), "imgLV"}, {"imgL(2)", Q(1, 0), "imgLV"},
+    {"imgL(3)", Q(1, 1), "imgLV"}, {"imgL(4)", Q(1, 2), "imgLG"}, {"imgL(5)", Q(1, 3), "imgLB"},
+    {"imgL(6)", Q(1, 4), "imgLB"}, {"imgL(7)", Q(1, 5), "imgLR"},
 };
 
 constexpr Riga_Pulsante pulsanti[] = {
-    {"imgSB(0)",  7, '1', '0', "imgSBON", "imgSBOF"},
-    {"imgSB(1)",  8, '0', '1', "imgSBON", "imgSBOF"},
-    {"imgSB(2)",  9, '1', '0', "imgSBON", "imgSBOF"},
-    {"imgSB(3)", 10, '0', '1', "imgSBON", "imgSBOF"},
-    {"imgSB(4)", 11, '1', '0', "imgSBON", "imgSBOF"},
-    {"imgSB(5)", 12, '0', '1', "imgSBON", "imgSBOF"},
-    {"imgSB(6)", 13, '1', '0', "imgSBON", "imgSBOF"},
-    {"imgSB(7)", 14, '0', '1', "imgSBON", "imgSBOF"},
-    {"imgSB(8)", 15, '1', '0', "imgSBON", "imgSBOF"},
-    {"imgSB(9)", 16, '0', '1', "imgSBON", "imgSBOF"},
+    {.Nome = "imgSB(0)", .Posizione = I(0, 6), .Giu = '1', .Su = '0', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
+    {.Nome = "imgSB(1)", .Posizione = I(0, 7), .Giu = '0', .Su = '1', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
+    {.Nome = "imgSB(2)", .Posizione = I(1, 0), .Giu = '1', .Su = '0', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
+    {.Nome = "imgSB(3)", .Posizione = I(1, 1), .Giu = '0', .Su = '1', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
+    {.Nome = "imgSB(4)", .Posizione = I(1, 2), .Giu = '1', .Su = '0', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
+    {.Nome = "imgSB(5)", .Posizione = I(1, 3), .Giu = '0', .Su = '1', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
+    {.Nome = "imgSB(6)", .Posizione = I(1, 4), .Giu = '1', .Su = '0', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
+    {.Nome = "imgSB(7)", .Posizione = I(1, 5), .Giu = '0', .Su = '1', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
+    {.Nome = "imgSB(8)", .Posizione = I(1, 6), .Giu = '1', .Su = '0', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
+    {.Nome = "imgSB(9)", .Posizione = I(1, 7), .Giu = '0', .Su = '1', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
 };
 
-constexpr Riga_Commutatore commutatori[] = {{"imgCom", 6, '1', '0', "imgComON", "imgComOF"}};
+constexpr Riga_Commutatore commutatori[] = {
+    {.Nome = "imgCom", .Posizione = I(0, 5), .Azionato = '1', .Riposo = '0',
+     .Picture_Azionato = "imgComON",
+     .Picture_Riposo = "imgComOF"},
+};
 // clang-format on
 
 constexpr Schema_Serbatoio schema = {

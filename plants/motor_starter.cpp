@@ -27,19 +27,25 @@ constexpr Riga_Figura figure[] = {
 };
 
 constexpr Riga_Pulsante pulsanti[] = {
-    // name, input, down, up, picture down, picture up
-    {"imgStop",  1, '0', '1', "imgPGr1", "imgPGr0"},
-    {"imgStart", 2, '1', '0', "imgVON",  "imgVOFF"},
-    {"ImgEm",    5, '0', '1', "imgRON",  "imgROFF"},
+    {.Nome = "imgStop", .Posizione = I(0, 0), .Giu = '0', .Su = '1', .Picture_Giu = "imgPGr1",
+     .Picture_Su = "imgPGr0"},
+    {.Nome = "imgStart", .Posizione = I(0, 1), .Giu = '1', .Su = '0', .Picture_Giu = "imgVON",
+     .Picture_Su = "imgVOFF"},
+    {.Nome = "ImgEm", .Posizione = I(0, 4), .Giu = '0', .Su = '1', .Picture_Giu = "imgRON",
+     .Picture_Su = "imgROFF"},
 };
 
-constexpr Riga_Commutatore termici[] = {{"ImgTer", 4, '0', '1', "imgRTON", "ImgRTOF"}};
+constexpr Riga_Commutatore termici[] = {
+    {.Nome = "ImgTer", .Posizione = I(0, 3), .Azionato = '0', .Riposo = '1', .Picture_Azionato = "imgRTON",
+     .Picture_Riposo = "ImgRTOF"},
+};
 
-constexpr Riga_Contattore km = {"imgKM", "imgKMa", "linKM", 1, 3};
+constexpr Riga_Contattore km = {
+    .Nome = "imgKM", .Contatto = "imgKMa", .Filo = "linKM", .Uscita = Q(0, 0), .Ingresso = I(0, 2)};
 
-constexpr Riga_Lampada marcia  = {"imgLM",  3, "imgLV"};
-constexpr Riga_Lampada arresto = {"imgLA",  2, "imgLB"};
-constexpr Riga_Lampada termico = {"imgLRt", 4, "imgLG"};
+constexpr Riga_Lampada marcia  = {"imgLM", Q(0, 2), "imgLV"};
+constexpr Riga_Lampada arresto = {"imgLA", Q(0, 1), "imgLB"};
+constexpr Riga_Lampada termico = {"imgLRt", Q(0, 3), "imgLG"};
 // clang-format on
 
 }  // namespace

@@ -17,16 +17,16 @@ struct Riga_Cilindro {
   const char* Pistone;
   float Arretrato, Esteso;  ///< where the piston stands at its two ends
   const char* Valvola;
-  float Left_Set, Left_Reset;  ///< of the valve's spool
-  const char* Picture_Set;     ///< a spool with a spring has two looks, others none
-  const char* Picture_Reset;
+  float Left_Set, Left_Reset;    ///< of the valve's spool
+  const char* Picture_Set = "";  ///< a spool with a spring has two looks, others none
+  const char* Picture_Reset = "";
   const char* Micro_Meno;  ///< limit switches at the retracted and at the extended end
   const char* Micro_Piu;
-  int Ingresso_Meno, Ingresso_Piu;
+  Morsetto_I Ingresso_Meno, Ingresso_Piu;
   const char* Cmd_Set;  ///< manual overrides
-  const char* Cmd_Reset;
-  int Uscita_Set;
-  int Uscita_Reset;  ///< 0: a valve with one coil and a spring
+  const char* Cmd_Reset = "";
+  Morsetto_Q Uscita_Set;
+  Morsetto_Q Uscita_Reset = {};  ///< none: a valve with one coil and a spring
 };
 
 /// What the five benches differ in. Outputs act in the order air, cylinders, lamps.
@@ -35,7 +35,7 @@ struct Schema_Pneumatico {
   int Periodo;          ///< of the cylinders' timers, ms
   std::span<const Riga_Figura> Figure;
   std::span<const Riga_Cilindro> Cilindri;
-  int Uscita_Aria;
+  Morsetto_Q Uscita_Aria;
   float Aria_Aperta, Aria_Chiusa;  ///< `Left` of `imgV0`
   const char* Voce_Aria;           ///< captions of the manual overrides
   const char* Voce_Set;
@@ -43,7 +43,7 @@ struct Schema_Pneumatico {
   bool UpDP;  ///< a speed for each direction of each cylinder; otherwise one for all
   Riga_Commutatore Selettore;
   std::span<const Riga_Pulsante> Pulsanti;
-  int Ingresso_Emergenza;
+  Morsetto_I Ingresso_Emergenza;
   std::span<const Riga_Lampada> Lampade;  ///< in the order in which outputs act
 };
 

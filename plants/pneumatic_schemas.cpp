@@ -9,81 +9,123 @@ namespace {
 
 // clang-format off
 
-// Cylinders: piston, its two ends, spool, its place set and reset, its looks, limit switches minus
-// and plus, their inputs, manual overrides, coils.
-
 constexpr Riga_Cilindro cilindri_04[] = {
-    {"imgPA", 420, 1080, "imgV1", 690, 300, "", "", "imgS", "imgD", 2, 3, "CmdV1a", "cmdV1b", 2, 3},
+    {.Pistone = "imgPA", .Arretrato = 420, .Esteso = 1080, .Valvola = "imgV1", .Left_Set = 690,
+     .Left_Reset = 300, .Micro_Meno = "imgS", .Micro_Piu = "imgD", .Ingresso_Meno = I(0, 1), .Ingresso_Piu = I(0, 2),
+     .Cmd_Set = "CmdV1a", .Cmd_Reset = "cmdV1b", .Uscita_Set = Q(0, 1), .Uscita_Reset = Q(0, 2)},
 };
 constexpr Riga_Cilindro cilindri_05[] = {
-    {"imgPA",  420, 1080, "imgV1",  690,  300, "", "", "imgS",  "imgD",  5, 6, "CmdV1a", "cmdV1b", 2, 3},
-    {"imgP2", 2490, 3150, "imgV2", 2790, 2400, "", "", "imgS2", "imgD2", 7, 8, "cmdV2a", "cmdV2b", 4, 5},
+    {.Pistone = "imgPA", .Arretrato = 420, .Esteso = 1080, .Valvola = "imgV1", .Left_Set = 690,
+     .Left_Reset = 300, .Micro_Meno = "imgS", .Micro_Piu = "imgD", .Ingresso_Meno = I(0, 4), .Ingresso_Piu = I(0, 5),
+     .Cmd_Set = "CmdV1a", .Cmd_Reset = "cmdV1b", .Uscita_Set = Q(0, 1), .Uscita_Reset = Q(0, 2)},
+    {.Pistone = "imgP2", .Arretrato = 2490, .Esteso = 3150, .Valvola = "imgV2", .Left_Set = 2790,
+     .Left_Reset = 2400, .Micro_Meno = "imgS2", .Micro_Piu = "imgD2", .Ingresso_Meno = I(0, 6), .Ingresso_Piu = I(0, 7),
+     .Cmd_Set = "cmdV2a", .Cmd_Reset = "cmdV2b", .Uscita_Set = Q(0, 3), .Uscita_Reset = Q(0, 4)},
 };
 constexpr Riga_Cilindro cilindri_06[] = {
-    {"imgV1",  360, 1030, "imgE1",  630,  240, "", "", "imga0", "imga1", 1, 2, "CmdV1a", "cmdV1b", 2, 3},
-    {"imgV2", 2580, 3250, "imgE2", 2830, 2450, "", "", "imgb0", "Imgb1", 3, 4, "cmdV2a", "cmdV2b", 4, 5},
-    {"imgV3", 4800, 5470, "imgE3", 5070, 4680, "", "", "imgc0", "imgc1", 5, 6, "cmdV3a", "cmdV3b", 6, 7},
+    {.Pistone = "imgV1", .Arretrato = 360, .Esteso = 1030, .Valvola = "imgE1", .Left_Set = 630,
+     .Left_Reset = 240, .Micro_Meno = "imga0", .Micro_Piu = "imga1", .Ingresso_Meno = I(0, 0), .Ingresso_Piu = I(0, 1),
+     .Cmd_Set = "CmdV1a", .Cmd_Reset = "cmdV1b", .Uscita_Set = Q(0, 1), .Uscita_Reset = Q(0, 2)},
+    {.Pistone = "imgV2", .Arretrato = 2580, .Esteso = 3250, .Valvola = "imgE2", .Left_Set = 2830,
+     .Left_Reset = 2450, .Micro_Meno = "imgb0", .Micro_Piu = "Imgb1", .Ingresso_Meno = I(0, 2), .Ingresso_Piu = I(0, 3),
+     .Cmd_Set = "cmdV2a", .Cmd_Reset = "cmdV2b", .Uscita_Set = Q(0, 3), .Uscita_Reset = Q(0, 4)},
+    {.Pistone = "imgV3", .Arretrato = 4800, .Esteso = 5470, .Valvola = "imgE3", .Left_Set = 5070,
+     .Left_Reset = 4680, .Micro_Meno = "imgc0", .Micro_Piu = "imgc1", .Ingresso_Meno = I(0, 4), .Ingresso_Piu = I(0, 5),
+     .Cmd_Set = "cmdV3a", .Cmd_Reset = "cmdV3b", .Uscita_Set = Q(0, 5), .Uscita_Reset = Q(0, 6)},
 };
 constexpr Riga_Cilindro cilindri_07[] = {
-    {"imgV1",  480, 1150, "imgE1",  750,  360, "", "", "imga0", "imga1", 1, 2, "CmdV1a", "cmdV1b", 1, 2},
-    {"imgV2", 2700, 3370, "imgE2", 2965, 2565, "", "", "imgb0", "Imgb1", 3, 4, "cmdV2a", "cmdV2b", 3, 4},
-    {"imgV3",  480, 1150, "imgE3",  750,  360, "", "", "imgc0", "imgc1", 5, 6, "cmdV3a", "cmdV3b", 5, 6},
-    {"imgV4", 2700, 3370, "imgE4", 2970, 2580, "", "", "imgd0", "imgd1", 7, 8, "cmdV4a", "cmdV4b", 7, 8},
+    {.Pistone = "imgV1", .Arretrato = 480, .Esteso = 1150, .Valvola = "imgE1", .Left_Set = 750,
+     .Left_Reset = 360, .Micro_Meno = "imga0", .Micro_Piu = "imga1", .Ingresso_Meno = I(0, 0), .Ingresso_Piu = I(0, 1),
+     .Cmd_Set = "CmdV1a", .Cmd_Reset = "cmdV1b", .Uscita_Set = Q(0, 0), .Uscita_Reset = Q(0, 1)},
+    {.Pistone = "imgV2", .Arretrato = 2700, .Esteso = 3370, .Valvola = "imgE2", .Left_Set = 2965,
+     .Left_Reset = 2565, .Micro_Meno = "imgb0", .Micro_Piu = "Imgb1", .Ingresso_Meno = I(0, 2), .Ingresso_Piu = I(0, 3),
+     .Cmd_Set = "cmdV2a", .Cmd_Reset = "cmdV2b", .Uscita_Set = Q(0, 2), .Uscita_Reset = Q(0, 3)},
+    {.Pistone = "imgV3", .Arretrato = 480, .Esteso = 1150, .Valvola = "imgE3", .Left_Set = 750,
+     .Left_Reset = 360, .Micro_Meno = "imgc0", .Micro_Piu = "imgc1", .Ingresso_Meno = I(0, 4), .Ingresso_Piu = I(0, 5),
+     .Cmd_Set = "cmdV3a", .Cmd_Reset = "cmdV3b", .Uscita_Set = Q(0, 4), .Uscita_Reset = Q(0, 5)},
+    {.Pistone = "imgV4", .Arretrato = 2700, .Esteso = 3370, .Valvola = "imgE4", .Left_Set = 2970,
+     .Left_Reset = 2580, .Micro_Meno = "imgd0", .Micro_Piu = "imgd1", .Ingresso_Meno = I(0, 6), .Ingresso_Piu = I(0, 7),
+     .Cmd_Set = "cmdV4a", .Cmd_Reset = "cmdV4b", .Uscita_Set = Q(0, 6), .Uscita_Reset = Q(0, 7)},
 };
 constexpr Riga_Cilindro cilindri_15[] = {
-    {"imgV1",  360, 1030, "imgE1",  630,  240, "imgEON", "imgEOF", "imga0", "imga1", 1, 2, "CmdV1a", "", 2, 0},
-    {"imgV2", 2580, 3250, "imgE2", 2830, 2450, "imgEON", "imgEOF", "imgb0", "Imgb1", 3, 4, "cmdV2a", "", 3, 0},
-    {"imgV3", 4800, 5470, "imgE3", 5070, 4680, "imgEON", "imgEOF", "imgc0", "imgc1", 5, 6, "cmdV3a", "", 4, 0},
+    {.Pistone = "imgV1", .Arretrato = 360, .Esteso = 1030, .Valvola = "imgE1", .Left_Set = 630,
+     .Left_Reset = 240, .Picture_Set = "imgEON", .Picture_Reset = "imgEOF", .Micro_Meno = "imga0",
+     .Micro_Piu = "imga1", .Ingresso_Meno = I(0, 0), .Ingresso_Piu = I(0, 1), .Cmd_Set = "CmdV1a", .Uscita_Set = Q(0, 1)},
+    {.Pistone = "imgV2", .Arretrato = 2580, .Esteso = 3250, .Valvola = "imgE2", .Left_Set = 2830,
+     .Left_Reset = 2450, .Picture_Set = "imgEON", .Picture_Reset = "imgEOF", .Micro_Meno = "imgb0",
+     .Micro_Piu = "Imgb1", .Ingresso_Meno = I(0, 2), .Ingresso_Piu = I(0, 3), .Cmd_Set = "cmdV2a", .Uscita_Set = Q(0, 2)},
+    {.Pistone = "imgV3", .Arretrato = 4800, .Esteso = 5470, .Valvola = "imgE3", .Left_Set = 5070,
+     .Left_Reset = 4680, .Picture_Set = "imgEON", .Picture_Reset = "imgEOF", .Micro_Meno = "imgc0",
+     .Micro_Piu = "imgc1", .Ingresso_Meno = I(0, 4), .Ingresso_Piu = I(0, 5), .Cmd_Set = "cmdV3a", .Uscita_Set = Q(0, 3)},
 };
 
-// Push buttons: name, input, down, up, picture down, picture up. What the table of inputs calls NO
-// or NC is sometimes not what is wired; the wiring is here.
+// What the table of inputs calls NO or NC is sometimes not what is wired; the wiring is here.
 
 constexpr Riga_Pulsante pulsanti_04[] = {
-    {"imgSB1", 4, '1', '0', "imgVON",  "imgVOFF"},
-    {"imgSB2", 5, '1', '0', "imgPBON", "imgPBOF"},
-    {"imgSB3", 6, '0', '1', "imgPGr1", "imgPGr0"},
-    {"imgSB4", 7, '1', '0', "imgPBON", "imgPBOF"},
+    {.Nome = "imgSB1", .Posizione = I(0, 3), .Giu = '1', .Su = '0', .Picture_Giu = "imgVON",
+     .Picture_Su = "imgVOFF"},
+    {.Nome = "imgSB2", .Posizione = I(0, 4), .Giu = '1', .Su = '0', .Picture_Giu = "imgPBON",
+     .Picture_Su = "imgPBOF"},
+    {.Nome = "imgSB3", .Posizione = I(0, 5), .Giu = '0', .Su = '1', .Picture_Giu = "imgPGr1",
+     .Picture_Su = "imgPGr0"},
+    {.Nome = "imgSB4", .Posizione = I(0, 6), .Giu = '1', .Su = '0', .Picture_Giu = "imgPBON",
+     .Picture_Su = "imgPBOF"},
 };
 constexpr Riga_Pulsante pulsanti_05[] = {
-    {"imgSB3",  2, '0', '1', "imgPGr1", "imgPGr0"},
-    {"imgSB1",  3, '1', '0', "imgVON",  "imgVOFF"},
-    {"imgSB2",  4, '1', '0', "imgPBON", "imgPBOF"},
-    {"imgSB4", 10, '0', '1', "imgPBON", "imgPBOF"},
+    {.Nome = "imgSB3", .Posizione = I(0, 1), .Giu = '0', .Su = '1', .Picture_Giu = "imgPGr1",
+     .Picture_Su = "imgPGr0"},
+    {.Nome = "imgSB1", .Posizione = I(0, 2), .Giu = '1', .Su = '0', .Picture_Giu = "imgVON",
+     .Picture_Su = "imgVOFF"},
+    {.Nome = "imgSB2", .Posizione = I(0, 3), .Giu = '1', .Su = '0', .Picture_Giu = "imgPBON",
+     .Picture_Su = "imgPBOF"},
+    {.Nome = "imgSB4", .Posizione = I(1, 1), .Giu = '0', .Su = '1', .Picture_Giu = "imgPBON",
+     .Picture_Su = "imgPBOF"},
 };
 constexpr Riga_Pulsante pulsanti_06[] = {
-    {"imgSB1",  8, '1', '0', "imgVON",  "imgVOFF"},
-    {"imgSB2",  9, '1', '0', "imgPBON", "imgPBOF"},
-    {"imgSB3", 10, '0', '1', "imgPGr1", "imgPGr0"},
-    {"imgSB4", 11, '0', '1', "imgPBON", "imgPBOF"},
+    {.Nome = "imgSB1", .Posizione = I(0, 7), .Giu = '1', .Su = '0', .Picture_Giu = "imgVON",
+     .Picture_Su = "imgVOFF"},
+    {.Nome = "imgSB2", .Posizione = I(1, 0), .Giu = '1', .Su = '0', .Picture_Giu = "imgPBON",
+     .Picture_Su = "imgPBOF"},
+    {.Nome = "imgSB3", .Posizione = I(1, 1), .Giu = '0', .Su = '1', .Picture_Giu = "imgPGr1",
+     .Picture_Su = "imgPGr0"},
+    {.Nome = "imgSB4", .Posizione = I(1, 2), .Giu = '0', .Su = '1', .Picture_Giu = "imgPBON",
+     .Picture_Su = "imgPBOF"},
 };
 constexpr Riga_Pulsante pulsanti_07[] = {
-    {"imgSB1",  9, '1', '0', "imgVON",  "imgVOFF"},
-    {"imgSB2", 10, '1', '0', "imgPBON", "imgPBOF"},
-    {"imgSB3", 11, '0', '1', "imgPGr1", "imgPGr0"},
-    {"imgSB4", 12, '1', '0', "imgPBON", "imgPBOF"},
+    {.Nome = "imgSB1", .Posizione = I(1, 0), .Giu = '1', .Su = '0', .Picture_Giu = "imgVON",
+     .Picture_Su = "imgVOFF"},
+    {.Nome = "imgSB2", .Posizione = I(1, 1), .Giu = '1', .Su = '0', .Picture_Giu = "imgPBON",
+     .Picture_Su = "imgPBOF"},
+    {.Nome = "imgSB3", .Posizione = I(1, 2), .Giu = '0', .Su = '1', .Picture_Giu = "imgPGr1",
+     .Picture_Su = "imgPGr0"},
+    {.Nome = "imgSB4", .Posizione = I(1, 3), .Giu = '1', .Su = '0', .Picture_Giu = "imgPBON",
+     .Picture_Su = "imgPBOF"},
 };
 constexpr Riga_Pulsante pulsanti_15[] = {
-    {"imgSB1",  8, '1', '0', "imgVON",  "imgVOFF"},
-    {"imgSB2",  9, '1', '0', "imgPBON", "imgPBOF"},
-    {"imgSB3", 10, '0', '1', "imgPGr1", "imgPGr0"},
-    {"imgSB4", 11, '1', '0', "imgPBON", "imgPBOF"},
+    {.Nome = "imgSB1", .Posizione = I(0, 7), .Giu = '1', .Su = '0', .Picture_Giu = "imgVON",
+     .Picture_Su = "imgVOFF"},
+    {.Nome = "imgSB2", .Posizione = I(1, 0), .Giu = '1', .Su = '0', .Picture_Giu = "imgPBON",
+     .Picture_Su = "imgPBOF"},
+    {.Nome = "imgSB3", .Posizione = I(1, 1), .Giu = '0', .Su = '1', .Picture_Giu = "imgPGr1",
+     .Picture_Su = "imgPGr0"},
+    {.Nome = "imgSB4", .Posizione = I(1, 2), .Giu = '1', .Su = '0', .Picture_Giu = "imgPBON",
+     .Picture_Su = "imgPBOF"},
 };
 
 // Lamps: name, output, picture lit.
 
-constexpr Riga_Lampada lampade_04[] = {{"imgHL2", 5, "imgLV"}, {"imgHL1", 4, "imgLB"}};
-constexpr Riga_Lampada lampade_05[] = {{"imgLM2", 6, "imgLB"}, {"imgLS2", 7, "imgLV"}};
+constexpr Riga_Lampada lampade_04[] = {{"imgHL2", Q(0, 4), "imgLV"}, {"imgHL1", Q(0, 3), "imgLB"}};
+constexpr Riga_Lampada lampade_05[] = {{"imgLM2", Q(0, 5), "imgLB"}, {"imgLS2", Q(0, 6), "imgLV"}};
 constexpr Riga_Lampada lampade_06[] = {
-    {"imgL1",  8, "imgLB"}, {"imgL2",  9, "imgLV"}, {"imgL3", 10, "imgLV"},
-    {"imgL4", 11, "imgLB"}, {"imgL5", 12, "imgLV"}, {"imgL6", 13, "imgLR"},
+    {"imgL1", Q(0, 7), "imgLB"}, {"imgL2", Q(1, 0), "imgLV"}, {"imgL3", Q(1, 1), "imgLV"},
+    {"imgL4", Q(1, 2), "imgLB"}, {"imgL5", Q(1, 3), "imgLV"}, {"imgL6", Q(1, 4), "imgLR"},
 };
 constexpr Riga_Lampada lampade_07[] = {
-    {"imgL1", 10, "imgLB"}, {"imgL2", 11, "imgLV"}, {"imgL3", 12, "imgLV"},
+    {"imgL1", Q(1, 1), "imgLB"}, {"imgL2", Q(1, 2), "imgLV"}, {"imgL3", Q(1, 3), "imgLV"},
 };
 constexpr Riga_Lampada lampade_15[] = {
-    {"imgL1", 5, "imgLB"}, {"imgL2", 6, "imgLV"}, {"imgL3",  7, "imgLV"},
-    {"imgL4", 8, "imgLB"}, {"imgL5", 9, "imgLR"}, {"imgL6", 10, "imgLR"},
+    {"imgL1", Q(0, 4), "imgLB"}, {"imgL2", Q(0, 5), "imgLV"}, {"imgL3", Q(0, 6), "imgLV"},
+    {"imgL4", Q(0, 7), "imgLB"}, {"imgL5", Q(1, 0), "imgLR"}, {"imgL6", Q(1, 1), "imgLR"},
 };
 
 constexpr Riga_Commutatore Selettore(int ingresso) {
@@ -98,7 +140,7 @@ const Schema_Pneumatico Schema_Pist_1 = {
     .Periodo = 40,
     .Figure = Figure_04(),
     .Cilindri = cilindri_04,
-    .Uscita_Aria = 1,
+    .Uscita_Aria = Q(0, 0),
     .Aria_Aperta = 810,
     .Aria_Chiusa = 540,
     .Voce_Aria = "Apri Valvola",
@@ -107,7 +149,7 @@ const Schema_Pneumatico Schema_Pist_1 = {
     .UpDP = true,
     .Selettore = Selettore(1),
     .Pulsanti = pulsanti_04,
-    .Ingresso_Emergenza = 8,
+    .Ingresso_Emergenza = I(0, 7),
     .Lampade = lampade_04,
 };
 
@@ -116,7 +158,7 @@ const Schema_Pneumatico Schema_CicloQ = {
     .Periodo = 40,
     .Figure = Figure_05(),
     .Cilindri = cilindri_05,
-    .Uscita_Aria = 1,
+    .Uscita_Aria = Q(0, 0),
     .Aria_Aperta = 2260,
     .Aria_Chiusa = 1980,
     .Voce_Aria = "Apri Distributore",
@@ -125,7 +167,7 @@ const Schema_Pneumatico Schema_CicloQ = {
     .UpDP = true,
     .Selettore = Selettore(1),
     .Pulsanti = pulsanti_05,
-    .Ingresso_Emergenza = 9,
+    .Ingresso_Emergenza = I(1, 0),
     .Lampade = lampade_05,
 };
 
@@ -134,7 +176,7 @@ const Schema_Pneumatico Schema_Pist_3 = {
     .Periodo = 40,
     .Figure = Figure_06(),
     .Cilindri = cilindri_06,
-    .Uscita_Aria = 1,
+    .Uscita_Aria = Q(0, 0),
     .Aria_Aperta = 750,
     .Aria_Chiusa = 480,
     .Voce_Aria = "Apri Valvola",
@@ -143,7 +185,7 @@ const Schema_Pneumatico Schema_Pist_3 = {
     .UpDP = false,
     .Selettore = Selettore(7),
     .Pulsanti = pulsanti_06,
-    .Ingresso_Emergenza = 12,
+    .Ingresso_Emergenza = I(1, 3),
     .Lampade = lampade_06,
 };
 
@@ -152,7 +194,7 @@ const Schema_Pneumatico Schema_Pist_4 = {
     .Periodo = 80,
     .Figure = Figure_07(),
     .Cilindri = cilindri_07,
-    .Uscita_Aria = 9,
+    .Uscita_Aria = Q(1, 0),
     .Aria_Aperta = 880,
     .Aria_Chiusa = 600,
     .Voce_Aria = "Apri Valvola",
@@ -161,7 +203,7 @@ const Schema_Pneumatico Schema_Pist_4 = {
     .UpDP = false,
     .Selettore = Selettore(14),
     .Pulsanti = pulsanti_07,
-    .Ingresso_Emergenza = 13,
+    .Ingresso_Emergenza = I(1, 4),
     .Lampade = lampade_07,
 };
 
@@ -170,7 +212,7 @@ const Schema_Pneumatico Schema_ctr_Pist_32 = {
     .Periodo = 40,
     .Figure = Figure_15(),
     .Cilindri = cilindri_15,
-    .Uscita_Aria = 1,
+    .Uscita_Aria = Q(0, 0),
     .Aria_Aperta = 750,
     .Aria_Chiusa = 480,
     .Voce_Aria = "Apri Valvola",
@@ -179,7 +221,7 @@ const Schema_Pneumatico Schema_ctr_Pist_32 = {
     .UpDP = false,
     .Selettore = Selettore(7),
     .Pulsanti = pulsanti_15,
-    .Ingresso_Emergenza = 12,
+    .Ingresso_Emergenza = I(1, 3),
     .Lampade = lampade_15,
 };
 

@@ -9,19 +9,33 @@ namespace {
 
 constexpr Grandezza Corsa_Di(int impianto, const char* nome, const char* pistone, double arretrato,
                              double esteso) {
-  return {impianto,  nome,
-          "%",       0,
-          100,       Fonte_Grandezza::Left,
-          pistone,   0,
-          arretrato, 100 / (esteso - arretrato)};
+  return {.Impianto = impianto,
+          .Nome = nome,
+          .Unita = "%",
+          .Massimo = 100,
+          .Da = Fonte_Grandezza::Left,
+          .Figura = pistone,
+          .Zero = arretrato,
+          .Passo = 100 / (esteso - arretrato)};
 }
 constexpr Grandezza Livello_Di(int impianto, const char* nome, const char* liquido, double orlo) {
-  return {impianto, nome, "%", 0, 100, Fonte_Grandezza::Height, liquido, 0, 0, 100 / orlo};
+  return {.Impianto = impianto,
+          .Nome = nome,
+          .Unita = "%",
+          .Massimo = 100,
+          .Da = Fonte_Grandezza::Height,
+          .Figura = liquido,
+          .Passo = 100 / orlo};
 }
 constexpr Grandezza Ingresso_Di(int impianto, const char* nome, const char* unita, double massimo,
                                 int canale) {
-  return {impianto, nome,   unita, 0,           massimo, Fonte_Grandezza::Volt_AI,
-          nullptr,  canale, 0,     massimo / 10};
+  return {.Impianto = impianto,
+          .Nome = nome,
+          .Unita = unita,
+          .Massimo = massimo,
+          .Da = Fonte_Grandezza::Volt_AI,
+          .Canale = canale,
+          .Passo = massimo / 10};
 }
 
 // In the order of the exercises.
@@ -54,7 +68,12 @@ constexpr Grandezza tutte[] = {
     Corsa_Di(15, "Pistone C", "imgV3", 4800, 5470),
     Ingresso_Di(17, "Posizione", "V", 10, 0),
     Ingresso_Di(17, "Riferimento", "V", 10, 1),
-    {17, "Controllo", "V", 0, 10, Fonte_Grandezza::Volt_AQ, nullptr, 0, 0, 1},
+    {.Impianto = 17,
+     .Nome = "Controllo",
+     .Unita = "V",
+     .Massimo = 10,
+     .Da = Fonte_Grandezza::Volt_AQ,
+     .Passo = 1},
 };
 
 double Letto(const Grandezza& grandezza, const Plc& plc, Impianto& macchina) {

@@ -22,11 +22,11 @@ struct Grandezza {
   int Impianto;  ///< index of the exercise
   const char* Nome;
   const char* Unita;
-  double Minimo, Massimo;  ///< of the scale on which it is drawn
+  double Minimo = 0, Massimo = 0;  ///< of the scale on which it is drawn
   Fonte_Grandezza Da;
-  const char* Figura;  ///< of Left and Height; else nullptr
-  int Canale;          ///< of Volt_AI and Volt_AQ
-  double Zero, Passo;  ///< value = (what is read - Zero) * Passo
+  const char* Figura = nullptr;  ///< of Left and Height; else nullptr
+  int Canale = 0;                ///< of Volt_AI and Volt_AQ
+  double Zero = 0, Passo = 1;    ///< value = (what is read - Zero) * Passo
 };
 
 /// The quantities of an exercise, in the order in which they are drawn; may be empty. UTF-8.

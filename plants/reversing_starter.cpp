@@ -32,23 +32,31 @@ constexpr Riga_Figura figure[] = {
 };
 
 constexpr Riga_Pulsante pulsanti[] = {
-    // name, input, down, up, picture down, picture up
-    {"imgStop",  2, '0', '1', "imgPGr1", "imgPGr0"},
-    {"imgStart", 3, '1', '0', "imgVON",  "imgVOFF"},
-    {"imgInd",   4, '1', '0', "imgVON",  "imgVOFF"},
-    {"ImgEm",    7, '0', '1', "imgRON",  "imgROFF"},
+    {.Nome = "imgStop", .Posizione = I(0, 1), .Giu = '0', .Su = '1', .Picture_Giu = "imgPGr1",
+     .Picture_Su = "imgPGr0"},
+    {.Nome = "imgStart", .Posizione = I(0, 2), .Giu = '1', .Su = '0', .Picture_Giu = "imgVON",
+     .Picture_Su = "imgVOFF"},
+    {.Nome = "imgInd", .Posizione = I(0, 3), .Giu = '1', .Su = '0', .Picture_Giu = "imgVON",
+     .Picture_Su = "imgVOFF"},
+    {.Nome = "ImgEm", .Posizione = I(0, 6), .Giu = '0', .Su = '1', .Picture_Giu = "imgRON",
+     .Picture_Su = "imgROFF"},
 };
 
-constexpr Riga_Commutatore termici[] = {{"ImgTer", 6, '0', '1', "imgRTON", "ImgRTOF"}};
+constexpr Riga_Commutatore termici[] = {
+    {.Nome = "ImgTer", .Posizione = I(0, 5), .Azionato = '0', .Riposo = '1', .Picture_Azionato = "imgRTON",
+     .Picture_Riposo = "ImgRTOF"},
+};
 
-constexpr Riga_Contattore km1 = {"imgKm1", "imgKM1a", "linKM1", 1, 1};
-constexpr Riga_Contattore km2 = {"imgKM2", "imgKM2a", "linKM2", 2, 5};
+constexpr Riga_Contattore km1 = {
+    .Nome = "imgKm1", .Contatto = "imgKM1a", .Filo = "linKM1", .Uscita = Q(0, 0), .Ingresso = I(0, 0)};
+constexpr Riga_Contattore km2 = {
+    .Nome = "imgKM2", .Contatto = "imgKM2a", .Filo = "linKM2", .Uscita = Q(0, 1), .Ingresso = I(0, 4)};
 
-constexpr Riga_Lampada hl1 = {"imgLA",      5, "imgLV"};
-constexpr Riga_Lampada hl2 = {"imgLI",      4, "imgLV"};
-constexpr Riga_Lampada hl3 = {"imgLS",      3, "imgLB"};
-constexpr Riga_Lampada hl4 = {"imgLRt",     6, "imgLG"};
-constexpr Riga_Lampada hl5 = {"imgLAttesa", 7, "imgLR"};
+constexpr Riga_Lampada hl1 = {"imgLA", Q(0, 4), "imgLV"};
+constexpr Riga_Lampada hl2 = {"imgLI", Q(0, 3), "imgLV"};
+constexpr Riga_Lampada hl3 = {"imgLS", Q(0, 2), "imgLB"};
+constexpr Riga_Lampada hl4 = {"imgLRt", Q(0, 5), "imgLG"};
+constexpr Riga_Lampada hl5 = {"imgLAttesa", Q(0, 6), "imgLR"};
 // clang-format on
 
 }  // namespace

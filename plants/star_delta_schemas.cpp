@@ -35,27 +35,31 @@ constexpr Riga_Figura figure_st[] = {
 };
 
 constexpr Riga_Contattore contattori_st[] = {
-    // name, contact, wire, output, input
-    {"KM(0)", "KMa(0)", "lin(0)", 1, 3},
-    {"KM(1)", "KMa(1)", "lin(1)", 3, 4},
-    {"KM(2)", "KMa(2)", "lin(2)", 2, 5},
+    {.Nome = "KM(0)", .Contatto = "KMa(0)", .Filo = "lin(0)", .Uscita = Q(0, 0), .Ingresso = I(0, 2)},
+    {.Nome = "KM(1)", .Contatto = "KMa(1)", .Filo = "lin(1)", .Uscita = Q(0, 2), .Ingresso = I(0, 3)},
+    {.Nome = "KM(2)", .Contatto = "KMa(2)", .Filo = "lin(2)", .Uscita = Q(0, 1), .Ingresso = I(0, 4)},
 };
 
 constexpr Riga_Lampada lampade_st[] = {
-    {"imgLSt",  5, "imgLV"},
-    {"imgLTri", 6, "imgLV"},
-    {"imgLS",   4, "imgLB"},
-    {"imgLRt",  7, "imgLG"},
+    {"imgLSt", Q(0, 4), "imgLV"},
+    {"imgLTri", Q(0, 5), "imgLV"},
+    {"imgLS", Q(0, 3), "imgLB"},
+    {"imgLRt", Q(0, 6), "imgLG"},
 };
 
 constexpr Riga_Pulsante pulsanti_st[] = {
-    // name, input, down, up, picture down, picture up
-    {"imgStop",  1, '0', '1', "imgPGr1", "imgPGr0"},
-    {"imgStart", 2, '1', '0', "imgVON",  "imgVOFF"},
-    {"ImgEm",    7, '0', '1', "imgRON",  "imgROFF"},
+    {.Nome = "imgStop", .Posizione = I(0, 0), .Giu = '0', .Su = '1', .Picture_Giu = "imgPGr1",
+     .Picture_Su = "imgPGr0"},
+    {.Nome = "imgStart", .Posizione = I(0, 1), .Giu = '1', .Su = '0', .Picture_Giu = "imgVON",
+     .Picture_Su = "imgVOFF"},
+    {.Nome = "ImgEm", .Posizione = I(0, 6), .Giu = '0', .Su = '1', .Picture_Giu = "imgRON",
+     .Picture_Su = "imgROFF"},
 };
 
-constexpr Riga_Commutatore termici_st[] = {{"imgRt", 6, '0', '1', "imgRTON", "ImgRTOF"}};
+constexpr Riga_Commutatore termici_st[] = {
+    {.Nome = "imgRt", .Posizione = I(0, 5), .Azionato = '0', .Riposo = '1', .Picture_Azionato = "imgRTON",
+     .Picture_Riposo = "ImgRTOF"},
+};
 
 constexpr Riga_Figura figure_st2[] = {
     {"lin(0)",    705, 1130,  390, 1010},
@@ -90,39 +94,53 @@ constexpr Riga_Figura figure_st2[] = {
 };
 
 constexpr Riga_Contattore contattori_st2[] = {
-    {"KM(0)", "KMa(0)", "lin(0)", 1, 3},
-    {"KM(1)", "KMa(1)", "lin(1)", 3, 7},
-    {"KM(2)", "KMa(2)", "lin(2)", 2, 8},
-    {"KM(3)", "KMa(3)", "lin(3)", 4, 5},
+    {.Nome = "KM(0)", .Contatto = "KMa(0)", .Filo = "lin(0)", .Uscita = Q(0, 0), .Ingresso = I(0, 2)},
+    {.Nome = "KM(1)", .Contatto = "KMa(1)", .Filo = "lin(1)", .Uscita = Q(0, 2), .Ingresso = I(0, 6)},
+    {.Nome = "KM(2)", .Contatto = "KMa(2)", .Filo = "lin(2)", .Uscita = Q(0, 1), .Ingresso = I(0, 7)},
+    {.Nome = "KM(3)", .Contatto = "KMa(3)", .Filo = "lin(3)", .Uscita = Q(0, 3), .Ingresso = I(0, 4)},
 };
 
 constexpr Riga_Lampada lampade_st2[] = {
-    {"imgLM2",   8, "imgLV"},
-    {"imgLS2",   7, "imgLB"},
-    {"imgLRt2", 10, "imgLG"},
-    {"imgLM1",   6, "imgLV"},
-    {"imgLS1",   5, "imgLB"},
-    {"imgLRt1",  9, "imgLG"},
+    {"imgLM2", Q(0, 7), "imgLV"},
+    {"imgLS2", Q(0, 6), "imgLB"},
+    {"imgLRt2", Q(1, 1), "imgLG"},
+    {"imgLM1", Q(0, 5), "imgLV"},
+    {"imgLS1", Q(0, 4), "imgLB"},
+    {"imgLRt1", Q(1, 0), "imgLG"},
 };
 
 constexpr Riga_Pulsante pulsanti_st2[] = {
-    {"imgStop",  1, '0', '1', "imgPGr1", "imgPGr0"},
-    {"imgStart", 2, '1', '0', "imgVON",  "imgVOFF"},
-    {"imgSM2",   4, '1', '0', "imgVON",  "imgVOFF"},
-    {"ImgEm",    6, '0', '1', "imgRON",  "imgROFF"},
+    {.Nome = "imgStop", .Posizione = I(0, 0), .Giu = '0', .Su = '1', .Picture_Giu = "imgPGr1",
+     .Picture_Su = "imgPGr0"},
+    {.Nome = "imgStart", .Posizione = I(0, 1), .Giu = '1', .Su = '0', .Picture_Giu = "imgVON",
+     .Picture_Su = "imgVOFF"},
+    {.Nome = "imgSM2", .Posizione = I(0, 3), .Giu = '1', .Su = '0', .Picture_Giu = "imgVON",
+     .Picture_Su = "imgVOFF"},
+    {.Nome = "ImgEm", .Posizione = I(0, 5), .Giu = '0', .Su = '1', .Picture_Giu = "imgRON",
+     .Picture_Su = "imgROFF"},
 };
 
 constexpr Riga_Commutatore termici_st2[] = {
-    {"imgRt",   9, '0', '1', "imgRTON", "ImgRTOF"},
-    {"imgRt2", 10, '0', '1', "imgRTON", "ImgRTOF"},
+    {.Nome = "imgRt", .Posizione = I(1, 0), .Azionato = '0', .Riposo = '1', .Picture_Azionato = "imgRTON",
+     .Picture_Riposo = "ImgRTOF"},
+    {.Nome = "imgRt2", .Posizione = I(1, 1), .Azionato = '0', .Riposo = '1', .Picture_Azionato = "imgRTON",
+     .Picture_Riposo = "ImgRTOF"},
 };
 // clang-format on
 
 }  // namespace
 
-const Schema_Avviatore Schema_ST = {"1000011000000000", figure_st,   contattori_st,
-                                    lampade_st,         pulsanti_st, termici_st};
-const Schema_Avviatore Schema_ST2 = {"1000010011000000", figure_st2,   contattori_st2,
-                                     lampade_st2,        pulsanti_st2, termici_st2};
+const Schema_Avviatore Schema_ST = {.Stato_I = "1000011000000000",
+                                    .Figure = figure_st,
+                                    .Contattori = contattori_st,
+                                    .Lampade = lampade_st,
+                                    .Pulsanti = pulsanti_st,
+                                    .Termici = termici_st};
+const Schema_Avviatore Schema_ST2 = {.Stato_I = "1000010011000000",
+                                     .Figure = figure_st2,
+                                     .Contattori = contattori_st2,
+                                     .Lampade = lampade_st2,
+                                     .Pulsanti = pulsanti_st2,
+                                     .Termici = termici_st2};
 
 }  // namespace tavorno

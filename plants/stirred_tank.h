@@ -57,7 +57,7 @@ inline constexpr Riga_Livello Parola_Livello[] = {
 struct Riga_Termico {
   const char* Motore;
   const char* imgFR;
-  int Ingresso;  ///< '0' while tripped
+  Morsetto_I Ingresso;  ///< '0' while tripped
 };
 
 /// What the three stirred tanks differ in.

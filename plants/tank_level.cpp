@@ -8,7 +8,7 @@ namespace tavorno {
 
 /// A level switch, with its lamp and the rays of the lamp.
 struct Riga_Micro {
-  int Ingresso;
+  Morsetto_I Ingresso;
   const char *Spia, *Raggi;
 };
 
@@ -55,27 +55,37 @@ constexpr Riga_Figura figure[] = {
 };
 
 constexpr Riga_Commutatore commutatori[] = {
-    {"imgP1",      3, '0', '1', "imgFR", "imgMOF"},
-    {"imgCom(0)",  7, '1', '0', "imgComON", "imgComOF"},
-    {"imgCom(1)",  9, '1', '0', "imgComON", "imgComOF"},
-    {"imgCom(2)", 10, '1', '0', "imgComON", "imgComOF"},
-    {"imgCom(3)", 11, '1', '0', "imgComON", "imgComOF"},
+    {.Nome = "imgP1", .Posizione = I(0, 2), .Azionato = '0', .Riposo = '1', .Picture_Azionato = "imgFR",
+     .Picture_Riposo = "imgMOF"},
+    {.Nome = "imgCom(0)", .Posizione = I(0, 6), .Azionato = '1', .Riposo = '0', .Picture_Azionato = "imgComON",
+     .Picture_Riposo = "imgComOF"},
+    {.Nome = "imgCom(1)", .Posizione = I(1, 0), .Azionato = '1', .Riposo = '0', .Picture_Azionato = "imgComON",
+     .Picture_Riposo = "imgComOF"},
+    {.Nome = "imgCom(2)", .Posizione = I(1, 1), .Azionato = '1', .Riposo = '0', .Picture_Azionato = "imgComON",
+     .Picture_Riposo = "imgComOF"},
+    {.Nome = "imgCom(3)", .Posizione = I(1, 2), .Azionato = '1', .Riposo = '0', .Picture_Azionato = "imgComON",
+     .Picture_Riposo = "imgComOF"},
 };
 
 constexpr Riga_Pulsante pulsanti[] = {
-    {"imgAlt(0)",  8, '0', '1', "imgSBON", "imgSBOF"},
-    {"imgAlt(1)", 12, '0', '1', "imgSBON", "imgSBOF"},
-    {"imgSB6",    13, '1', '0', "imgSBON", "imgSBOF"},
+    {.Nome = "imgAlt(0)", .Posizione = I(0, 7), .Giu = '0', .Su = '1', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
+    {.Nome = "imgAlt(1)", .Posizione = I(1, 3), .Giu = '0', .Su = '1', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
+    {.Nome = "imgSB6", .Posizione = I(1, 4), .Giu = '1', .Su = '0', .Picture_Giu = "imgSBON",
+     .Picture_Su = "imgSBOF"},
 };
 
 constexpr Riga_Lampada lampade[] = {
-    {"imgHL1", 4, "imgLV"}, {"imgHL2", 5, "imgLG"}, {"imgHL3", 6, "imgLR"}, {"imgHL4", 7, "imgLB"},
+    {"imgHL1", Q(0, 3), "imgLV"}, {"imgHL2", Q(0, 4), "imgLG"}, {"imgHL3", Q(0, 5), "imgLR"}, {"imgHL4", Q(0, 6), "imgLB"},
 };
 // clang-format on
 
-constexpr Riga_Micro SL1 = {1, "imgMax1", "imgRaggi(0)"}, SL2 = {2, "imgMin1", "imgRaggi(1)"};
-constexpr Riga_Micro SL3 = {4, "imgMin2", "imgRaggi(2)"}, SL4 = {5, "imgMed", "imgRaggi(3)"};
-constexpr Riga_Micro SL5 = {6, "imgMax2", "imgRaggi(4)"};
+constexpr Riga_Micro SL1 = {I(0, 0), "imgMax1", "imgRaggi(0)"},
+                     SL2 = {I(0, 1), "imgMin1", "imgRaggi(1)"};
+constexpr Riga_Micro SL3 = {I(0, 3), "imgMin2", "imgRaggi(2)"},
+                     SL4 = {I(0, 4), "imgMed", "imgRaggi(3)"};
+constexpr Riga_Micro SL5 = {I(0, 5), "imgMax2", "imgRaggi(4)"};
 constexpr int FR1 = 3;  // input of the thermal relay
 
 /// Levels, twips: a switch is operated beyond the first and at rest again beyond the second.

@@ -16,18 +16,37 @@ struct Comando_Modifica {
   const char* Testo;
   unsigned Messaggio;
   QKeySequence::StandardKey Tasti;
-  bool Modifica;  // not for a text that is read only
-  bool Stacco;
+  bool Modifica = false;  // not for a text that is read only
+  bool Stacco = false;
 };
 
 constexpr std::array<Comando_Modifica, 7> comandi_modifica = {{
-    {"&Annulla", QsciScintilla::SCI_UNDO, QKeySequence::Undo, true, false},
-    {"&Ripeti", QsciScintilla::SCI_REDO, QKeySequence::Redo, true, false},
-    {"&Taglia", QsciScintilla::SCI_CUT, QKeySequence::Cut, true, true},
-    {"&Copia", QsciScintilla::SCI_COPY, QKeySequence::Copy, false, false},
-    {"&Incolla", QsciScintilla::SCI_PASTE, QKeySequence::Paste, true, false},
-    {"&Elimina", QsciScintilla::SCI_CLEAR, QKeySequence::Delete, true, false},
-    {"&Seleziona tutto", QsciScintilla::SCI_SELECTALL, QKeySequence::SelectAll, false, true},
+    {.Testo = "&Annulla",
+     .Messaggio = QsciScintilla::SCI_UNDO,
+     .Tasti = QKeySequence::Undo,
+     .Modifica = true},
+    {.Testo = "&Ripeti",
+     .Messaggio = QsciScintilla::SCI_REDO,
+     .Tasti = QKeySequence::Redo,
+     .Modifica = true},
+    {.Testo = "&Taglia",
+     .Messaggio = QsciScintilla::SCI_CUT,
+     .Tasti = QKeySequence::Cut,
+     .Modifica = true,
+     .Stacco = true},
+    {.Testo = "&Copia", .Messaggio = QsciScintilla::SCI_COPY, .Tasti = QKeySequence::Copy},
+    {.Testo = "&Incolla",
+     .Messaggio = QsciScintilla::SCI_PASTE,
+     .Tasti = QKeySequence::Paste,
+     .Modifica = true},
+    {.Testo = "&Elimina",
+     .Messaggio = QsciScintilla::SCI_CLEAR,
+     .Tasti = QKeySequence::Delete,
+     .Modifica = true},
+    {.Testo = "&Seleziona tutto",
+     .Messaggio = QsciScintilla::SCI_SELECTALL,
+     .Tasti = QKeySequence::SelectAll,
+     .Stacco = true},
 }};
 
 }  // namespace

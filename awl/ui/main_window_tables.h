@@ -45,17 +45,35 @@ inline constexpr int Pagina_Listato = 2;
 inline constexpr int Pagina_Nascosta = 3;
 
 inline constexpr Pulsante Pulsante_Network_Main = {
-    "CmdNet(0)", "Inserisci Network", 1515, "Ctrl+Return",
-    "Aggiunge un segmento in fondo al programma principale"};
-inline constexpr Pulsante Pulsante_Test = {"cmdTest", "Finestra Test", 1155, "F9",
-                                           "Mostra lo stato delle aree di memoria e delle righe"};
-inline constexpr Pulsante Pulsante_Network_SBR = {"CmdNet(1)", "Inserisci Network", 1515,
-                                                  "Ctrl+Return",
-                                                  "Aggiunge un segmento in fondo alla procedura"};
+    .Nome = "CmdNet(0)",
+    .Testo = "Inserisci Network",
+    .Larghezza = 1515,
+    .Tasti = "Ctrl+Return",
+    .Suggerimento = "Aggiunge un segmento in fondo al programma principale"};
+inline constexpr Pulsante Pulsante_Test = {
+    .Nome = "cmdTest",
+    .Testo = "Finestra Test",
+    .Larghezza = 1155,
+    .Tasti = "F9",
+    .Suggerimento = "Mostra lo stato delle aree di memoria e delle righe"};
+inline constexpr Pulsante Pulsante_Network_SBR = {
+    .Nome = "CmdNet(1)",
+    .Testo = "Inserisci Network",
+    .Larghezza = 1515,
+    .Tasti = "Ctrl+Return",
+    .Suggerimento = "Aggiunge un segmento in fondo alla procedura"};
 inline constexpr Pulsante Pulsante_Nuova_SBR = {
-    "cmdSub", "Inserisci SBR", 1155, "Ctrl+Shift+Return", "Aggiunge una procedura al progetto"};
-inline constexpr Pulsante Pulsante_Rimuovi_SBR = {"cmdDelP", "Rimuovi SBR", 1155, "",
-                                                  "Toglie dal progetto la procedura scelta"};
+    .Nome = "cmdSub",
+    .Testo = "Inserisci SBR",
+    .Larghezza = 1155,
+    .Tasti = "Ctrl+Shift+Return",
+    .Suggerimento = "Aggiunge una procedura al progetto"};
+inline constexpr Pulsante Pulsante_Rimuovi_SBR = {
+    .Nome = "cmdDelP",
+    .Testo = "Rimuovi SBR",
+    .Larghezza = 1155,
+    .Tasti = "",
+    .Suggerimento = "Toglie dal progetto la procedura scelta"};
 
 /// Labels of the listing's page, each with the name of the label that shows its value.
 struct Etichetta_Valore {

@@ -30,7 +30,7 @@ namespace {
 constexpr int periodo = 40;  // ms: what the eye can follow
 constexpr double passo_zoom = 1.2;
 
-std::vector<Voce_Menu> Menu(Azioni_Scala& a) {
+std::vector<Voce_Menu> Menu_Scala(Azioni_Scala& a) {
   return {
       {.Livello = 0, .Nome = "mnuScFile", .Testo = "&File"},
       {.Livello = 1,
@@ -147,7 +147,7 @@ FrmScala::FrmScala(const Plc& plc, const Stato_Progetto& progetto, Legami_Scala 
     servizi_.Avvisa = [this](const QString& testo) {
       QMessageBox::warning(this, QStringLiteral("Errore!"), testo);
     };
-  Crea_Menu(*this, Menu(a_));
+  Crea_Menu(*this, Menu_Scala(a_));
   Crea_Barre();
   Crea_Comandi();
   vista_->Scelta_Cambiata = [this] { Racconta(); };

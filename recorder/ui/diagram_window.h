@@ -25,10 +25,10 @@ class FrmTempi;
 
 /// What can be done to a diagram. Those with an icon are buttons too.
 struct Comando_Tempi {
-  const char* Nome;   ///< objectName of its action
-  const char* Icona;  ///< file in :/icons/, "" for a key alone
-  const char* Tasti;  ///< as QKeySequence reads them; several between blanks
-  const char* Cosa;   ///< what it does, in Italian
+  const char* Nome;        ///< objectName of its action
+  const char* Icona = "";  ///< file in :/icons/, "" for a key alone
+  const char* Tasti;       ///< as QKeySequence reads them; several between blanks
+  const char* Cosa;        ///< what it does, in Italian
   void (FrmTempi::*Fai)();
   bool Spunta = false;  ///< its button can stand pressed
   bool Stacco = false;  ///< a gap before its button

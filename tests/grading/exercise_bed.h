@@ -11,7 +11,7 @@ namespace tavorno::prova {
 
 /// An exercise with its script, its solution and the hand-ins that were written for it.
 struct Esempio {
-  int Numero = 0;  ///< 0 to 17
+  int Numero = 0;  ///< its place in the table
 
   std::string Nome() const;  ///< "us07"
   std::filesystem::path Soluzione() const;
@@ -23,7 +23,7 @@ struct Esempio {
 /// What a failing test prints of it.
 void PrintTo(const Esempio& esempio, std::ostream* dove);
 
-/// All eighteen.
+/// All that there are.
 std::vector<Esempio> Esempi();
 
 /// What a hand-in of this exercise is examined with.
