@@ -56,19 +56,19 @@ TEST_F(Finestre_Pannello, EveryCommandOpensItsWindow) {
 }
 
 TEST_F(Finestre_Pannello, MoreWindowsStandInFrontOfTheGrading) {
-  const QList<QAction*> voci = Azione(pannello, "mnuView").menu()->actions();
-  const auto posto = voci.indexOf(&Azione(pannello, "mnuViewVerifica"));
+  const QList<QAction*> offerte = Azione(pannello, "mnuView").menu()->actions();
+  const auto posto = offerte.indexOf(&Azione(pannello, "mnuViewVerifica"));
   ASSERT_GE(posto, 3);
-  EXPECT_EQ(voci[posto - 1]->objectName(), "mnuViewSeconda");
-  EXPECT_EQ(voci[posto - 2]->objectName(), "mnuViewPrima");
-  EXPECT_EQ(voci[posto - 3]->objectName(), "mnuViewTempi");
+  EXPECT_EQ(offerte[posto - 1]->objectName(), "mnuViewSeconda");
+  EXPECT_EQ(offerte[posto - 2]->objectName(), "mnuViewPrima");
+  EXPECT_EQ(offerte[posto - 3]->objectName(), "mnuViewTempi");
 }
 
 TEST_F(Banco_Finestre, TheWatchWindowStandsBelowTheDiagramAndOpensByItsKey) {
-  const QList<QAction*> voci = Azione(pannello, "mnuView").menu()->actions();
+  const QList<QAction*> offerte = Azione(pannello, "mnuView").menu()->actions();
   QAction& voce = Azione(pannello, "mnuViewOsserva");
-  EXPECT_EQ(voci.indexOf(&voce), voci.indexOf(&Azione(pannello, "mnuViewTempi")) + 1);
-  EXPECT_LT(voci.indexOf(&voce), voci.indexOf(&Azione(pannello, "mnuViewVerifica")));
+  EXPECT_EQ(offerte.indexOf(&voce), offerte.indexOf(&Azione(pannello, "mnuViewTempi")) + 1);
+  EXPECT_LT(offerte.indexOf(&voce), offerte.indexOf(&Azione(pannello, "mnuViewVerifica")));
   EXPECT_EQ(voce.text(), "Finestra di &osservazione");
   EXPECT_EQ(voce.shortcut().toString(), "Ctrl+T");
   EXPECT_FALSE(voce.isCheckable());

@@ -84,7 +84,7 @@ const std::vector<Mutazione> contatti = {
     {{10}, "A I0.7", "AN I0.7"},  {{11}, "A I0.1", "AN I0.1"}, {{12}, "LDN I0.4", "LD I0.4"},
     {{13}, "AN I0.2", "A I0.2"},  {{14}, "A I1.1", "AN I1.1"}, {{15}, "A I0.5", "AN I0.5"},
     {{16}, "O I0.1", "ON I0.1"},  {{17}, "A I0.1", "AN I0.1"}};
-const std::vector<Mutazione> righe = {
+const std::vector<Mutazione> linee_rotte = {
     {{0}, "O I0.2", ""},    {{0}, "A I0.4", ""},    {{0}, "= Q0.1", ""},
     {{1}, "= Q0.1", ""},    {{2}, "A I0.5", ""},    {{3}, "A I1.1", ""},
     {{4}, "S M0.2 1", ""},  {{5}, "S M0.2 1", ""},  {{6}, "S M0.2 1", ""},
@@ -103,12 +103,12 @@ const std::vector<Mutazione> tempi = {
     {{16}, "TON T40 +80", "TON T40 +8"},   {{17}, "MOVW +25600 AQW0", "MOVW +3200 AQW0"}};
 
 INSTANTIATE_TEST_SUITE_P(Contacts, BrokenProject, ::testing::ValuesIn(contatti));
-INSTANTIATE_TEST_SUITE_P(Lines, BrokenProject, ::testing::ValuesIn(righe));
+INSTANTIATE_TEST_SUITE_P(Lines, BrokenProject, ::testing::ValuesIn(linee_rotte));
 INSTANTIATE_TEST_SUITE_P(Times, BrokenProject, ::testing::ValuesIn(tempi));
 
 TEST(Examples, EachExerciseHasAScriptAndThreeMutants) {
   std::map<int, int> mutanti;
-  for (const auto* lista : {&contatti, &righe, &tempi})
+  for (const auto* lista : {&contatti, &linee_rotte, &tempi})
     for (const Mutazione& mutazione : *lista) ++mutanti[mutazione.Di.Numero];
   ASSERT_EQ(Esempi().size(), Tabella_Esercizi().size());
   for (const Esempio& esempio : Esempi()) EXPECT_GE(mutanti[esempio.Numero], 3) << esempio.Nome();

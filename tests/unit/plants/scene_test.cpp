@@ -11,14 +11,14 @@ namespace tavorno::prova {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr Riga_Figura righe[] = {
+constexpr Riga_Figura figure_di_prova[] = {
     {"imgC", 660, 1020, 900, 810, "imgFermo", "Cabina"},
     {"shP(0)", 660, 0, 555, 810},
     {"shP(1)", 1200, 0, 555, 810},
 };
 
 struct SceneTest : ::testing::Test {
-  Scena scena{righe};
+  Scena scena{figure_di_prova};
 
   std::vector<std::string> Cambiate() {
     std::vector<std::string> nomi;
