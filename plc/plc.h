@@ -56,9 +56,8 @@ struct Plc : Memoria, Stato_Corsa, Vista_Pannello {
 
   // ---- the interpreter (scan.cpp) --------------------------------------------------------------
 
-  /// Jumps that one call follows before it gives way to the yield. Labels and procedures begin with
-  /// a line that is no jump, so only returns make chains, of as many as the return table has cells.
-  /// A longer one comes from a program that runs in a circle; without the limit it would never end.
+  /// Jumps that one call follows before it gives way to the yield. Only returns make chains, of as
+  /// many as their table has cells; a longer one is a program that runs in a circle without end.
   static constexpr int Salti_Di_Seguito = 100;
 
   /// Executes the line of `PC`, and on through jumps up to a line that is no jump.
@@ -86,9 +85,8 @@ struct Plc : Memoria, Stato_Corsa, Vista_Pannello {
   void mnuPlcStep();
   void CmdStep();
   void cmdRest();
-
-  void Cicla();
-  void Cicla_Ciclo();
+  void Cicla();        ///< the run loop of mode Cont, until `Ferma`
+  void Cicla_Ciclo();  ///< that of mode Ciclo, to the chosen line or number of scans at the latest
 
   // ---- what enters (plc_entries.cpp) -----------------------------------------------------------
 
