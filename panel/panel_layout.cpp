@@ -12,7 +12,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
-#include <QStatusBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -20,6 +19,7 @@
 #include "panel/panel_controls.h"
 #include "panel/panel_tables.h"
 #include "panel/program_list.h"
+#include "panel/status_bar.h"
 #include "widgets/colours.h"
 #include "widgets/naming.h"
 #include "widgets/screen_reader.h"
@@ -346,22 +346,25 @@ class Area_Pannello : public Area_Scorrevole {
 };
 
 void Crea_Stato(QMainWindow& finestra, Controlli_Pannello& c) {
-  auto* barra = Chiama(QStringLiteral("stB"), new QStatusBar(&finestra));
-  constexpr std::array larghezze{3, 1, 2, 5};
+  auto* barra = Chiama(QStringLiteral("stB"), new Barra_Stato(&finestra));
+  // The extension of a file and the number of an exercise tell most. Count and mode are never cut.
+  const struct {
+    Qt::TextElideMode Dove;
+    const char* Sempre;
+  } campi[] = {{Qt::ElideMiddle, "File: NoName.AWL"},
+               {Qt::ElideRight, "List: 300"},
+               {Qt::ElideRight, "STOP  -  Singolo Ciclo"},
+               {Qt::ElideRight, "00-Esercizio"}};
   for (std::size_t i = 0; i < c.stB.size(); ++i) {
-    c.stB[i] = Chiama(Con_Indice("stB", static_cast<int>(i) + 1), new QLabel);
-    c.stB[i]->setTextFormat(Qt::PlainText);
-    c.stB[i]->setMinimumWidth(90);
-    // A long name must not push the window wider.
-    c.stB[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    barra->addWidget(c.stB[i], larghezze[i]);
+    auto* campo =
+        Chiama(Con_Indice("stB", static_cast<int>(i) + 1),
+               new Etichetta_Accorciata(campi[i].Dove, QString::fromUtf8(campi[i].Sempre)));
+    barra->Metti(*campo, i + 1 == c.stB.size());
+    c.stB[i] = campo;
   }
-  c.etDurate = Chiama(QStringLiteral("etDurate"), new QLabel);
-  barra->addPermanentWidget(c.etDurate);
-  c.etDurate->hide();
-  // The mode is short and has no tool tip: it is never cut.
-  c.stB[2]->setMinimumWidth(
-      c.stB[2]->fontMetrics().horizontalAdvance(QStringLiteral("STOP  -  Singolo Ciclo")) + 4);
+  auto* durate = Chiama(QStringLiteral("etDurate"), new Etichetta_Accorciata(Qt::ElideRight));
+  barra->Metti_In_Fondo(*durate);
+  c.etDurate = durate;
   finestra.setStatusBar(barra);
 }
 

@@ -11,7 +11,6 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QSlider>
-#include <QStatusBar>
 #include <QTabWidget>
 #include <QToolButton>
 #include <utility>
@@ -19,6 +18,7 @@
 #include "panel/controls/cpu_front.h"
 #include "panel/panel_window.h"
 #include "panel/program_list.h"
+#include "panel/status_bar.h"
 #include "plc/number_text.h"
 #include "widgets/colours.h"
 #include "widgets/text.h"
@@ -69,13 +69,12 @@ void FrmPLC::Mostra_Durate() {
                            "È il tempo del solo programma, senza le attese")
                 .arg(micro(durate.Ultima), QLocale(QLocale::Italian).toString(durate.Quante), media,
                      massima));
-  c_.etDurate->setText(QStringLiteral("Ciclo: %1 µs, max %2 µs").arg(media, massima));
+  c_.etDurate->setText(durate.Quante == 0
+                           ? QString()
+                           : QStringLiteral("Ciclo: %1 µs, max %2 µs").arg(media, massima));
   c_.etDurate->setToolTip(c_.etTime->toolTip());
   // On a narrow panel the four need the bar; the label of the scan time has the tip.
-  constexpr int larghezza_dei_quattro = 560;
-  c_.etDurate->setVisible(durate.Quante > 0 &&
-                          statusBar()->width() >=
-                              larghezza_dei_quattro + c_.etDurate->sizeHint().width());
+  static_cast<Barra_Stato*>(statusBar())->Adatta();
 }
 
 void FrmPLC::Guarda_Valori(bool accesi) {

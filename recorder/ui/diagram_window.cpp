@@ -19,6 +19,7 @@
 
 #include "plants/exercises.h"
 #include "recorder/ui/signal_choice.h"
+#include "widgets/elided_label.h"
 #include "widgets/icons.h"
 #include "widgets/message_box.h"
 #include "widgets/naming.h"
@@ -70,10 +71,9 @@ FrmTempi::FrmTempi(Plc& plc, const Esercizio* impianto)
   comandi->addWidget(Crea_Barra_Tempi());
   comandi->addWidget(Crea_Ricerca(), 1);
 
-  etCursori_ = Campo("etCursori");
+  etCursori_ = Chiama(QStringLiteral("etCursori"), new Etichetta_Accorciata(Qt::ElideRight));
   etVista_ = Campo("etVista");
   etVista_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  // A long message must not push the window wider.
   etCursori_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto* piede = new QHBoxLayout;
   piede->setContentsMargins(8, 2, 8, 4);

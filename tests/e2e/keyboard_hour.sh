@@ -15,7 +15,7 @@ led0=20x20+92+176
 led1=20x20+120+176
 led2=20x20+148+176
 first_switch=26x38+89+400
-mode=130x16+380+682
+mode=330x16+120+682
 options=250x100+20+520
 # In the picture: Start, Stop, the state of the CPU and the green lamp.
 start=76x76+394+176

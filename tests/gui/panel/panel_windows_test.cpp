@@ -9,6 +9,7 @@
 #include <QToolBar>
 
 #include "panel/panel_bed.h"
+#include "panel/status_bar.h"
 #include "support/modal.h"
 #include "widgets/text.h"
 
@@ -108,6 +109,40 @@ TEST_F(Finestre_Pannello, TheScanTimeIsToldInMicroseconds) {
   EXPECT_EQ(c.etDurate->text(), "Ciclo: 2,5 µs, max 1.234,6 µs");
   EXPECT_TRUE(c.etDurate->isVisible());
   EXPECT_EQ(c.etTime->text(), "0");  // the label itself stays as it is
+}
+
+TEST_F(Finestre_Pannello, TheStatusBarNeverHoldsThePanelWide) {
+  Tempo_Scansioni durate{.Quante = 1500, .Ultima = {}, .Massima = {}, .Totale = {}};
+  pannello.Durate = [&] { return durate; };
+  pannello.Segna_Impianto(15);
+  pannello.resize(1366, 700);
+  QCoreApplication::processEvents();
+  pannello.Aggiorna();
+  ASSERT_TRUE(c.etDurate->isVisible());
+  const int larga = 595;
+  EXPECT_LE(pannello.minimumSizeHint().width(), larga);
+  pannello.resize(larga, 400);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(pannello.width(), larga);
+  EXPECT_FALSE(c.etDurate->isVisible()) << "the four need the bar";
+}
+
+TEST_F(Finestre_Pannello, WhatHasNoRoomInTheStatusBarEndsInAnEllipsis) {
+  Carica(sempre);
+  pannello.Segna_Impianto(15);
+  pannello.resize(595, 400);
+  QCoreApplication::processEvents();
+  const auto visto = [this](std::size_t n) {
+    return dynamic_cast<const Etichetta_Accorciata&>(*c.stB[n]).Visto();
+  };
+  for (std::size_t n = 0; n < 3; ++n) EXPECT_EQ(visto(n), c.stB[n]->text());
+  EXPECT_TRUE(visto(3).startsWith("15-Ciclo elettropneumatico"));
+  EXPECT_TRUE(visto(3).endsWith(QChar(0x2026))) << Utf8(visto(3));
+  EXPECT_EQ(c.stB[3]->toolTip(), c.stB[3]->text());
+  pannello.Segna_Impianto(9);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(visto(3), "09-Cancello Automatico");
+  pannello.Segna_Impianto(-1);
 }
 
 struct Caso_Tasto {

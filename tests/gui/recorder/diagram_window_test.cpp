@@ -15,6 +15,8 @@
 #include "plants/exercises.h"
 #include "recorder/diagram_bed.h"
 #include "widgets/colours.h"
+#include "widgets/elided_label.h"
+#include "widgets/text.h"
 
 namespace tavorno {
 namespace {
@@ -324,6 +326,18 @@ TEST_F(Diagram_Window, RowsThatHaveNoRoomScroll) {
 }
 
 // ---- files --------------------------------------------------------------------------------------
+
+TEST_F(Diagram_Window, WhatItsFootHasNoRoomForEndsInAnEllipsis) {
+  const auto& piede = dynamic_cast<const Etichetta_Accorciata&>(
+      *finestra->findChild<QLabel*>(QStringLiteral("etCursori")));
+  finestra->resize(1400, 400);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(piede.Visto(), piede.text());
+  finestra->resize(600, 400);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(piede.Visto().endsWith(QChar(0x2026))) << Utf8(piede.Visto());
+  EXPECT_EQ(piede.toolTip(), piede.text());
+}
 
 TEST_F(Diagram_Window, SavesVectorsPointsAndChanges) {
   Corri(300);
