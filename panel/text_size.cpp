@@ -2,6 +2,7 @@
 #include "panel/text_size.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVariant>
@@ -68,7 +69,14 @@ void Ingrandisci(QWidget& parte, bool radice, double fattore) {
     carattere.setPointSizeF(parte.property(punti).toDouble() * fattore);
     parte.setFont(carattere);
   }
-  if (radice || qobject_cast<QLabel*>(&parte) == nullptr) return;
+  if (radice) return;
+  if (auto* lista = qobject_cast<QComboBox*>(&parte)) {
+    // It keeps the least width of the font that it was first measured with.
+    const QSize prima = parte.property(minima).toSize();
+    lista->setMinimumSize(fattore == 1 ? prima : prima.expandedTo(lista->sizeHint()));
+    return;
+  }
+  if (qobject_cast<QLabel*>(&parte) == nullptr) return;
   parte.setMinimumSize(Scalata(parte.property(minima).toSize(), fattore));
   parte.setMaximumSize(Scalata(parte.property(massima).toSize(), fattore));
 }

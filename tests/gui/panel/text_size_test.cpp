@@ -2,12 +2,14 @@
 // Texts that grow together, and the window on the projector.
 #include "panel/text_size.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QWheelEvent>
 
 #include "awl/ui/awl_editor.h"
 #include "panel/panel_bed.h"
 #include "recorder/ui/diagram_canvas.h"
+#include "widgets/text.h"
 
 namespace tavorno {
 namespace {
@@ -61,6 +63,8 @@ TEST_F(Testi, AllGrowAndShrinkTogetherAndComeBack) {
   EXPECT_GT(grandi.Editor, 0);
   EXPECT_GT(grandi.Margine, prima.Margine);
   EXPECT_GT(grandi.Campo, prima.Campo) << "no digit is cut";
+  for (const auto* lista : Finestra("frmStatiL")->findChildren<QComboBox*>())
+    EXPECT_GE(lista->width(), lista->sizeHint().width()) << Utf8(lista->objectName());
   EXPECT_NEAR(grandi.Diagramma, prima.Diagramma / 1.331, 1);
   Comando("mnuViewNormale");
   EXPECT_EQ(Adesso(), prima);
