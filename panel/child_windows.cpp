@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QDockWidget>
+#include <QFileInfo>
 #include <QScreen>
 #include <QSettings>
 #include <QShortcut>
@@ -23,6 +24,7 @@
 #include "recorder/ui/diagram_window.h"
 #include "recorder/ui/watch_window.h"
 #include "widgets/colours.h"
+#include "widgets/file_choice.h"
 #include "widgets/twips.h"
 
 namespace tavorno {
@@ -221,7 +223,10 @@ FrmMain& Finestre::Editor() {
     legami.Mostra_Scala = [this] { Mostra_Scala(); };
     legami.Mostra_Info = [this] { Mostra_Info(); };
     legami.Mostra_Aiuto = [this](const QString& pagina) { Mostra_Aiuto(guida_.Dir_Help + pagina); };
-    legami.File_Usato = [this](const QString& file) { Recenti.Usato(file); };
+    legami.File_Usato = [this](const QString& file) {
+      if (!menu_file_.Fornito(file)) Ricorda_Cartella(QFileInfo(file).absolutePath());
+      Recenti.Usato(file);
+    };
     auto* editor = new FrmMain(progetto_, plc_, std::move(legami));
     const Azioni_Editor& azioni = editor->Azioni();
     menu_file_.Metti_In(*azioni.mnuFile, *azioni.mnuFileEnd, *azioni.mnuFileOpen);

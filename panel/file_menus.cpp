@@ -93,6 +93,13 @@ void Menu_File::Metti_In(const QAction& titolo, QAction& fine, const QAction& ap
   connect(recenti, &QMenu::aboutToShow, this, [this, recenti] { Riempi_Recenti(*recenti); });
 }
 
+bool Menu_File::Fornito(const QString& file) const {
+  const QString esempi = Cartella_Esempi(cartella_);
+  const QString cartella = QFileInfo(QFileInfo(file).absolutePath()).canonicalFilePath();
+  return !esempi.isEmpty() && (cartella == esempi ||
+                               cartella == QFileInfo(esempi + "/../solutions").canonicalFilePath());
+}
+
 void Menu_File::Aggiungi(QMenu& menu, const std::vector<Progetto_Offerto>& progetti) const {
   for (const Progetto_Offerto& progetto : progetti) {
     QAction* voce = menu.addAction(Senza_Tasto(progetto.Titolo));

@@ -33,6 +33,8 @@ class Menu_File : public QObject {
 
   /// Into the menu of `titolo`, before `fine`; chosen as long as `apri` can be.
   void Metti_In(const QAction& titolo, QAction& fine, const QAction& apri) const;
+  /// One of those that came with the program: nobody's own folder.
+  bool Fornito(const QString& file) const;
 
  private:
   void Riempi_Esempi(QMenu& menu) const;

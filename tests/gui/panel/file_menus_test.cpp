@@ -10,6 +10,7 @@
 #include <QSettings>
 #include <QSignalSpy>
 
+#include "panel/panel_bed.h"
 #include "tests/support/temporary_folder.h"
 #include "widgets/command_tables.h"
 #include "widgets/file_choice.h"
@@ -81,6 +82,8 @@ TEST_F(FileMenus, OpenWhatIsChosenWhereProjectsCanBeOpened) {
   });
   menu.Metti_In(Azione(finestra, "mnuFile"), Azione(finestra, "mnuFileEnd"),
                 Azione(finestra, "mnuFileOpen"));
+  EXPECT_TRUE(menu.Fornito(Qui("examples/a.AWL")));
+  EXPECT_FALSE(menu.Fornito(Qui("a.AWL")));
   EXPECT_EQ(Voci(finestra, "mnuFileEsempi"), QStringList{"Primo && unico"});
   EXPECT_EQ(Voci(finestra, "mnuFileRecenti"), QStringList{"Ancora nessuno"});
   Voci(finestra, "mnuFileEsempi");
@@ -119,6 +122,19 @@ TEST_F(FileMenus, KeepTheLastProjectsAndTheFolderFromSessionToSession) {
   EXPECT_EQ(QDir(Cartella_Ricordata()), QDir(Qui("")));
   QFile::remove(Qui("p3.AWL"));
   EXPECT_EQ(recenti.Elenco().front(), Qui("p8.AWL"));
+}
+
+/// A project that came from the desktop is saved again where it lies, not somewhere else.
+TEST_F(Banco_Finestre, ADialogBeginsInTheFolderOfTheProjectThatIsOpen) {
+  const Cartella_Temporanea cartella;
+  const auto file = cartella / "mio.AWL";
+  Scrivi_Byte(file,
+              "ORGANIZATION_BLOCK MAIN:OB1\r\nTITLE=\r\nBEGIN\r\nNETWORK 1\r\nLD SM0.0\r\n"
+              "= Q0.0\r\nEND_ORGANIZATION_BLOCK\r\n");
+  Ricorda_Cartella(QDir::homePath());
+  finestre.Apri_File(Q(file.string()));
+  EXPECT_EQ(QDir(Cartella_Ricordata()), QDir(Q(file.parent_path().string())));
+  Ricorda_Cartella(QDir::homePath());
 }
 
 }  // namespace tavorno::prova
