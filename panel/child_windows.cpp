@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <QWindow>
 #include <initializer_list>
+#include <type_traits>
 
 #include "awl/ui/main_window.h"
 #include "ladder/ui/ladder_window.h"
@@ -40,7 +41,8 @@ Simboli Simboli_Di(const Esercizio* esercizio) {
 }
 
 constexpr char chiave_daltonici[] = "colori/daltonici";
-constexpr char tasti_ovunque[] = "F5 RUN, Maiusc+F5 STOP, F10 avanza di un passo, F1 guida";
+constexpr char tasti_ovunque[] =
+    "F5 RUN, Maiusc+F5 STOP, F10 avanza di un passo, F8 pausa, F1 guida";
 
 }  // namespace
 
@@ -78,6 +80,9 @@ Finestra& Finestre::Trova(QPointer<Finestra>& finestra, Crea crea) {
     finestra->setAttribute(Qt::WA_DeleteOnClose);
     ordine_.Sorveglia(*finestra);
     finestra->addActions(pannello_.Comandi_Ovunque());
+    if constexpr (!std::is_same_v<Finestra, FrmMain>) {  // which has another command for F8
+      if (pannello_.Pausa != nullptr) finestra->addAction(pannello_.Pausa);
+    }
   }
   return *finestra;
 }
@@ -232,6 +237,10 @@ FrmMain& Finestre::Editor() {
     menu_file_.Metti_In(*azioni.mnuFile, *azioni.mnuFileEnd, *azioni.mnuFileOpen);
     editor->Usa_Simboli(Simboli_Di(esercizio_));
     editor->addActions(pannello_.Comandi_Di_Testo());
+    if (pannello_.Pausa != nullptr) {
+      auto* tasto = new QShortcut(QKeySequence(QString::fromUtf8(Pausa_Ovunque)), editor);
+      QObject::connect(tasto, &QShortcut::activated, pannello_.Pausa, &QAction::trigger);
+    }
     for (QWidget* parte : editor->findChildren<QWidget*>()) {
       if (dynamic_cast<AwlEditor*>(parte) != nullptr) testo_.Segui(*parte);
     }

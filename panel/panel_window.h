@@ -48,6 +48,9 @@ struct Legami_Pannello {
   std::function<void(bool acceso)> Corsa_Cambiata;  ///< the CPU runs or stands still
 };
 
+/// A key of the pause that the editor has too, where F8 loads the program.
+inline constexpr char Pausa_Ovunque[] = "Shift+F8";
+
 /// The main window: the CPU with its switches and LEDs, the program list and the run commands. It
 /// holds no state of the run: commands go to the CPU, and `Aggiorna` shows what the CPU has marked.
 class FrmPLC : public QMainWindow {
@@ -82,6 +85,9 @@ class FrmPLC : public QMainWindow {
   std::function<Tempo_Scansioni()> Durate;
   /// Where power flowed at the moment at which the CPU stands; empty: nobody knows.
   std::function<std::vector<Flusso_Riga>()> Flusso_Al_Momento;
+
+  /// Of the session, when there is one: works by its keys from other windows of the program too.
+  QAction* Pausa = nullptr;
 
   /// The run commands that work by their keys from other windows of the program too.
   QList<QAction*> Comandi_Ovunque() const;

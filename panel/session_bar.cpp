@@ -121,6 +121,8 @@ void Barra_Seduta::Crea_Comandi() {
   pausa_ = Comando(
       *menu, "mnuPausa", "&Pausa", "F8", "Ferma insieme CPU e impianto, e li fa proseguire",
       [this] { Pausa_O_Continua(); }, true);
+  pausa_->setShortcuts({pausa_->shortcut(), QKeySequence(QString::fromUtf8(Pausa_Ovunque))});
+  pannello_.Pausa = pausa_;
   Crea_Lentezza();
   riga_->Stacco();
   menu->addSeparator();

@@ -76,6 +76,7 @@ void Sala_Verifica::Mostra() {
   verifica_ = new FrmVerifica(esercizio, std::move(legami));
   verifica_->setAttribute(Qt::WA_DeleteOnClose);
   verifica_->addActions(pannello_.Comandi_Ovunque());
+  if (pannello_.Pausa != nullptr) verifica_->addAction(pannello_.Pausa);
   connect(impianto, &QObject::destroyed, verifica_, &QWidget::close);
   const QRect schermo = pannello_.screen()->availableGeometry();
   verifica_->resize(verifica_->size().boundedTo(schermo.size() - QSize(40, 60)));

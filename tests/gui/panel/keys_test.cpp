@@ -80,6 +80,32 @@ TEST_F(Tasti_Delle_Finestre, AreOneCommandEach) {
   EXPECT_EQ(Esamina(), 9);
 }
 
+/// Nobody has to look for the panel while the machine goes wrong.
+TEST_F(Tasti_Delle_Finestre, OfThePauseWorkFromEachWindow) {
+  finestre.Mostra_Impostazioni();
+  finestre.Mostra_Analogici();
+  finestre.Mostra_Scala();
+  finestre.Mostra_Tempi();
+  finestre.Mostra_Osserva();
+  finestre.Apri_Impianto(0);
+  finestre.Mostra_Editor(Avvio::Nuovo);
+  int quante = 0;
+  for (const QWidget* finestra : QApplication::topLevelWidgets()) {
+    if (!finestra->isVisible() || !finestra->objectName().startsWith("frm")) continue;
+    SCOPED_TRACE(Utf8(finestra->objectName()));
+    ++quante;
+    const auto chi = Chi_Risponde(*finestra);
+    EXPECT_TRUE(chi.contains(Pausa_Ovunque));
+    const bool editor = finestra->objectName() == "frmMain";
+    EXPECT_TRUE(chi.contains("F8"));
+    EXPECT_EQ(chi.at("F8").contains(pannello.Pausa), !editor) << "there it loads the program";
+    if (!finestra->toolTip().isEmpty()) {
+      EXPECT_TRUE(finestra->toolTip().contains("F8 pausa"));
+    }
+  }
+  EXPECT_EQ(quante, 9);
+}
+
 TEST_F(Tasti_Delle_Finestre, WithAnExerciseAndAtTheWorkbenchToo) {
   finestre.Apri_Impianto(0);
   ASSERT_TRUE(Azione(pannello, "mnuViewVerifica").isEnabled());
