@@ -96,6 +96,7 @@ class Finestre {
   std::function<void()> Verifica;
 
   const Ordine_Finestre& Ordine() const { return ordine_; }
+  Ordine_Finestre& Ordine() { return ordine_; }
 
   File_Recenti Recenti;
 

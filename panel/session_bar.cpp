@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -282,11 +283,24 @@ void Barra_Seduta::Torna_A(std::int64_t ms) {
   Indietro([this, ms] { return registratore_.Vai_A_Vista(ms); });
 }
 
+/// The window makes room at once. With the width of a new widget the bar would have more lines, and
+/// the panel would grow by those.
+void Barra_Seduta::setVisible(bool visibile) {
+  if (visibile && isHidden()) {
+    if (Prima_Di_Crescere) Prima_Di_Crescere();
+    const QMargins bordi = layout()->contentsMargins();
+    resize(window()->width(), height());
+    riga_->resize(width() - bordi.left() - bordi.right(), riga_->height());
+  }
+  QToolBar::setVisible(visibile);
+}
+
 /// The bar makes the panel higher: what it needs must not be below the screen.
 void Barra_Seduta::showEvent(QShowEvent* evento) {
   QToolBar::showEvent(evento);
   QTimer::singleShot(0, this, [this] {
     if (!pannello_.isVisible() || pannello_.isMaximized() || pannello_.screen() == nullptr) return;
+    if (Cresciuta) Cresciuta();
     const QRect schermo = pannello_.screen()->availableGeometry();
     const QRect cornice = pannello_.frameGeometry();
     const int fuori = cornice.bottom() - schermo.bottom();

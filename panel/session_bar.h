@@ -48,8 +48,13 @@ class Barra_Seduta : public QToolBar {
   /// Other windows that hold something by themselves are to show what the CPU is now.
   std::function<void()> Specchia_Altre;
 
+  /// The bar comes, and makes the panel higher: before, and after.
+  std::function<void()> Prima_Di_Crescere, Cresciuta;
+
   /// What a plant that comes or goes, and the editor, need first.
   void Al_Presente();
+
+  void setVisible(bool visibile) override;
 
  protected:
   void showEvent(QShowEvent* evento) override;

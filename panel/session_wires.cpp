@@ -15,6 +15,8 @@ void Collega_Seduta(Barra_Seduta& barra, Finestre& finestre, Registratore& regis
   barra.Racconta = [&finestre](const QString& messaggio) {
     finestre.Racconta_Al_Diagramma(messaggio);
   };
+  barra.Prima_Di_Crescere = [&finestre] { finestre.Ordine().Sta_Per_Crescere(); };
+  barra.Cresciuta = [&finestre] { finestre.Ordine().Cresciuto(); };
   barra.Aperta = [&finestre] { finestre.Altra_Seduta(); };
   barra.Specchia_Altre = [&finestre] { finestre.Specchia(); };
   finestre.Torna_A = [&barra](std::int64_t ms) { barra.Torna_A(ms); };

@@ -189,6 +189,17 @@ void Ordine_Finestre::Chiuse() {
   dati_.clear();
 }
 
+void Ordine_Finestre::Sta_Per_Crescere() {
+  if (Libera(pannello_)) Rispetta_Mani();  // at a workbench that was done when it came
+}
+
+void Ordine_Finestre::Cresciuto() {
+  if (stati_.isNull() || !stati_->isWindow() || a_mano_.contains(&pannello_) || !Libera(pannello_))
+    return;
+  dati_[&pannello_] = pannello_.frameGeometry();
+  Disponi(false);
+}
+
 /// Nothing outside the screen, nothing under another window, the plant as large as told.
 bool Ordine_Finestre::Tutto_A_Posto(const QRect& schermo) const {
   const QRect panel = pannello_.frameGeometry();

@@ -35,6 +35,10 @@ class Ordine_Finestre : public QObject {
   /// The plant, or the status window alone, was closed: the panel has its size back.
   void Chiuse();
 
+  /// Before and after the panel takes more room by itself: what stands as given is fitted anew.
+  void Sta_Per_Crescere();
+  void Cresciuto();
+
   /// Fits what has no room. `tutte`: those that the user has moved as well.
   void Disponi(bool tutte);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The windows of the program as views of a workbench.
 #include <QTabWidget>
+#include <QTimer>
 
 #include "panel/child_windows.h"
 #include "panel/controls/cpu_front.h"
@@ -58,7 +59,12 @@ void Finestre::Lascia_Tavolo(bool impianto_chiude) {
     if (vista) vista->close();
   }
   solo_al_tavolo_.clear();
-  if (impianto_ && !impianto_chiude) Porta_Avanti(*impianto_);
+  if (!impianto_ || impianto_chiude) return;
+  Porta_Avanti(*impianto_);
+  // The bar of the session may have come meanwhile.
+  QTimer::singleShot(0, &ascolto_, [this] {
+    if (!tavolo_) ordine_.Cresciuto();
+  });
 }
 
 /// A view that was asked for while the workbench is there.

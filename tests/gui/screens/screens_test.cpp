@@ -3,9 +3,13 @@
 // outside it, below another window, or cut off.
 #include <QCheckBox>
 
+#include "panel/run_driver.h"
+#include "panel/session_bar.h"
+#include "panel/session_wires.h"
 #include "plants/exercises.h"
 #include "plants/host/host_window.h"
 #include "plants/host/picture_widget.h"
+#include "recorder/recorder.h"
 #include "screens/measures.h"
 #include "screens/screens_bed.h"
 #include "widgets/naming.h"
@@ -134,6 +138,46 @@ TEST_F(Schermi, EveryOtherWindowOpensWithinTheScreen) {
     ASSERT_NE(finestra, nullptr) << nome;
     Come_Nel_Documento(riga, *finestra);
   }
+}
+
+struct Seduta_Sullo_Schermo : Schermi {
+  Registratore registratore{plc};
+  Guida_Corsa corsa{plc, [] {}};
+  Barra_Seduta barra{pannello, plc, registratore, corsa};
+
+  Seduta_Sullo_Schermo() {
+    corsa.Ferma();
+    Collega_Seduta(barra, finestre, registratore);
+    Azione(pannello, "mnuPrj(9)").trigger();
+    Aspetta_Posa();
+  }
+  void Trova_Posto();
+};
+
+void Seduta_Sullo_Schermo::Trova_Posto() {
+  ASSERT_TRUE(barra.isVisible());
+  QCoreApplication::processEvents();
+  Aspetta_Posa();
+  Intera(pannello);
+  Si_Comanda();
+  EXPECT_TRUE(pannello.rect().contains(barra.geometry()));
+  // On a lower one the status window cannot give way any more, and the panel comes over it.
+  constexpr int basso = 700;
+  if (schermo.height() >= basso) Nessuna_Sopra_Un_Altra(Mostrate());
+}
+
+TEST_F(Seduta_Sullo_Schermo, TheBarFindsItsRoom) {
+  Azione(pannello, "mnuPausa").trigger();
+  Trova_Posto();
+}
+
+TEST_F(Seduta_Sullo_Schermo, TheBarThatCameAtTheWorkbenchFindsItsRoomOutsideToo) {
+  finestre.Mostra_Tavolo();
+  QCoreApplication::processEvents();
+  Azione(pannello, "mnuPausa").trigger();
+  QCoreApplication::processEvents();
+  finestre.Separa_Finestre();
+  Trova_Posto();
 }
 
 TEST_F(Schermi, AWindowMovedByHandIsLeftAloneUntilTheOrderIsAskedFor) {
