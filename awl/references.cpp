@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
 
 #include "awl/line_words.h"
 #include "awl/operand.h"
@@ -66,14 +67,14 @@ int Quanti_Scritti(const Istruzione& istruzione, std::string_view linea,
 /// An operand as cells side by side: of bits where it is made of bits, else of its own kind.
 struct Tratto {
   Area Celle = Area::Nessuna;
-  int Prima = 0;
-  int Quante = 1;
+  std::int64_t Prima = 0;
+  std::int64_t Quante = 1;
 };
 
 Tratto Tratto_Di(const std::string& nome, int quanti) {
   const Operando parti = Split_Operando(nome);
   const Area area = Cerca_Area(parti.Area);
-  const int numero = Numero(parti.Numero).value_or(0);
+  const std::int64_t numero = Numero(parti.Numero).value_or(0);
   switch (Riga_Di(area).Contenuto) {
     case Cella::Bit:
       return {area, numero * Riga_Di(area).Bit + Numero(parti.Bit).value_or(0), quanti};

@@ -161,6 +161,13 @@ TEST(Destination, OfCallsAndJumps) {
   EXPECT_EQ(meta(5, 0), std::nullopt);
 }
 
+TEST(References, TakeNumbersThatNoCpuHas) {
+  // Its first bit counted in 32 bits would be I0.0.
+  const Sorgente testi = Testi("MOVB IB536870912, QB0\r\nLD I2147483647.2147483647");
+  EXPECT_EQ(Usi_Di(testi, {Genere_Nome::Operando, "I0.0"}).size(), 0U);
+  EXPECT_EQ(Usi_Di(testi, {Genere_Nome::Operando, "IB536870912"}).size(), 1U);
+}
+
 TEST(Networks, AreFoundUpAndDown) {
   const std::string testo = "//a\r\nNETWORK 1\r\nNOT\r\nNETWORK 2\r\n";
   EXPECT_EQ(Segmento_Dopo(testo, 0), 1);
