@@ -32,6 +32,7 @@ class AwlEditor : public QsciScintilla {
   std::function<void()> Cambiato;
   std::function<void()> Scritto;          ///< the same without undo and redo, and before it
   std::function<void(int)> Linea_Scelta;  ///< a line (from 0) was double clicked or got Enter
+  std::function<void()> Congeda;          ///< Esc, with nothing of the text's own to close
 
   /// What undo and redo go on to when this text has nothing left to take back or to do again.
   struct Oltre {

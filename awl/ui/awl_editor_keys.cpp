@@ -7,6 +7,7 @@
 #include <array>
 
 #include "awl/ui/awl_editor.h"
+#include "awl/ui/text_field.h"
 
 namespace tavorno {
 
@@ -62,6 +63,10 @@ void AwlEditor::keyPressEvent(QKeyEvent* evento) {
   } else if (genere_ == Genere_Testo::Programma && spazio) {
     Offri_Completamenti(true);
     if (!isListActive()) Mostra_Suggerimento();
+  } else if (evento->key() == Qt::Key_Escape && !isListActive() &&
+             SendScintilla(SCI_CALLTIPACTIVE) == 0 && Congeda) {
+    QsciScintilla::keyPressEvent(evento);
+    Congeda();
   } else if (evento->matches(QKeySequence::Undo)) {
     undo();
   } else if (evento->matches(QKeySequence::Redo)) {
@@ -74,11 +79,7 @@ void AwlEditor::keyPressEvent(QKeyEvent* evento) {
 /// What the component itself does with a key. Where it has no command for a combination it would
 /// type the letter of its key.
 void AwlEditor::Batti(QKeyEvent& evento) {
-  if ((evento.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0)
-    return QsciScintilla::keyPressEvent(&evento);
-  QKeyEvent senza_lettera(evento.type(), evento.key(), evento.modifiers());
-  QsciScintilla::keyPressEvent(&senza_lettera);
-  evento.setAccepted(senza_lettera.isAccepted());
+  Senza_Lettera(evento, [this](QKeyEvent& tasto) { QsciScintilla::keyPressEvent(&tasto); });
 }
 
 void AwlEditor::Cedi_Tasti(const QKeySequence& tasti) {

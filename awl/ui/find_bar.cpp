@@ -11,9 +11,11 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <type_traits>
 #include <utility>
 
 #include "awl/ui/awl_editor.h"
+#include "awl/ui/text_field.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
 
@@ -21,8 +23,8 @@ namespace tavorno {
 
 namespace {
 
-QLineEdit* Campo(const char* nome, const char* letto, const char* aiuto) {
-  auto* campo = Chiama(QString::fromUtf8(nome), new QLineEdit);
+Campo_Testo* Campo(const char* nome, const char* letto, const char* aiuto) {
+  auto* campo = Chiama(QString::fromUtf8(nome), new Campo_Testo);
   campo->setAccessibleName(QString::fromUtf8(letto));
   campo->setToolTip(QString::fromUtf8(aiuto));
   campo->setClearButtonEnabled(true);
@@ -36,6 +38,7 @@ void Aggiungi(QHBoxLayout& riga, const char* nome, const char* testo, const char
   tasto->setText(QString::fromUtf8(testo));
   tasto->setToolTip(QString::fromUtf8(aiuto));
   tasto->setAccessibleName(QString::fromUtf8(aiuto));
+  if constexpr (std::is_same_v<Tasto, QPushButton>) tasto->setAutoDefault(true);  // Enter too
   QObject::connect(tasto, &QAbstractButton::clicked, tasto, comando);
   riga.addWidget(tasto);
 }
@@ -110,6 +113,7 @@ void Barra_Ricerca::Apri(bool sostituisci) {
   const QString scelto = testo->selectedText();
   if (!scelto.isEmpty() && !scelto.contains('\n') && !scelto.contains('\r'))
     txtCerca_->setText(scelto);
+  sostituisce_ = sostituisci;
   seconda_->setVisible(sostituisci && !testo->isReadOnly());
   show();
   QLineEdit* campo = sostituisci && !txtCerca_->text().isEmpty() ? txtSostituisci_ : txtCerca_;
@@ -120,6 +124,7 @@ void Barra_Ricerca::Apri(bool sostituisci) {
 }
 
 void Barra_Ricerca::Chiudi() {
+  if (isHidden()) return;
   hide();
   Aggiorna();
   davanti_()->setFocus(Qt::OtherFocusReason);
@@ -130,6 +135,7 @@ void Barra_Ricerca::Aggiorna() {
   if (segnato_ != nullptr && (segnato_ != testo || isHidden())) segnato_->Evidenzia({});
   segnato_ = isHidden() ? nullptr : testo;
   if (isHidden()) return;
+  seconda_->setVisible(sostituisce_ && !testo->isReadOnly());
   trovati_ = Trova_Tutti(testo->Byte(), Cerca());
   testo->Evidenzia(trovati_);
   Racconta(*testo);

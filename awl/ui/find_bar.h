@@ -44,6 +44,7 @@ class Barra_Ricerca : public QWidget {
   QLineEdit* txtCerca_ = nullptr;
   QLineEdit* txtSostituisci_ = nullptr;
   QWidget* seconda_ = nullptr;
+  bool sostituisce_ = false;  // asked for its second row
   QCheckBox* chkParole_ = nullptr;
   QCheckBox* chkOperandi_ = nullptr;
   QLabel* etTrovati_ = nullptr;

@@ -16,6 +16,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
+#include <QToolTip>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -69,8 +70,9 @@ FrmMain::FrmMain(Progetto& progetto, Plc& plc, Legami_Editor legami)
        .Procedura = txtP,
        .Listato = txtLst,
        .Mostra = [this](Posto_Riga posto) { Vai_A(posto); },
-       .Errore = [this](int verso) { Errore_Vicino(verso); },
-       .Insieme = [this](const std::function<void()>& comando) { Insieme(comando); }},
+       .Errore = [this](int verso) { return Errore_Vicino(verso); },
+       .Insieme = [this](const std::function<void()>& comando) { Insieme(comando); },
+       .Dici = [this](const QString& testo) { Dici(testo); }},
       *static_cast<QVBoxLayout*>(picF->layout()));
   storia_.Ricomincia(p_.Testi());
   Specchia();
@@ -341,8 +343,7 @@ void FrmMain::Cambia_Pagina(int pagina) {
   if (!specchia_) Specchia();
   comandi_->Aggiorna();
   if (SSTb2->tabBar()->hasFocus()) return;  // the arrow keys are at work
-  const std::array<AwlEditor*, 3> testi = {txtList, txtP, txtLst};
-  testi.at(static_cast<std::size_t>(pagina))->setFocus(Qt::OtherFocusReason);
+  Davanti().setFocus(Qt::OtherFocusReason);
 }
 
 void FrmMain::Vai_A_Riga(int numero) {
@@ -359,10 +360,13 @@ void FrmMain::Vai_A_Riga(int numero) {
 }
 
 /// The marked row behind the caret or before it, around the ends. From the listing: the first.
-void FrmMain::Errore_Vicino(int verso) {
+bool FrmMain::Errore_Vicino(int verso) {
   const std::vector<int> segnate = segni_.Segnate();
-  if (segnate.empty()) return;
-  if (p_.Pagina == Pagina_Listato) return Vai_A_Riga(verso > 0 ? segnate.front() : segnate.back());
+  if (segnate.empty()) return false;
+  if (p_.Pagina == Pagina_Listato) {
+    Vai_A_Riga(verso > 0 ? segnate.front() : segnate.back());
+    return true;
+  }
   const AwlEditor& davanti = p_.Pagina == 0 ? *txtList : *txtP;
   const std::pair qui(p_.Pagina == 0 ? 0 : p_.Scheda, davanti.Cursore().Linea);
   const auto dove = [&](int riga) {
@@ -373,8 +377,21 @@ void FrmMain::Errore_Vicino(int verso) {
   };
   const auto dopo = std::ranges::find_if(
       segnate, [&](int riga) { return verso > 0 ? dove(riga) > qui : dove(riga) >= qui; });
-  if (verso > 0) return Vai_A_Riga(dopo == segnate.end() ? segnate.front() : *dopo);
-  Vai_A_Riga(dopo == segnate.begin() ? segnate.back() : *(dopo - 1));
+  if (verso > 0)
+    Vai_A_Riga(dopo == segnate.end() ? segnate.front() : *dopo);
+  else
+    Vai_A_Riga(dopo == segnate.begin() ? segnate.back() : *(dopo - 1));
+  return true;
+}
+
+/// For a few seconds, in the status bar, or below the caret where that is switched off.
+void FrmMain::Dici(const QString& testo) {
+  constexpr int millisecondi = 8000;
+  statusBar()->showMessage(testo, millisecondi);
+  if (testo.isEmpty() || statusBar()->isVisibleTo(this)) return;
+  const AwlEditor& davanti = Davanti();
+  QToolTip::showText(davanti.mapToGlobal(davanti.rect().bottomLeft()), testo, nullptr, {},
+                     millisecondi);
 }
 
 /// The editor of a block, with that block in it; nullptr: there is no such block.

@@ -111,7 +111,8 @@ class FrmMain : public QMainWindow {
   void Scegli_Procedura(int scheda);
   void Cambia_Pagina(int pagina);
   AwlEditor* Testo_Di(int testo);
-  void Errore_Vicino(int verso);
+  bool Errore_Vicino(int verso);
+  void Dici(const QString& testo);
   void Al_Primo_Errore();
   void Guarda_Il_Disco();
 
@@ -122,8 +123,10 @@ class FrmMain : public QMainWindow {
     QsciDocument Main;
     Documenti_Procedure Procedure;
     Segni_Errori Segni;
+    int Cursore = 0;  // position of the caret in the text in front
   };
   Vista Come_Sta() const;
+  AwlEditor& Davanti() const;
   void Sostituito(Vista prima);
   void Rimetti(Vista vista);
   void Collega_Storia();

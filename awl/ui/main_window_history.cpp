@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Undo beyond the texts: commands that replace or rearrange the project.
+#include <algorithm>
 #include <utility>
 
 #include "awl/ui/main_window.h"
@@ -7,7 +8,13 @@
 namespace tavorno {
 
 FrmMain::Vista FrmMain::Come_Sta() const {
-  return {p_, txtList->document(), documenti_, segni_};
+  return {p_, txtList->document(), documenti_, segni_,
+          static_cast<int>(Davanti().SendScintilla(QsciScintilla::SCI_GETCURRENTPOS))};
+}
+
+AwlEditor& FrmMain::Davanti() const {
+  AwlEditor* const testi[] = {txtList, txtP, txtLst};
+  return *testi[std::clamp(p_.Pagina, 0, Pagina_Listato)];
 }
 
 /// A command took `prima` away; the texts on screen are new ones.
@@ -35,6 +42,7 @@ void FrmMain::Rimetti(Vista vista) {
   segni_ = std::move(vista.Segni);
   storia_.Arrivato(p_.Testi());
   Specchia();
+  Davanti().SendScintilla(QsciScintilla::SCI_GOTOPOS, vista.Cursore);
 }
 
 void FrmMain::Collega_Storia() {

@@ -8,13 +8,23 @@
 #include <QSpinBox>
 #include <utility>
 
+#include "awl/ui/text_field.h"
 #include "widgets/naming.h"
 
 namespace tavorno {
 
-Barra_Riga::Barra_Riga(std::function<void(int)> vai, QWidget* sopra)
+namespace {
+
+class Numero_Riga : public QSpinBox {
+ public:
+  Numero_Riga() { setLineEdit(new Campo_Testo); }
+};
+
+}  // namespace
+
+Barra_Riga::Barra_Riga(Legami legami, QWidget* sopra)
     : QWidget(sopra),
-      numero_(Chiama(QStringLiteral("numRiga"), new QSpinBox)),
+      numero_(Chiama<QSpinBox>(QStringLiteral("numRiga"), new Numero_Riga)),
       fino_a_(Chiama(QStringLiteral("etRiga"), new QLabel)) {
   setObjectName(QStringLiteral("barRiga"));
   auto* riga = new QHBoxLayout(this);
@@ -31,8 +41,12 @@ Barra_Riga::Barra_Riga(std::function<void(int)> vai, QWidget* sopra)
   riga->addWidget(tasto);
   riga->addStretch(1);
   hide();
-  const auto parti = [this, vai = std::move(vai)] {
+  const auto chiudi = [this, chiusa = legami.Chiusa] {
     hide();
+    chiusa();
+  };
+  const auto parti = [this, chiudi, vai = std::move(legami.Vai)] {
+    chiudi();
     vai(numero_->value());
   };
   connect(tasto, &QPushButton::clicked, this, parti);
@@ -43,7 +57,7 @@ Barra_Riga::Barra_Riga(std::function<void(int)> vai, QWidget* sopra)
   };
   tasti(Qt::Key_Return, parti);
   tasti(Qt::Key_Enter, parti);
-  tasti(Qt::Key_Escape, [this] { hide(); });
+  tasti(Qt::Key_Escape, chiudi);
 }
 
 void Barra_Riga::Apri(int ultima) {

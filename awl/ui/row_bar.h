@@ -12,7 +12,11 @@ namespace tavorno {
 /// The bar below the texts that asks for the number of a row of the CPU.
 class Barra_Riga : public QWidget {
  public:
-  Barra_Riga(std::function<void(int)> vai, QWidget* sopra);
+  struct Legami {
+    std::function<void(int)> Vai;
+    std::function<void()> Chiusa;  ///< the keyboard is free
+  };
+  Barra_Riga(Legami legami, QWidget* sopra);
 
   /// Opens for rows 0 to `ultima`.
   void Apri(int ultima);

@@ -24,29 +24,67 @@
 
 namespace tavorno {
 
+namespace {
+
+constexpr int Di_Nessuno = -1;  // a text that no procedure owns
+
+/// Why a line leads nowhere.
+QString Senza_Meta(std::string_view linea) {
+  const auto nominato = Nominato_In(linea, 0);
+  if (!nominato || nominato->Genere == Genere_Nome::Operando)
+    return QStringLiteral("Destinazione parte da una riga CALL, JMP o LBL del programma.");
+  const QString nome = Da_Byte(nominato->Nome);
+  if (nominato->Genere == Genere_Nome::Procedura)
+    return QStringLiteral("La procedura %1 non c'è.").arg(nome);
+  return Istruzione_Di(linea)->Nel_Programma == Compito::Etichetta
+             ? QStringLiteral("Nessun JMP porta a LBL %1.").arg(nome)
+             : QStringLiteral("LBL %1 non c'è.").arg(nome);
+}
+
+/// Why the place of the caret names nothing.
+QString Senza_Nome(std::string_view linea) {
+  Sorgente sola;
+  sola.Main = linea;
+  return Riferimenti(sola).size() > 1
+             ? QStringLiteral("La riga ha più operandi: mettere il cursore su quello da cercare.")
+             : QStringLiteral("Qui non c'è un operando, un'etichetta o una procedura da cercare.");
+}
+
+}  // namespace
+
 Comandi_Testi::Comandi_Testi(QMainWindow& finestra, Azioni_Testi& azioni, Testi_In_Vista vista,
                              QVBoxLayout& sotto)
     : QObject(&finestra),
       azioni_(azioni),
       vista_(std::move(vista)),
       ricerca_(new Barra_Ricerca([this] { return &Davanti(); }, &finestra)),
-      riga_(new Barra_Riga([this](int numero) { Vai_A_Riga(numero); }, &finestra)),
+      riga_(new Barra_Riga({.Vai = [this](int numero) { Vai_A_Riga(numero); },
+                            .Chiusa = [this] { Davanti().setFocus(Qt::OtherFocusReason); }},
+                           &finestra)),
       usi_(
           new Elenco_Usi({.Vai = [this](Posto_Riga posto) { Salta(posto); },
                           .Rinomina = [this](const std::string& nuovo) { return Dai_Nome(nuovo); }},
                          &finestra)) {
   sotto.addWidget(ricerca_);
   sotto.addWidget(riga_);
+  for (AwlEditor* testo : {vista_.Main, vista_.Procedura, vista_.Listato})
+    testo->Congeda = [this] { ricerca_->Chiudi(); };
   Collega_Cerca();
   Collega_Vai();
   Collega_Righe();
   Riempi_Schemi(finestra);
 }
 
+/// What a command before has said is over.
+void Comandi_Testi::Lega(QAction* voce, const std::function<void()>& comando) {
+  connect(voce, &QAction::triggered, this, [this, comando] {
+    vista_.Dici({});
+    comando();
+  });
+}
+
 void Comandi_Testi::Collega_Cerca() {
-  const auto al = [this](QAction* voce, auto comando) {
-    connect(voce, &QAction::triggered, this, comando);
-  };
+  const auto al = [this](QAction* voce, auto comando) { Lega(voce, comando); };
   al(azioni_.mnuCercaTrova, [this] { ricerca_->Apri(false); });
   al(azioni_.mnuCercaSost, [this] { ricerca_->Apri(true); });
   al(azioni_.mnuCercaSucc, [this] { ricerca_->Vai(1); });
@@ -55,25 +93,24 @@ void Comandi_Testi::Collega_Cerca() {
 }
 
 void Comandi_Testi::Collega_Vai() {
-  const auto al = [this](QAction* voce, auto comando) {
-    connect(voce, &QAction::triggered, this, comando);
-  };
+  const auto al = [this](QAction* voce, auto comando) { Lega(voce, comando); };
   al(azioni_.mnuVaiRiga, [this] { riga_->Apri(Numerazione(vista_.Dati).Righe() - 1); });
-  al(azioni_.mnuVaiErrSucc, [this] { vista_.Errore(1); });
-  al(azioni_.mnuVaiErrPrec, [this] { vista_.Errore(-1); });
-  al(azioni_.mnuVaiNetSucc, [this] { Segmento(Segmento_Dopo); });
-  al(azioni_.mnuVaiNetPrec, [this] { Segmento(Segmento_Prima); });
-  al(azioni_.mnuVaiMeta, [this] {
-    if (!Scrivibile()) return;
-    if (const auto meta = Meta(Testi(), {Numero(), Davanti().Cursore().Linea})) Salta(*meta);
-  });
+  const auto errore = [this](int verso) {
+    if (!vista_.Errore(verso))
+      vista_.Dici(QStringLiteral("Nessuna riga è segnata: gli errori li segna la compilazione."));
+  };
+  al(azioni_.mnuVaiErrSucc, [errore] { errore(1); });
+  al(azioni_.mnuVaiErrPrec, [errore] { errore(-1); });
+  al(azioni_.mnuVaiNetSucc,
+     [this] { Segmento(Segmento_Dopo, "Nessun segmento dopo questa riga."); });
+  al(azioni_.mnuVaiNetPrec,
+     [this] { Segmento(Segmento_Prima, "Nessun segmento prima di questa riga."); });
+  al(azioni_.mnuVaiMeta, [this] { Alla_Meta(); });
   al(azioni_.mnuVaiIndietro, [this] { Indietro(); });
 }
 
 void Comandi_Testi::Collega_Righe() {
-  const auto al = [this](QAction* voce, auto comando) {
-    connect(voce, &QAction::triggered, this, comando);
-  };
+  const auto al = [this](QAction* voce, auto comando) { Lega(voce, comando); };
   al(azioni_.mnuRigheCom, [this] { Cambia_Linee(Commenta); });
   al(azioni_.mnuRigheSu, [this] {
     Cambia_Linee([](std::string_view testo, int da, int a) { return Sposta(testo, da, a, -1); });
@@ -94,13 +131,16 @@ void Comandi_Testi::Riempi_Schemi(QMainWindow& finestra) {
         Chiama(Con_Indice("mnuSchema", indice++), menu->addAction(QString::fromUtf8(schema.Voce)));
     voce->setToolTip(QString::fromUtf8(schema.Aiuto));
     const Schema* quale = &schema;  // of a table that outlives all windows
-    connect(voce, &QAction::triggered, this, [this, quale] {
+    Lega(voce, [this, quale] {
       Cambia_Linee([this, quale](std::string_view testo, int, int a) {
         return Metti_Schema(*quale, testo, a, Riferimenti(Testi()));
       });
     });
   }
-  connect(azioni_.mnuSchemiQui, &QAction::triggered, &finestra, [this] { Mostra_Schemi(); });
+  connect(azioni_.mnuSchemiQui, &QAction::triggered, &finestra, [this] {
+    vista_.Dici({});
+    Mostra_Schemi();
+  });
 }
 
 // ---- which text ---------------------------------------------------------------------------------
@@ -111,11 +151,18 @@ AwlEditor& Comandi_Testi::Davanti() const {
 }
 
 int Comandi_Testi::Numero() const {
-  return vista_.Dati.Pagina == 1 ? vista_.Dati.Scheda : 0;
+  if (vista_.Dati.Pagina != 1) return 0;
+  const int scheda = vista_.Dati.Scheda;
+  return scheda >= 1 && scheda <= vista_.Dati.Num_SBR ? scheda : Di_Nessuno;
 }
 
 bool Comandi_Testi::Scrivibile() const {
   return !Davanti().isReadOnly();
+}
+
+bool Comandi_Testi::Si_Scrive() const {
+  if (!Scrivibile()) vista_.Dici(QStringLiteral("Questo testo si può soltanto leggere."));
+  return Scrivibile();
 }
 
 Sorgente Comandi_Testi::Testi() const {
@@ -123,6 +170,7 @@ Sorgente Comandi_Testi::Testi() const {
 }
 
 void Comandi_Testi::Aggiorna() {
+  vista_.Dici({});
   ricerca_->Aggiorna();
 }
 
@@ -134,7 +182,7 @@ void Comandi_Testi::Usa_Simboli(const Simboli& simboli) {
 
 void Comandi_Testi::Cambia_Linee(
     const std::function<Cambio_Linee(std::string_view, int, int)>& come) {
-  if (!Scrivibile()) return;
+  if (!Si_Scrive()) return;
   AwlEditor& testo = Davanti();
   const auto [da, a] = testo.Linee_Scelte();
   testo.Cambia(come(testo.Byte(), da, a));
@@ -143,25 +191,37 @@ void Comandi_Testi::Cambia_Linee(
 
 void Comandi_Testi::Mostra_Schemi() {
   AwlEditor& testo = Davanti();
-  if (!Scrivibile()) return;
+  if (!Si_Scrive()) return;
   const long posto = testo.SendScintilla(QsciScintilla::SCI_GETCURRENTPOS);
   const auto x = testo.SendScintilla(QsciScintilla::SCI_POINTXFROMPOSITION, 0L, posto);
   const auto y = testo.SendScintilla(QsciScintilla::SCI_POINTYFROMPOSITION, 0L, posto);
-  azioni_.mnuSchemi->menu()->popup(
-      testo.viewport()->mapToGlobal(QPoint(static_cast<int>(x), static_cast<int>(y))));
+  QMenu* menu = azioni_.mnuSchemi->menu();
+  menu->popup(testo.viewport()->mapToGlobal(QPoint(static_cast<int>(x), static_cast<int>(y))));
+  menu->setActiveAction(menu->actions().at(2));  // behind the entry that led here and its line
 }
 
 // ---- from place to place ------------------------------------------------------------------------
 
-void Comandi_Testi::Segmento(int (*cerca)(std::string_view, int)) {
+void Comandi_Testi::Segmento(int (*cerca)(std::string_view, int), const char* nessuno) {
   AwlEditor& testo = Davanti();
   const int linea = cerca(testo.Byte(), testo.Cursore().Linea);
-  if (linea >= 0) testo.Vai_A(linea);
+  linea >= 0 ? testo.Vai_A(linea) : vista_.Dici(QString::fromUtf8(nessuno));
+}
+
+void Comandi_Testi::Alla_Meta() {
+  const int linea = Davanti().Cursore().Linea;
+  const std::string byte = Davanti().Byte();
+  const bool del_programma = Scrivibile() && Numero() != Di_Nessuno;
+  const auto meta = del_programma ? Meta(Testi(), {Numero(), linea}) : std::nullopt;
+  meta ? Salta(*meta)
+       : vista_.Dici(Senza_Meta(del_programma ? Linee(byte)[static_cast<std::size_t>(linea)]
+                                              : std::string_view()));
 }
 
 /// Goes there, and remembers where from.
 void Comandi_Testi::Salta(Posto_Riga meta) {
-  if (vista_.Dati.Pagina < 2) salti_.push_back({Numero(), Davanti().Cursore().Linea});
+  if (vista_.Dati.Pagina < 2 && Numero() != Di_Nessuno)
+    salti_.push_back({Numero(), Davanti().Cursore().Linea});
   vista_.Mostra(meta);
 }
 
@@ -172,6 +232,7 @@ void Comandi_Testi::Indietro() {
     if (da.Testo > vista_.Dati.Num_SBR) continue;  // that procedure was removed meanwhile
     return vista_.Mostra(da);
   }
+  vista_.Dici(QStringLiteral("Nessun salto da cui tornare."));
 }
 
 void Comandi_Testi::Vai_A_Riga(int numero) {
@@ -181,12 +242,15 @@ void Comandi_Testi::Vai_A_Riga(int numero) {
 // ---- names --------------------------------------------------------------------------------------
 
 void Comandi_Testi::Mostra_Usi(bool con_nome) {
-  if (vista_.Dati.Pagina > 1) return;
+  if (vista_.Dati.Pagina > 1)
+    return vista_.Dici(
+        QStringLiteral("Il listato non ha nomi da cercare: il comando vale nei testi."));
   const AwlEditor& testo = Davanti();
   const AwlEditor::Punto qui = testo.Cursore();
   const std::string byte = testo.Byte();
-  const auto nominato = Nominato_In(Linee(byte)[static_cast<std::size_t>(qui.Linea)], qui.Colonna);
-  if (!nominato) return;
+  const std::string_view linea = Linee(byte)[static_cast<std::size_t>(qui.Linea)];
+  const auto nominato = Nominato_In(linea, qui.Colonna);
+  if (!nominato) return vista_.Dici(Senza_Nome(linea));
   nominato_ = *nominato;
   Riempi_Usi();
   if (con_nome) usi_->Chiedi_Nome();
@@ -247,7 +311,7 @@ void Comandi_Testi::Scrivi_Nome(const Cambio_Nome& cambio) {
     dati.Scegli_Procedura(dati.Scheda);
     dati.Scrivi_Main(Con_Ritocchi(dati.txtList, 0, ritocchi));
   });
-  if (vista_.Dati.Pagina < 2) vista_.Mostra(qui);
+  if (vista_.Dati.Pagina < 2 && qui.Testo != Di_Nessuno) vista_.Mostra(qui);
 }
 
 }  // namespace tavorno

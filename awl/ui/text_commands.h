@@ -31,9 +31,11 @@ struct Testi_In_Vista {
   AwlEditor* Procedura;
   AwlEditor* Listato;
   std::function<void(Posto_Riga)> Mostra;  ///< brings a line to the front, with the caret
-  std::function<void(int verso)> Errore;   ///< goes to the next mark of the compile or the last
+  /// Goes to the next mark of the compile or the last; false when there is none.
+  std::function<bool(int verso)> Errore;
   /// Runs what changes several texts at once, so that one undo takes all of it back.
   std::function<void(const std::function<void()>&)> Insieme;
+  std::function<void(const QString&)> Dici;  ///< why a command does nothing; empty: it does
 };
 
 /// The commands of the menus "Cerca", "Vai a", "Righe e nomi" and "Schemi di segmento": which text
@@ -56,11 +58,14 @@ class Comandi_Testi : public QObject {
   void Riempi_Schemi(QMainWindow& finestra);
 
   AwlEditor& Davanti() const;
-  int Numero() const;  // of the text in front: 0 the Main, else a row of the procedures
+  void Lega(QAction* voce, const std::function<void()>& comando);
+  int Numero() const;  // of the text in front: 0 the Main, a procedure's row, or `Di_Nessuno`
   bool Scrivibile() const;
+  bool Si_Scrive() const;  // the same, and says when not
   Sorgente Testi() const;
   void Cambia_Linee(const std::function<Cambio_Linee(std::string_view, int, int)>& come);
-  void Segmento(int (*cerca)(std::string_view, int));
+  void Segmento(int (*cerca)(std::string_view, int), const char* nessuno);
+  void Alla_Meta();
   void Salta(Posto_Riga meta);
   void Indietro();
   void Vai_A_Riga(int numero);

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "awl/ui/text_field.h"
 #include "widgets/naming.h"
 #include "widgets/text.h"
 
@@ -42,7 +43,7 @@ Elenco_Usi::Elenco_Usi(Legami legami, QWidget* sopra)
       legami_(std::move(legami)),
       etNome_(Chiama(QStringLiteral("etNome"), new QLabel)),
       lstUsi_(Chiama(QStringLiteral("lstUsi"), new QTreeWidget)),
-      txtNuovo_(Chiama(QStringLiteral("txtNuovo"), new QLineEdit)),
+      txtNuovo_(Chiama(QStringLiteral("txtNuovo"), new Campo_Testo)),
       cmdRinomina_(Chiama(QStringLiteral("cmdRinomina"),
                           new QPushButton(QStringLiteral("Rinomina dappertutto")))),
       etRisposta_(Chiama(QStringLiteral("etRisposta"), new QLabel)) {
