@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Places in the text by line and column, and what commands change there.
+#include <algorithm>
+
 #include "awl/ui/awl_editor.h"
 #include "awl/ui/editor_numbers.h"
 #include "widgets/text.h"
@@ -61,6 +63,11 @@ void AwlEditor::Indica(int indicatore, const std::vector<Trovato>& pezzi) {
 /// the lines.
 void AwlEditor::Cambia(const Cambio_Linee& cambio) {
   if (cambio.Vuoto() || isReadOnly()) return;
+  const bool scelto = hasSelectedText();
+  const auto fine_linea = [this](int linea) {
+    return SendScintilla(SCI_GETLINEENDPOSITION, linea);
+  };
+  const long dalla_fine = fine_linea(Cursore().Linea) - SendScintilla(SCI_GETCURRENTPOS);
   const auto metti = [this](const Cambio_Linee& uno) {
     Sostituisci_Testo(A_Utf8(Con_Cambio(Byte(), uno)));
   };
@@ -81,8 +88,11 @@ void AwlEditor::Cambia(const Cambio_Linee& cambio) {
                            : static_cast<long>(length());
   };
   const long inizio = posizione(cambio.Scelta);
-  SendScintilla(SCI_SETSEL, cambio.Scelte > 0 ? posizione(cambio.Scelta + cambio.Scelte) : inizio,
-                inizio);
+  if (cambio.Scelte > 0 && !scelto)  // the caret stays with its letter
+    SendScintilla(SCI_GOTOPOS, std::max(inizio, fine_linea(cambio.Scelta) - dalla_fine));
+  else
+    SendScintilla(SCI_SETSEL, cambio.Scelte > 0 ? posizione(cambio.Scelta + cambio.Scelte) : inizio,
+                  inizio);
   SendScintilla(SCI_SCROLLCARET);
 }
 

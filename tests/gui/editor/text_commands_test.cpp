@@ -277,9 +277,28 @@ TEST_F(TextCommands, LinesAreCommentedMovedAndDoubledInOneStepEach) {
     txtList().setCursorPosition(1, 1);
     Comanda(comando);
     EXPECT_EQ(progetto.txtList, dopo) << Utf8(comando);
-    EXPECT_TRUE(txtList().hasSelectedText());
+    // What is typed next must not take the line's place.
+    EXPECT_FALSE(txtList().hasSelectedText()) << Utf8(comando);
+    const AwlEditor::Punto qui = txtList().Cursore();
+    EXPECT_EQ(txtList().text(qui.Linea).mid(qui.Colonna).trimmed(), "OP") << Utf8(comando);
     txtList().undo();
     EXPECT_EQ(progetto.txtList, prima) << Utf8(comando);
+  }
+}
+
+TEST_F(TextCommands, WhatWasSelectedIsSelectedBehindACommand) {
+  Avvia(Avvio::Vuoto);
+  QApplication::clipboard()->setText("NOT\nNOP\nEU\n");
+  txtList().paste();
+  const std::map<QString, QString> attesi = {{"mnuRigheCom", "//NOP\r\n//EU\r\n"},
+                                             {"mnuRigheSu", "NOP\r\nEU\r\n"},
+                                             {"mnuRigheGiu", "NOP\r\nEU"},
+                                             {"mnuRigheDoppia", "NOP\r\nEU\r\n"}};
+  for (const auto& [comando, scelto] : attesi) {
+    txtList().setSelection(1, 1, 2, 1);
+    Comanda(comando);
+    EXPECT_EQ(txtList().selectedText(), scelto) << Utf8(comando);
+    txtList().undo();
   }
 }
 
