@@ -56,10 +56,13 @@ const std::vector<Situazione> situazioni = {
      }},
     {"LongText",
      [](Banco_Editor& banco) {
-       std::vector<std::string> righe;
-       for (int i = 1; i <= 1700; ++i)
-         righe.insert(righe.end(), {"NETWORK " + std::to_string(i), "LD I0.0", "= Q0.0"});
-       banco.Avvia_Con(Banco_Editor::Blocco_Main(righe));
+       QString testo;  // more than a file has room for
+       for (int i = 1; i <= 400; ++i)
+         testo += QStringLiteral("NETWORK %1\nLD I0.0\n= Q0.%2\n").arg(i).arg(i % 8);
+       QApplication::clipboard()->setText(testo);
+       banco.Avvia(Avvio::Vuoto);
+       banco.txtList().paste();
+       ASSERT_GT(banco.txtList().lines(), 1200);
        banco.txtList().selectAll();
      }},
     {"EmptyProcedure",
