@@ -120,8 +120,9 @@ class AwlEditor : public QsciScintilla {
  protected:
   void contextMenuEvent(QContextMenuEvent* evento) override;
   void keyPressEvent(QKeyEvent* evento) override;
-  /// Files are the window's.
+  // Files are the window's.
   bool canInsertFromMimeData(const QMimeData* dati) const override;
+  void dragEnterEvent(QDragEnterEvent* evento) override;
 
  private:
   void Prepara_Documento();

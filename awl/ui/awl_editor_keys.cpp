@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Keys, and the menu of the right button.
 #include <QContextMenuEvent>
+#include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
@@ -129,6 +130,14 @@ std::unique_ptr<QMenu> AwlEditor::Menu_Modifica() {
 
 bool AwlEditor::canInsertFromMimeData(const QMimeData* dati) const {
   return !dati->hasUrls() && QsciScintilla::canInsertFromMimeData(dati);
+}
+
+/// The component would take a file here, and then do nothing with it.
+void AwlEditor::dragEnterEvent(QDragEnterEvent* evento) {
+  if (evento->mimeData()->hasUrls())
+    evento->ignore();
+  else
+    QsciScintilla::dragEnterEvent(evento);
 }
 
 void AwlEditor::contextMenuEvent(QContextMenuEvent* evento) {

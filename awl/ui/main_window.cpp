@@ -469,7 +469,9 @@ void FrmMain::dragEnterEvent(QDragEnterEvent* evento) {
 
 void FrmMain::dropEvent(QDropEvent* evento) {
   evento->acceptProposedAction();
-  Apri_Questo(evento->mimeData()->urls().front().toLocalFile());
+  // Whom it was dragged from waits for the end of this, and a box may follow.
+  const QString file = evento->mimeData()->urls().front().toLocalFile();
+  QTimer::singleShot(0, this, [this, file] { Apri_Questo(file); });
 }
 
 }  // namespace tavorno

@@ -211,8 +211,35 @@ TEST_F(Controls, ADroppedFileOpens) {
   EXPECT_TRUE(entra.isAccepted()) << "by the window, since the text takes no file's name";
   QDropEvent cade(QPointF(5, 5), Qt::CopyAction, &dati, Qt::LeftButton, Qt::NoModifier);
   static_cast<QObject&>(*finestra).event(&cade);  // a drop itself needs the desktop
+  EXPECT_EQ(txtList().Byte().find("NOP"), std::string::npos) << "not while the other side waits";
+  QCoreApplication::processEvents();
   EXPECT_NE(txtList().Byte().find("NOP"), std::string::npos);
   EXPECT_EQ(Etichetta("stB(1)"), "File: caduto.AWL");
+}
+
+TEST_F(Controls, WhatCannotBeOpenedIsNotTakenOrIsTold) {
+  Avvia_Con(Blocco_Main({"NETWORK 1", "NOP"}));
+  const auto preso = [this](const QList<QUrl>& cose) {
+    QMimeData dati;
+    dati.setUrls(cose);
+    QDragEnterEvent entra(QPoint(5, 5), Qt::CopyAction, &dati, Qt::LeftButton, Qt::NoModifier);
+    entra.ignore();
+    QApplication::sendEvent(txtList().viewport(), &entra);
+    return entra.isAccepted();
+  };
+  const QUrl file = QUrl::fromLocalFile(Q(Percorso("prova.AWL")));
+  EXPECT_TRUE(preso({file}));
+  EXPECT_FALSE(preso({file, file}));
+  EXPECT_FALSE(preso({QUrl(QStringLiteral("http://localhost/prova.AWL"))}));
+  const auto prima = risponditore.Avvisi.size();
+  QMimeData dati;
+  dati.setUrls({QUrl::fromLocalFile(Q(cartella.string()))});
+  QDropEvent cade(QPointF(5, 5), Qt::CopyAction, &dati, Qt::LeftButton, Qt::NoModifier);
+  static_cast<QObject&>(*finestra).event(&cade);
+  QCoreApplication::processEvents();
+  EXPECT_GT(risponditore.Avvisi.size(), prima);
+  txtList().undo();
+  EXPECT_NE(progetto.txtList.find("NOP"), std::string::npos);
 }
 
 TEST_F(Controls, FourPagesOfWhichTheLastIsHidden) {
