@@ -122,4 +122,18 @@ std::string Simbolo_In(std::string_view linea, std::size_t colonna, const Simbol
   return {};
 }
 
+std::string Nota_Simboli(std::string_view linea, const Simboli& simboli) {
+  std::vector<Simboli::const_iterator> noti;
+  for (const Parola& operando : Operandi_Di(linea)) {
+    const auto trovato = simboli.find(Nome_Operando(operando.Di(linea)));
+    if (trovato != simboli.end() && std::ranges::find(noti, trovato) == noti.end())
+      noti.push_back(trovato);
+  }
+  if (noti.size() == 1) return noti.front()->second.Intero();
+  std::string nota;
+  for (const auto& noto : noti)
+    nota += (nota.empty() ? "" : ", ") + noto->first + " " + noto->second.Nome;
+  return nota;
+}
+
 }  // namespace tavorno

@@ -40,4 +40,8 @@ Proposte Proponi(std::string_view linea, std::size_t colonna, const Simboli& sim
 /// Pulsante"; empty for a word that the plant does not know.
 std::string Simbolo_In(std::string_view linea, std::size_t colonna, const Simboli& simboli);
 
+/// What the plant calls the operands of a line, UTF-8, for the end of that line: "SB1  Pulsante";
+/// with the operands in front where there are several. Empty where it calls them nothing.
+std::string Nota_Simboli(std::string_view linea, const Simboli& simboli);
+
 }  // namespace tavorno

@@ -104,7 +104,9 @@ class AwlEditor : public QsciScintilla {
   void Vai_In_Fondo();
 
   /// What the plant calls its operands: in lists, in tips and under a resting pointer.
-  void Usa_Simboli(const Simboli& simboli) { simboli_ = simboli; }
+  void Usa_Simboli(const Simboli& simboli);
+  /// The same in grey behind the ends of the lines; not part of the text. On at first.
+  void Annota_Simboli(bool annota);
   /// A list, when the caret stands at the end of a word that can become a mnemonic or an operand of
   /// the plant; `anche_vuota`: also where such an operand could begin.
   void Offri_Completamenti(bool anche_vuota = false);
@@ -120,6 +122,7 @@ class AwlEditor : public QsciScintilla {
  protected:
   void contextMenuEvent(QContextMenuEvent* evento) override;
   void keyPressEvent(QKeyEvent* evento) override;
+  void paintEvent(QPaintEvent* evento) override;
   // Files are the window's.
   bool canInsertFromMimeData(const QMimeData* dati) const override;
   void dragEnterEvent(QDragEnterEvent* evento) override;
@@ -148,6 +151,7 @@ class AwlEditor : public QsciScintilla {
   AwlLexer* lexer_;
   std::vector<Diagnosi> suggerimenti_;
   Simboli simboli_;
+  bool annota_ = true;
   bool spento_ = false;
   bool scrive_ = false;  // a command, not the user, is changing the text
   int raccoglie_ = 0;    // changes are told later, together

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Help while typing: lists of mnemonics, and tips.
+#include <QPaintEvent>
+#include <QPainter>
 #include <algorithm>
 
 #include "awl/completion.h"
 #include "awl/line_words.h"
 #include "awl/ui/awl_editor.h"
 #include "awl/ui/editor_numbers.h"
+#include "widgets/colours.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -85,6 +88,44 @@ void AwlEditor::Mostra_Suggerimento_A(int posizione, int, int) {
   const bool muto = istruzione == nullptr || colonna < parola.Inizio || colonna >= parola.Fine;
   Mostra_Aiuto(static_cast<std::uintptr_t>(posizione), linea,
                muto ? Simbolo_In(testo, colonna, simboli_) : Suggerimento(*istruzione));
+}
+
+// ---- notes --------------------------------------------------------------------------------------
+
+void AwlEditor::Usa_Simboli(const Simboli& simboli) {
+  simboli_ = simboli;
+  viewport()->update();
+}
+
+void AwlEditor::Annota_Simboli(bool annota) {
+  annota_ = annota;
+  viewport()->update();
+}
+
+/// The component has notes below lines only, where they would take room.
+void AwlEditor::paintEvent(QPaintEvent* evento) {
+  QsciScintilla::paintEvent(evento);
+  if (!annota_ || simboli_.empty()) return;
+  QFont carattere = lexer_->defaultFont(stile::Numero_Listato);
+  carattere.setPointSizeF(carattere.pointSizeF() + static_cast<double>(SendScintilla(SCI_GETZOOM)));
+  carattere.setItalic(true);
+  QPainter disegno(viewport());
+  disegno.setFont(carattere);
+  disegno.setPen(colori::Su(colori::awl::Numero.Testo, palette().color(QPalette::Base)));
+  constexpr int stacco = 3;  // letters between a line and its note
+  const int distanza = stacco * disegno.fontMetrics().horizontalAdvance(' ');
+  const auto prima = SendScintilla(SCI_DOCLINEFROMVISIBLE, SendScintilla(SCI_GETFIRSTVISIBLELINE));
+  for (int linea = static_cast<int>(prima); linea < lines(); ++linea) {
+    const long fine = SendScintilla(SCI_GETLINEENDPOSITION, linea);
+    const auto y = static_cast<int>(SendScintilla(SCI_POINTYFROMPOSITION, 0UL, fine));
+    const auto alta = static_cast<int>(SendScintilla(SCI_TEXTHEIGHT, linea));
+    if (y > evento->rect().bottom()) break;
+    if (y + alta < evento->rect().top()) continue;
+    const std::string nota = Nota_Simboli(Linea_Byte(linea), simboli_);
+    if (nota.empty()) continue;
+    const auto x = static_cast<int>(SendScintilla(SCI_POINTXFROMPOSITION, 0UL, fine)) + distanza;
+    disegno.drawText(QRect(x, y, viewport()->width() - x, alta), Qt::AlignVCenter, Q(nota));
+  }
 }
 
 /// Below what there is to say of the line.

@@ -120,6 +120,12 @@ void Comandi_Testi::Collega_Righe() {
   });
   al(azioni_.mnuRigheDoppia, [this] { Cambia_Linee(Raddoppia); });
   al(azioni_.mnuRigheNome, [this] { Mostra_Usi(true); });
+  al(azioni_.mnuRigheNote, [this] {
+    const bool annota = azioni_.mnuRigheNote->isChecked();
+    for (AwlEditor* testo : {vista_.Main, vista_.Procedura}) testo->Annota_Simboli(annota);
+    if (annota && simboli_.empty())
+      vista_.Dici(QStringLiteral("I nomi ci sono con un esercizio aperto (Simulatori Processi)."));
+  });
 }
 
 void Comandi_Testi::Riempi_Schemi(QMainWindow& finestra) {

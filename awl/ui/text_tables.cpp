@@ -112,6 +112,13 @@ std::vector<Voce_Menu> Menu_Testi(Azioni_Testi& azioni) {
        .Dove = &azioni.mnuRigheNome,
        .Aiuto =
            "Dà un altro nome a un operando, un'etichetta o una procedura in tutto il progetto"},
+      {.Livello = 2,
+       .Nome = "mnuRigheNote",
+       .Testo = "Nomi dell'&impianto",
+       .Segno = Spunta::Messa,
+       .Tasti = "Ctrl+B",
+       .Dove = &azioni.mnuRigheNote,
+       .Aiuto = "Scrive in grigio, in fondo alle righe, come l'esercizio chiama i loro operandi"},
       {.Livello = 1,
        .Nome = "mnuSchemi",
        .Testo = "Schemi di se&gmento",

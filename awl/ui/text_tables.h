@@ -12,7 +12,7 @@ struct Azioni_Testi {
   QAction *mnuCercaTrova, *mnuCercaSost, *mnuCercaSucc, *mnuCercaPrec, *mnuCercaUsi;
   QAction *mnuVaiRiga, *mnuVaiErrSucc, *mnuVaiErrPrec, *mnuVaiNetSucc, *mnuVaiNetPrec;
   QAction *mnuVaiMeta, *mnuVaiIndietro;
-  QAction *mnuRigheCom, *mnuRigheSu, *mnuRigheGiu, *mnuRigheDoppia, *mnuRigheNome;
+  QAction *mnuRigheCom, *mnuRigheSu, *mnuRigheGiu, *mnuRigheDoppia, *mnuRigheNome, *mnuRigheNote;
   QAction *mnuSchemi, *mnuSchemiQui;  ///< the menu of the skeletons, and its entry that opens it
 };
 

@@ -82,7 +82,7 @@ TEST_F(HelpLine, EachCommandOnTheTextsHasAKey) {
       EXPECT_FALSE(voce->toolTip().isEmpty()) << Utf8(voce->text());
     }
   }
-  EXPECT_EQ(quanti, 17);
+  EXPECT_EQ(quanti, 18);
 }
 
 TEST_F(HelpLine, IsThereForEachSkeleton) {

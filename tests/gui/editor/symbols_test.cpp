@@ -59,6 +59,41 @@ TEST_F(Names, GoWithThePlant) {
   EXPECT_FALSE(txtList().isListActive());
 }
 
+TEST_F(Names, StandBehindTheLinesWithoutBeingWritten) {
+  Batti_In_Fondo(txtList(), "LD I0.0\rLD I7.7\rNOT");
+  const std::string prima = txtList().Byte();
+  // The room to the right of a line, without its own letters.
+  const auto accanto = [this](int linea) {
+    QCoreApplication::processEvents();
+    const long fine = txtList().SendScintilla(QsciScintilla::SCI_GETLINEENDPOSITION, linea);
+    const auto a = [&](unsigned dove) {
+      return static_cast<int>(txtList().SendScintilla(dove, 0UL, fine));
+    };
+    const QRect posto(a(QsciScintilla::SCI_POINTXFROMPOSITION) + 4,
+                      a(QsciScintilla::SCI_POINTYFROMPOSITION), 300, 12);
+    const QImage carta = txtList().viewport()->grab(posto).toImage();
+    QImage vuota(carta.size(), carta.format());
+    vuota.setDevicePixelRatio(carta.devicePixelRatio());
+    vuota.fill(carta.pixelColor(0, 0));
+    return carta != vuota;
+  };
+  const int ld = txtList().lines() - 3;
+  EXPECT_TRUE(accanto(ld));
+  EXPECT_FALSE(accanto(ld + 1));
+  Comanda("mnuRigheNote");
+  EXPECT_FALSE(accanto(ld));
+  EXPECT_EQ(finestra->statusBar()->currentMessage(), "");
+  Comanda("mnuRigheNote");
+  EXPECT_TRUE(accanto(ld));
+  finestra->Usa_Simboli({});
+  EXPECT_FALSE(accanto(ld));
+  Comanda("mnuRigheNote");
+  Comanda("mnuRigheNote");
+  EXPECT_TRUE(
+      finestra->statusBar()->currentMessage().startsWith("I nomi ci sono con un esercizio"));
+  EXPECT_EQ(txtList().Byte(), prima);
+}
+
 TEST_F(Names, WhatStopsTheCpuIsNamedInTheListAndWrittenAlone) {
   Batti_In_Fondo(txtList(), "xor");
   ASSERT_TRUE(txtList().isListActive());

@@ -59,7 +59,8 @@ TEST_F(TextCommands, HaveKeysAndToolTipsOfTheirOwn) {
       {"mnuVaiErrSucc", "F4"},      {"mnuVaiErrPrec", "Shift+F4"}, {"mnuVaiNetSucc", "Ctrl+Down"},
       {"mnuVaiNetPrec", "Ctrl+Up"}, {"mnuVaiMeta", "F12"},         {"mnuVaiIndietro", "Alt+Left"},
       {"mnuRigheCom", "Ctrl+K"},    {"mnuRigheSu", "Alt+Up"},      {"mnuRigheGiu", "Alt+Down"},
-      {"mnuRigheDoppia", "Ctrl+D"}, {"mnuRigheNome", "F2"},        {"mnuSchemiQui", "Ctrl+J"}};
+      {"mnuRigheDoppia", "Ctrl+D"}, {"mnuRigheNome", "F2"},        {"mnuRigheNote", "Ctrl+B"},
+      {"mnuSchemiQui", "Ctrl+J"}};
   for (const auto& [nome, tasti] : attesi) {
     EXPECT_EQ(Voce(nome).shortcut().toString(), tasti) << Utf8(nome);
     EXPECT_NE(Voce(nome).toolTip(), Voce(nome).text().remove('&')) << Utf8(nome);

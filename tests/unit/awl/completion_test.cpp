@@ -91,4 +91,17 @@ TEST(Offers, WarnOfWhatTheHelpSaysThatItStopsTheCpu) {
   EXPECT_GT(ferme, 0);
 }
 
+TEST(Note, NamesTheOperandsOfALineAsThePlantDoes) {
+  const Simboli impianto = {
+      {"I0.0", {"SB1", "Pulsante (NO)"}}, {"AIW0", {"B1", "Livello"}}, {"AIW2", {"B2", ""}}};
+  EXPECT_EQ(Nota_Simboli("ld i0.00 //marcia", impianto), "SB1  Pulsante (NO)");
+  EXPECT_EQ(Nota_Simboli("AW>= AIW0, AIW2", impianto), "AIW0 B1, AIW2 B2");
+  EXPECT_EQ(Nota_Simboli("AW= AIW2, AIW2", impianto), "B2");
+  EXPECT_EQ(Nota_Simboli("LD I0.1", impianto), "");
+  EXPECT_EQ(Nota_Simboli("//LD I0.0", impianto), "");
+  EXPECT_EQ(Nota_Simboli("NETWORK 1 I0.0", impianto), "");
+  EXPECT_EQ(Nota_Simboli("", impianto), "");
+  EXPECT_EQ(Nota_Simboli("LD I0.0", {}), "");
+}
+
 }  // namespace tavorno::prova
