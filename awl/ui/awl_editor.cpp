@@ -259,8 +259,7 @@ void AwlEditor::redo() {
 }
 
 void AwlEditor::Mostra_Documento(const QsciDocument& documento) {
-  cancelList();
-  SendScintilla(SCI_CALLTIPCANCEL);
+  Chiudi_Aiuti();
   setDocument(documento);
   Prepara_Documento();
 }

@@ -113,6 +113,9 @@ class AwlEditor : public QsciScintilla {
   /// A tip, when the caret's line begins with an instruction.
   void Mostra_Suggerimento();
 
+  /// Closes list and tip.
+  void Chiudi_Aiuti();
+
   /// Leaves a key to a command of the window.
   void Cedi_Tasti(const QKeySequence& tasti);
 

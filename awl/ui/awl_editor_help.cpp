@@ -45,9 +45,16 @@ void AwlEditor::Offri_Completamenti(bool anche_vuota) {
     // Whoever has written the whole operand sees what it is.
     const std::string simbolo = Simbolo_In(testo, colonna, simboli_);
     if (!simbolo.empty()) Mostra_Aiuto(static_cast<std::uintptr_t>(posizione), linea, simbolo);
+    // Behind a comment there is nothing left to help with.
+    if (colonna > testo.find("//")) SendScintilla(SCI_CALLTIPCANCEL);
   } else if (!isListActive()) {
     SendScintilla(SCI_AUTOCSHOW, colonna - proposte.Inizio, lista.c_str());
   }
+}
+
+void AwlEditor::Chiudi_Aiuti() {
+  cancelList();
+  SendScintilla(SCI_CALLTIPCANCEL);
 }
 
 /// The component would write the remark behind a proposal as well.

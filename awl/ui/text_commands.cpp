@@ -79,6 +79,7 @@ Comandi_Testi::Comandi_Testi(QMainWindow& finestra, Azioni_Testi& azioni, Testi_
 void Comandi_Testi::Lega(QAction* voce, const std::function<void()>& comando) {
   connect(voce, &QAction::triggered, this, [this, comando] {
     vista_.Dici({});
+    Davanti().Chiudi_Aiuti();
     comando();
   });
 }

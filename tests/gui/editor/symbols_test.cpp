@@ -53,6 +53,19 @@ TEST_F(Names, StandInATipBehindAWholeOperand) {
   EXPECT_FALSE(Aiuto_Aperto());
 }
 
+TEST_F(Names, NoTipStaysOverALineThatIsCommentedOrLeftByACommand) {
+  Batti_In_Fondo(txtList(), "LD ");
+  ASSERT_TRUE(Aiuto_Aperto());
+  Batti(txtList(), "//x");
+  EXPECT_FALSE(Aiuto_Aperto());
+  for (const char* comando : {"mnuRigheCom", "mnuVaiNetPrec", "mnuVaiErrSucc", "mnuCercaTrova"}) {
+    Batti_In_Fondo(txtList(), "\rLD ");
+    ASSERT_TRUE(Aiuto_Aperto());
+    Comanda(comando);
+    EXPECT_FALSE(Aiuto_Aperto()) << comando;
+  }
+}
+
 TEST_F(Names, GoWithThePlant) {
   finestra->Usa_Simboli({});
   Batti_In_Fondo(txtList(), "LD i");
