@@ -16,7 +16,6 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
-#include <QToolTip>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -382,16 +381,6 @@ bool FrmMain::Errore_Vicino(int verso) {
   else
     Vai_A_Riga(dopo == segnate.begin() ? segnate.back() : *(dopo - 1));
   return true;
-}
-
-/// For a few seconds, in the status bar, or below the caret where that is switched off.
-void FrmMain::Dici(const QString& testo) {
-  constexpr int millisecondi = 8000;
-  statusBar()->showMessage(testo, millisecondi);
-  if (testo.isEmpty() || statusBar()->isVisibleTo(this)) return;
-  const AwlEditor& davanti = Davanti();
-  QToolTip::showText(davanti.mapToGlobal(davanti.rect().bottomLeft()), testo, nullptr, {},
-                     millisecondi);
 }
 
 /// The editor of a block, with that block in it; nullptr: there is no such block.

@@ -14,6 +14,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolBar>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include "awl/ui/main_window.h"
@@ -221,6 +222,16 @@ void FrmMain::Crea_Stato() {
   connect(orologio, &QTimer::timeout, this, [this] { Mostra_Data_Ora(); });
   orologio->start(ogni_secondo);
   Mostra_Data_Ora();
+}
+
+/// For a few seconds, in the status bar, or as a tip below the text where that is off.
+void FrmMain::Dici(const QString& testo) {
+  constexpr int millisecondi = 8000;
+  statusBar()->showMessage(testo, millisecondi);
+  if (testo.isEmpty() || statusBar()->isVisibleTo(this)) return;
+  const AwlEditor& davanti = Davanti();
+  QToolTip::showText(davanti.mapToGlobal(davanti.rect().bottomLeft()), testo, nullptr, {},
+                     millisecondi);
 }
 
 void FrmMain::Mostra_Data_Ora() {
