@@ -6,6 +6,7 @@
 #include <QGridLayout>
 #include <QMenu>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QTabWidget>
 #include <algorithm>
@@ -231,14 +232,32 @@ void Finestra_Impianto::Apri_Striscia(bool aperta) {
 
 void Finestra_Impianto::Mostra(QWidget& vista, bool aperta, int pixel) {
   const bool ferma = !isWindow() || isMaximized() || isFullScreen();
-  // What appears may make the window grow at once.
-  const QSize voluta(width(), height() + (ferma ? 0 : pixel));
+  const QSize prima = size();  // what appears may make the window grow at once
   vista.setVisible(aperta);
+  int di_quanto = 0;
+  if (ferma)
+    cresciuta_.erase(&vista);
+  else if (aperta)
+    di_quanto = cresciuta_[&vista] = Crescita(vista, prima, pixel);
+  else
+    di_quanto = cresciuta_.contains(&vista) ? -cresciuta_[&vista] : pixel;
+  const QSize voluta(prima.width(), prima.height() + di_quanto);
   Disponi(voluta);
   layout()->activate();  // else the window may not shrink yet
   if (ferma) return;
   resize(voluta);
   if (Tabella_Mossa) Tabella_Mossa();
+}
+
+/// By how much a window of this size grows for what appears in it and wants these pixels: by
+/// nothing where there is room at the side, and within the screen once the user has enlarged it.
+int Finestra_Impianto::Crescita(const QWidget& vista, const QSize& prima, int pixel) const {
+  if (&vista == schede_ && Meglio_Accanto(prima)) return 0;
+  constexpr int tondo = 1;  // pixels that rounding the told heights may leave
+  if (prima.height() + pixel <= Voluta().height() + tondo) return pixel;
+  const int cornice = frameGeometry().height() - height();
+  const int schermo = screen()->availableGeometry().height() - cornice;
+  return std::clamp(schermo - prima.height(), 0, pixel);
 }
 
 /// Pixels that strip and commands take.

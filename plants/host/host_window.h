@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <map>
 #include <memory>
 
 #include "plants/host/io_history.h"
@@ -71,6 +72,7 @@ class Finestra_Impianto : public QWidget {
   void Apri_Tabella(bool aperta);
   void Apri_Striscia(bool aperta);
   void Mostra(QWidget& vista, bool aperta, int pixel);
+  int Crescita(const QWidget& vista, const QSize& prima, int pixel) const;
   int Sotto_Il_Quadro() const;
   bool Meglio_Accanto(const QSize& finestra) const;
   void Disponi(const QSize& finestra);
@@ -90,7 +92,8 @@ class Finestra_Impianto : public QWidget {
   QTabWidget* schede_ = nullptr;
   QTimer sguardo_;
   int altezza_;
-  bool accanto_ = false;  // the table stands beside the picture
+  bool accanto_ = false;                     // the table stands beside the picture
+  std::map<const QWidget*, int> cresciuta_;  // by how many pixels the window grew for it
 };
 
 }  // namespace tavorno

@@ -20,6 +20,8 @@ namespace {
 
 constexpr int larga_nomi = 190;  // pixels for names and values at the left
 constexpr int alta_grandezza = 34, alta_bit = 17, alta_tempo = 18, margine = 4;
+constexpr int alta_vuota = alta_tempo + margine + 24;
+constexpr int alta_minima = 170;  // of a strip with more lanes than its window may have room for
 constexpr int secondi_per_tacca = 10;
 constexpr std::size_t bit_all_inizio = 4;
 
@@ -86,15 +88,16 @@ void Striscia::Scegli(std::size_t riga, bool mostrato) {
   update();
 }
 
+// Lower, and the names of the lanes would cut each other.
 QSize Striscia::minimumSizeHint() const {
-  return {larga_nomi + 160, alta_tempo + margine + 24};
+  return {larga_nomi + 160, std::min(sizeHint().height(), alta_minima)};
 }
 
 QSize Striscia::sizeHint() const {
   const auto alta = alta_tempo + 2 * margine +
                     static_cast<int>(storia_.Grandezze().size()) * alta_grandezza +
                     static_cast<int>(scelti_.size()) * alta_bit;
-  return minimumSizeHint().expandedTo({600, alta});
+  return {600, std::max(alta, alta_vuota)};
 }
 
 double Striscia::X(std::int64_t ms, const QRectF& area) const {

@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QSlider>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -67,6 +68,34 @@ TEST_P(Host, TheTableStandsBesideThePictureWhereThatLeavesItLarger) {
   banco.finestra->resize(900, 1000);
   EXPECT_GT(schede.y(), banco.Disegno().y());
   EXPECT_EQ(schede.x(), 0);
+}
+
+TEST_P(Host, AnEnlargedWindowStaysOnTheScreenAndComesBack) {
+  auto& chkIO = banco.Trova<QCheckBox>("chkIO");
+  const int schermo = banco.finestra->screen()->availableGeometry().height();
+  const QSize figura = banco.Disegno().sizeHint();
+  // Beside the picture the table needs no height.
+  const QSize grande(figura.width() + 600, figura.height() + 60);
+  banco.finestra->resize(grande);
+  chkIO.click();
+  EXPECT_EQ(banco.finestra->size(), grande);
+  EXPECT_GT(banco.Trova<QTabWidget>("SSTab1").x(), banco.Disegno().x());
+  chkIO.click();
+  EXPECT_EQ(banco.finestra->size(), grande);
+  const QSize alta(figura.width(), schermo - 20);
+  banco.finestra->resize(alta);
+  chkIO.click();
+  EXPECT_LE(banco.finestra->height(), schermo);
+  chkIO.click();
+  EXPECT_EQ(banco.finestra->size(), alta);
+}
+
+TEST_P(Host, TheLanesOfTheStripAreAsHighAsTheirNames) {
+  banco.Trova<QCheckBox>("chkIO").click();
+  banco.Trova<QCheckBox>("chkStriscia").click();
+  banco.finestra->resize(600, 300);
+  const auto& striscia = banco.Trova<QWidget>("Striscia");
+  EXPECT_GE(striscia.height(), striscia.sizeHint().height());
 }
 
 TEST_P(Host, TheGridHoldsTheTableOfInputsAndOutputs) {
