@@ -86,8 +86,8 @@ constexpr Riga_Figura figure_05[] = {
     {"imgSB4",  8070,  510,  600,  600, "imgPBOF", "Pulsante, I1.1"},
     {"ImgEm",   6600, 2760,  600,  600, "imgROFF", "Emergenza esterna, I1.0"},
     {"imgCEM",  7770, 2760,  600,  600, "imgCC", "Contatto di SB5, I1.0"},
-    {"imgLM2",  5010, 1695,  480,  480, Lampada_Spenta, "Lampada blu, Q0.5"},
-    {"imgLS2",  5790, 1695,  480,  480, Lampada_Spenta, "Lampada verde, Q0.6"},
+    {"imgLM2",  5790, 1695,  480,  480, Lampada_Spenta, "Lampada blu, Q0.5"},
+    {"imgLS2",  7350, 1695,  480,  480, Lampada_Spenta, "Lampada verde, Q0.6"},
 };
 
 constexpr Riga_Figura figure_06[] = {

@@ -28,10 +28,10 @@ constexpr Riga_Figura figure_st[] = {
     {"imgStop",  4440, 1440,  540,  540, "imgPGr0", "Stop, I0.0"},
     {"imgStart", 6120, 1440,  540,  540, "imgVOFF", "Start, I0.1"},
     {"ImgEm",    7800, 1440,  540,  540, "imgROFF", "Emergenza, I0.6"},
-    {"imgLS",    4470, 2370,  480,  480, Lampada_Spenta, "Lampada blu, Q0.3"},
-    {"imgLSt",   5590, 2370,  480,  480, Lampada_Spenta, "Lampada verde, Q0.4"},
-    {"imgLTri",  6710, 2370,  480,  480, Lampada_Spenta, "Lampada verde, Q0.5"},
-    {"imgLRt",   7830, 2370,  480,  480, Lampada_Spenta, "Lampada gialla, Q0.6"},
+    {"imgLS",    4470, 2325,  480,  480, Lampada_Spenta, "Lampada blu, Q0.3"},
+    {"imgLSt",   5590, 2325,  480,  480, Lampada_Spenta, "Lampada verde, Q0.4"},
+    {"imgLTri",  6710, 2325,  480,  480, Lampada_Spenta, "Lampada verde, Q0.5"},
+    {"imgLRt",   7830, 2325,  480,  480, Lampada_Spenta, "Lampada gialla, Q0.6"},
 };
 
 constexpr Riga_Contattore contattori_st[] = {
@@ -85,12 +85,12 @@ constexpr Riga_Figura figure_st2[] = {
     {"imgStart", 6040, 1470,  540,  540, "imgVOFF", "Marcia motore M1, I0.1"},
     {"imgSM2",   7040, 1470,  540,  540, "imgVOFF", "Marcia motore M2, I0.3"},
     {"ImgEm",    8040, 1470,  540,  540, "imgROFF", "Emergenza, I0.5"},
-    {"imgLS1",   4920, 2370,  480,  480, Lampada_Spenta, "Lampada blu motore M1, Q0.4"},
-    {"imgLM1",   5580, 2370,  480,  480, Lampada_Spenta, "Lampada verde motore M1, Q0.5"},
-    {"imgLS2",   6240, 2370,  480,  480, Lampada_Spenta, "Lampada blu motore M2, Q0.6"},
-    {"imgLM2",   6900, 2370,  480,  480, Lampada_Spenta, "Lampada verde motore M2, Q0.7"},
-    {"imgLRt1",  7560, 2370,  480,  480, Lampada_Spenta, "Lampada gialla motore M1, Q1.0"},
-    {"imgLRt2",  8220, 2370,  480,  480, Lampada_Spenta, "Lampada gialla motore M2, Q1.1"},
+    {"imgLS1",   4920, 2325,  480,  480, Lampada_Spenta, "Lampada blu motore M1, Q0.4"},
+    {"imgLM1",   5580, 2325,  480,  480, Lampada_Spenta, "Lampada verde motore M1, Q0.5"},
+    {"imgLS2",   6240, 2325,  480,  480, Lampada_Spenta, "Lampada blu motore M2, Q0.6"},
+    {"imgLM2",   6900, 2325,  480,  480, Lampada_Spenta, "Lampada verde motore M2, Q0.7"},
+    {"imgLRt1",  7560, 2325,  480,  480, Lampada_Spenta, "Lampada gialla motore M1, Q1.0"},
+    {"imgLRt2",  8220, 2325,  480,  480, Lampada_Spenta, "Lampada gialla motore M2, Q1.1"},
 };
 
 constexpr Riga_Contattore contattori_st2[] = {
