@@ -141,6 +141,48 @@ TEST_P(Disegni_Di, EverySymbolIsOfItsOwnFileOrOfTheSharedSheet) {
   }
 }
 
+/// What moves the contact of an input, as its row and the tool tip of its part have it.
+QString Chi_Lo_Muove(const QString& detto) {
+  static const std::pair<const char*, const char*> segni[] = {
+      {"selettore", "turn"}, {"emergenza", "mushroom"},      {"sicurezza", "mushroom"},
+      {"pulsante", "pb"},    {"termico", "thermal-contact"}, {"fine corsa", "cam"},
+      {"micro", "cam"},      {"ausiliari", "contact"},
+  };
+  for (const auto& [parola, segno] : segni)
+    if (detto.contains(QLatin1String(parola), Qt::CaseInsensitive)) return QLatin1String(segno);
+  return {};
+}
+
+TEST_P(Disegni_Di, AContactHasTheSignOfWhatMovesIt) {
+  QFile aperto(File_Di(esercizio));
+  ASSERT_TRUE(aperto.open(QIODevice::ReadOnly));
+  const QString testo = QString::fromUtf8(aperto.readAll());
+  const Quadro quadro(*impianto, File_Di(esercizio));
+  static const QRegularExpression contatto(
+      QStringLiteral("#sym-(?:(pb|turn|mushroom|cam|contact)-n[oc]|(thermal-contact))"));
+  static const QRegularExpression gruppo(QStringLiteral("\n<g id=\"([^\".]+)[^>]*>(.*?)\n</g>"),
+                                         QRegularExpression::DotMatchesEverythingOption);
+  int quanti = 0;
+  for (auto trovati = gruppo.globalMatch(testo); trovati.hasNext();) {
+    const auto uno = trovati.next();
+    const Figura* figura = nullptr;
+    for (auto segni = contatto.globalMatch(uno.captured(2)); segni.hasNext(); ++quanti) {
+      const auto segno = segni.next();
+      if (figura == nullptr) figura = &impianto->Disegno[uno.captured(1).toStdString()];
+      for (const Riga_IO& riga : esercizio.Righe_IO) {
+        if (riga.Indirizzo[0] != 'I') continue;
+        if (!quadro.Morsetti_Di(*figura).contains(Q(riga.Indirizzo))) continue;
+        EXPECT_EQ(segno.captured(1) + segno.captured(2),
+                  Chi_Lo_Muove(Q(figura->ToolTip()) + ' ' + Q(riga.Commento)))
+            << uno.captured(1).toStdString() << ' ' << riga.Indirizzo << ' ' << riga.Commento;
+      }
+    }
+  }
+  if (GetParam() <= 8) {
+    EXPECT_GT(quanti, 0);
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Esercizi, Disegni_Di, ::testing::ValuesIn(Con_Impianto()));
 
 TEST(Colours, NumberedOnesTakeOurShadeAndOthersStay) {
