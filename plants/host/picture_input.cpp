@@ -116,7 +116,8 @@ void Quadro::Spiega(const Figura& figura, const QString& perche) {
 
 /// It has sunk or come up.
 void Quadro::Ridisegna(const Figura& figura) {
-  const QRect posto = Posto(figura).toAlignedRect().adjusted(-4, -4, 4, 4);
+  const Vista* vista = Vista_Di(Q(figura.Nome));
+  const QRect posto = (vista->Ultimo | Posto(figura)).toAlignedRect().adjusted(-4, -4, 4, 4);
   Rifai({posto});
   update(posto);
 }
@@ -143,7 +144,7 @@ void Quadro::Rilascia(Figura*& mano, bool sopra) {
 void Quadro::Passa_Sopra(Figura* figura) {
   if (figura == sopra_) return;
   for (const Figura* una : {std::exchange(sopra_, figura), figura}) {
-    if (una != nullptr) update(Posto(*una).toAlignedRect().adjusted(-5, -5, 5, 5));
+    if (una != nullptr) update(Posto_Mostrato(*una).toAlignedRect().adjusted(-5, -5, 5, 5));
   }
   setCursor(figura != nullptr ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
@@ -206,6 +207,7 @@ void Quadro::wheelEvent(QWheelEvent* evento) {
 }
 
 bool Quadro::event(QEvent* evento) {
+  if (evento->type() == QEvent::ApplicationPaletteChange) tela_ = QPixmap();  // other shades
   if (evento->type() != QEvent::ToolTip) return QWidget::event(evento);
   auto* aiuto = static_cast<QHelpEvent*>(evento);
   // What cannot be operated, a lamp or a limit switch, has its name as well.

@@ -62,6 +62,7 @@ void Quadro::Riduci_Animazioni(bool ridotte) {
     vista.Fase = 0;
     vista.Ultimo = Occupato(vista);
   }
+  Rifai({rect()});
   update();
   if (!ridotte && !ritmo_.isActive()) ritmo_.start();
 }
@@ -83,6 +84,14 @@ bool Quadro::Si_Muove() const {
 QRectF Quadro::Sporca(Vista& vista) {
   const QRectF prima = std::exchange(vista.Ultimo, Occupato(vista));
   return prima | vista.Ultimo;
+}
+
+/// Where the marks of hand and pointer around a figure are now; null without one.
+QRectF Quadro::Segnato(const Vista& vista) {
+  constexpr double attorno = 12;  // pixels that the widest of them reaches out
+  const bool a_fuoco = fuoco_in_vista_ && Q(vista.Di->Nome) == fuoco_;
+  if (vista.Di != sopra_ && !a_fuoco && !E_Indicata(vista)) return {};
+  return Posto_Mostrato(*vista.Di).adjusted(-attorno, -attorno, attorno, attorno);
 }
 
 // A figure glides for as long as its last step took, so that steady ticks make a steady way.
@@ -112,6 +121,7 @@ void Quadro::Avanza(int ms) {
   const std::vector<Figura*> cambiate = impianto_.Disegno.Prendi_Cambiate();
   for (Vista& vista : viste_) {
     const bool cambiata = std::ranges::find(cambiate, vista.Di) != cambiate.end();
+    const QRectF segno = Segnato(vista);
     if (cambiata) Nota(vista);
     const bool in_via = vista.Trascorsi < vista.Durata;
     if (in_via) {
@@ -124,6 +134,7 @@ void Quadro::Avanza(int ms) {
     const bool corre = Corre(vista);
     if (corre) vista.Fase = static_cast<int>(tempo_ / Ritmo % Disegni::Fasi);
     if (!cambiata && !in_via && !corre) continue;
+    if (!segno.isNull()) update((segno | Segnato(vista)).toAlignedRect());
     const QRect sporca = Sporca(vista).toAlignedRect().intersected(rect());
     if (!sporca.isEmpty()) Aggiungi(sporche, sporca);
   }

@@ -39,6 +39,11 @@ void Quadro::Punta(const Figura* figura) {
   if (Indicata) Indicata(morsetti);
 }
 
+bool Quadro::E_Indicata(const Vista& vista) const {
+  return std::ranges::any_of(
+      vista.Morsetti, [this](const QString& morsetto) { return indicati_.contains(morsetto); });
+}
+
 void Quadro::Disegna_Indicate(QPainter& pittore) {
   if (indicati_.isEmpty()) return;
   const QColor segno = colori::Segno_Indicata;
@@ -47,10 +52,7 @@ void Quadro::Disegna_Indicate(QPainter& pittore) {
   pittore.setBrush(velo);
   pittore.setPen(QPen(segno, 2.5));
   for (const Vista& vista : viste_) {
-    if (!vista.Di->Visible()) continue;
-    const bool indicata = std::ranges::any_of(
-        vista.Morsetti, [this](const QString& morsetto) { return indicati_.contains(morsetto); });
-    if (!indicata) continue;
+    if (!vista.Di->Visible() || !E_Indicata(vista)) continue;
     // What is small gets a mark that can be seen all the same.
     QRectF posto = Posto_Mostrato(*vista.Di);
     const double manca = std::max(0.0, 14 - std::min(posto.width(), posto.height())) / 2;

@@ -119,7 +119,8 @@ QRectF Quadro::Occupato(const Vista& vista) const {
   const double scala = Scala();
   QTransform posa = Posa(vista, scala);
   const QRectF pixel(limiti.topLeft() * scala, limiti.size() * scala);
-  return posa.mapRect(pixel).translated(Origine()).adjusted(-3, -3, 3, 3);
+  const double affonda = vista.Di->Operabile() ? Affondo * scala : 0;
+  return posa.mapRect(pixel).translated(Origine()).adjusted(-3, -3, 3, 3 + affonda);
 }
 
 QTransform Quadro::Posa(const Vista& vista, double scala) const {
@@ -135,7 +136,7 @@ QTransform Quadro::Posa(const Vista& vista, double scala) const {
 // Pieces on the screen show what the last beat has drawn. What has changed since then would plan
 // one more drawing from within each, so that they follow each other as fast as the plant changes.
 void Quadro::paintEvent(QPaintEvent* evento) {
-  if (sfondo_.size() != Punti_Di_Schermo()) Misura_Da_Capo();
+  if (!Tela_Buona()) Misura_Da_Capo();
   const bool intero = evento->region() == QRegion(rect());
   QPoint spostato;
   const bool sullo_schermo =
@@ -151,6 +152,11 @@ void Quadro::paintEvent(QPaintEvent* evento) {
 
 QSize Quadro::Punti_Di_Schermo() const {
   return (QSizeF(size()) * devicePixelRatioF()).toSize().expandedTo({1, 1});
+}
+
+/// Two screens may have as many dots for sizes that differ.
+bool Quadro::Tela_Buona() const {
+  return tela_.size() == Punti_Di_Schermo() && tela_.devicePixelRatio() == devicePixelRatioF();
 }
 
 // What stands still is one opaque picture, which is copied faster than anything is blended.
@@ -172,7 +178,10 @@ void Quadro::Misura_Da_Capo() {
 /// Draws anew what stands in these rectangles. One after the other, since
 /// what is clipped to many of them at once is drawn several times as slowly.
 void Quadro::Rifai(const std::vector<QRect>& zone) {
-  if (tela_.size() != Punti_Di_Schermo()) return;  // the next showing begins from nothing
+  if (!Tela_Buona()) {
+    tela_ = QPixmap();  // even if it gets back its size: the next showing begins from nothing
+    return;
+  }
   QPainter pittore(&tela_);
   pittore.setRenderHint(QPainter::Antialiasing);
   for (const QRect& zona : zone) {
@@ -201,7 +210,7 @@ void Quadro::Disegna_Figura(QPainter& pittore, Vista& vista, double scala) {
   QTransform posa = Posa(vista, scala);
   // What has no sunken drawing of its own sinks under the hand all the same.
   const bool premuta = &figura == mouse_ || &figura == spazio_;
-  if (premuta) posa *= QTransform::fromTranslate(0, 10 * scala);
+  if (premuta) posa *= QTransform::fromTranslate(0, Affondo * scala);
   if (vista.Disegno != nullptr)
     disegni_.Disegna(pittore, *vista.Disegno, figura.FillColor(), vista.Fase, scala, posa);
   if (!entro.isNull()) pittore.restore();
@@ -222,7 +231,7 @@ void Quadro::Disegna_Figura(QPainter& pittore, Vista& vista, double scala) {
     vista.Scritta.prepare({}, carattere_);
   }
   QRectF posto(vista.Ora.topLeft() * scala, vista.Ora.size() * scala);
-  if (premuta) posto.translate(0, 10 * scala);
+  if (premuta) posto.translate(0, Affondo * scala);
   const QSizeF grande = vista.Scritta.size();
   const QPointF libero((posto.width() - grande.width()) / 2,
                        (posto.height() - grande.height()) / 2);
@@ -237,12 +246,12 @@ void Quadro::Disegna_Mano(QPainter& pittore) {
     QColor lieve = segno_mano;
     lieve.setAlphaF(0.55F);
     pittore.setPen(QPen(lieve, 1.5));
-    pittore.drawRoundedRect(Posto(*sopra_).adjusted(-1, -1, 1, 1), 5, 5);
+    pittore.drawRoundedRect(Posto_Mostrato(*sopra_).adjusted(-1, -1, 1, 1), 5, 5);
   }
   const Vista* fuoco = hasFocus() && fuoco_in_vista_ ? A_Fuoco() : nullptr;
   if (fuoco == nullptr) return;
   pittore.setPen(QPen(segno_mano, 2));
-  pittore.drawRoundedRect(Posto(*fuoco->Di).adjusted(-2, -2, 2, 2), 4, 4);
+  pittore.drawRoundedRect(Posto_Mostrato(*fuoco->Di).adjusted(-2, -2, 2, 2), 4, 4);
 }
 
 }  // namespace tavorno

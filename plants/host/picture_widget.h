@@ -132,7 +132,9 @@ class Quadro : public QWidget, public Per_Lettori {
   void Spiega(const Figura& figura, const QString& perche);
   void Avvisa(const QRect& posto, const QString& testo);
   bool Fai(Cosa che, const Figura& figura, double valore = 0);
+  static constexpr double Affondo = 10;  ///< twips by which what is pressed sinks
   QSize Punti_Di_Schermo() const;
+  bool Tela_Buona() const;
   void Misura_Da_Capo();
   void Metti_Gruppo(Vista& vista);
   void Rifai(const std::vector<QRect>& zone);
@@ -143,9 +145,11 @@ class Quadro : public QWidget, public Per_Lettori {
   QTransform Posa(const Vista& vista, double scala) const;
   QRectF Occupato(const Vista& vista) const;
   QRectF Sporca(Vista& vista);
+  QRectF Segnato(const Vista& vista);
   void Nota(Vista& vista);
   bool Corre(const Vista& vista) const;
   const Vista* Vista_Di(const QString& nome) const;
+  bool E_Indicata(const Vista& vista) const;
   void Monta_Voci();
   void Scegli_Letti();
   Figura& Figura_Letta(int pezzo) const {
