@@ -136,13 +136,16 @@ QTransform Quadro::Posa(const Vista& vista, double scala) const {
 // Pieces on the screen show what the last beat has drawn. What has changed since then would plan
 // one more drawing from within each, so that they follow each other as fast as the plant changes.
 void Quadro::paintEvent(QPaintEvent* evento) {
-  if (!Tela_Buona()) Misura_Da_Capo();
+  const bool da_capo = !Tela_Buona();
   const bool intero = evento->region() == QRegion(rect());
   QPoint spostato;
   const bool sullo_schermo =
       backingStore() != nullptr && redirected(&spostato) == backingStore()->paintDevice();
-  if (intero || !sullo_schermo) Avanza(0);
-  if (intero) Rifai({rect()});
+  if (da_capo || intero || !sullo_schermo) Avanza(0);
+  if (da_capo)
+    Misura_Da_Capo();
+  else if (intero)
+    Rifai({rect()});
   QPainter pittore(this);
   pittore.drawPixmap(0, 0, tela_);
   pittore.setRenderHint(QPainter::Antialiasing);
