@@ -53,11 +53,14 @@ void Quadro::Disegna_Indicate(QPainter& pittore) {
   pittore.setPen(QPen(segno, 2.5));
   for (const Vista& vista : viste_) {
     if (!vista.Di->Visible() || !E_Indicata(vista)) continue;
-    // What is small gets a mark that can be seen all the same.
-    QRectF posto = Posto_Mostrato(*vista.Di);
-    const double manca = std::max(0.0, 14 - std::min(posto.width(), posto.height())) / 2;
-    posto.adjust(-3 - manca, -3 - manca, 3 + manca, 3 + manca);
-    pittore.drawRoundedRect(posto, 6, 6);
+    const auto segna = [&pittore](const QRectF& posto) {
+      // What is small gets a mark that can be seen all the same.
+      const double manca = std::max(0.0, 14 - std::min(posto.width(), posto.height())) / 2;
+      pittore.drawRoundedRect(posto.adjusted(-3 - manca, -3 - manca, 3 + manca, 3 + manca), 6, 6);
+    };
+    segna(Posto_Mostrato(*vista.Di));
+    const QRectF tocco = vista.Disegno == nullptr ? QRectF() : vista.Disegno->Tocco;
+    if (!tocco.isNull()) segna({Origine() + tocco.topLeft() * Scala(), tocco.size() * Scala()});
   }
 }
 

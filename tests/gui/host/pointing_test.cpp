@@ -70,6 +70,21 @@ TEST_F(Puntata, ARowUnderThePointerLightsUpItsPartAndItsTerminal) {
   EXPECT_EQ(Figura(), prima);
 }
 
+TEST_F(Puntata, TheContactOfTheThermalRelayLightsUpWithIt) {
+  const auto contatto = [this] {
+    Quadro& quadro = banco.Disegno();
+    const QRectF vicino = quadro.Posto(banco.Macchina().Disegno["imgKMa"]);
+    const double scala = vicino.width() / 300;  // pixels of a twip
+    QImage immagine(quadro.size(), QImage::Format_RGB32);
+    quadro.render(&immagine);
+    return immagine.copy(vicino.translated(570 * scala, 0).toRect());
+  };
+  const QImage prima = contatto();
+  QTest::mouseMove(FGr.viewport(), Riga(3));
+  EXPECT_EQ(morsetti, QStringList{"I0.3"});
+  EXPECT_NE(contatto(), prima);
+}
+
 TEST_F(Puntata, TheRowOfTheCaretDoesSoWhileTheTableHasTheKeys) {
   banco.finestra->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(banco.finestra.get()));
