@@ -260,6 +260,11 @@ Disegni::Tenuto Disegni::Tieni(const Pezzo& pezzo, Colore colore, int fase, doub
   return tenuto;
 }
 
+bool In_Grassetto(const QString& testo) {
+  static const QRegularExpression lettere(QStringLiteral("^[A-Z]{1,2}[0-9]+$"));
+  return lettere.match(testo).hasMatch();
+}
+
 void Disegni::Disegna(QPainter& pittore, const Pezzo& pezzo, Colore colore, int fase, double scala,
                       const QTransform& posa) {
   if (posa.type() > QTransform::TxTranslate) {

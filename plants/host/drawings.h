@@ -120,5 +120,7 @@ QColor Tinta_Testo(Colore colore);
 
 /// The face of all texts in a picture.
 inline constexpr const char* Carattere_Disegni = "DejaVu Sans Condensed";
+/// Whether a text is the letters of a device, as "M1", which are bold wherever they stand.
+bool In_Grassetto(const QString& testo);
 
 }  // namespace tavorno

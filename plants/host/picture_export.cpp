@@ -31,9 +31,10 @@ QString Numero(double valore) {
 QString Didascalia(const Figura& figura, const QRectF& posto) {
   return QStringLiteral(
              "<text x=\"%1\" y=\"%2\" font-family=\"%3\" font-size=\"120\" "
-             "text-anchor=\"middle\" fill=\"%4\">%5</text>\n")
+             "font-weight=\"%6\" text-anchor=\"middle\" fill=\"%4\">%5</text>\n")
       .arg(Numero(posto.center().x()), Numero(posto.center().y() + 43), Carattere_Disegni,
-           Tinta_Testo(figura.ForeColor()).name(), Q(figura.Caption()).toHtmlEscaped());
+           Tinta_Testo(figura.ForeColor()).name(), Q(figura.Caption()).toHtmlEscaped(),
+           In_Grassetto(Q(figura.Caption())) ? QStringLiteral("bold") : QStringLiteral("normal"));
 }
 
 }  // namespace

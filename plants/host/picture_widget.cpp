@@ -224,15 +224,18 @@ void Quadro::Disegna_Figura(QPainter& pittore, Vista& vista, double scala) {
     carattere_ = QFont(QLatin1String{Carattere_Disegni});
     carattere_.setPixelSize(alta);
   }
-  pittore.setFont(carattere_);
   pittore.setPen(Tinta_Testo(figura.ForeColor()));
   // Its glyphs are looked up once and not at each drawing.
   const QString testo = Q(figura.Caption());
   if (vista.Alta != alta || vista.Scritta.text() != testo) {
     vista.Alta = alta;
+    vista.Grassa = In_Grassetto(testo);
+    carattere_.setBold(vista.Grassa);
     vista.Scritta.setText(testo);
     vista.Scritta.prepare({}, carattere_);
   }
+  if (carattere_.bold() != vista.Grassa) carattere_.setBold(vista.Grassa);
+  pittore.setFont(carattere_);
   QRectF posto(vista.Ora.topLeft() * scala, vista.Ora.size() * scala);
   if (premuta) posto.translate(0, Affondo * scala);
   const QSizeF grande = vista.Scritta.size();

@@ -190,6 +190,12 @@ TEST(Colours, NumberedOnesTakeOurShadeAndOthersStay) {
   EXPECT_EQ(Tinta(0x030201), QColor(1, 2, 3));
 }
 
+TEST(Drawings, TheLettersOfADeviceAreBold) {
+  for (const char* lettere : {"M1", "KM2", "FR1"}) EXPECT_TRUE(In_Grassetto(lettere)) << lettere;
+  for (const char* altro : {"", "M", "12", "0.0", "I0.3", "AIW0", "LIBERO", "Nastro Due", "1M"})
+    EXPECT_FALSE(In_Grassetto(altro)) << altro;
+}
+
 TEST(Drawings, AFileThatIsNotThereDrawsNothing) {
   EXPECT_FALSE(Disegni(QStringLiteral(":/plants/none.svg")).Valido());
 }

@@ -222,6 +222,7 @@ struct Leggibilita : ::testing::TestWithParam<int> {
       if (!figura.Visible() || figura.Caption().empty()) continue;
       QFont carattere(QLatin1String{Carattere_Disegni});
       carattere.setPixelSize(120);
+      carattere.setBold(In_Grassetto(Q(figura.Caption())));
       const QRectF stretto = QFontMetricsF(carattere).tightBoundingRect(Q(figura.Caption()));
       QRectF posto(0, 0, stretto.width(), stretto.height());
       posto.moveCenter(QRectF(figura.Left, figura.Top, figura.Width, figura.Height).center());
