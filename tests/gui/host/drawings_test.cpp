@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QColor>
 #include <QFile>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
@@ -188,6 +189,32 @@ INSTANTIATE_TEST_SUITE_P(Esercizi, Disegni_Di, ::testing::ValuesIn(Con_Impianto(
 TEST(Colours, NumberedOnesTakeOurShadeAndOthersStay) {
   EXPECT_EQ(Tinta(Tavolozza(12)), QColor(0xd3, 0x30, 0x2f));
   EXPECT_EQ(Tinta(0x030201), QColor(1, 2, 3));
+}
+
+// Red is the colour of stop, fault and live wires: windings under tension, and the eye of a
+// photocell, which is one in the workshop.
+TEST(Drawings, NoOtherSymbolIsRed) {
+  static const QRegularExpression simbolo(
+      QStringLiteral("\\n  <g id=\"sym-([^\"]+)\"(.*?)(?=\\n  <g id=|</defs>)"),
+      QRegularExpression::DotMatchesEverythingOption);
+  static const QRegularExpression colore(QStringLiteral("#[0-9a-f]{6}\\b"));
+  static const QRegularExpression rosso(
+      QStringLiteral("red|mushroom|tripped|thermal-contact-open|^star$|^delta$|^photocell-tx$"));
+  QFile foglio(QStringLiteral(":/plants/symbols.svg"));
+  ASSERT_TRUE(foglio.open(QIODevice::ReadOnly));
+  int quanti = 0;
+  const QString testo = QString::fromUtf8(foglio.readAll());
+  for (auto trovati = simbolo.globalMatch(testo); trovati.hasNext(); ++quanti) {
+    const auto uno = trovati.next();
+    if (rosso.match(uno.captured(1)).hasMatch()) continue;
+    for (auto colori = colore.globalMatch(uno.captured(2)); colori.hasNext();) {
+      const QColor quale(colori.next().captured(0));
+      const bool rossa = quale.hsvHue() < 18 || quale.hsvHue() > 342;
+      EXPECT_FALSE(rossa && quale.hsvSaturationF() > 0.5F && quale.valueF() > 0.35F)
+          << uno.captured(1).toStdString() << ' ' << quale.name().toStdString();
+    }
+  }
+  EXPECT_GT(quanti, 90);
 }
 
 TEST(Drawings, TheLettersOfADeviceAreBold) {
