@@ -82,10 +82,11 @@ int Confronta(const Seduta_Registrata& una, const Seduta_Registrata& altra, std:
   for (bool vive = true; vive; ++ms) {
     const bool a_vive = a.replica.Vai({.Ms = a.inizio + ms});
     const bool b_vive = b.replica.Vai({.Ms = b.inizio + ms});
-    const std::string differenza = Prima_Differenza(Elenca_Stato(a.plc, a.replica.Impianto),
-                                                    Elenca_Stato(b.plc, b.replica.Impianto));
-    if (!differenza.empty()) {
-      out << "Prima differenza a " << ms << " ms: " << differenza << '\n';
+    if (Byte_Di_Stato(a.plc, a.replica.Impianto) != Byte_Di_Stato(b.plc, b.replica.Impianto)) {
+      out << "Prima differenza a " << ms << " ms: "
+          << Prima_Differenza(Elenca_Stato(a.plc, a.replica.Impianto),
+                              Elenca_Stato(b.plc, b.replica.Impianto))
+          << '\n';
       return Uscita_Errori;
     }
     if (a_vive != b_vive) {

@@ -15,6 +15,9 @@ namespace tavorno {
 /// lists, equal sessions.
 using Stato_Intero = std::vector<std::pair<std::string, std::string>>;
 Stato_Intero Elenca_Stato(const Plc& plc, Collegamento* impianto);
+/// The same without names, as bytes that only tell whether two states are equal: made in a small
+/// part of the time.
+std::string Byte_Di_Stato(const Plc& plc, Collegamento* impianto);
 
 /// The first thing that differs: "VW10: 3 invece di 4"; empty when nothing does.
 std::string Prima_Differenza(const Stato_Intero& uno, const Stato_Intero& altro);

@@ -48,6 +48,7 @@ class Sessione_Casuale {
   struct Visto {
     Momento Quando;
     Stato_Intero Stato;
+    std::string Byte;
     bool Sicuro = false;  ///< nothing more entered before the next line
   };
   std::vector<Visto> Visti;  ///< since the plant last came or went
@@ -104,7 +105,8 @@ class Sessione_Casuale {
     if (Visti.size() >= 40 || plc.Righe_Fatte == righe_comando_ ||
         (!Visti.empty() && Visti.back().Quando.Righe == plc.Righe_Fatte))
       return;
-    Visti.push_back({registratore->Adesso(), Elenca_Stato(plc, fili_.get())});
+    Visti.push_back(
+        {registratore->Adesso(), Elenca_Stato(plc, fili_.get()), Byte_Di_Stato(plc, fili_.get())});
   }
 
   /// A line count stands for the moment right before the next line runs.

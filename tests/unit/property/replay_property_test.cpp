@@ -71,6 +71,9 @@ void Confronta_I_Momenti(Sessione_Casuale& sessione) {
     ASSERT_TRUE(registratore.Vai({.Righe = visto.Quando.Righe}));
     ASSERT_EQ(Prima_Differenza(Elenca_Stato(sessione.plc, sessione.Impianto()), visto.Stato), "")
         << "after " << visto.Quando.Righe << " lines";
+    ASSERT_EQ(Byte_Di_Stato(sessione.plc, sessione.Impianto()), visto.Byte);
+    for (const Sessione_Casuale::Visto& altro : visti)
+      ASSERT_EQ(visto.Byte == altro.Byte, visto.Stato == altro.Stato);
   }
   registratore.Torna_Al_Presente();
   ASSERT_EQ(Prima_Differenza(Elenca_Stato(sessione.plc, sessione.Impianto()), presente), "");
