@@ -128,7 +128,7 @@ constexpr Riga_Lampada lampade_15[] = {
     {"imgL4", Q(0, 7), "imgLB"}, {"imgL5", Q(1, 0), "imgLR"}, {"imgL6", Q(1, 1), "imgLR"},
 };
 
-constexpr Riga_Commutatore Selettore(int ingresso) {
+constexpr Riga_Commutatore Selettore(Morsetto_I ingresso) {
   return {"imgCom", ingresso, '1', '0', "imgCD", "imgCS"};
 }
 // clang-format on
@@ -147,7 +147,7 @@ const Schema_Pneumatico Schema_Pist_1 = {
     .Voce_Set = "Set Manuale",
     .Voce_Reset = "Reset Manuale",
     .UpDP = true,
-    .Selettore = Selettore(1),
+    .Selettore = Selettore(I(0, 0)),
     .Pulsanti = pulsanti_04,
     .Ingresso_Emergenza = I(0, 7),
     .Lampade = lampade_04,
@@ -165,7 +165,7 @@ const Schema_Pneumatico Schema_CicloQ = {
     .Voce_Set = "Set Valvola",
     .Voce_Reset = "Reset Valvola",
     .UpDP = true,
-    .Selettore = Selettore(1),
+    .Selettore = Selettore(I(0, 0)),
     .Pulsanti = pulsanti_05,
     .Ingresso_Emergenza = I(1, 0),
     .Lampade = lampade_05,
@@ -183,7 +183,7 @@ const Schema_Pneumatico Schema_Pist_3 = {
     .Voce_Set = "Apri Valvola",
     .Voce_Reset = "Chiudi Valvola",
     .UpDP = false,
-    .Selettore = Selettore(7),
+    .Selettore = Selettore(I(0, 6)),
     .Pulsanti = pulsanti_06,
     .Ingresso_Emergenza = I(1, 3),
     .Lampade = lampade_06,
@@ -201,7 +201,7 @@ const Schema_Pneumatico Schema_Pist_4 = {
     .Voce_Set = "Apri Valvola",
     .Voce_Reset = "Chiudi Valvola",
     .UpDP = false,
-    .Selettore = Selettore(14),
+    .Selettore = Selettore(I(1, 5)),
     .Pulsanti = pulsanti_07,
     .Ingresso_Emergenza = I(1, 4),
     .Lampade = lampade_07,
@@ -219,7 +219,7 @@ const Schema_Pneumatico Schema_ctr_Pist_32 = {
     .Voce_Set = "Apri Valvola",
     .Voce_Reset = "",
     .UpDP = false,
-    .Selettore = Selettore(7),
+    .Selettore = Selettore(I(0, 6)),
     .Pulsanti = pulsanti_15,
     .Ingresso_Emergenza = I(1, 3),
     .Lampade = lampade_15,

@@ -19,10 +19,10 @@ constexpr Riga_Figura figure[] = {
     {"imgFC", 3600, 0, 600, 600},
 };
 
-constexpr Riga_Pulsante pulsanti[] = {{"imgSB", 2, '1', '0', "imgVON", "imgVOFF"}};
-constexpr Riga_Commutatore commutatori[] = {{"imgSA", 16, '1', '0', "imgCD", "imgCS"}};
-constexpr Riga_Lampada lampada = {"imgHL", 3, "imgLV"};
-constexpr Riga_Contattore contattore = {"imgKM", "imgKMa", "linKM", 1, 9};
+constexpr Riga_Pulsante pulsanti[] = {{"imgSB", I(0, 1), '1', '0', "imgVON", "imgVOFF"}};
+constexpr Riga_Commutatore commutatori[] = {{"imgSA", I(1, 7), '1', '0', "imgCD", "imgCS"}};
+constexpr Riga_Lampada lampada = {"imgHL", Q(0, 2), "imgLV"};
+constexpr Riga_Contattore contattore = {"imgKM", "imgKMa", "linKM", Q(0, 0), I(1, 0)};
 
 /// A plant with one of each part, that writes down which outputs act.
 class Impianto_Di_Prova : public Impianto {
