@@ -112,14 +112,15 @@ Dispositivo Riconosci(const Riga_IO& riga) {
   const std::string_view indirizzo = riga.Indirizzo;
   const std::string commento = Minuscolo(riga.Commento);
   if (indirizzo.starts_with("AI"))
-    return {Analogico_Ingresso, Morsetto::Ingresso_Analogico, false, Campo_Analogico(commento)};
+    return {Analogico_Ingresso, Verso_Morsetto::Ingresso_Analogico, false,
+            Campo_Analogico(commento)};
   if (indirizzo.starts_with("AQ"))
-    return {Analogico_Uscita, Morsetto::Uscita_Analogica, false, Campo_Analogico(commento)};
+    return {Analogico_Uscita, Verso_Morsetto::Uscita_Analogica, false, Campo_Analogico(commento)};
   if (indirizzo.starts_with("Q")) {
     const Apparecchio tipo = Cerca(indizi_uscita, riga.Simbolo, commento);
-    return {tipo, Morsetto::Uscita, false, tipo == Lampada ? Colore(commento) : ""};
+    return {tipo, Verso_Morsetto::Uscita, false, tipo == Lampada ? Colore(commento) : ""};
   }
-  return {Cerca(indizi_ingresso, riga.Simbolo, commento), Morsetto::Ingresso,
+  return {Cerca(indizi_ingresso, riga.Simbolo, commento), Verso_Morsetto::Ingresso,
           commento.find("(nc)") != std::string::npos, ""};
 }
 

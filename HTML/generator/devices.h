@@ -34,11 +34,11 @@ enum class Apparecchio : std::uint8_t {
 const char* Nome_Apparecchio(Apparecchio apparecchio);
 
 /// To which rail of the diagram a terminal belongs.
-enum class Morsetto : std::uint8_t { Ingresso, Ingresso_Analogico, Uscita, Uscita_Analogica };
+enum class Verso_Morsetto : std::uint8_t { Ingresso, Ingresso_Analogico, Uscita, Uscita_Analogica };
 
 struct Dispositivo {
   Apparecchio Tipo;
-  Morsetto Dove;
+  Verso_Morsetto Dove;
   bool Chiuso_A_Riposo;  ///< contacts only: normally closed
   /// Lamps: letter code of the colour ("RD"); analog: the range ("0-10 V"); else "".
   const char* Dettaglio;

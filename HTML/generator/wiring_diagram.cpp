@@ -44,14 +44,15 @@ struct Filo {
 };
 
 bool Analogico(const Filo& filo) {
-  return filo.Cosa.Dove == Morsetto::Ingresso_Analogico ||
-         filo.Cosa.Dove == Morsetto::Uscita_Analogica;
+  return filo.Cosa.Dove == Verso_Morsetto::Ingresso_Analogico ||
+         filo.Cosa.Dove == Verso_Morsetto::Uscita_Analogica;
 }
 
 /// The wires of one side of the PLC, digital ones first.
-std::vector<Filo> Fili(std::span<const Riga_IO> righe, Morsetto digitali, Morsetto analogici) {
+std::vector<Filo> Fili(std::span<const Riga_IO> righe, Verso_Morsetto digitali,
+                       Verso_Morsetto analogici) {
   std::vector<Filo> fili;
-  for (const Morsetto dove : {digitali, analogici}) {
+  for (const Verso_Morsetto dove : {digitali, analogici}) {
     for (const Riga_IO& riga : righe) {
       const Dispositivo cosa = Riconosci(riga);
       if (cosa.Dove == dove) fili.push_back({&riga, cosa, 0});
@@ -181,8 +182,9 @@ double Disegna_Legenda(Tavola& d, const std::vector<Dispositivo>& voci, double l
 }  // namespace
 
 std::string Schema_Collegamenti(std::span<const Riga_IO> righe, const std::string& titolo) {
-  std::vector<Filo> ingressi = Fili(righe, Morsetto::Ingresso, Morsetto::Ingresso_Analogico);
-  std::vector<Filo> uscite = Fili(righe, Morsetto::Uscita, Morsetto::Uscita_Analogica);
+  std::vector<Filo> ingressi =
+      Fili(righe, Verso_Morsetto::Ingresso, Verso_Morsetto::Ingresso_Analogico);
+  std::vector<Filo> uscite = Fili(righe, Verso_Morsetto::Uscita, Verso_Morsetto::Uscita_Analogica);
   const double passo = std::min(Passo(ingressi), Passo(uscite));
   const double fine_plc = std::max(Disponi(ingressi, passo), Disponi(uscite, passo));
   // Room for the legend, however small the exercise.
