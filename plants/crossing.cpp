@@ -6,7 +6,7 @@ namespace tavorno {
 namespace {
 
 // clang-format off
-constexpr Riga_Figura figure[] = {
+constexpr Riga_Figura figure_semaforo[] = {
     // name, left, top, width, height, picture at first, tool tip
     {"imgR",     6360,  180,  480,  480, "imgR0", "Lampada rossa veicoli (HL1), Q0.2"},
     {"imgG",     6360,  690,  480,  480, "imgG0", "Lampada gialla veicoli (HL2), Q0.3"},
@@ -42,7 +42,7 @@ constexpr Riga_Luce luci[] = {
 
 }  // namespace
 
-ctr_Semaf1::ctr_Semaf1() : Impianto(figure, "0000000000000000", Invio::Doppio) {
+ctr_Semaf1::ctr_Semaf1() : Impianto(figure_semaforo, "0000000000000000", Invio::Doppio) {
   Monta(pulsanti);
 }
 

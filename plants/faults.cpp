@@ -22,7 +22,7 @@ constexpr Genere termico(const char* picture) {
           "Il motore assorbe troppo o ha perso una fase: il relè apre il suo contatto e lo tiene "
           "aperto finché qualcuno non lo riarma. Fermare il motore tocca al programma."};
 }
-constexpr Genere contattore = {
+constexpr Genere teleruttore = {
     "Contattore che non segue il comando", Mano_Guasto::Doppio, "imgKMON",
     "Bobina bruciata se non chiude, contatti saldati se non apre. L'uscita non lo sa: lo dice "
     "soltanto il contatto ausiliario. Torna com'è comandato al prossimo cambio di un'uscita."};
@@ -59,22 +59,22 @@ struct Riga_Guasto {
 };
 
 // clang-format off
-constexpr Riga_Guasto righe[] = {
+constexpr Riga_Guasto righe_guasti[] = {
     {.Impianto = 0, .Nome = "ImgTer", .Parte = "FR", .Di = &scattato},
     {.Impianto = 0, .Nome = "imgKM", .Parte = "KM", .Di = &contattore_caduto, .Uscita = Q(0, 0)},
     {.Impianto = 1, .Nome = "ImgTer", .Parte = "FR", .Di = &scattato},
-    {.Impianto = 1, .Nome = "imgKm1", .Parte = "KM1", .Di = &contattore, .Uscita = Q(0, 0)},
-    {.Impianto = 1, .Nome = "imgKM2", .Parte = "KM2", .Di = &contattore, .Uscita = Q(0, 1)},
+    {.Impianto = 1, .Nome = "imgKm1", .Parte = "KM1", .Di = &teleruttore, .Uscita = Q(0, 0)},
+    {.Impianto = 1, .Nome = "imgKM2", .Parte = "KM2", .Di = &teleruttore, .Uscita = Q(0, 1)},
     {.Impianto = 2, .Nome = "imgRt", .Parte = "FR", .Di = &scattato},
-    {.Impianto = 2, .Nome = "KM(0)", .Parte = "KM1", .Di = &contattore, .Uscita = Q(0, 0)},
-    {.Impianto = 2, .Nome = "KM(2)", .Parte = "KM2", .Di = &contattore, .Uscita = Q(0, 1)},
-    {.Impianto = 2, .Nome = "KM(1)", .Parte = "KM3", .Di = &contattore, .Uscita = Q(0, 2)},
+    {.Impianto = 2, .Nome = "KM(0)", .Parte = "KM1", .Di = &teleruttore, .Uscita = Q(0, 0)},
+    {.Impianto = 2, .Nome = "KM(2)", .Parte = "KM2", .Di = &teleruttore, .Uscita = Q(0, 1)},
+    {.Impianto = 2, .Nome = "KM(1)", .Parte = "KM3", .Di = &teleruttore, .Uscita = Q(0, 2)},
     {.Impianto = 3, .Nome = "imgRt", .Parte = "FR1", .Di = &scattato},
     {.Impianto = 3, .Nome = "imgRt2", .Parte = "FR2", .Di = &scattato},
-    {.Impianto = 3, .Nome = "KM(0)", .Parte = "KM1", .Di = &contattore, .Uscita = Q(0, 0)},
-    {.Impianto = 3, .Nome = "KM(2)", .Parte = "KM2", .Di = &contattore, .Uscita = Q(0, 1)},
-    {.Impianto = 3, .Nome = "KM(1)", .Parte = "KM3", .Di = &contattore, .Uscita = Q(0, 2)},
-    {.Impianto = 3, .Nome = "KM(3)", .Parte = "KM4", .Di = &contattore, .Uscita = Q(0, 3)},
+    {.Impianto = 3, .Nome = "KM(0)", .Parte = "KM1", .Di = &teleruttore, .Uscita = Q(0, 0)},
+    {.Impianto = 3, .Nome = "KM(2)", .Parte = "KM2", .Di = &teleruttore, .Uscita = Q(0, 1)},
+    {.Impianto = 3, .Nome = "KM(1)", .Parte = "KM3", .Di = &teleruttore, .Uscita = Q(0, 2)},
+    {.Impianto = 3, .Nome = "KM(3)", .Parte = "KM4", .Di = &teleruttore, .Uscita = Q(0, 3)},
     {.Impianto = 4, .Nome = "cmdDis", .Parte = "0V", .Di = &aria, .Testimone = "imgV0", .Uscita = Q(0, 0)},
     {.Impianto = 4, .Nome = "CmdV1a", .Parte = "1Y1", .Di = &valvola, .Uscita = Q(0, 1)},
     {.Impianto = 4, .Nome = "cmdV1b", .Parte = "1Y2", .Di = &valvola_reset, .Uscita = Q(0, 2)},
@@ -148,7 +148,7 @@ Guasto_Impianto Del_Filo(Guasto_Filo cosa, const Riga_IO& riga, bool chiuso_a_ri
 
 std::vector<Guasto_Impianto> Guasti_Di(const Esercizio& esercizio, std::string_view a_riposo) {
   std::vector<Guasto_Impianto> guasti;
-  for (const Riga_Guasto& riga : righe) {
+  for (const Riga_Guasto& riga : righe_guasti) {
     if (riga.Impianto == esercizio.Indice) guasti.push_back(Dell_Impianto(riga));
   }
   for (const Riga_IO& riga : esercizio.Righe_IO) {

@@ -12,7 +12,7 @@ namespace tavorno {
 
 namespace {
 
-constexpr int tutte = 16;                  // outputs
+constexpr int uscite = 16;                 // outputs
 constexpr int intervallo_agitatore = 200;  // ms
 // Litres below which a fill tick finds the tank empty. A drain tick of two of the three has
 // another limit, and that is so on the machines.
@@ -88,7 +88,7 @@ void Serbatoio_Agitato::Monta_Termico(const Riga_Termico& riga) {
 }
 
 void Serbatoio_Agitato::Applica_Uscite() {
-  for (int uscita = 1; uscita <= tutte; ++uscita) {
+  for (int uscita = 1; uscita <= uscite; ++uscita) {
     if (!Uscita_Cambiata(uscita)) continue;
     const auto lampada = std::ranges::find(schema_.Lampade, uscita, &Riga_Lampada::Uscita);
     if (lampada != schema_.Lampade.end())

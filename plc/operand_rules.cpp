@@ -32,7 +32,7 @@ namespace {
 using enum Area;
 
 constexpr Verdetto errarto{5, "-> Numero di operandi errarto"};
-constexpr Verdetto codice{6, "-> Codice elemento non supportato"};
+constexpr Verdetto codice_errato{6, "-> Codice elemento non supportato"};
 constexpr Verdetto codice_ignoto{6, "-> Codice elemento non riconosciuto"};
 constexpr Verdetto codice_in_1{6, "-> Codice elemento in OP1 non supportato"};
 constexpr Verdetto codice_in_2{6, "-> Codice elemento in OP2 non supportato"};
@@ -86,7 +86,7 @@ Regola_Operando Solo(Lista ammesse, Verdetto altrimenti) {
 Regola_Operando Elemento(std::initializer_list<Area> ammesse, std::vector<Area> rifiutate) {
   return {.Ammesse = Aree(ammesse, indirizzo_byte),
           .Rifiutate = std::move(rifiutate),
-          .Se_Rifiutata = codice,
+          .Se_Rifiutata = codice_errato,
           .Altrimenti = codice_ignoto};
 }
 
@@ -167,15 +167,16 @@ const Regola Reset{
 
 const Regola Timer{
     .Operandi = 2,
-    .Op1 = Solo(Con_Limite({I, Q, M, SM, S, T, C}, 63, indirizzo_timer), codice),
-    .Op2 = Regola_Operando{.Rifiutate = {QW, IW, MW, SMW, SW, LW, T}, .Se_Rifiutata = codice},
+    .Op1 = Solo(Con_Limite({I, Q, M, SM, S, T, C}, 63, indirizzo_timer), codice_errato),
+    .Op2 =
+        Regola_Operando{.Rifiutate = {QW, IW, MW, SMW, SW, LW, T}, .Se_Rifiutata = codice_errato},
     .Aiuto = "T; tempo in K, VW, AC",
 };
 
 const Regola Contatore{
     .Operandi = 2,
-    .Op1 = Solo(Aree({C}, indirizzo_byte), codice),
-    .Op2 = Solo(Libere({K, VW}), codice),
+    .Op1 = Solo(Aree({C}, indirizzo_byte), codice_errato),
+    .Op2 = Solo(Libere({K, VW}), codice_errato),
     .Aiuto = "C; conteggio in K, VW",
 };
 
@@ -185,35 +186,35 @@ const Regola MOVB{
     .Operandi = 2,
     .Op1 = Solo(Aree({IB, QB, MB, VB, AC}, indirizzo_1) + SMB_Solo({28, 29, 34, 35}, indirizzo_1) +
                     Con_Limite({K}, 255, grande_1),
-                codice),
-    .Op2 = Solo(Aree({VB, AC}, indirizzo_2), codice),
+                codice_errato),
+    .Op2 = Solo(Aree({VB, AC}, indirizzo_2), codice_errato),
     .Aiuto = "IB, QB, MB, VB, AC, SMB, K; destinazione VB, AC",
 };
 
 const Regola MOVW{
     .Operandi = 2,
-    .Op1 = Solo(Aree({IW, QW, MW, VW, T, C, AC, AIW, K}, indirizzo_1), codice),
-    .Op2 = Solo(Aree({VW, T, C, AC, AQW}, indirizzo_2), codice),
+    .Op1 = Solo(Aree({IW, QW, MW, VW, T, C, AC, AIW, K}, indirizzo_1), codice_errato),
+    .Op2 = Solo(Aree({VW, T, C, AC, AQW}, indirizzo_2), codice_errato),
     .Aiuto = "IW, QW, MW, VW, T, C, AC, AIW, K; destinazione VW, AC, AQW",
 };
 
 const Regola MOVD{
     .Operandi = 2,
-    .Op1 = Solo(Aree({VD, AC}, indirizzo_1) + Con_Limite({K}, 255, grande_1), codice),
-    .Op2 = Solo(Aree({VD, AC}, indirizzo_2), codice),
+    .Op1 = Solo(Aree({VD, AC}, indirizzo_1) + Con_Limite({K}, 255, grande_1), codice_errato),
+    .Op2 = Solo(Aree({VD, AC}, indirizzo_2), codice_errato),
     .Aiuto = "VD, AC, K; destinazione VD, AC",
 };
 
 const Regola BIR{
     .Operandi = 2,
-    .Op1 = Solo(Aree({IB}, indirizzo_1), codice),
+    .Op1 = Solo(Aree({IB}, indirizzo_1), codice_errato),
     .Op2 = Solo(Aree({VB, AC}, indirizzo_2), codice_in_2),
     .Aiuto = "IB; destinazione VB, AC",
 };
 
 const Regola BIW{
     .Operandi = 2,
-    .Op1 = Solo(Aree({VB}, indirizzo_1) + Con_Limite({K}, 255, grande_biw), codice),
+    .Op1 = Solo(Aree({VB}, indirizzo_1) + Con_Limite({K}, 255, grande_biw), codice_errato),
     .Op2 = Solo(Aree({QB, AC}, indirizzo_2), codice_in_2),
     .Aiuto = "VB, K; destinazione QB",
 };
@@ -223,7 +224,7 @@ const Regola BTI{
     .Op1 = Solo(Aree({IB, QB, MB, VB}, indirizzo_1) + SMB_Solo({28, 29, 34, 35}, indirizzo_1) +
                     Con_Limite({K}, 255, grande_1),
                 codice_in_1),
-    .Op2 = Solo(Aree({VW, T, C, AC}, indirizzo_2), codice),
+    .Op2 = Solo(Aree({VW, T, C, AC}, indirizzo_2), codice_errato),
     .Aiuto = "IB, QB, MB, VB, SMB, K; destinazione VW, AC, preset di T, C",
 };
 
@@ -231,31 +232,31 @@ const Regola BTI{
 
 const Regola Aritmetica_I{
     .Operandi = 2,
-    .Op1 = Solo(Aree({VW, T, C, AC, AIW, K}, indirizzo_1), codice),
-    .Op2 = Solo(Aree({VW, T, C, AC}, indirizzo_2), codice),
+    .Op1 = Solo(Aree({VW, T, C, AC, AIW, K}, indirizzo_1), codice_errato),
+    .Op2 = Solo(Aree({VW, T, C, AC}, indirizzo_2), codice_errato),
     .Aiuto = "VW, T, C, AC, AIW, K; risultato VW, T, C, AC",
 };
 
 const Regola Aritmetica_D{
     .Operandi = 2,
-    .Op1 = Doppia(codice, indirizzo_1),
-    .Op2 = Solo(Aree({VD, AC}, indirizzo_2), codice),
+    .Op1 = Doppia(codice_errato, indirizzo_1),
+    .Op2 = Solo(Aree({VD, AC}, indirizzo_2), codice_errato),
     .Aiuto = "VD, AC, K; risultato VD, AC",
 };
 
 const Regola Inc_B{
     .Operandi = 1,
-    .Op1 = Solo(Aree({VB, AC}, indirizzo_1), codice),
+    .Op1 = Solo(Aree({VB, AC}, indirizzo_1), codice_errato),
     .Aiuto = "VB, AC",
 };
 const Regola Inc_W{
     .Operandi = 1,
-    .Op1 = Solo(Aree({VW, AC}, indirizzo_1), codice),
+    .Op1 = Solo(Aree({VW, AC}, indirizzo_1), codice_errato),
     .Aiuto = "VW, AC",
 };
 const Regola Inc_D{
     .Operandi = 1,
-    .Op1 = Solo(Aree({VD, AC}, indirizzo_1), codice),
+    .Op1 = Solo(Aree({VD, AC}, indirizzo_1), codice_errato),
     .Aiuto = "VD, AC",
 };
 

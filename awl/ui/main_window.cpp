@@ -165,9 +165,9 @@ void FrmMain::Collega_Comandi() {
   al(a_.MnuHLPInfo, [this] { legami_.Mostra_Info(); });
   al(a_.tB1.Centra, [this] { Centra(*this); });
 
-  const auto come = [this](QAction* tasto, QAction* voce) {
-    connect(tasto, &QAction::triggered, voce, &QAction::trigger);
-    connect(voce, &QAction::enabledChanged, tasto, &QAction::setEnabled);
+  const auto come = [](QAction* tasto, QAction* voce) {
+    QObject::connect(tasto, &QAction::triggered, voce, &QAction::trigger);
+    QObject::connect(voce, &QAction::enabledChanged, tasto, &QAction::setEnabled);
   };
   come(a_.tB1.New, a_.mnuFileNew);
   come(a_.tB1.Open, a_.mnuFileOpen);

@@ -17,7 +17,7 @@ namespace tavorno {
 
 namespace {
 
-constexpr int larga = 40, alta = 26;  // of an icon, pixels
+constexpr int larga_icona = 40, alta_icona = 26;  // of an icon, pixels
 constexpr std::array tasti = {
     Simbolo_Barra{"mnuScNA", "Contatto aperto", "A "},
     Simbolo_Barra{"mnuScNC", "Contatto chiuso", "AN "},
@@ -39,24 +39,24 @@ void Disegna(QPainter& p, const std::string& istr) {
   const Simbolo simbolo = Simbolo_Di(istr);
   const bool accanto = simbolo.Come == Attacco::In_Parallelo;
   const double y = accanto ? 17 : 13;
-  const double m = larga / 2.0;
+  const double m = larga_icona / 2.0;
   const bool scatola = simbolo.Cosa == Ruolo::Scatola || simbolo.Cosa == Ruolo::Contatore;
   QString segno = Q(simbolo.Segno);
   const bool negato = segno.startsWith('/');
   if (negato) segno.remove(0, 1);
   if (scatola) {
-    p.drawRect(QRectF(3, 3, larga - 6, alta - 6));
+    p.drawRect(QRectF(3, 3, larga_icona - 6, alta_icona - 6));
     p.drawLine(QPointF(0, y), QPointF(3, y));
-    p.drawText(QRectF(0, 0, larga, alta), Qt::AlignCenter, segno);
+    p.drawText(QRectF(0, 0, larga_icona, alta_icona), Qt::AlignCenter, segno);
     return;
   }
   const double mezzo = segno.size() > 1 ? 13 : 6;
   p.drawLine(QPointF(1, y), QPointF(m - mezzo, y));
-  p.drawLine(QPointF(m + mezzo, y), QPointF(larga - 1, y));
+  p.drawLine(QPointF(m + mezzo, y), QPointF(larga_icona - 1, y));
   if (accanto) {
-    p.drawLine(QPointF(1, 3), QPointF(larga - 1, 3));
+    p.drawLine(QPointF(1, 3), QPointF(larga_icona - 1, 3));
     p.drawLine(QPointF(1, 3), QPointF(1, y));
-    p.drawLine(QPointF(larga - 1, 3), QPointF(larga - 1, y));
+    p.drawLine(QPointF(larga_icona - 1, 3), QPointF(larga_icona - 1, y));
   }
   if (simbolo.Cosa == Ruolo::Bobina) {
     for (const double verso : {-1.0, 1.0}) {
@@ -69,7 +69,7 @@ void Disegna(QPainter& p, const std::string& istr) {
     p.drawLine(QPointF(m + mezzo, y - 7), QPointF(m + mezzo, y + 7));
     if (negato) p.drawLine(QPointF(m - mezzo, y + 7), QPointF(m + mezzo, y - 7));
   }
-  p.drawText(QRectF(0, y - alta / 2.0, larga, alta), Qt::AlignCenter, segno);
+  p.drawText(QRectF(0, y - alta_icona / 2.0, larga_icona, alta_icona), Qt::AlignCenter, segno);
 }
 
 }  // namespace
@@ -83,7 +83,7 @@ QIcon Icona_Simbolo(const std::string& istr) {
   const QColor tratto =
       colori::Su(colori::Scala_Testo.Testo, QGuiApplication::palette().color(QPalette::Button));
   for (const int finezza : {1, 2, 3}) {
-    QPixmap punti(larga * finezza, alta * finezza);
+    QPixmap punti(larga_icona * finezza, alta_icona * finezza);
     punti.setDevicePixelRatio(finezza);
     punti.fill(Qt::transparent);
     QPainter pittore(&punti);

@@ -154,7 +154,7 @@ void FrmOsserva::Metti(const Segnale& segnale) {
   tabella_->insertRow(riga);
   tabella_->setItem(riga, Nome, Voce({}, false));
   tabella_->setItem(riga, Formato, Voce(QStringLiteral("bit"), false));
-  tabella_->setItem(riga, Valore, Voce({}, true));
+  tabella_->setItem(riga, Presente, Voce({}, true));
   tabella_->setItem(riga, Forzato, Voce({}, true));
   permesso_.reset();
   Scrivi(riga);
@@ -225,10 +225,10 @@ void FrmOsserva::Aggiorna() {
     if (riga.Messo && *riga.Messo != adesso) riga.Messo.reset();  // the program wrote it
     if (cambiato) riga.Acceso = Luce + 1;
     if (!riga.Visto || cambiato)
-      tabella_->item(n, Valore)->setText(Q(Testo_Cella(Cella(riga), adesso, riga.Come)));
+      tabella_->item(n, Presente)->setText(Q(Testo_Cella(Cella(riga), adesso, riga.Come)));
     riga.Visto = adesso;
     riga.Acceso = std::max(0, riga.Acceso - 1);
-    QTableWidgetItem& voce = *tabella_->item(n, Valore);
+    QTableWidgetItem& voce = *tabella_->item(n, Presente);
     const colori::Coppia* tinta = riga.Messo                         ? &colori::Cella_Forzata
                                   : riga.Acceso > 0                  ? &colori::Cella_Cambiata
                                   : riga.Chi.Di_Bit() && adesso != 0 ? &colori::Bit_Uno

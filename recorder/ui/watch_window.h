@@ -48,7 +48,7 @@ class FrmOsserva : public QWidget {
   void closeEvent(QCloseEvent* evento) override;
 
  private:
-  enum Colonna { Nome, Formato, Valore, Forzato };
+  enum Colonna { Nome, Formato, Presente, Forzato };
   struct Riga {
     Segnale Chi;
     Formato_Cella Come = Formato_Cella::Con_Segno;

@@ -7,16 +7,16 @@
 namespace tavorno {
 namespace {
 
-constexpr int barra = 40;  // of the desktop
+constexpr int alta_barra = 40;  // of the desktop
 
 /// What a bar at each edge leaves of a screen.
 std::vector<QRect> Liberi(const QSize& schermo) {
   const int w = schermo.width(), h = schermo.height();
   return {{0, 0, w, h},
-          {0, barra, w, h - barra},
-          {0, 0, w, h - barra},
-          {barra, 0, w - barra, h},
-          {0, 0, w - barra, h}};
+          {0, alta_barra, w, h - alta_barra},
+          {0, 0, w, h - alta_barra},
+          {alta_barra, 0, w - alta_barra, h},
+          {0, 0, w - alta_barra, h}};
 }
 
 struct Posti : ::testing::TestWithParam<QSize> {
