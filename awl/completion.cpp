@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view senza_operandi = "senza operandi";
 
-std::string_view Operandi_Di(const Istruzione& istruzione) {
+std::string_view Operandi_Scritti(const Istruzione& istruzione) {
   switch (istruzione.Trattamento) {
     case Gruppo::Con_Regola:
       return istruzione.Operandi->Aiuto;
@@ -61,7 +61,7 @@ std::vector<std::string> Completamenti(std::string_view inizio) {
   for (const Istruzione& istruzione : Tabella_Istruzioni()) {
     if (istruzione.Trattamento == Gruppo::Non_Supportata) continue;
     const std::string nome(istruzione.Nome_Scritto());
-    if (nome == cercato && Operandi_Di(istruzione) == senza_operandi) return {};
+    if (nome == cercato && Operandi_Scritti(istruzione) == senza_operandi) return {};
     if (nome.starts_with(cercato)) nomi.push_back(nome);
   }
   std::ranges::sort(nomi);
@@ -69,8 +69,8 @@ std::vector<std::string> Completamenti(std::string_view inizio) {
 }
 
 std::string Suggerimento(const Istruzione& istruzione) {
-  return std::string(istruzione.Nome_Scritto()) + "   " + std::string(Operandi_Di(istruzione)) +
-         "\n" + istruzione.Aiuto;
+  return std::string(istruzione.Nome_Scritto()) + "   " +
+         std::string(Operandi_Scritti(istruzione)) + "\n" + istruzione.Aiuto;
 }
 
 bool Ferma_La_CPU(const Istruzione& istruzione) {

@@ -18,7 +18,8 @@ function(tavorno_read_together)
     list(TRANSFORM sources PREPEND ${place}/)
     # A name that two sources keep to themselves keeps them apart.
     execute_process(
-      COMMAND awk -v together=6 -f ${PROJECT_SOURCE_DIR}/cmake/groups.awk ${headers} ${sources}
+      COMMAND awk -v together=6 -f ${PROJECT_SOURCE_DIR}/cmake/names.awk
+              -f ${PROJECT_SOURCE_DIR}/cmake/groups.awk ${headers} ${sources}
       WORKING_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_VARIABLE groups COMMAND_ERROR_IS_FATAL ANY
       OUTPUT_STRIP_TRAILING_WHITESPACE)
     string(REPLACE "\n" ";" groups "${groups}")

@@ -1,19 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Puts sources into groups that can be read as one text: what a source of a group keeps to itself is
-# not called as anything that another one of the group has or includes. Reads all headers and then
-# the sources; prints a group a line. Needs -v together=N, the most of a group.
-function name_of(line, name) {
-  sub(/^template *<.*> */, "", line)
-  sub(/^using +/, "using = ", line)
-  if (match(line, /^(struct|class|enum class|enum|union|using =) +[A-Za-z_0-9]+/))
-    name = substr(line, RSTART, RLENGTH)
-  else if (match(line, /[A-Za-z_0-9]+(\[[^]]*\])*( *=.*| *[({;].*|, .*)$/)) {
-    name = substr(line, RSTART)
-    sub(/[^A-Za-z_0-9].*$/, "", name)
-  }
-  sub(/^.* /, "", name)
-  return name
-}
+# not called as anything that another one of the group has or includes. Goes behind names.awk, which
+# reads all headers and the sources; prints a group a line. Needs -v together=N, the most of a group.
 # Adds to `seen` what a file includes, at once or by another, and to `visible` its names.
 function gather(file, n, parts, i) {
   if (file in seen) return
@@ -22,28 +10,6 @@ function gather(file, n, parts, i) {
   for (i = 1; i <= n; ++i) visible[parts[i]] = 1
   n = split(includes[file], parts, " ")
   for (i = 1; i <= n; ++i) gather(parts[i])
-}
-FNR == 1 {
-  header = FILENAME ~ /\.h$/
-  if (!header) files[++count] = FILENAME
-  inside = 0
-}
-/^#include "/ {
-  split($0, quoted, "\"")
-  includes[FILENAME] = includes[FILENAME] quoted[2] " "
-}
-/^namespace \{/ { inside = 1; next }
-/^}  \/\/ namespace$/ { inside = 0 }
-(inside || header) && /^[A-Za-z]/ && !/^(namespace|using namespace|public|private|protected)/ {
-  told = name_of($0) " "
-  if (/^enum [A-Za-z_0-9]* *\{.*\}/) {  # whose values are names of their own
-    values = $0
-    sub(/^[^{]*\{/, "", values)
-    gsub(/[^A-Za-z_0-9]+/, " ", values)
-    told = told values " "
-  }
-  if (header) public[FILENAME] = public[FILENAME] told
-  else own[FILENAME] = own[FILENAME] told
 }
 END {
   for (i = 1; i <= count; ++i) {

@@ -9,8 +9,6 @@
 
 namespace tavorno {
 
-using namespace asse;
-
 namespace {
 
 constexpr const char* default_ingressi = "0100011000000000";
@@ -58,7 +56,7 @@ const ctr_Assi::Limite ctr_Assi::indietro_ = {I(0, 5), "imgFCI", "shI"};
 const ctr_Assi::Limite ctr_Assi::avanti_ = {I(0, 6), "imgFCA", "shA"};
 
 ctr_Assi::ctr_Assi(Plc& plc)
-    : Impianto(figure, default_ingressi, Invio::Doppio),
+    : Impianto(asse::figure, default_ingressi, Invio::Doppio),
       timIO(plc.Tempo, 20, [this] { Tick_timIO(); }),
       timMove(plc.Tempo, 100, [this] { Tick_timMove(); }),
       timG(plc.Tempo, 100, [this] { Tick_timG(); }),
@@ -78,8 +76,8 @@ ctr_Assi::ctr_Assi(Plc& plc)
   plc_.Volt_AI[posizione] = 0;
   for (const char* filo : {"linM", "filoTP", "filoVC"}) Accendi(filo, false);
 
-  Monta(pulsanti);
-  Monta(selettori);
+  Monta(asse::pulsanti);
+  Monta(asse::selettori);
   Monta_Finecorsa(indietro_);
   Monta_Finecorsa(avanti_);
   Monta_Manuale("cmdV1", 0);
@@ -141,7 +139,7 @@ void ctr_Assi::Applica_Uscite() {
     const int uscita = comando.Lampada.Uscita;
     if (Uscita_Cambiata(uscita)) Comanda(comando, Uscita(uscita) == "1");
   }
-  for (const Riga_Lampada& lampada : lampade) {
+  for (const Riga_Lampada& lampada : asse::lampade) {
     if (Uscita_Cambiata(lampada.Uscita)) Mostra(lampada, Uscita(lampada.Uscita));
   }
 }

@@ -8,8 +8,6 @@
 
 namespace tavorno {
 
-using namespace garage;
-
 namespace {
 
 constexpr const char* default_ingressi = "0001000100010001";
@@ -23,7 +21,7 @@ constexpr Colore blu_scuro = Tavolozza(1), riposo = Tavolozza(15);
 // Positions of the cars, twips.
 constexpr float ingresso_left = 960, ingresso_top = 4500;
 constexpr float uscita_left = 3600, uscita_top = 1500;
-constexpr float corsia = 2340;  // of the lane that all spaces open to
+constexpr float y_corsia = 2340;  // of the lane that all spaces open to
 constexpr float passo_retromarcia = 80;
 constexpr float fine_sopra = 1380, fine_sotto = 3300;  // where a car that parks stops
 constexpr int prima_fila = 3;  // spaces up to this one lie above the lane, the others below
@@ -114,7 +112,7 @@ const ctr_Garage::Sbarra ctr_Garage::chiude_uscita_ = {
 // clang-format on
 
 ctr_Garage::ctr_Garage(Orologio& orologio)
-    : Impianto(figure, default_ingressi, Invio::Doppio),
+    : Impianto(garage::figure, default_ingressi, Invio::Doppio),
       timSBIOpen(orologio, periodo, [this] { Muovi(apre_ingresso_); }),
       timSBIClose(orologio, periodo, [this] { Muovi(chiude_ingresso_); }),
       timSBUOpen(orologio, periodo, [this] { Muovi(apre_uscita_); }),
@@ -125,7 +123,7 @@ ctr_Garage::ctr_Garage(Orologio& orologio)
       timOut1(orologio, periodo, [this] { Tick_timOut1(); }),
       timOut2(orologio, periodo, [this] { Tick_timOut2(); }) {
   for (const Contattore& contattore : contattori_) Disegno[contattore.Nome].FillColor = riposo;
-  for (const Riga_Lampeggiante& lampada : lampeggianti)
+  for (const garage::Riga_Lampeggiante& lampada : garage::lampeggianti)
     Disegno[lampada.Nome].FillColor = giallo_scuro;
   for (int n = 0; n < 16; ++n)
     Disegno("etI", n).Caption = "I" + std::to_string(n / 8) + "." + std::to_string(n % 8);
@@ -133,7 +131,7 @@ ctr_Garage::ctr_Garage(Orologio& orologio)
   Disegno["cmdReset"].Caption = "Reset";
   Riposo();
 
-  Monta(pulsanti);
+  Monta(garage::pulsanti);
   Disegno["imgPSB(0)"].Clic = [this] { SB1_Premuto(); };
   Disegno["cmdIng"].Clic = [this] { cmdIng(); };
   Disegno["cmdReset"].Clic = [this] { cmdReset(); };
@@ -159,10 +157,10 @@ void ctr_Garage::Applica_Uscite() {
   for (const Contattore& contattore : contattori_) {
     if (Uscita_Cambiata(contattore.Uscita)) Comanda(contattore, Uscita(contattore.Uscita) == "1");
   }
-  for (const Riga_Lampada& lampada : lampade) {
+  for (const Riga_Lampada& lampada : garage::lampade) {
     if (Uscita_Cambiata(lampada.Uscita)) Mostra(lampada, Uscita(lampada.Uscita));
   }
-  for (const Riga_Lampeggiante& lampada : lampeggianti) {
+  for (const garage::Riga_Lampeggiante& lampada : garage::lampeggianti) {
     if (!Uscita_Cambiata(lampada.Uscita)) continue;
     const bool accesa = Uscita(lampada.Uscita) == "1";
     Disegno[lampada.Nome].FillColor = accesa ? giallo : giallo_scuro;
@@ -246,7 +244,7 @@ void ctr_Garage::Tick_Timer1() {
   entra.Top = entra.Top - Passo_Auto;
   const float y = entra.Top;
   if (y < in_entrata.Lasciato) Corsia_Occupata(entrata_, false);
-  if (y < corsia) {
+  if (y < y_corsia) {
     Timer1.Enabled(false);
     Timer2.Enabled(true);
   }
@@ -310,7 +308,7 @@ void ctr_Garage::Esci(int posto) {
 void ctr_Garage::Tick_timOut0() {
   const bool sopra = Posto_Uscita <= prima_fila;
   esce.Top = esce.Top + (sopra ? Passo_Auto : -Passo_Auto);
-  if (sopra ? esce.Top > corsia : esce.Top < corsia) {
+  if (sopra ? esce.Top > y_corsia : esce.Top < y_corsia) {
     timOut0.Enabled(false);
     timOut1.Enabled(true);
   }

@@ -9,8 +9,6 @@
 
 namespace tavorno {
 
-using namespace cancello;
-
 namespace {
 
 constexpr const char* default_ingressi = "1000011000010000";
@@ -60,7 +58,7 @@ const Ctr_Canc::Direzione Ctr_Canc::apertura_ = {.Uscita = Q(0, 3),
                                                  .Levetta = "shA"};
 
 Ctr_Canc::Ctr_Canc(Orologio& orologio)
-    : Impianto(figure, default_ingressi, Invio::Doppio),
+    : Impianto(cancello::figure, default_ingressi, Invio::Doppio),
       TimChiudi(orologio, periodo, [this] { Tick_TimChiudi(); }),
       timApri(orologio, periodo, [this] { Tick_timApri(); }) {
   // Only what differs from the output text at rest is a change.
@@ -72,7 +70,7 @@ Ctr_Canc::Ctr_Canc(Orologio& orologio)
   Alimenta_Fotocellula(false);
   Accendi_Lampeggiante(false);
 
-  Monta(pulsanti);
+  Monta(cancello::pulsanti);
   Monta_Selettore();
   Monta_Telecomando();
   Monta_Fotocellula();
@@ -83,7 +81,7 @@ Ctr_Canc::Ctr_Canc(Orologio& orologio)
 // ---- the user's hand ----------------------------------------------------------------------------
 
 void Ctr_Canc::Monta_Selettore() {
-  for (const Riga_Selettore& riga : selettore) {
+  for (const cancello::Riga_Selettore& riga : cancello::selettore) {
     const auto Gira = [this, &riga](char contatto, const char* picture) {
       Disegno["imgCom"].Picture = picture;
       Ingresso(riga.Posizione, contatto);
@@ -91,7 +89,7 @@ void Ctr_Canc::Monta_Selettore() {
     };
     Figura& zona = Disegno[riga.Nome];
     zona.Premi = [Gira, &riga] { Gira('1', riga.Picture); };
-    zona.Rilascia = [Gira] { Gira('0', chiave_a_riposo); };
+    zona.Rilascia = [Gira] { Gira('0', cancello::chiave_a_riposo); };
   }
 }
 
@@ -154,7 +152,7 @@ void Ctr_Canc::Applica_Uscite() {
   if (Uscita_Cambiata(HL4)) Accendi_Lampeggiante(Acceso(HL4));
   if (Uscita_Cambiata(chiusura_.Uscita)) Comanda(chiusura_, TimChiudi, Acceso(chiusura_.Uscita));
   if (Uscita_Cambiata(apertura_.Uscita)) Comanda(apertura_, timApri, Acceso(apertura_.Uscita));
-  for (const Riga_Lampada& lampada : lampade) {
+  for (const Riga_Lampada& lampada : cancello::lampade) {
     if (Uscita_Cambiata(lampada.Uscita)) Mostra(lampada, Uscita(lampada.Uscita));
   }
 }

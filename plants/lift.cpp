@@ -11,8 +11,6 @@
 
 namespace tavorno {
 
-using namespace ascensore;
-
 namespace {
 
 constexpr const char* default_ingressi = "1110100001000001";
@@ -76,7 +74,7 @@ const ctr_Ascensore::Comando ctr_Ascensore::comandi_[] = {
 // clang-format on
 
 ctr_Ascensore::ctr_Ascensore(Orologio& orologio)
-    : Impianto(figure, default_ingressi, Invio::Doppio),
+    : Impianto(ascensore::figure, default_ingressi, Invio::Doppio),
       timCab(orologio, 50, [this] { Tick_timCab(); }),
       timP(orologio, 50, [this] { Tick_timP(); }) {
   ME_AIW0 = 0.0F;
@@ -97,7 +95,7 @@ ctr_Ascensore::ctr_Ascensore(Orologio& orologio)
   Disegno["Label5"].Caption = "Cella di Carico";
   Disegno["EtCC"].Caption = "0";
 
-  Monta(pulsanti);
+  Monta(ascensore::pulsanti);
   Monta_Selettore();
   Monta_Fotocellula();
 
@@ -160,7 +158,7 @@ void ctr_Ascensore::Applica_Uscite() {
   for (const Comando& comando : comandi_) {
     if (Uscita_Cambiata(comando.Uscita)) Comanda(comando, Uscita(comando.Uscita) == "1");
   }
-  for (const Riga_Lampada& lampada : lampade) {
+  for (const Riga_Lampada& lampada : ascensore::lampade) {
     if (Uscita_Cambiata(lampada.Uscita)) Mostra(lampada, Uscita(lampada.Uscita));
   }
 }
@@ -171,7 +169,7 @@ void ctr_Ascensore::Comanda(const Comando& comando, bool acceso) {
   const bool cabina = comando.Freccia != nullptr;
   if (acceso) (cabina ? Senso_Cabina : Senso_Porte) = comando.Senso;
   (cabina ? timCab : timP).Enabled(acceso);
-  Disegno[comando.Pulsante].Picture = acceso ? pulsante_giu : pulsante_su;
+  Disegno[comando.Pulsante].Picture = acceso ? ascensore::pulsante_giu : ascensore::pulsante_su;
   if (!cabina) return;
   Disegno["imgM"].Picture = acceso ? "imgMON" : "imgMOF";
   Disegno[comando.Freccia].Visible = acceso;

@@ -112,7 +112,7 @@ void Sposta(std::int16_t& livello, int twip) {
 }
 
 /// The liquid in a tank; what would lie below the bottom stays as a puddle.
-void Mostra(Figura& liquido, std::int16_t fondo, std::int16_t& livello) {
+void Mostra_Livello(Figura& liquido, std::int16_t fondo, std::int16_t& livello) {
   liquido.Top = static_cast<float>(fondo - livello);
   if (livello < 0) livello = pozza;
   liquido.Height = static_cast<float>(livello);
@@ -205,7 +205,7 @@ void Ctr_Level0::Micro(const Riga_Micro& micro, bool azionato) {
 }
 
 void Ctr_Level0::Aggiorna_Vasca() {
-  tavorno::Mostra(shL1, fondo_vasca_, livello_vasca_);
+  Mostra_Livello(shL1, fondo_vasca_, livello_vasca_);
   if (livello_vasca_ > max_vasca.Azionato || livello_vasca_ < max_vasca.Riposo)
     Micro(SL1, livello_vasca_ > max_vasca.Azionato);
   if (livello_vasca_ < min_vasca.Azionato || livello_vasca_ > min_vasca.Riposo) {
@@ -217,7 +217,7 @@ void Ctr_Level0::Aggiorna_Vasca() {
 }
 
 void Ctr_Level0::Aggiorna_Serbatoio() {
-  tavorno::Mostra(shL2, fondo_serbatoio_, livello_serbatoio_);
+  Mostra_Livello(shL2, fondo_serbatoio_, livello_serbatoio_);
   Micro(SL4, livello_serbatoio_ > medio_serbatoio);
   if (livello_serbatoio_ > max_serbatoio.Azionato || livello_serbatoio_ < max_serbatoio.Riposo)
     Micro(SL5, livello_serbatoio_ > max_serbatoio.Azionato);

@@ -137,7 +137,7 @@ const std::vector<Istruzione>& Tutte() {
   using namespace righe;
   static const std::vector<Istruzione> tabella =
       Insieme_Di({Contatti(), Pila(), Uscite(), Temporizzatori(), Contatori(), Trasferimenti(),
-                  Aritmetica(), Programma(), Non_Eseguite(), Confronti(), Non_Supportate()});
+                  Aritmetica(), righe::Programma(), Non_Eseguite(), Confronti(), Non_Supportate()});
   return tabella;
 }
 

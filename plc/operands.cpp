@@ -6,7 +6,7 @@
 
 namespace tavorno {
 
-std::int32_t Parola(const std::string& testo, const char* tabella, int riga) {
+std::int32_t Parola_Scritta(const std::string& testo, const char* tabella, int riga) {
   const auto valore = Numero_Decimale(testo);
   if (!valore) [[unlikely]]
     Fatale_Testo(tabella, riga);

@@ -51,7 +51,7 @@ inline constexpr Insieme parola_o_analogica_OUT{VW, AC, AQW};
 
 /// The word operands of bit areas are the reading-order text taken as a decimal number: the byte
 /// with bits 2 and 0 set reads as 101. `tabella` and `riga` are for the report of an empty text.
-std::int32_t Parola(const std::string& testo, const char* tabella, int riga);
+std::int32_t Parola_Scritta(const std::string& testo, const char* tabella, int riga);
 
 // Inlined, so that of the areas only those of the set at hand are left; and no `optional`, which
 // would be put together in memory.
@@ -88,11 +88,11 @@ std::int32_t Parola(const std::string& testo, const char* tabella, int riga);
   else if (e(Area::SMB))
     valore = m.Mem_SM[num].Val_B;
   else if (e(Area::IW))
-    valore = Parola(m.IP_I[num].Txt_B, "IP_I.Txt_B", num);
+    valore = Parola_Scritta(m.IP_I[num].Txt_B, "IP_I.Txt_B", num);
   else if (e(Area::QW))
-    valore = Parola(m.IP_Q[num].Txt_B, "IP_Q.Txt_B", num);
+    valore = Parola_Scritta(m.IP_Q[num].Txt_B, "IP_Q.Txt_B", num);
   else if (e(Area::MW))
-    valore = Parola(m.Mem_M[num].Txt_B, "Mem_M.Txt_B", num);
+    valore = Parola_Scritta(m.Mem_M[num].Txt_B, "Mem_M.Txt_B", num);
   else
     return false;
   return true;

@@ -45,7 +45,7 @@ std::vector<std::string> Parole(const std::string& testo) {
   return parole;
 }
 
-std::optional<double> Numero(std::string testo) {
+std::optional<double> Numero_Scritto(std::string testo) {
   std::ranges::replace(testo, ',', '.');
   if (testo.starts_with("+")) testo.erase(0, 1);
   double numero = 0;
@@ -141,7 +141,7 @@ std::optional<Condizione> Leggi_Condizione(const std::string& testo, Elenco_IO i
       termine.Cosa = trovata->Cosa;
       ++n;
       if (!termine.Fronte()) {
-        const auto numero = n < parole.size() ? Numero(parole[n]) : std::nullopt;
+        const auto numero = n < parole.size() ? Numero_Scritto(parole[n]) : std::nullopt;
         if (!numero) {
           errore = "Dopo \"" + parole[n - 1] + "\" ci vuole un numero.";
           return {};

@@ -59,7 +59,7 @@ std::string Ancora_Famiglia(Famiglia famiglia, bool mancanti) {
 }
 
 std::string Collegamento(const Istruzione& istruzione) {
-  return "<a href=\"#" + Ancora(istruzione.Nome) + "\">" + Html(istruzione.Nome) + "</a>";
+  return "<a href=\"#" + Ancora_Di(istruzione.Nome) + "\">" + Html(istruzione.Nome) + "</a>";
 }
 
 std::string Indice(const std::map<Famiglia, Elenco>& famiglie, bool mancanti) {
@@ -75,7 +75,7 @@ std::string Indice(const std::map<Famiglia, Elenco>& famiglie, bool mancanti) {
 }
 
 std::string Nome_Con_Ancora(const Istruzione& istruzione) {
-  return "<b id=\"" + Ancora(istruzione.Nome) + "\">" + Html(istruzione.Nome) + "</b>";
+  return "<b id=\"" + Ancora_Di(istruzione.Nome) + "\">" + Html(istruzione.Nome) + "</b>";
 }
 
 std::string Scrittura(const Istruzione& istruzione, const Nota_Istruzione* nota) {
@@ -205,7 +205,7 @@ PLC si ferma.</p>
 
 }  // namespace
 
-std::string Ancora(std::string_view istruzione) {
+std::string Ancora_Di(std::string_view istruzione) {
   static const std::map<char, std::string> segni = {{'=', "_eq"},    {'<', "_lt"},   {'>', "_gt"},
                                                     {'+', "_piu"},   {'-', "_meno"}, {'*', "_per"},
                                                     {'/', "_diviso"}};

@@ -7,7 +7,7 @@
 namespace tavorno {
 
 /// The anchor of a mnemonic in the page of the instruction set, without "#": "i-LD", "i-LDB_gt_eq".
-std::string Ancora(std::string_view istruzione);
+std::string Ancora_Di(std::string_view istruzione);
 
 /// "SET_IST.htm": every row of the table of instructions. UTF-8.
 std::string Pagina_Istruzioni();

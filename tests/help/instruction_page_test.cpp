@@ -23,7 +23,7 @@ const std::string& Page() {
 
 class Mnemonic : public ::testing::TestWithParam<Istruzione> {
  protected:
-  std::string anchor = "<b id=\"" + Ancora(GetParam().Nome) + "\">";
+  std::string anchor = "<b id=\"" + Ancora_Di(GetParam().Nome) + "\">";
   std::size_t row = Page().find(anchor);
 };
 
@@ -36,7 +36,7 @@ TEST_P(Mnemonic, HasARowWithItsHelp) {
 }
 
 TEST_P(Mnemonic, IsReachedFromAnOverview) {
-  EXPECT_NE(Page().find("<a href=\"#" + Ancora(GetParam().Nome) + "\">"), std::string::npos);
+  EXPECT_NE(Page().find("<a href=\"#" + Ancora_Di(GetParam().Nome) + "\">"), std::string::npos);
 }
 
 // What the checker refuses, and what would stop the CPU.
@@ -49,7 +49,7 @@ TEST_P(Mnemonic, StandsAmongTheUnsupportedWhenItDoesNotWork) {
 INSTANTIATE_TEST_SUITE_P(All, Mnemonic,
                          ::testing::ValuesIn(Tabella_Istruzioni().begin(),
                                              Tabella_Istruzioni().end()),
-                         [](const auto& row) { return Ancora(row.param.Nome).substr(2); });
+                         [](const auto& row) { return Ancora_Di(row.param.Nome).substr(2); });
 
 TEST(InstructionPage, IsTheOneThatTheTableGives) {
   EXPECT_EQ(Page(), Pagina_Istruzioni());
@@ -110,7 +110,7 @@ INSTANTIATE_TEST_SUITE_P(
         Words{"OB<>",
               {"due valori in IB0–IB1, QB0–QB1, MB0–MB4, VB0–VB100, AC0–AC3, K fino a 255"},
               "OB<>   IB0, +10"}),
-    [](const auto& row) { return Ancora(row.param.name).substr(2); });
+    [](const auto& row) { return Ancora_Di(row.param.name).substr(2); });
 
 }  // namespace
 

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Runs clazy over the code with windows. Its time goes into the window library's headers, so that a
-# folder is looked at as one file; where that finds anything or does not compile, each file is looked
+# Runs clazy over the code with windows. Its time goes into the window library's headers, so that many
+# files are looked at as one text; where that finds anything or does not compile, each file is looked
 # at alone, and that counts. Usage: check_clazy.sh SOURCE_DIR BUILD_DIR
 set -euo pipefail
 cd "$1"
-export found=$2/clazy
+export found=$2/clazy as_one=${0%/*}/as_one.awk
 mkdir -p "$found"
 # Of the second level what finds faults; no class here has signals of its own, or is copied.
 export checks=level0,level1,base-class-event,virtual-call-ctor,old-style-connect,static-pmf
@@ -19,15 +19,15 @@ look() {
   clazy-standalone --checks=$checks "$1" -- $options >"$2" 2>&1 && ! grep -qE '(warning|error):' "$2"
 }
 check() {
-  local name=${1//\//_} file files status=0
-  mapfile -t files < <(grep -L '^#include <windows.h>' "$1"/*.cpp)  # which is another system's
-  printf '#include "%s"\n' "${files[@]}" >"$found/$name.cpp"
-  ! look "$found/$name.cpp" "$found/$name.out" || return 0
-  for file in "${files[@]}"; do
-    look "$file" "$found/$name.out" || { cat "$found/$name.out"; status=1; }
+  local text=$found/${1//\//_} status=0
+  awk -f cmake/names.awk -f "$as_one" "$@" >"$text"
+  ! look "$text" "$text.out" || return 0
+  for file in "$@"; do
+    look "$file" "$text.out" || { cat "$text.out"; status=1; }
   done
   return $status
 }
 export -f check look
-printf '%s\0' assets awl/ui grading/ui ladder/ui panel panel/controls panel/documents panel/windows plants/host recorder/ui widgets |
-  xargs -0 -P "$(nproc)" -I{} bash -c 'check {}'
+# What is another system's cannot be looked at here.
+find assets awl/ui grading/ui ladder/ui panel plants/host recorder/ui widgets -name '*.cpp' -print0 | LC_ALL=C sort -z |
+  xargs -0 grep -LZ '^#include <windows.h>' | xargs -0 -n 70 -P "$(nproc)" bash -c 'check "$@"' check

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Runs clang-tidy over all sources. Most of its time goes into the libraries' headers, so that some
+# Runs clang-tidy over all sources. Most of its time goes into the libraries' headers, so that many
 # files are looked at as one text; where that finds anything or does not compile, the halves are, down
 # to each file alone, and that counts. A file is looked at again only when it, a header or the
 # configuration has changed; what is for another system needs that one's headers and is not looked at.
@@ -17,7 +17,7 @@ for file in $(found '*.cpp' | grep -vE '^(tests|benchmarks)/'); do
     grep -q '^#include <windows.h>' "$file" || sources+=("$file")
 done
 # shellcheck disable=SC2086
-common=$(cat .clang-tidy "$0" $headers | sha256sum)
+common=$(cat .clang-tidy "$0" "${0%/*}/as_one.awk" cmake/names.awk $headers | sha256sum)
 # The sanitizer and warning options belong to the other compiler.
 system=$(grep -ohE -- '-isystem [^ "]+' "$2/compile_commands.json" | sort -u | tr '\n' ' ')
 options="-std=c++20 -fPIC -DQT_NO_KEYWORDS -I. -I$2 $system -DTAVORNO_VERSION=\"\""
@@ -27,7 +27,8 @@ options+=" -Xclang -analyzer-config -Xclang max-nodes=75000"
 # Nor does it follow the calls into the standard library, which is not ours to mend.
 options+=" -Xclang -analyzer-config -Xclang c++-stdlib-inlining=false"
 windows='^(awl/ui|[a-z]+/ui|plants/host|panel|widgets)/'
-export options common windows
+as_one=${0%/*}/as_one.awk
+export options common windows as_one
 
 stamp() { printf '%s/%s' "$stamps" "$(printf '%s' "$common$1$(cat "$1")" | sha256sum | cut -c1-32)"; }
 # Whoever makes a child of a window hands it to the window, which the analyzer cannot know.
@@ -45,7 +46,7 @@ check() {
   if [ ${#files[@]} -eq 1 ]; then
     look "${files[0]}" "${files[0]}" "$text.out" '' || { cat "$text.out"; return 1; }
   else
-    cat "${files[@]}" >"$text"
+    awk -f cmake/names.awk -f "$as_one" "${files[@]}" >"$text"
     # Each file has a right to its own includes.
     if ! look "${files[0]}" "$text" "$text.out" -readability-duplicate-include; then
       half=$((${#files[@]} / 2))
@@ -58,10 +59,10 @@ check() {
 }
 export -f stamp owner look check
 
-# shellcheck disable=SC2086
-groups() { xargs awk -v together=20 -f cmake/groups.awk $headers; }
+# What brings the names of a namespace into all that follows is looked at alone.
 # shellcheck disable=SC2016
 {
-  printf '%s\n' "${sources[@]}" | grep -E "$windows" | groups
-  printf '%s\n' "${sources[@]}" | grep -vE "$windows" | groups
+  grep -lE '^using (enum|namespace) ' "${sources[@]}"
+  printf '%s\n' "${sources[@]}" | grep -E "$windows" | xargs grep -LE '^using (enum|namespace) ' | xargs -n 66
+  printf '%s\n' "${sources[@]}" | grep -vE "$windows" | xargs grep -LE '^using (enum|namespace) ' | xargs -n 66
 } | xargs -P "$(nproc)" -I{} bash -c 'check $1' check {}
