@@ -27,11 +27,13 @@ struct Moto {
   double Mostrato(const char* figura) {
     return quadro.Posto_Mostrato(impianto->Disegno[figura]).left();
   }
-  QImage Figura_Disegnata(const char* figura) {
-    const QRect posto = quadro.Posto(impianto->Disegno[figura]).toAlignedRect();
+  QImage Disegnata() {
     QImage immagine(quadro.size(), QImage::Format_RGB32);
     quadro.render(&immagine);
-    return immagine.copy(posto);
+    return immagine;
+  }
+  QImage Figura_Disegnata(const char* figura) {
+    return Disegnata().copy(quadro.Posto(impianto->Disegno[figura]).toAlignedRect());
   }
 
   Orologio orologio;
@@ -110,6 +112,16 @@ TEST(Motion, AirRunsOnlyWhileAPistonTravels) {
   EXPECT_TRUE(moto.quadro.Si_Muove());
   moto.Avanza(20000);
   EXPECT_FALSE(moto.quadro.Si_Muove()) << "under pressure, and still";
+}
+
+TEST(Motion, NoRopeOfTheLiftLeavesItsShaft) {
+  Moto moto(14);
+  const QImage sopra = moto.Disegnata().copy(0, 0, moto.quadro.width(), 15);
+  moto.impianto->Clic("imgCom");
+  moto.impianto->Premi("cmdSu");
+  moto.Avanza(40000);
+  ASSERT_LT(moto.impianto->Disegno["imgC"].Top(), 0.0F) << "far beyond its last floor";
+  EXPECT_EQ(moto.Disegnata().copy(0, 0, moto.quadro.width(), 15), sopra);
 }
 
 }  // namespace
