@@ -208,9 +208,24 @@ QString In_Posa(QString testo, Colore colore, int fase) {
 
 }  // namespace
 
-QString Disegni::Testo(const QString& id, Colore colore, int fase) const {
-  const auto pezzo = pezzi_.find(id);
-  return pezzo == pezzi_.end() ? QString() : In_Posa(pezzo->second.Testo, colore, fase);
+QString Disegni::Testo(const QString& id, Colore colore, int fase, QString& proprie) const {
+  const Pezzo* pezzo = Trova(id);
+  if (pezzo == nullptr) return {};
+  QString testo = In_Posa(pezzo->Testo, colore, fase);
+  QString simboli = In_Posa(pezzo->Simboli, colore, fase);
+  if (simboli == pezzo->Simboli) return testo;
+  static const QRegularExpression altro(QStringLiteral("[^\\w-]"));
+  const QString di = '-' + QString(id).replace(altro, QStringLiteral("-"));
+  for (const auto& [nome, simbolo] : simboli_) {
+    if (!simboli.contains("id=\"" + nome + '"')) continue;
+    simboli.replace("id=\"" + nome + '"', "id=\"" + nome + di + '"');
+    for (QString* dove : {&simboli, &testo}) {
+      dove->replace('#' + nome + '"', '#' + nome + di + '"');
+      dove->replace('#' + nome + ')', '#' + nome + di + ')');
+    }
+  }
+  proprie += simboli + '\n';
+  return testo;
 }
 
 QString Disegni::Definizioni(const QStringList& ids) const {

@@ -71,8 +71,9 @@ class Disegni {
   void Disegna(QPainter& pittore, const Pezzo& pezzo, Colore colore, int fase, double scala,
                const QTransform& posa);
 
-  /// The text of a group as it is drawn, without the symbols that it refers to.
-  QString Testo(const QString& id, Colore colore, int fase) const;
+  /// The text of a group as it is drawn. Symbols that look like this only here are added to
+  /// `proprie`, under names of their own; the others are what `Definizioni` has.
+  QString Testo(const QString& id, Colore colore, int fase, QString& proprie) const;
   /// The definitions of all symbols that the groups of these ids refer to.
   QString Definizioni(const QStringList& ids) const;
 

@@ -50,7 +50,8 @@ bool Quadro::Preferite_Ridotte() {
 QString Quadro::Come_Svg() const {
   const QSizeF misura = disegni_.Misura().size();
   QStringList gruppi{QStringLiteral("fondo")};
-  QString corpo = disegni_.Testo(gruppi[0], 0, 0) + '\n';
+  QString proprie;
+  QString corpo = disegni_.Testo(gruppi[0], 0, 0, proprie) + '\n';
   QString ritagli;
   for (const Vista& vista : viste_) {
     const Figura& figura = *vista.Di;
@@ -59,7 +60,7 @@ QString Quadro::Come_Svg() const {
     const QTransform posa = Posa(vista, 1);
     if (disegni_.Esiste(gruppo)) {
       gruppi << gruppo;
-      const QString testo = disegni_.Testo(gruppo, figura.FillColor(), vista.Fase);
+      const QString testo = disegni_.Testo(gruppo, figura.FillColor(), vista.Fase, proprie);
       const QRectF entro = disegni_.Entro(gruppo);
       QString dentro = posa.isIdentity()
                            ? testo
@@ -85,7 +86,7 @@ QString Quadro::Come_Svg() const {
              "viewBox=\"0 0 %3 %4\">\n<defs>\n")
              .arg(Numero(misura.width() / Twip_Per_Pixel), Numero(misura.height() / Twip_Per_Pixel),
                   Numero(misura.width()), Numero(misura.height())) +
-         disegni_.Definizioni(gruppi) + ritagli + "</defs>\n" + corpo + "</svg>\n";
+         disegni_.Definizioni(gruppi) + proprie + ritagli + "</defs>\n" + corpo + "</svg>\n";
 }
 
 QImage Quadro::Come_Immagine(double scala) const {

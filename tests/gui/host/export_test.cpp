@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QSvgRenderer>
 #include <QTemporaryDir>
+#include <array>
 
 #include "host/host_bed.h"
 
@@ -26,6 +27,21 @@ double Differenza(const QImage& una, const QImage& altra) {
   return somma / (3.0 * una.width() * una.height());
 }
 
+/// The mean colour of a part of a picture; where its edges fall between points makes no difference.
+std::array<double, 3> Colore_Medio(const QImage& immagine, const QRect& parte) {
+  std::array<double, 3> somma{};
+  for (int y = parte.top(); y <= parte.bottom(); ++y) {
+    for (int x = parte.left(); x <= parte.right(); ++x) {
+      const QColor colore = immagine.pixelColor(x, y);
+      somma[0] += colore.red();
+      somma[1] += colore.green();
+      somma[2] += colore.blue();
+    }
+  }
+  for (double& canale : somma) canale /= parte.width() * parte.height();
+  return somma;
+}
+
 struct Esportata : ::testing::TestWithParam<int> {};
 
 TEST_P(Esportata, ThePictureSavedIsThePictureSeen) {
@@ -42,6 +58,14 @@ TEST_P(Esportata, ThePictureSavedIsThePictureSeen) {
   ASSERT_EQ(salvata.size(), schermo.size());
   const double uguali = Differenza(salvata, schermo);
   EXPECT_LT(uguali, 3.5);
+  for (const Figura& figura : banco.Macchina().Disegno) {
+    const QRect posto = quadro.Posto_Mostrato(figura).toAlignedRect().intersected(quadro.rect());
+    if (!figura.Visible() || posto.isEmpty()) continue;
+    const auto salvato = Colore_Medio(salvata, posto);
+    const auto visto = Colore_Medio(schermo, posto);
+    for (std::size_t canale = 0; canale < 3; ++canale)
+      EXPECT_NEAR(salvato[canale], visto[canale], 14) << figura.Nome;
+  }
   // A picture of the same plant in another state is further away.
   banco.plc.SQ[0].Stato_Q("00000000");
   QImage altro = vista();
