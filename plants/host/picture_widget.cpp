@@ -244,6 +244,23 @@ void Quadro::Disegna_Figura(QPainter& pittore, Vista& vista, double scala) {
   pittore.drawStaticText(posto.topLeft() + libero, vista.Scritta);
 }
 
+/// What a mark of the hand goes around: the drawing, where it leaves room in its figure. Labels
+/// stand close to the figures.
+QRectF Quadro::Cornice(const Figura& figura) const {
+  const QRectF posto = Posto_Mostrato(figura).adjusted(1, 1, -1, -1);
+  const Vista* vista = Vista_Di(Q(figura.Nome));
+  if (vista->Disegno == nullptr) return posto;
+  const double scala = Scala();
+  const QRectF limiti = disegni_.Limiti(*vista->Disegno);
+  const QRectF disegno =
+      Posa(*vista, scala).mapRect(QRectF(limiti.topLeft() * scala, limiti.size() * scala));
+  const QRectF dentro = posto.intersected(disegno.translated(Origine()).adjusted(-2, -2, 2, 2));
+  constexpr double troppo_poco = 0.6;  // of the figure: a mere piece of it has a drawing
+  const bool quasi_tutto = dentro.width() >= posto.width() * troppo_poco &&
+                           dentro.height() >= posto.height() * troppo_poco;
+  return quasi_tutto ? dentro : posto;
+}
+
 /// What the hand can reach and what the keys are on.
 void Quadro::Disegna_Mano(QPainter& pittore) {
   const QColor segno_mano = colori::Segno_Mano;
@@ -252,12 +269,12 @@ void Quadro::Disegna_Mano(QPainter& pittore) {
     QColor lieve = segno_mano;
     lieve.setAlphaF(0.55F);
     pittore.setPen(QPen(lieve, 1.5));
-    pittore.drawRoundedRect(Posto_Mostrato(*sopra_).adjusted(-1, -1, 1, 1), 5, 5);
+    pittore.drawRoundedRect(Cornice(*sopra_), 5, 5);
   }
   const Vista* fuoco = hasFocus() && fuoco_in_vista_ ? A_Fuoco() : nullptr;
   if (fuoco == nullptr) return;
   pittore.setPen(QPen(segno_mano, 2));
-  pittore.drawRoundedRect(Posto_Mostrato(*fuoco->Di).adjusted(-2, -2, 2, 2), 4, 4);
+  pittore.drawRoundedRect(Cornice(*fuoco->Di), 4, 4);
 }
 
 }  // namespace tavorno

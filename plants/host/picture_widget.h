@@ -143,6 +143,7 @@ class Quadro : public QWidget, public Per_Lettori {
   void Disegna_Figure(QPainter& pittore, double scala, const QRect& dove);
   void Disegna_Figura(QPainter& pittore, Vista& vista, double scala);
   void Disegna_Mano(QPainter& pittore);
+  QRectF Cornice(const Figura& figura) const;
   QTransform Posa(const Vista& vista, double scala) const;
   QRectF Occupato(const Vista& vista) const;
   QRectF Sporca(Vista& vista);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Mouse and keys on a plant's picture, and what it draws.
 #include <QHelpEvent>
+#include <QImage>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QRegion>
 #include <QToolTip>
@@ -55,6 +57,26 @@ TEST_F(Picture, APressThatChangesNothingSaysSo) {
   QTest::mouseClick(&ascensore.Disegno(), Qt::LeftButton, {}, ascensore.Centro("cmdSu"));
   EXPECT_TRUE(QToolTip::text().startsWith("Ora non ha effetto: Salita a mano"))
       << QToolTip::text().toStdString();
+}
+
+TEST_F(Picture, TheMarkOfTheHandLeavesTheLabelsAroundAButtonAlone) {
+  const QPoint centro = banco.Centro("imgStart");
+  const auto vista = [this] { return quadro.grab().toImage(); };
+  const QImage senza = vista();
+  QMouseEvent sopra(QEvent::MouseMove, centro, quadro.mapToGlobal(centro), Qt::NoButton,
+                    Qt::NoButton, {});
+  QCoreApplication::sendEvent(&quadro, &sopra);
+  const QImage con = vista();
+  QRect segno;
+  for (int y = 0; y < con.height(); ++y) {
+    for (int x = 0; x < con.width(); ++x) {
+      if (con.pixel(x, y) != senza.pixel(x, y)) segno |= QRect(x, y, 1, 1);
+    }
+  }
+  EXPECT_TRUE(segno.contains(centro));
+  const QRect figura = quadro.Posto(banco.Macchina().Disegno["imgStart"]).toAlignedRect();
+  EXPECT_TRUE(figura.contains(segno))
+      << segno.y() << ' ' << segno.height() << " of " << figura.y() << ' ' << figura.height();
 }
 
 TEST_F(Picture, ADoubleClickForcesTheContactor) {
