@@ -2,6 +2,8 @@
 #include "plants/scene.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <stdexcept>
 
 namespace tavorno {
@@ -27,12 +29,16 @@ void Figura::Segna() {
 }
 
 Scena::Scena(std::span<const Riga_Figura> righe) {
-  for (const Riga_Figura& riga : righe) figure_.emplace_back(*this, riga);
+  per_nome_.reserve(righe.size());
+  for (const Riga_Figura& riga : righe) {
+    Figura& figura = figure_.emplace_back(*this, riga);
+    per_nome_.emplace(figura.Nome, &figura);
+  }
 }
 
 Figura* Scena::Trova(std::string_view nome) {
-  const auto trovata = std::ranges::find(figure_, nome, &Figura::Nome);
-  return trovata == figure_.end() ? nullptr : &*trovata;
+  const auto trovata = per_nome_.find(nome);
+  return trovata == per_nome_.end() ? nullptr : trovata->second;
 }
 
 Figura& Scena::operator[](std::string_view nome) {
@@ -42,7 +48,15 @@ Figura& Scena::operator[](std::string_view nome) {
 }
 
 Figura& Scena::operator()(std::string_view nome, int indice) {
-  return (*this)[std::string(nome) + "(" + std::to_string(indice) + ")"];
+  std::array<char, 32> testo{};      // names are short, and a text on the heap for each look is not
+  constexpr std::size_t resto = 14;  // of it for the index and its parentheses
+  if (nome.size() > testo.size() - resto)
+    return (*this)[std::string(nome) + "(" + std::to_string(indice) + ")"];
+  char* fine = std::ranges::copy(nome, testo.data()).out;
+  *fine++ = '(';
+  fine = std::to_chars(fine, testo.data() + testo.size(), indice).ptr;
+  *fine++ = ')';
+  return (*this)[std::string_view(testo.data(), fine)];
 }
 
 void Scena::Segna(Figura& figura) {

@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -121,6 +122,7 @@ class Scena {
   void Segna(Figura& figura);
 
   std::deque<Figura> figure_;
+  std::unordered_map<std::string_view, Figura*> per_nome_;  // physics asks for them at each tick
   std::vector<Figura*> cambiate_;
 };
 

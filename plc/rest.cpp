@@ -2,6 +2,7 @@
 #include "plc/rest.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tavorno {
 
@@ -78,7 +79,7 @@ bool Riposo::Ripete(std::int64_t righe) {
   else
     SM06(foto_[0].Memoria) ^= 1U;  // as every scan does
   if (Come_Allora() && Righe_Come_Allora()) {
-    fase_ = guardato ? Fase::Fermo : Fase::Riposo;
+    fase_ = guardato && quiete_.Legge_SM06() ? Fase::Fermo : Fase::Riposo;
     return true;
   }
   if (!guardato || !Uscite_Come_Allora()) return false;
@@ -106,6 +107,7 @@ bool Riposo::Scansione_Fatta(std::int64_t righe) {
     fase_ = Fase::Ignoto;
     return false;
   }
+  if (!std::exchange(letto_, true)) quiete_.Leggi(plc_);
   Fotografa(0);
   periodo_ = 1;
   fase_ = Fase::Guardato;

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "plc/plc.h"
+#include "plc/quiet_cells.h"
 
 namespace tavorno {
 
@@ -19,10 +20,12 @@ namespace tavorno {
 /// leave out those that would change nothing.
 ///
 /// Only the CPU has to be looked at: a plant hears of a scan by the output bars alone, and a bar
-/// that is given the text that it has says nothing. SM0.6 toggles at each scan, so two scans in a
-/// row, with nothing in between, are watched before anything is left out: the second proves that
-/// the toggling changes nothing else, or that it undoes what the first changed. In that case, a
-/// period of two, scans are left out in twos, and only where no output takes part in it.
+/// that is given the text that it has says nothing. SM0.6 toggles at each scan, so where a program
+/// looks at it, two scans in a row, with nothing in between, are watched before anything is left
+/// out: the second proves that the toggling changes nothing else, or that it undoes what the first
+/// changed. In that case, a period of two, scans are left out in twos, and only where no output
+/// takes part in it. What changes between scans without a line that could tell (`Celle_Quiete`)
+/// ends no rest.
 ///
 /// In turn: `Riposa`; then a scan and `Scansione_Fatta`, or `Salta`.
 class Riposo {
@@ -36,6 +39,7 @@ class Riposo {
   void Da_Capo() {
     fase_ = Fase::Ignoto;
     attesa_ = pausa_ = 0;
+    letto_ = false;
   }
 
   /// Right before a scan: true when the scans from here on would change nothing but what `Salta`
@@ -43,6 +47,7 @@ class Riposo {
   /// where a timer ticked or a hand moved since.
   bool Riposa() {
     if (fase_ == Fase::Ignoto) return false;
+    if (fase_ == Fase::Riposo && periodo_ == 1) quiete_.Porta_Avanti(plc_, foto_[0].Memoria);
     parte_uguale_ = Come_Allora();
     return fase_ == Fase::Riposo && parte_uguale_;
   }
@@ -108,6 +113,8 @@ class Riposo {
 
   Plc& plc_;
   Fase fase_ = Fase::Ignoto;
+  Celle_Quiete quiete_;
+  bool letto_ = false;         // the program, by `quiete_`
   std::array<Foto, 2> foto_;   // the second where the period is two
   std::size_t lato_ = 0;       // the one that the present state is held against
   int periodo_ = 1;            // scans, 1 or 2

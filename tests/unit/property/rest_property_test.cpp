@@ -95,6 +95,31 @@ void Semina_Alternanze(Memoria& programma, const Caso& caso) {
   }
 }
 
+/// Puts lines in that count, and that hold what counts or rises against a constant: a run may sleep
+/// through the ticks in between, but not through the one that tells.
+void Semina_Conteggi(Memoria& programma, const Caso& caso) {
+  static const struct {
+    const char *Istr, *Area;
+    std::int16_t Num, Massimo;
+  } semi[] = {{"TON", "T", 37, 14},      {"TONR", "T", 37, 14},     {"TOF", "T", 37, 14},
+              {"LDW>=", "T", 37, 14},    {"AW=", "T", 37, 14},      {"OW<>", "T", 37, 3},
+              {"LDW>", "AIW", 0, 32000}, {"AW<=", "AIW", 2, 32000}, {"R", "T", 37, 1},
+              {"INCW", "T", 37, -1},     {"LD", "SM", 0, -1}};
+  for (Riga_PLC& riga : programma.Prog) {
+    if (riga.Nel_Programma != Compito::Nessuno || caso(3) != 0) continue;
+    const auto& seme = semi[caso(static_cast<unsigned>(std::size(semi) - 1))];
+    const bool costante = seme.Massimo >= 0;
+    riga.Istr = seme.Istr;
+    riga.Area1 = seme.Area;
+    riga.Area2 = costante ? "K" : "";
+    riga.Num1 = seme.Num;
+    riga.Num2 = costante ? static_cast<std::int16_t>(caso(static_cast<unsigned>(seme.Massimo))) : 0;
+    riga.Bit1 = seme.Area == std::string_view("SM") ? 0 : -1;
+    riga.NOper = costante ? 2 : 1;
+    Decodifica(riga);
+  }
+}
+
 Entrate Entrate_Casuali(const Memoria& programma, const Caso& caso) {
   Entrate entrate;
   entrate.Programma = programma;
@@ -155,6 +180,7 @@ TEST(RestProperty, ScansLeftOutChangeNothingThatCanBeSeen) {
       Programma_Casuale(progetto, caso, static_cast<int>(2 + caso(caso(3) ? 15 : 80)));
     } while (!progetto.Compilato);
     if (caso(1) == 0) Semina_Alternanze(plc, caso);
+    if (caso(1) == 0) Semina_Conteggi(plc, caso);
     Memoria_Casuale(plc, caso);
     const Entrate entrate = Entrate_Casuali(plc, caso);
     const Uscita tutte = Corri(entrate, true);
