@@ -231,7 +231,7 @@ function prove_del_banco(banco)
       premi_per("imgSB2", 200)
       local fuori = sequenza[1][1]
       serve(aspetta(function() return arrivato(fuori) end, 15000), "il cilindro arriva fuori")
-      local riparte, ms = attendi_fino(function() return not arrivato(fuori) end, 10000)
+      local riparte, ms = attendi_quando(function() return not arrivato(fuori) end, 10000)
       punti(2, riparte and ms >= 800 and ms <= 1500, "fuori il cilindro aspetta un secondo (tra 0,8 e 1,5)")
     end)
   end

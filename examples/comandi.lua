@@ -25,23 +25,38 @@ function in_manuale()
   attendi(200)
 end
 
--- Lascia passare "ms" e guarda ogni "passo" millisecondi: vero se la condizione vale tutte le volte.
+-- Lascia passare "ms" e guarda ogni "passo" millisecondi: vero se la condizione vale tutte le volte. Dove
+-- intanto non è cambiato niente varrebbe quello di prima.
 function sempre(ms, condizione, passo)
   local vale = condizione()
   for _ = 1, ms / (passo or 50) do
-    attendi(passo or 50)
-    if not condizione() then vale = false end
+    if attendi(passo or 50) and not condizione() then vale = false end
   end
   return vale
 end
 
 -- Come attendi_fino, guardando ogni 10 millisecondi: basta dove il millesimo non conta, ed è più svelta.
 function aspetta(condizione, ms)
+  local cambiato = true
   for _ = 1, ms / 10 do
-    if condizione() then return true end
-    attendi(10)
+    if cambiato and condizione() then return true end
+    cambiato = attendi(10)
   end
-  return condizione()
+  return cambiato and condizione()
+end
+
+-- Come un'occhiata a ogni millesimo dei prossimi "ms": "guarda" legge, "conta(quanti)" riceve i millesimi in
+-- cui si vedeva quello, e può dare vero per finire.
+function a_ogni_millesimo(ms, guarda, conta)
+  local contati = 0
+  guarda()
+  return attendi_quando(function(adesso)
+    if adesso > contati + 1 then conta(adesso - contati - 1) end
+    guarda()
+    local finito = adesso > contati and conta(1)
+    contati = adesso
+    return finito
+  end, ms)
 end
 
 -- Le lampade si guardano sull'uscita che le comanda, per un secondo e due decimi: più di un lampeggio.
@@ -52,10 +67,11 @@ function spenta(punto) return sempre(1200, function() return not acceso(punto) e
 function lampeggia(punto)
   local cambi, prima = 0, acceso(punto)
   for _ = 1, 300 do
-    attendi(10)
-    local adesso = acceso(punto)
-    if adesso ~= prima then cambi = cambi + 1 end
-    prima = adesso
+    if attendi(10) then
+      local adesso = acceso(punto)
+      if adesso ~= prima then cambi = cambi + 1 end
+      prima = adesso
+    end
   end
   return cambi >= 3 and cambi <= 60
 end

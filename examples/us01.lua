@@ -37,18 +37,21 @@ end
 -- quanto intanto è accesa la rossa. "aperto" conta da quando il contattore del senso si è aperto.
 local function osserva(senso)
   local v = { mai = true, rossa = 0 }
-  function v.guarda(ms)
-    for _ = 1, ms do
-      attendi(1)
-      if insieme() then v.mai = false end
-      if not v.aperto and not acceso(senso.uscita) then v.aperto = 0 end
-      if v.aperto and not v.pausa then
-        v.aperto = v.aperto + 1
-        if acceso(rossa) then v.rossa = v.rossa + 1 end
-        if acceso(altro(senso).uscita) then v.pausa = v.aperto end
-      end
+  local tutti_e_due, suo, di_fronte, rosso
+  local function guarda()
+    tutti_e_due, suo, di_fronte, rosso = insieme(), acceso(senso.uscita), acceso(altro(senso).uscita), acceso(rossa)
+  end
+  local function conta(quanti)
+    if tutti_e_due then v.mai = false end
+    if not v.aperto and not suo then v.aperto = 0 end
+    if v.aperto and not v.pausa then
+      if di_fronte then quanti = 1 end
+      v.aperto = v.aperto + quanti
+      if rosso then v.rossa = v.rossa + quanti end
+      if di_fronte then v.pausa = v.aperto end
     end
   end
+  function v.guarda(ms) a_ogni_millesimo(ms, guarda, conta) end
   return v
 end
 

@@ -29,18 +29,26 @@ end
 -- Un avviamento guardato a ogni millesimo: quanto dura la stella, quanto la pausa con il solo KM1.
 local function misura()
   local t = { stella = 0, pausa = 0, mai_corto = true, sempre_linea = true }
-  premi("imgStart")
-  for ms = 1, 14000 do
-    attendi(1)
-    if ms == 300 then rilascia("imgStart") end
-    if corto() then t.mai_corto = false end
-    if acceso(triangolo) then t.arrivato = true break end
-    if acceso(stella) then
-      t.stella = t.stella + 1
+  local in_corto, in_linea, in_stella, in_triangolo
+  local function guarda()
+    in_corto, in_linea, in_stella, in_triangolo = corto(), acceso(linea), acceso(stella), acceso(triangolo)
+  end
+  local function conta(quanti)
+    if in_corto then t.mai_corto = false end
+    if in_triangolo then
+      t.arrivato = true
+    elseif in_stella then
+      t.stella = t.stella + quanti
     elseif t.stella > 0 then
-      t.pausa = t.pausa + 1
-      if not acceso(linea) then t.sempre_linea = false end
+      t.pausa = t.pausa + quanti
+      if not in_linea then t.sempre_linea = false end
     end
+    return t.arrivato
+  end
+  premi("imgStart")
+  if not a_ogni_millesimo(300, guarda, conta) then
+    rilascia("imgStart")
+    a_ogni_millesimo(13700, guarda, conta)
   end
   rilascia("imgStart")
   return t

@@ -50,7 +50,7 @@ rischio("interblocco di stella e triangolo", 3, function(chiedi)
   ferma_tutto()
   premi_per("imgStart", 200)
   local mai_corto = true
-  local arrivato = attendi_fino(function()
+  local arrivato = attendi_quando(function()
     if corto() then mai_corto = false end
     return acceso(triangolo)
   end, 13000)

@@ -123,17 +123,28 @@ end)
 -- conta quando la slitta è ferma sul passo da un po', perché il programma la legge con ritardo.
 local function velocita_fino_a(riferimento)
   local lontano, vicino_, luce, prima, da, ora = nil, nil, false, volt(), 0, 0
-  local arrivata = attendi_fino(function()
-    ora = ora + 1
+  local in_marcia, veloce, lenta, in_posizione
+  local function giudica()
+    if not in_marcia then return end
+    local manca = math.abs(riferimento - prima)
+    if manca > 0.12 then lontano = lontano ~= false and veloce end
+    if manca < 0.08 and manca > 0.02 then vicino_ = vicino_ ~= false and lenta end
+    luce = luce or in_posizione
+  end
+  local passati = 0
+  local function guarda(ms)
+    local adesso = passati + ms + 1
+    local matura = da + 60
+    if matura > ora and matura < adesso then giudica() end  -- intanto si vedeva quello di prima
+    ora = adesso
     if volt() ~= prima then prima, da = volt(), ora end
-    if in_moto() and ora - da == 60 then
-      local manca = math.abs(riferimento - volt())
-      if manca > 0.12 then lontano = lontano ~= false and velocita(8) end
-      if manca < 0.08 and manca > 0.02 then vicino_ = vicino_ ~= false and velocita(2) end
-      luce = luce or acceso("Q0.7")
-    end
-    return ora > 1000 and not in_moto()
-  end, tempo_massimo)
+    in_marcia, veloce, lenta, in_posizione = in_moto(), velocita(8), velocita(2), acceso("Q0.7")
+    if ora == da + 60 then giudica() end
+    return passati > 0 and not in_marcia
+  end
+  attendi_quando(guarda, 1000)  -- prima di finire la slitta deve poter partire
+  passati = 1000
+  local arrivata = attendi_quando(guarda, tempo_massimo - passati)
   return arrivata and vicino(riferimento, 0.03), lontano, vicino_, luce
 end
 

@@ -77,8 +77,8 @@ int Fa_Cicli(lua_State* stato, Esame& esame) {
 }
 
 int Fa_Attendi(lua_State* stato, Esame& esame) {
-  esame.Banco().Passa(Arg_Intero(stato, 1, "attendi", 0, tempo_massimo));
-  return 0;
+  lua_pushboolean(stato, esame.Banco().Passa(Arg_Intero(stato, 1, "attendi", 0, tempo_massimo)));
+  return 1;
 }
 
 /// Calls the function at the top again and again, after the time that `passa` lets go by of what is
@@ -337,7 +337,7 @@ constexpr Riga_Funzione funzioni[] = {
     {"modo", "modo(\"Cont\"|\"Ciclo\"|\"Step\")", "sceglie il modo: Cont scandisce mentre il tempo passa, Ciclo con cicli(n), Step con passo()", Fa_Modo},
     {"passo", "passo()", "esegue una riga, nel modo Step", Fa_Passo},
     {"cicli", "cicli(n)", "esegue n scansioni intere, di un millisecondo l'una", Fa_Cicli},
-    {"attendi", "attendi(ms)", "lascia passare il tempo virtuale", Fa_Attendi},
+    {"attendi", "attendi(ms)", "lascia passare il tempo virtuale; vero se intanto qualcosa può essere cambiato", Fa_Attendi},
     {"attendi_fino", "attendi_fino(funzione, ms)", "aspetta che la funzione dia vero, al massimo ms; restituisce vero o falso e i millisecondi passati", Fa_Attendi_Fino},
     {"attendi_quando", "attendi_quando(funzione, ms)", "come attendi_fino, ma guarda soltanto quando qualcosa può essere cambiato: è più svelta", Fa_Attendi_Quando},
     {"premi", "premi(elemento)", "preme un elemento dell'impianto; falso se è nascosto", Aziona<&Collaudo::Premi, premi>},

@@ -205,25 +205,29 @@ std::int64_t Collaudo::Salta(std::int64_t ms) {
   if (ms <= 0) return 0;
   Consuma(ms);
   Passano(ms);
-  Lascia_Fuori(ms);
-  Campiona();
+  Lascia_Fuori(ms);  // and nothing is there to be sampled
   return ms;
 }
 
-void Collaudo::Passa(std::int64_t ms) {
+bool Collaudo::Passa(std::int64_t ms) {
+  bool forse_cambiato = false;
   for (std::int64_t n = 0; n < ms; ++n) {
     if (!guasto_.empty()) {
       Consuma(ms - n);
       perso_ += ms - n;
-      return;
+      break;
     }
     const bool scansione = plc_.PLC_Acceso && plc_.Modo_Run == Modo::Cont;
     const std::int64_t saltati = scansione ? Salta(ms - n) : 0;
-    if (saltati > 0)
+    if (saltati > 0) {
       n += saltati - 1;
-    else
+      forse_cambiato = forse_cambiato || !riposo_.Sempre_Uguale();
+    } else {
       Un_Millisecondo(scansione);
+      forse_cambiato = true;
+    }
   }
+  return forse_cambiato;
 }
 
 std::int64_t Collaudo::Passa_Fino_Al_Cambio(std::int64_t ms) {

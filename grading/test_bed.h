@@ -59,8 +59,9 @@ class Collaudo {
   void Scegli_Modo(Modo modo);
   void Passo();            ///< one line, in mode Step
   void Cicli(int quanti);  ///< whole scans, a millisecond each
-  /// Time passes; the CPU scans if it is running in mode Cont.
-  void Passa(std::int64_t ms);
+  /// Time passes; the CPU scans if it is running in mode Cont. False: nothing can have changed, as
+  /// far as `Passa_Fino_Al_Cambio` looks.
+  bool Passa(std::int64_t ms);
   /// Time passes until something may have changed, at least 1 and at most `ms`, which is positive;
   /// returns how much. Only SM0.6 and what merely grows are not looked at.
   std::int64_t Passa_Fino_Al_Cambio(std::int64_t ms);

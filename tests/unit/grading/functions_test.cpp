@@ -92,6 +92,22 @@ TEST_F(ScriptFunctions, CicloScansOnlyWhatIsAsked) {
             "");
 }
 
+// A look between two waits that say "false" would see what the last one saw.
+TEST_F(ScriptFunctions, WaitingTellsWhetherSomethingMayHaveChanged) {
+  EXPECT_EQ(Rilievo_Di("run() attendi(100) verifica(not attendi(50)) ingresso('I0.0', 1) "
+                       "verifica(attendi(1)) attendi(100) "
+                       "local prima, cambi, detti = leggi('Q0.0'), 0, 0 "
+                       "for _ = 1, 300 do "
+                       "  local detto, ora = attendi(10), leggi('Q0.0') "
+                       "  if detto then detti = detti + 1 end "
+                       "  if ora ~= prima then cambi = cambi + 1 verifica(detto) end "
+                       "  prima = ora "
+                       "end "
+                       "verifica(cambi == 6, cambi) verifica(detti >= 6 and detti < 100, detti)",
+                       {"LD I0.0", "A SM0.5", "= Q0.0"}),
+            "");
+}
+
 TEST_F(ScriptFunctions, StepExecutesLineByLine) {
   EXPECT_EQ(Rilievo_Di("modo('Step') run() attendi(100) verifica(leggi('VW0') == 0) "
                        "passo() verifica(leggi('VW0') == 0) passo() verifica(leggi('VW0') == 1)",
