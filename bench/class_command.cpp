@@ -155,10 +155,8 @@ int Esegui(const Argomenti& argomenti, std::ostream& out, std::ostream& err) {
   std::vector<Consegna> consegne;
   Testata testata;
   try {
-    verifiche.Script.push_back(Leggi_Sorgente(compito.Script));
+    verifiche.Script.push_back(Leggi_Script(compito.Script));
     const Sorgente_Script& script = verifiche.Script.front();
-    if (const std::string sbaglio = Errore_Di_Sintassi(script); !sbaglio.empty())
-      throw std::runtime_error(sbaglio);
     testata.Con.push_back({script.Nome, script.Impronta});
     consegne = Leggi_Classe(argomenti.File()[0], appoggio.Cartella());
   } catch (const std::runtime_error& errore) {

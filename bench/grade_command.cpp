@@ -32,14 +32,11 @@ class Illeggibile : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-Sorgente_Script Leggi_Script(const std::string& file) {
+Sorgente_Script Script_Di(const std::string& file) {
   try {
-    Sorgente_Script script = Leggi_Sorgente(file);
-    const std::string sbaglio = Errore_Di_Sintassi(script);
-    if (!sbaglio.empty()) throw std::runtime_error(sbaglio);
-    return script;
+    return Leggi_Script(file);
   } catch (const std::runtime_error& errore) {
-    throw Illeggibile(file + ": " + errore.what());
+    throw Illeggibile(errore.what());
   }
 }
 
@@ -68,7 +65,7 @@ Incarico Leggi_Incarico(const Argomenti& argomenti) {
   std::vector<std::string> altri;
   for (const std::string& file : argomenti.File()) {
     if (Estensione(file) == ".lua" && !Cartella(file))
-      incarico.Con.Script.push_back(Leggi_Script(file));
+      incarico.Con.Script.push_back(Script_Di(file));
     else
       altri.push_back(file);
   }

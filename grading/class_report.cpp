@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <map>
 
 #include "trace/markup.h"
 
@@ -85,6 +86,27 @@ const char* Parola(Somiglianza come) {
   return "";
 }
 
+std::string Nomi(const std::vector<Voto>& voti, const std::vector<std::size_t>& quali) {
+  std::string nomi;
+  for (const std::size_t n : quali) nomi += (nomi.empty() ? "" : ", ") + In_Xml(voti[n].Studente);
+  return nomi;
+}
+
+/// Who in a group of less alike hand-ins gave in the very same file.
+std::string Gemelle(const std::vector<Voto>& voti, const Gruppo_Simili& gruppo) {
+  if (gruppo.Come == Somiglianza::Uguali) return "";
+  std::map<std::string, std::vector<std::size_t>> per_byte;
+  for (const std::size_t n : gruppo.Quali) per_byte[voti[n].Impronta.Byte].push_back(n);
+  std::vector<std::vector<std::size_t>> gemelle;
+  for (const auto& [impronta, quali] : per_byte)
+    if (quali.size() > 1) gemelle.push_back(quali);
+  std::ranges::sort(gemelle);
+  std::string testo;
+  for (const std::vector<std::size_t>& quali : gemelle)
+    testo += "; lo stesso file: " + Nomi(voti, quali);
+  return testo;
+}
+
 const Caso* Trova(const Voto& voto, const std::string& nome) {
   const auto caso = std::ranges::find(voto.Esito.Casi, nome, &Caso::Nome);
   return caso == voto.Esito.Casi.end() ? nullptr : &*caso;
@@ -102,7 +124,7 @@ double Massimo_Di(const std::vector<Voto>& voti, const std::string& nome) {
 }  // namespace
 
 std::string Nome_Pagina(std::size_t posto) {
-  char testo[32];
+  char testo[40];
   std::snprintf(testo, sizeof testo, "studente-%03zu.html", posto + 1);
   return testo;
 }
@@ -136,6 +158,7 @@ std::string Pagina_Studente(const Voto& voto, const Testata& testata) {
         pagina += "<li>dopo " + Secondi(rilievo.Ms) + ": " + In_Xml(rilievo.Testo) + "</li>\n";
       pagina += "</ul>\n";
     }
+    for (const std::string& nota : caso.Note) pagina += "<p>Nota: " + In_Xml(nota) + "</p>\n";
     if (!caso.Listato.empty() && caso.Listato != listato)
       pagina += "<pre>" + In_Xml(caso.Listato) + "</pre>\n";
     listato = caso.Listato;
@@ -196,10 +219,8 @@ std::string Pagina_Docente(const std::vector<Voto>& voti, const Testata& testata
         "poche soluzioni. <a href=\"" +
         std::string(Nome_Pagina_Simili) + "\">I programmi uno accanto all'altro</a></p>\n<ul>\n";
     for (const Gruppo_Simili& gruppo : gruppi) {
-      pagina += "<li>";
-      for (const std::size_t n : gruppo.Quali)
-        pagina += (n == gruppo.Quali.front() ? "" : ", ") + In_Xml(voti[n].Studente);
-      pagina += ": " + std::string(Parola(gruppo.Come)) + "</li>\n";
+      pagina += "<li>" + Nomi(voti, gruppo.Quali) + ": " + Parola(gruppo.Come) +
+                Gemelle(voti, gruppo) + "</li>\n";
     }
     pagina += "</ul>\n";
   }

@@ -55,6 +55,7 @@ void Prepara(Seduta& seduta, const std::string& percorso, Ambiente_Script& ambie
     esito.Compilato = true;
     return;
   }
+  esito.Con_Errori = true;
   ambiente.Motivo = "Il progetto non si compila: errori " + std::to_string(seduta.progetto.Errori);
   ambiente.Listato = Senza_CR(A_Utf8(seduta.progetto.Lista_Comp));
 }

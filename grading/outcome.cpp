@@ -30,6 +30,7 @@ const char* Esito_Progetto::Giudizio_In_Breve() const {
   if (!Non_Esaminato.empty()) return "non esaminato";
   if (Script_Errato()) return "script errato";
   if (Illeggibile) return "illeggibile";
+  if (Con_Errori) return "non compilato";
   return Superato() ? "superato" : "fallito";
 }
 

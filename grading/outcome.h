@@ -57,6 +57,7 @@ struct Esito_Progetto {
   std::string Data;           ///< when the file was last changed, "2026-03-07T10:12:00Z"
   std::string Non_Esaminato;  ///< why it was not graded, in Italian; empty: it was
   bool Illeggibile = false;
+  bool Con_Errori = false;  ///< it was read, and does not compile
   bool Compilato = false;
   std::vector<Caso> Casi;
 
@@ -66,7 +67,7 @@ struct Esito_Progetto {
   bool Superato() const {
     return Non_Esaminato.empty() && Superati() == static_cast<int>(Casi.size());
   }
-  /// "superato", "fallito", "script errato", "illeggibile", "non esaminato".
+  /// "superato", "fallito", "non compilato", "script errato", "illeggibile", "non esaminato".
   const char* Giudizio_In_Breve() const;
   /// A script went wrong: its author is to mend it, and nobody has failed.
   bool Script_Errato() const;

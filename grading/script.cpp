@@ -61,6 +61,17 @@ std::string Errore_Di_Sintassi(const Sorgente_Script& script) {
   return Carica(recinto.Stato(), script) == LUA_OK ? "" : Messaggio(recinto.Stato());
 }
 
+Sorgente_Script Leggi_Script(const std::string& file) {
+  try {
+    Sorgente_Script script = Leggi_Sorgente(file);
+    const std::string sbaglio = Errore_Di_Sintassi(script);
+    if (!sbaglio.empty()) throw std::runtime_error(sbaglio);
+    return script;
+  } catch (const std::runtime_error& errore) {
+    throw std::runtime_error(file + ": " + errore.what());
+  }
+}
+
 Esame::Esame(const Sorgente_Script& script, const Ambiente_Script& ambiente,
              int (*funzioni)(lua_State*))
     : script_(script),

@@ -129,4 +129,8 @@ class Esame {
 /// The mistake in the text of a script, in Italian; empty when it can be run.
 std::string Errore_Di_Sintassi(const Sorgente_Script& script);
 
+/// A script that can be run. Throws `std::runtime_error` with the file and what is wrong with it,
+/// in Italian.
+Sorgente_Script Leggi_Script(const std::string& file);
+
 }  // namespace tavorno

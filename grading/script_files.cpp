@@ -57,7 +57,11 @@ Sorgente_Script Leggi_Vicino(const Sorgente_Script& script, const std::string& n
   std::error_code errore;
   if (script.Cartella.empty() || !fs::is_regular_file(fs::symlink_status(file, errore)))
     throw std::runtime_error("accanto allo script non c'è un file \"" + nome + "\"");
-  return Leggi_Sorgente(Testo_Percorso(file));
+  try {
+    return Leggi_Sorgente(Testo_Percorso(file));
+  } catch (const std::runtime_error& sbaglio) {
+    throw std::runtime_error("\"" + nome + "\": " + sbaglio.what());
+  }
 }
 
 }  // namespace tavorno

@@ -180,7 +180,8 @@ void FrmVerifica::Avvia() {
       verifiche.Script.push_back(Leggi_Sorgente(legami_.Script));
       lavoro_ = std::make_unique<Verifica_In_Corso>(std::move(*programma), std::move(verifiche));
     } catch (const std::exception& errore) {
-      perche = std::string("Lo script dell'esercizio non si può usare: ") + errore.what();
+      perche =
+          "Lo script dell'esercizio non si può usare: " + legami_.Script + ": " + errore.what();
     }
   }
   avanzamento_->setRange(0, 0);

@@ -20,6 +20,7 @@ using ::testing::StartsWith;
 constexpr const char* script = R"(
 prova("segue <I0.1>", 3, function()
   run() ingresso("I0.1", 1) attendi(30)
+  print("letto <Q0.0>")
   punti(3, leggi("Q0.0") == 1, "Q0.0 deve seguire I0.1: perché no?")
 end)
 prova("a riposo", 1, function()
@@ -82,6 +83,15 @@ TEST_F(Class, HandInsThatAreAlikeStandBesideEachOther) {
   EXPECT_THAT(Letto("esiti/punti.csv"), Not(HasSubstr("stesso file")));
 }
 
+TEST_F(Class, TwinsAreToldAmongThoseThatAreOnlyAlike) {
+  const std::string con_merker = Byte_Di_Progetto({"LD I0.1", "= M0.0", "LD M0.0", "= Q0.0"});
+  const std::string con_altro = Byte_Di_Progetto({"LD I0.1", "= M1.3", "LD M1.3", "= Q0.0"});
+  Classe(Zip({{"Anna.AWL", con_merker}, {"Bea.AWL", con_altro}, {"Carla.AWL", con_merker}}));
+  EXPECT_THAT(Letto("esiti/indice.html"),
+              HasSubstr("<li>Anna, Bea, Carla: uguali anche cambiando nome a merker, "
+                        "temporizzatori, contatori e celle; lo stesso file: Anna, Carla</li>"));
+}
+
 TEST_F(Class, AnArchiveOfAPlatformBecomesPagesAndTables) {
   const std::string zip =
       Zip({{"Rossi Anna_12_assignsubmission_file_/us.AWL", buono},
@@ -97,14 +107,16 @@ TEST_F(Class, AnArchiveOfAPlatformBecomesPagesAndTables) {
         "il nome non finisce con .AWL"})
     EXPECT_THAT(indice, HasSubstr(parte));
   const std::string ugo = Letto("esiti/studente-001.html");
-  for (const char* parte : {"<h1>Bianchi Ugo</h1>", "Punti: 0 su 4",
-                            "dopo 0,030 s: Q0.0 deve seguire I0.1: perché no?", "<svg "})
+  for (const char* parte :
+       {"<h1>Bianchi Ugo</h1>", "Punti: 0 su 4", "dopo 0,030 s: Q0.0 deve seguire I0.1: perché no?",
+        "<p>Nota: letto &lt;Q0.0&gt;</p>", "<svg "})
     EXPECT_THAT(ugo, HasSubstr(parte));
   const std::string pia = Letto("esiti/studente-002.html");
   EXPECT_THAT(pia, HasSubstr("Il progetto non si compila"));
   EXPECT_THAT(pia, HasSubstr("-&gt; Istruzione non riconosciuta"));
   EXPECT_THAT(pia, HasSubstr("Punti: 0 su 4"));
   EXPECT_THAT(pia, Not(HasSubstr("dopo 0,000 s")));
+  EXPECT_THAT(indice, HasSubstr("us.AWL</td><td>non compilato</td>"));
   const std::string anna = Letto("esiti/studente-003.html");
   EXPECT_THAT(anna, HasSubstr("Punti: 4 su 4"));
   EXPECT_THAT(anna, Not(HasSubstr("<svg ")));
@@ -232,6 +244,10 @@ TEST_F(Class, WhatIsNoClassIsRefused) {
   fs::create_directory(cartella / "vuota");
   EXPECT_EQ(Classe((cartella / "vuota").string()), 2);
   EXPECT_FALSE(fs::exists(cartella / "esiti"));
+  const std::string manca = (cartella / "manca.lua").string();
+  std::ostringstream o, e;
+  EXPECT_EQ(Comando_Classe({Zip({{"a.AWL", buono}}), manca}, o, e), 2);
+  EXPECT_THAT(e.str(), StartsWith(manca + ": impossibile leggere lo script: "));
 }
 
 struct Nome {
