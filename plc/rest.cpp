@@ -82,11 +82,26 @@ bool Riposo::Ripete(std::int64_t righe) {
     fase_ = guardato && quiete_.Legge_SM06() ? Fase::Fermo : Fase::Riposo;
     return true;
   }
-  if (!guardato || !Uscite_Come_Allora()) return false;
+  if (!guardato) return Si_E_Posata();
+  if (!Uscite_Come_Allora()) return false;
   SM06(foto_[0].Memoria) ^= 1U;  // two scans leave it alone
   Fotografa(1);
   periodo_ = 2;
   fase_ = Fase::Diverso;
+  return true;
+}
+
+/// No period of two, but the second of its scans changed nothing: what an edge moved took a scan to
+/// come to rest.
+bool Riposo::Si_E_Posata() {
+  if (fase_ != Fase::Diverso || quiete_.Legge_SM06()) return false;
+  lato_ = 1;
+  SM06(foto_[1].Memoria) ^= 1U;
+  if (!Come_Allora() || !Righe_Come_Allora()) return false;
+  foto_[0] = foto_[1];
+  lato_ = 0;
+  periodo_ = 1;
+  fase_ = Fase::Riposo;
   return true;
 }
 
@@ -102,10 +117,10 @@ bool Riposo::Scansione_Fatta(std::int64_t righe) {
   }
   // What rested a moment ago will soon rest again; what never does is looked at ever less.
   if (prima != Fase::Ignoto && prima != Fase::Riposo) {
-    pausa_ = std::clamp(2 * pausa_, 1, pausa_massima);
     attesa_ = pausa_;
+    pausa_ = std::clamp(2 * pausa_, 1, pausa_massima);
     fase_ = Fase::Ignoto;
-    return false;
+    if (attesa_ > 0) return false;
   }
   if (!std::exchange(letto_, true)) quiete_.Leggi(plc_);
   Fotografa(0);

@@ -110,6 +110,7 @@ class Riposo {
   bool Come_Allora() const;
   bool Righe_Come_Allora() const;
   bool Ripete(std::int64_t righe);
+  bool Si_E_Posata();
 
   Plc& plc_;
   Fase fase_ = Fase::Ignoto;

@@ -135,6 +135,23 @@ TEST_F(Rest, EndsWithATickAHandAndAnOption) {
   EXPECT_FALSE(riposo.Riposa());
 }
 
+// The pulse of an edge falls in the scan behind it, and then nothing is left to do.
+TEST_F(Rest, ComesThreeScansBehindAnEdge) {
+  std::vector<std::string> righe = {"LD I0.0", "EU", "S M0.0, 1", "= M0.1", "LD M0.1", "INCW VW0"};
+  righe.insert(righe.end(), 8, "LD SM0.0");  // nothing of the pulse is left on the stack
+  Avvia(righe);
+  ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
+  for (int n = 1; n <= 3; ++n) {
+    Ingresso(0, 0, true);
+    EXPECT_EQ(Scansioni_Fino_Al_Riposo(), 3);
+    EXPECT_EQ(plc.Mem_VW[0], n);
+    EXPECT_EQ(riposo.Saltabili(1), 1);
+    EXPECT_TRUE(riposo.Riposa());
+    Ingresso(0, 0, false);
+    EXPECT_EQ(Scansioni_Fino_Al_Riposo(), 2);
+  }
+}
+
 /// What came between two scans, and a program that can or cannot tell.
 struct Novita_Tra_Scansioni {
   const char* Cosa;
