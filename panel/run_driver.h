@@ -71,6 +71,7 @@ class Guida_Corsa {
   int Cedi();
   int Guarda(Istante& vero);
   Istante Inizia_Scansione(Istante adesso);
+  bool Si_Guarda_Ogni_Riga() const;
   Istante Riposa(Istante adesso);
   Istante Vero() const { return ferma_.value_or(Istante{cronometro_.nsecsElapsed()}); }
   Istante Adesso() const { return Adesso(Vero()); }
