@@ -198,8 +198,7 @@ Guida_Corsa::Istante Guida_Corsa::Inizia_Scansione(Istante adesso) {
     riposo_.Da_Capo();
     return base_;
   }
-  if (!Attesa || plc_.Modo_Run != Modo::Cont || !una_in_piu || velocita_ != 1 || Fermati_Qui ||
-      Si_Guarda_Ogni_Riga())
+  if (!Attesa || plc_.Modo_Run != Modo::Cont || !una_in_piu || velocita_ != 1 || Fermati_Qui)
     riposo_.Da_Capo();
   else if (riposo_.Scansione_Fatta(0))
     return Riposa(adesso);
@@ -216,12 +215,6 @@ Guida_Corsa::Istante Guida_Corsa::Inizia_Scansione(Istante adesso) {
   }
   scansione_ = adesso;
   return adesso;
-}
-
-/// Whoever looks on line by line, for the power flow, wants a scan even where none changes
-/// anything.
-bool Guida_Corsa::Si_Guarda_Ogni_Riga() const {
-  return plc_.Hook.Ogni_Riga_Ascoltata();
 }
 
 /// Sleeps up to the next tick or the next round of window events, again and again while neither
@@ -244,7 +237,7 @@ Guida_Corsa::Istante Guida_Corsa::Riposa(Istante adesso) {
       Eventi_Di_Finestra();
       adesso = Adesso();
     }
-  } while (Attesa && !pausa_chiesta_ && !Si_Guarda_Ogni_Riga() && riposo_.Riposa());
+  } while (Attesa && !pausa_chiesta_ && riposo_.Riposa());
   return adesso;
 }
 

@@ -71,7 +71,6 @@ class Guida_Corsa {
   int Cedi();
   int Guarda(Istante& vero);
   Istante Inizia_Scansione(Istante adesso);
-  bool Si_Guarda_Ogni_Riga() const;
   Istante Riposa(Istante adesso);
   Istante Vero() const { return ferma_.value_or(Istante{cronometro_.nsecsElapsed()}); }
   Istante Adesso() const { return Adesso(Vero()); }
@@ -84,7 +83,7 @@ class Guida_Corsa {
   bool Si_Batte_Qui() const;
 
   Plc& plc_;
-  Riposo riposo_{plc_};
+  Riposo riposo_{plc_, Riposo::Per::Chi_Guarda};  // diagram, power flow
   std::int32_t cicli_visti_ = 0;
   Cronometro_Scansioni durate_;
   Iscrizione cessione_;

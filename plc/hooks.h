@@ -37,7 +37,6 @@ struct Ganci {
   /// every `righe` lines (at least 1; of several listeners the smallest number counts), and at each
   /// line while Ciclo looks for the one to stop at.
   Iscrizione Ascolta_Cedi(std::function<void()> fai, int righe = 1) {
-    if (righe <= 1) return cedi_a_riga_.Ascolta(std::move(fai));
     return cedi_.Ascolta([fai = std::move(fai), righe](int& fino_a) {
       fino_a = std::min(fino_a, righe);
       fai();
@@ -51,15 +50,9 @@ struct Ganci {
   int Cedi() {
     int righe = std::numeric_limits<int>::max();
     cedi_(righe);
-    if (Ogni_Riga_Ascoltata()) {
-      cedi_a_riga_();
-      righe = 1;
-    }
     return righe == std::numeric_limits<int>::max() ? 1 : righe;
   }
-  bool Cedi_Ascoltato() const { return cedi_.Ascoltato() || Ogni_Riga_Ascoltata(); }
-  /// Somebody looks on line by line.
-  bool Ogni_Riga_Ascoltata() const { return cedi_a_riga_.Ascoltato(); }
+  bool Cedi_Ascoltato() const { return cedi_.Ascoltato(); }
 
   Annuncio<const Avviso&> Mostra;  ///< a message box; a round ends when it is closed
   Annuncio<const Atto&> Entra;     ///< something is about to enter
@@ -68,7 +61,6 @@ struct Ganci {
 
  private:
   Annuncio<int&> cedi_;
-  Annuncio<> cedi_a_riga_;
 };
 
 }  // namespace tavorno

@@ -79,7 +79,7 @@ bool Riposo::Ripete(std::int64_t righe) {
   else
     SM06(foto_[0].Memoria) ^= 1U;  // as every scan does
   if (Come_Allora() && Righe_Come_Allora()) {
-    fase_ = guardato && quiete_.Legge_SM06() ? Fase::Fermo : Fase::Riposo;
+    fase_ = guardato && Conta_SM06() ? Fase::Fermo : Fase::Riposo;
     return true;
   }
   if (!guardato) return Si_E_Posata();
@@ -94,7 +94,7 @@ bool Riposo::Ripete(std::int64_t righe) {
 /// No period of two, but the second of its scans changed nothing: what an edge moved took a scan to
 /// come to rest.
 bool Riposo::Si_E_Posata() {
-  if (fase_ != Fase::Diverso || quiete_.Legge_SM06()) return false;
+  if (fase_ != Fase::Diverso || Conta_SM06()) return false;
   lato_ = 1;
   SM06(foto_[1].Memoria) ^= 1U;
   if (!Come_Allora() || !Righe_Come_Allora()) return false;
@@ -122,7 +122,7 @@ bool Riposo::Scansione_Fatta(std::int64_t righe) {
     fase_ = Fase::Ignoto;
     if (attesa_ > 0) return false;
   }
-  if (!std::exchange(letto_, true)) quiete_.Leggi(plc_);
+  if (chi_ == Per::Le_Righe && !std::exchange(letto_, true)) quiete_.Leggi(plc_);
   Fotografa(0);
   periodo_ = 1;
   fase_ = Fase::Guardato;

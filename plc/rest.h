@@ -24,13 +24,17 @@ namespace tavorno {
 /// looks at it, two scans in a row, with nothing in between, are watched before anything is left
 /// out: the second proves that the toggling changes nothing else, or that it undoes what the first
 /// changed. In that case, a period of two, scans are left out in twos, and only where no output
-/// takes part in it. What changes between scans without a line that could tell (`Celle_Quiete`)
-/// ends no rest.
+/// takes part in it.
 ///
 /// In turn: `Riposa`; then a scan and `Scansione_Fatta`, or `Salta`.
 class Riposo {
  public:
-  explicit Riposo(Plc& plc) : plc_(plc) {}
+  /// Who has to notice what changes between two scans: the lines alone, since the owner looks
+  /// itself wherever time has passed, so that what no line can tell (`Celle_Quiete`) ends no rest;
+  /// or whoever looks on at the top of a scan as well, and then any change ends it.
+  enum class Per : std::uint8_t { Le_Righe, Chi_Guarda };
+
+  explicit Riposo(Plc& plc, Per chi = Per::Le_Righe) : plc_(plc), chi_(chi) {}
   Riposo(const Riposo&) = delete;
   Riposo& operator=(const Riposo&) = delete;
 
@@ -47,7 +51,8 @@ class Riposo {
   /// where a timer ticked or a hand moved since.
   bool Riposa() {
     if (fase_ == Fase::Ignoto) return false;
-    if (fase_ == Fase::Riposo && periodo_ == 1) quiete_.Porta_Avanti(plc_, foto_[0].Memoria);
+    if (chi_ == Per::Le_Righe && fase_ == Fase::Riposo && periodo_ == 1)
+      quiete_.Porta_Avanti(plc_, foto_[0].Memoria);
     parte_uguale_ = Come_Allora();
     return fase_ == Fase::Riposo && parte_uguale_;
   }
@@ -105,6 +110,7 @@ class Riposo {
     std::int64_t Righe_Scansione = 0;  // of the scan that begins here
   };
 
+  bool Conta_SM06() const { return chi_ == Per::Chi_Guarda || quiete_.Legge_SM06(); }
   void Fotografa(std::size_t lato);
   bool Uscite_Come_Allora() const;
   bool Come_Allora() const;
@@ -113,6 +119,7 @@ class Riposo {
   bool Si_E_Posata();
 
   Plc& plc_;
+  Per chi_;
   Fase fase_ = Fase::Ignoto;
   Celle_Quiete quiete_;
   bool letto_ = false;         // the program, by `quiete_`

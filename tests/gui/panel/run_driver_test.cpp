@@ -21,6 +21,7 @@ class RunDriver : public ::testing::Test {
 
   Seduta seduta;
   Plc& plc = seduta.plc;
+  QObject corsa_ferma;  // ends what waits for too long
   int aggiornamenti = 0;
   std::function<void()> al_terzo = [] {};
   Guida_Corsa corsa{plc, [this] {
@@ -105,6 +106,22 @@ TEST_F(RunDriver, MeasuresEachScanFromRunOn) {
   al_terzo = [this] { plc.mnuPlcStop(); };
   plc.mnuPlcRun();
   EXPECT_LE(corsa.Scansioni().Quante, plc.N_Cicli) << "the run before, of " << prima << ", counts";
+}
+
+// A diagram, too, shows clocks and timers that no line reads.
+TEST_F(RunDriver, WhoLooksOnSeesWhatChangesWhileTheProgramRests) {
+  Carica({"LD I0.0", "= Q0.0"});
+  int cambi = 0, prima = 0;
+  const Iscrizione occhio = plc.Hook.Ascolta_Cedi(
+      [&] {
+        const int adesso = plc.Mem_SM[0].Bit[5];
+        cambi += adesso != std::exchange(prima, adesso) ? 1 : 0;
+        if (cambi == 3) plc.mnuPlcStop();
+      },
+      1'000'000);
+  QTimer::singleShot(std::chrono::seconds{60}, &corsa_ferma, [this] { plc.mnuPlcStop(); });
+  plc.mnuPlcRun();
+  EXPECT_EQ(cambi, 3);
 }
 
 TEST_F(RunDriver, TakesItsYieldWithIt) {

@@ -13,6 +13,8 @@ namespace tavorno::prova {
 /// A program run in whole scans of a millisecond, each reported.
 class Rest : public Cpu {
  protected:
+  explicit Rest(Riposo::Per chi = Riposo::Per::Le_Righe) : riposo(plc, chi) {}
+
   void Avvia(const std::vector<std::string>& righe) {
     Carica(righe);
     Run_Step();
@@ -37,7 +39,7 @@ class Rest : public Cpu {
     return -1;
   }
 
-  Riposo riposo{plc};
+  Riposo riposo;
 };
 
 TEST_F(Rest, ComesOnceAScanHasChangedNothing) {
@@ -227,6 +229,25 @@ const Novita_Tra_Scansioni novita_tra_scansioni[] = {
     {"AClockInItsByte", {"LD I0.0", "MOVB SMB0, VB0"}, Batte, false},
 };
 INSTANTIATE_TEST_SUITE_P(Cells, RestThrough, testing::ValuesIn(novita_tra_scansioni),
+                         [](const auto& riga) { return std::string(riga.param.Cosa); });
+
+// Who looks on at the top of a scan sees all of these.
+struct WatchedRest : Rest, ::testing::WithParamInterface<Novita_Tra_Scansioni> {
+  WatchedRest() : Rest(Riposo::Per::Chi_Guarda) {}
+};
+
+TEST_P(WatchedRest, EndsWithAnyChange) {
+  Avvia(GetParam().Righe);
+  ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
+  plc.Mem_T[37].Val = 20;
+  plc.Mem_AIW[2] = 10000;
+  ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
+  ASSERT_TRUE(riposo.Riposa());
+  GetParam().Succede(plc);
+  EXPECT_FALSE(riposo.Riposa());
+}
+
+INSTANTIATE_TEST_SUITE_P(Cells, WatchedRest, testing::ValuesIn(novita_tra_scansioni),
                          [](const auto& riga) { return std::string(riga.param.Cosa); });
 
 // The timer is cleared in each scan, so its first tick is always seen.
