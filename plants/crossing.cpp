@@ -7,14 +7,16 @@ namespace {
 
 // clang-format off
 constexpr Riga_Figura figure_semaforo[] = {
-    // name, left, top, width, height, picture at first, tool tip
-    {"imgR",     6360,  180,  480,  480, "imgR0", "Lampada rossa veicoli (HL1), Q0.2"},
-    {"imgG",     6360,  690,  480,  480, "imgG0", "Lampada gialla veicoli (HL2), Q0.3"},
-    {"imgV",     6360, 1200,  480,  480, "imgV0", "Lampada verde veicoli (HL3), Q0.4"},
-    {"imgP1",    7980,  240,  600,  600, "imgP(1)", "Lampada rossa pedonale (HL4), Q0.0"},
-    {"imgP2",    7980,  960,  600,  600, "imgP(3)", "Lampada verde pedonale (HL5), Q0.1"},
-    {"imgSB(0)", 4020,   60,  360,  360, "imgROFF", "Prenotazione pedone (SB2), I0.0"},
-    {"imgSB(1)", 1680, 1440,  360,  360, "imgROFF", "Prenotazione pedone (SB1), I0.1"},
+    // name, {left, top, width, height}, looks at first
+    {"imgR",     {6360,  180, 480, 480}, {.Picture = "imgR0", .ToolTip = "Lampada rossa veicoli (HL1), Q0.2"}},
+    {"imgG",     {6360,  690, 480, 480}, {.Picture = "imgG0", .ToolTip = "Lampada gialla veicoli (HL2), Q0.3"}},
+    {"imgV",     {6360, 1200, 480, 480}, {.Picture = "imgV0", .ToolTip = "Lampada verde veicoli (HL3), Q0.4"}},
+    {"imgP1",    {7980,  240, 600, 600},
+     {.Picture = "imgP(1)", .ToolTip = "Lampada rossa pedonale (HL4), Q0.0"}},
+    {"imgP2",    {7980,  960, 600, 600},
+     {.Picture = "imgP(3)", .ToolTip = "Lampada verde pedonale (HL5), Q0.1"}},
+    {"imgSB(0)", {4020,   60, 360, 360}, {.Picture = "imgROFF", .ToolTip = "Prenotazione pedone (SB2), I0.0"}},
+    {"imgSB(1)", {1680, 1440, 360, 360}, {.Picture = "imgROFF", .ToolTip = "Prenotazione pedone (SB1), I0.1"}},
 };
 
 constexpr Riga_Pulsante pulsanti[] = {

@@ -7,23 +7,25 @@ namespace {
 
 // clang-format off
 constexpr Riga_Figura figure[] = {
-    // name, left, top, width, height, picture at first, tool tip
-    {"linKM",    1245, 1010,  390,  590},
-    {"filoQ(0)", 6810,  555,  300,  630, "", "", "Q0.0"},
-    {"filoQ(1)", 7350,  555,  300,  630, "", "", "Q0.1"},
-    {"filoQ(2)", 7890,  555,  300,  630, "", "", "Q0.2"},
-    {"filoQ(3)", 8430,  555,  300,  630, "", "", "Q0.3"},
-    {"imgKM",     720,  720,  930,  360, "imgKMOF", "DbClick per forzare apertura", "Q0.0"},
-    {"ImgTer",   1140, 1170,  600,  300, "ImgRTOF", "Click per simulare intervento", "I0.3"},
-    {"imgM",      652, 1590, 1650,  975, "imgMOF"},
-    {"etM",      1725, 1605,  760,  210},
-    {"imgKMa",   4590,  555,  300,  630, "imgAuxA", "Contatto ausiliario, I0.2"},
-    {"imgStop",  3030, 1740,  540,  540, "imgPGr0", "Stop, I0.0"},
-    {"imgStart", 4050, 1740,  540,  540, "imgVOFF", "Start, I0.1"},
-    {"ImgEm",    5070, 1740,  540,  540, "imgROFF", "Emergenza, I0.4"},
-    {"imgLA",    6120, 1770,  480,  480, Lampada_Spenta, "Lampada blu, Q0.1"},
-    {"imgLM",    7080, 1770,  480,  480, Lampada_Spenta, "Lampada verde, Q0.2"},
-    {"imgLRt",   8040, 1770,  480,  480, Lampada_Spenta, "Lampada gialla, Q0.3"},
+    // name, {left, top, width, height}, looks at first
+    {"linKM",    {1245, 1010,  390, 590}},
+    {"filoQ(0)", {6810,  555,  300, 630}, {.Morsetti = "Q0.0"}},
+    {"filoQ(1)", {7350,  555,  300, 630}, {.Morsetti = "Q0.1"}},
+    {"filoQ(2)", {7890,  555,  300, 630}, {.Morsetti = "Q0.2"}},
+    {"filoQ(3)", {8430,  555,  300, 630}, {.Morsetti = "Q0.3"}},
+    {"imgKM",    { 720,  720,  930, 360},
+     {.Picture = "imgKMOF", .ToolTip = "DbClick per forzare apertura", .Morsetti = "Q0.0"}},
+    {"ImgTer",   {1140, 1170,  600, 300},
+     {.Picture = "ImgRTOF", .ToolTip = "Click per simulare intervento", .Morsetti = "I0.3"}},
+    {"imgM",     { 652, 1590, 1650, 975}, {.Picture = "imgMOF"}},
+    {"etM",      {1725, 1605,  760, 210}},
+    {"imgKMa",   {4590,  555,  300, 630}, {.Picture = "imgAuxA", .ToolTip = "Contatto ausiliario, I0.2"}},
+    {"imgStop",  {3030, 1740,  540, 540}, {.Picture = "imgPGr0", .ToolTip = "Stop, I0.0"}},
+    {"imgStart", {4050, 1740,  540, 540}, {.Picture = "imgVOFF", .ToolTip = "Start, I0.1"}},
+    {"ImgEm",    {5070, 1740,  540, 540}, {.Picture = "imgROFF", .ToolTip = "Emergenza, I0.4"}},
+    {"imgLA",    {6120, 1770,  480, 480}, {.Picture = Lampada_Spenta, .ToolTip = "Lampada blu, Q0.1"}},
+    {"imgLM",    {7080, 1770,  480, 480}, {.Picture = Lampada_Spenta, .ToolTip = "Lampada verde, Q0.2"}},
+    {"imgLRt",   {8040, 1770,  480, 480}, {.Picture = Lampada_Spenta, .ToolTip = "Lampada gialla, Q0.3"}},
 };
 
 constexpr Riga_Pulsante pulsanti[] = {

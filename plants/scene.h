@@ -45,15 +45,25 @@ class Proprieta {
   T valore_;
 };
 
-/// Where a figure stands in the picture, and how it looks at first. Twips of the plant's area.
-struct Riga_Figura {
-  const char* Nome;  ///< "imgStop"; one of an array is "KM(2)"
+/// Where a figure stands, in twips of the plant's area.
+struct Posto_Figura {
   float Left, Top, Width, Height;
+};
+
+/// How a figure looks at first, and what it says of itself.
+struct Aspetto_Figura {
   const char* Picture = "";
   const char* ToolTip = "";
   /// Addresses of the inputs and outputs that it stands for, with blanks between them, where its
   /// tool tip does not say.
   const char* Morsetti = "";
+};
+
+/// A figure of a plant's picture.
+struct Riga_Figura {
+  const char* Nome;  ///< "imgStop"; one of an array is "KM(2)"
+  Posto_Figura Posto;
+  Aspetto_Figura Aspetto = {};
 };
 
 /// A named piece of a plant's picture. The plant writes its looks; whoever draws it reads them.

@@ -10,13 +10,13 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 constexpr Riga_Figura figure[] = {
-    {"imgSB", 0, 0, 600, 600, "imgVOFF"},
-    {"imgSA", 600, 0, 600, 600, "imgCS"},
-    {"imgHL", 1200, 0, 600, 600, Lampada_Spenta},
-    {"imgKM", 1800, 0, 600, 600, "imgKMOF"},
-    {"imgKMa", 2400, 0, 600, 600, "imgAuxA"},
-    {"linKM", 3000, 0, 60, 600},
-    {"imgFC", 3600, 0, 600, 600},
+    {"imgSB", {0, 0, 600, 600}, {.Picture = "imgVOFF"}},
+    {"imgSA", {600, 0, 600, 600}, {.Picture = "imgCS"}},
+    {"imgHL", {1200, 0, 600, 600}, {.Picture = Lampada_Spenta}},
+    {"imgKM", {1800, 0, 600, 600}, {.Picture = "imgKMOF"}},
+    {"imgKMa", {2400, 0, 600, 600}, {.Picture = "imgAuxA"}},
+    {"linKM", {3000, 0, 60, 600}},
+    {"imgFC", {3600, 0, 600, 600}},
 };
 
 constexpr Riga_Pulsante pulsanti[] = {{"imgSB", I(0, 1), '1', '0', "imgVON", "imgVOFF"}};

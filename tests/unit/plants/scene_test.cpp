@@ -12,9 +12,9 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 constexpr Riga_Figura figure_di_prova[] = {
-    {"imgC", 660, 1020, 900, 810, "imgFermo", "Cabina"},
-    {"shP(0)", 660, 0, 555, 810},
-    {"shP(1)", 1200, 0, 555, 810},
+    {"imgC", {660, 1020, 900, 810}, {.Picture = "imgFermo", .ToolTip = "Cabina"}},
+    {"shP(0)", {660, 0, 555, 810}},
+    {"shP(1)", {1200, 0, 555, 810}},
 };
 
 struct SceneTest : ::testing::Test {
