@@ -52,6 +52,8 @@ close_screen() {
 fail() {
   echo "FAILED: $*" >&2
   xwininfo -root -tree 2>/dev/null | grep -E '^ +0x[0-9a-f]+ "' >&2 || true
+  local picture=${TMPDIR:-/tmp}/tavorno-failed-$(basename "$0" .sh).png
+  ! import -window root "$picture" 2>/dev/null || echo "The screen is in $picture" >&2
   exit 1
 }
 

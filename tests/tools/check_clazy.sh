@@ -4,6 +4,7 @@
 # files are looked at as one text; where that finds anything or does not compile, each file is looked
 # at alone, and that counts. Usage: check_clazy.sh SOURCE_DIR BUILD_DIR
 set -euo pipefail
+source "${0%/*}/sources.sh"
 cd "$1"
 export found=$2/clazy as_one=${0%/*}/as_one.awk
 mkdir -p "$found"
@@ -28,6 +29,5 @@ check() {
   return $status
 }
 export -f check look
-# What is another system's cannot be looked at here.
-find assets awl/ui grading/ui ladder/ui panel plants/host recorder/ui widgets -name '*.cpp' -print0 | LC_ALL=C sort -z |
-  xargs -0 grep -LZ '^#include <windows.h>' | xargs -0 -n 70 -P "$(nproc)" bash -c 'check "$@"' check
+sources | grep -E '^(assets|[a-z]+/ui|panel|plants/host|widgets)/' |
+  xargs -n 70 -P "$(nproc)" bash -c 'check "$@"' check

@@ -6,18 +6,14 @@
 # configuration has changed; what is for another system needs that one's headers and is not looked at.
 # Usage: check_tidy.sh SOURCE_DIR BUILD_DIR
 set -euo pipefail
+source "${0%/*}/sources.sh"
 cd "$1"
 export stamps=$2/tidy
 mkdir -p "$stamps"
-found() { find . -path './build*' -prune -o -name "$1" -printf '%P\n' | LC_ALL=C sort; }
-headers=$(found '*.h')
-sources=()
-for file in $(found '*.cpp' | grep -vE '^(tests|benchmarks)/'); do
-  [[ $file == *_windows.cpp && -e ${file%_windows.cpp}_posix.cpp ]] ||
-    grep -q '^#include <windows.h>' "$file" || sources+=("$file")
-done
+headers=$(find . -path './build*' -prune -o -name '*.h' -printf '%P\n' | LC_ALL=C sort)
+mapfile -t sources < <(sources)
 # shellcheck disable=SC2086
-common=$(cat .clang-tidy "$0" "${0%/*}/as_one.awk" cmake/names.awk $headers | sha256sum)
+common=$(cat .clang-tidy "$0" "${0%/*}/sources.sh" "${0%/*}/as_one.awk" cmake/names.awk $headers | sha256sum)
 # The sanitizer and warning options belong to the other compiler.
 system=$(grep -ohE -- '-isystem [^ "]+' "$2/compile_commands.json" | sort -u | tr '\n' ' ')
 options="-std=c++20 -fPIC -DQT_NO_KEYWORDS -I. -I$2 $system -DTAVORNO_VERSION=\"\""
