@@ -59,7 +59,7 @@ class AwlEditor : public QsciScintilla {
   void In_Un_Passo(const std::function<void()>& modifiche);
   void Dimentica_Annulla() { SendScintilla(SCI_EMPTYUNDOBUFFER); }
 
-  /// Shows another text. Its undo history and its marks are its own.
+  /// Shows another text, from its beginning. Its undo history and its marks are its own.
   void Mostra_Documento(const QsciDocument& documento);
 
   /// Numbers in the margin by line, `Numerazione::Nessuno` for none; lines beyond have none.
@@ -88,6 +88,16 @@ class AwlEditor : public QsciScintilla {
     int Colonna = 0;
   };
   Punto Cursore() const;
+  /// What of the text is selected and in sight: bytes, a line, pixels.
+  struct Veduta {
+    long Ancora = 0;
+    long Cursore = 0;
+    long Prima_Linea = 0;
+    long Scostamento = 0;
+  };
+  Veduta Come_Si_Vede() const;
+  /// Places that the text does not have become its nearest ones.
+  void Rivedi(const Veduta& veduta);
   /// The lines that the selection touches, or the caret's: the first and the last.
   std::pair<int, int> Linee_Scelte() const;
   /// Selects a piece of a line and brings it into sight.

@@ -21,6 +21,17 @@ AwlEditor::Punto AwlEditor::Cursore() const {
   return punto;
 }
 
+AwlEditor::Veduta AwlEditor::Come_Si_Vede() const {
+  return {SendScintilla(SCI_GETANCHOR), SendScintilla(SCI_GETCURRENTPOS),
+          SendScintilla(SCI_GETFIRSTVISIBLELINE), SendScintilla(SCI_GETXOFFSET)};
+}
+
+void AwlEditor::Rivedi(const Veduta& veduta) {
+  SendScintilla(SCI_SETSEL, veduta.Ancora, veduta.Cursore);
+  SendScintilla(SCI_SETFIRSTVISIBLELINE, veduta.Prima_Linea);
+  SendScintilla(SCI_SETXOFFSET, veduta.Scostamento);
+}
+
 std::pair<int, int> AwlEditor::Linee_Scelte() const {
   const long inizio = SendScintilla(SCI_GETSELECTIONSTART);
   const long fine = SendScintilla(SCI_GETSELECTIONEND);

@@ -123,7 +123,7 @@ class FrmMain : public QMainWindow {
     QsciDocument Main;
     Documenti_Procedure Procedure;
     Segni_Errori Segni;
-    int Cursore = 0;  // position of the caret in the text in front
+    AwlEditor::Veduta Veduta_Main;
   };
   Vista Come_Sta() const;
   AwlEditor& Davanti() const;
@@ -135,6 +135,7 @@ class FrmMain : public QMainWindow {
   void Specchia();
   void Specchia_Esiti();
   bool Specchia_Schede();
+  void Mostra_Procedura(int riga);
   void Specchia_Voci();
   void Specchia_Residuo(bool scelta);
   void Specchia_Numeri();
@@ -170,6 +171,7 @@ class FrmMain : public QMainWindow {
   std::array<QCheckBox*, 2> chkCom{};
 
   Documenti_Procedure documenti_;
+  int mostrata_ = 0;  // key of the text in `txtP`, 0 for one that belongs to no procedure
   Segni_Errori segni_;
   QsciDocument residuo_;  // what `txtP` shows while no procedure is selected
   Comandi_Testi* comandi_ = nullptr;

@@ -8,8 +8,10 @@
 namespace tavorno {
 
 FrmMain::Vista FrmMain::Come_Sta() const {
-  return {p_, txtList->document(), documenti_, segni_,
-          static_cast<int>(Davanti().SendScintilla(QsciScintilla::SCI_GETCURRENTPOS))};
+  Vista vista{p_, txtList->document(), documenti_, segni_, txtList->Come_Si_Vede()};
+  if (const int riga = documenti_.Riga(mostrata_); riga != 0)
+    vista.Procedure.Veduta_Di(riga) = txtP->Come_Si_Vede();
+  return vista;
 }
 
 AwlEditor& FrmMain::Davanti() const {
@@ -22,6 +24,7 @@ void FrmMain::Sostituito(Vista prima) {
   txtList->Mostra_Documento(QsciDocument());
   documenti_.Svuota();
   documenti_.Adegua(p_.Num_SBR);
+  mostrata_ = 0;
   residuo_ = QsciDocument();
   testi_nuovi_ = true;
   segni_.Dimentica();
@@ -38,11 +41,12 @@ void FrmMain::Rimetti(Vista vista) {
   p_.Gestione_Voci(p_.Comandi_Attivi || !p_.Vuoto() ? 1 : 0);
   txtList->Mostra_Documento(vista.Main);
   documenti_ = std::move(vista.Procedure);
+  mostrata_ = 0;
   residuo_ = QsciDocument();
   segni_ = std::move(vista.Segni);
   storia_.Arrivato(p_.Testi());
   Specchia();
-  Davanti().SendScintilla(QsciScintilla::SCI_GOTOPOS, vista.Cursore);
+  txtList->Rivedi(vista.Veduta_Main);
 }
 
 void FrmMain::Collega_Storia() {

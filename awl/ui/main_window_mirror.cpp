@@ -57,12 +57,21 @@ bool FrmMain::Specchia_Schede() {
   }
   if (p_.Scheda >= 1) TabSP->setCurrentIndex(p_.Scheda - 1);
   // Without a selected row the text on screen belongs to nobody.
-  if (p_.Scheda < 1 || p_.Scheda > p_.Num_SBR) {
-    txtP->Mostra_Documento(residuo_);
-    return true;
-  }
-  txtP->Mostra_Documento(documenti_.Di(p_.Scheda));
-  return documenti_.Prima_Volta(p_.Scheda);
+  const bool di_nessuno = p_.Scheda < 1 || p_.Scheda > p_.Num_SBR;
+  Mostra_Procedura(di_nessuno ? 0 : p_.Scheda);
+  return di_nessuno || documenti_.Prima_Volta(p_.Scheda);
+}
+
+/// The text of a row, or with 0 the leftover, as it was seen last: the component shows each from
+/// its beginning.
+void FrmMain::Mostra_Procedura(int riga) {
+  const int chiave = riga == 0 ? 0 : documenti_.Chiave(riga);
+  const bool altra = chiave != mostrata_;
+  if (const int prima = documenti_.Riga(mostrata_); altra && prima != 0)
+    documenti_.Veduta_Di(prima) = txtP->Come_Si_Vede();
+  txtP->Mostra_Documento(riga == 0 ? residuo_ : documenti_.Di(riga));
+  if (altra && riga != 0) txtP->Rivedi(documenti_.Veduta_Di(riga));
+  mostrata_ = chiave;
 }
 
 void FrmMain::Specchia_Esiti() {

@@ -27,6 +27,10 @@ bool Documenti_Procedure::Prima_Volta(int riga) {
   return !std::exchange(documenti_.at(static_cast<std::size_t>(riga - 1)).Mostrato, true);
 }
 
+AwlEditor::Veduta& Documenti_Procedure::Veduta_Di(int riga) {
+  return documenti_.at(static_cast<std::size_t>(riga - 1)).Veduta;
+}
+
 int Documenti_Procedure::Chiave(int riga) const {
   return documenti_.at(static_cast<std::size_t>(riga - 1)).Chiave;
 }

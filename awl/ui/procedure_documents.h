@@ -3,12 +3,13 @@
 
 #include <vector>
 
+#include "awl/ui/awl_editor.h"
 #include "awl/ui/scintilla.h"
 
 namespace tavorno {
 
-/// One text of the editor for each procedure, so that each keeps its own undo history. They stand
-/// in the order of `Tab_SBR` and move with its rows.
+/// One text of the editor for each procedure, so that each keeps its own undo history, caret
+/// and scroll. They stand in the order of `Tab_SBR` and move with its rows.
 class Documenti_Procedure {
  public:
   /// As after a read: rows keep their text by place.
@@ -23,14 +24,17 @@ class Documenti_Procedure {
   /// A number that stays with the text wherever it moves, from 1 and never used twice.
   int Chiave(int riga) const;
   int Riga(int chiave) const;  ///< 0 when that text is gone
+  /// What was last seen of that text.
+  AwlEditor::Veduta& Veduta_Di(int riga);
 
  private:
   struct Documento {
     QsciDocument Testo;
     int Chiave = 0;
     bool Mostrato = false;
+    AwlEditor::Veduta Veduta;
   };
-  Documento Nuovo() { return {QsciDocument(), ++ultima_chiave_, false}; }
+  Documento Nuovo() { return {QsciDocument(), ++ultima_chiave_, false, {}}; }
 
   std::vector<Documento> documenti_;  // row 1 is at 0
   int ultima_chiave_ = 0;

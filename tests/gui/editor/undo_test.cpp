@@ -12,6 +12,19 @@ class Undo : public Banco_Editor {
  public:
   const std::string due_procedure =
       Blocco_Main({"NETWORK 1", "LD I0.0"}) + Blocco_SBR(0, {"NOT"}) + Blocco_SBR(1, {"NOP"});
+
+  /// Two procedures that are longer than the window is high.
+  void Avvia_Lunghe() {
+    const Lista cento(100, "NOT");
+    Avvia_Con(Blocco_Main({"NETWORK 1"}) + Blocco_SBR(0, cento) + Blocco_SBR(1, cento));
+    Comanda("mnuViewC(1)");
+  }
+  /// Caret, beginning of the selection and scroll.
+  static std::vector<long> Veduta(const AwlEditor& testo) {
+    return {testo.SendScintilla(QsciScintilla::SCI_GETCURRENTPOS),
+            testo.SendScintilla(QsciScintilla::SCI_GETANCHOR),
+            testo.SendScintilla(QsciScintilla::SCI_GETFIRSTVISIBLELINE)};
+  }
 };
 
 }  // namespace
@@ -33,6 +46,45 @@ TEST_F(Undo, EachProcedureKeepsItsOwnHistory) {
   EXPECT_EQ(txtP().Byte(), prima);
   EXPECT_EQ(progetto.Tab_SBR[1].Testo, prima);
   EXPECT_EQ(progetto.Tab_SBR[2].Testo, seconda);
+}
+
+TEST_F(Undo, EachProcedureKeepsItsCaretSelectionAndScroll) {
+  Avvia_Lunghe();
+  txtP().setSelection(60, 1, 60, 3);
+  txtP().setFirstVisibleLine(55);
+  const std::vector<long> prima = Veduta(txtP());
+  ASSERT_EQ(prima[2], 55);
+  Clicca_Scheda(1);
+  EXPECT_EQ(Veduta(txtP()), (std::vector<long>{0, 0, 0}));  // nobody has been there
+  txtP().setCursorPosition(30, 2);
+  txtP().setFirstVisibleLine(20);
+  const std::vector<long> seconda = Veduta(txtP());
+  Clicca_Scheda(0);
+  EXPECT_EQ(Veduta(txtP()), prima);
+  TabSP().setCurrentIndex(1);  // as the arrow keys do
+  EXPECT_EQ(Veduta(txtP()), seconda);
+  Premi("cmdSub");
+  Clicca_Scheda(0);
+  EXPECT_EQ(Veduta(txtP()), prima);
+  Premi("cmdDelP");
+  Clicca_Scheda(0);
+  EXPECT_EQ(Veduta(txtP()), seconda);
+}
+
+TEST_F(Undo, WhatComesBackIsSeenAsItWas) {
+  Avvia_Lunghe();
+  txtP().setCursorPosition(60, 1);
+  txtP().setFirstVisibleLine(55);
+  const std::vector<long> prima = Veduta(txtP());
+  Clicca_Scheda(1);
+  txtP().setCursorPosition(30, 2);
+  txtP().setFirstVisibleLine(20);
+  const std::vector<long> seconda = Veduta(txtP());
+  Comanda("mnuFileNew");
+  txtList().undo();
+  EXPECT_EQ(Veduta(txtP()), seconda);
+  Clicca_Scheda(0);
+  EXPECT_EQ(Veduta(txtP()), prima);
 }
 
 TEST_F(Undo, HistoriesMoveWithTheirProcedures) {
