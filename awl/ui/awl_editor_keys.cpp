@@ -80,7 +80,8 @@ void AwlEditor::keyPressEvent(QKeyEvent* evento) {
 /// What the component itself does with a key. Where it has no command for a combination it would
 /// type the letter of its key.
 void AwlEditor::Batti(QKeyEvent& evento) {
-  Senza_Lettera(evento, [this](QKeyEvent& tasto) { QsciScintilla::keyPressEvent(&tasto); });
+  Senza_Lettera(evento, Senza_AltGr(evento),
+                [this](QKeyEvent& tasto) { QsciScintilla::keyPressEvent(&tasto); });
 }
 
 void AwlEditor::Cedi_Tasti(const QKeySequence& tasti) {

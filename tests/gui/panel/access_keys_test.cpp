@@ -68,6 +68,10 @@ void Esamina_Finestra(const QWidget& finestra) {
   for (const auto* voce : finestra.findChildren<QAction*>()) {
     const std::string tasti = Utf8(voce->shortcut().toString(QKeySequence::PortableText));
     if (tasti.size() == 5 && tasti.starts_with("Alt+")) lettere.Prende(tasti, voce->text());
+    // Where AltGr comes as both, a command there would take a letter away.
+    for (const QKeySequence& questi : voce->shortcuts())
+      EXPECT_FALSE(questi[0].keyboardModifiers().testFlags(Qt::ControlModifier | Qt::AltModifier))
+          << Utf8(voce->text());
   }
 }
 
