@@ -6,6 +6,7 @@
 #include <QStyleOption>
 #include <algorithm>
 
+#include "widgets/close_icon.h"
 #include "widgets/colours.h"
 
 namespace tavorno {
@@ -172,6 +173,12 @@ void Stile_Chiaro::drawComplexControl(ComplexControl parte, const QStyleOptionCo
       break;
   }
   if (!fatto) disegna(opzioni);
+}
+
+QIcon Stile_Chiaro::standardIcon(StandardPixmap quale, const QStyleOption* opzioni,
+                                 const QWidget* sopra) const {
+  if (quale == SP_TitleBarCloseButton) return Croce_Di_Chiusura();
+  return QProxyStyle::standardIcon(quale, opzioni, sopra);
 }
 
 }  // namespace tavorno

@@ -30,6 +30,8 @@ class Stile_Chiaro : public QProxyStyle {
                    const QWidget* sopra) const override;
   void drawComplexControl(ComplexControl parte, const QStyleOptionComplex* opzioni,
                           QPainter* pittore, const QWidget* sopra) const override;
+  QIcon standardIcon(StandardPixmap quale, const QStyleOption* opzioni,
+                     const QWidget* sopra) const override;
 
  private:
   QPalette Per(const QPalette& tinte, bool velati = false) const;

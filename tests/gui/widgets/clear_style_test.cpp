@@ -5,10 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
@@ -117,6 +120,28 @@ TEST_P(Contorni, OfARadioButtonThatIsNotChosen) {
   opzioni.initFrom(&tasto);
   Ha_Cornice(carta,
              tasto.style()->subElementRect(QStyle::SE_RadioButtonIndicator, &opzioni, &tasto));
+}
+
+TEST_P(Contorni, OfTheButtonThatClosesAView) {
+  QMainWindow finestra;
+  auto* riquadro = new QDockWidget(QStringLiteral("Lista"), &finestra);
+  finestra.addDockWidget(Qt::RightDockWidgetArea, riquadro);
+  auto* tasto = riquadro->findChild<QAbstractButton*>(QStringLiteral("qt_dockwidget_closebutton"));
+  ASSERT_NE(tasto, nullptr);
+  for (const double punti : {1.0, 2.0}) {
+    SCOPED_TRACE(punti);
+    const QPixmap segno = tasto->icon().pixmap(QSize(11, 13), punti);
+    EXPECT_EQ(segno.size(), QSize(11, 13) * punti) << "drawn for the screen, not stretched";
+    QImage carta(segno.size(), QImage::Format_RGB32);
+    carta.setDevicePixelRatio(punti);
+    carta.fill(Fondo());
+    QPainter(&carta).drawPixmap(0, 0, segno);
+    // From the middle along the arms.
+    const QPoint mezzo(carta.width() / 2, carta.height() / 2);
+    for (const QPoint passo : {QPoint(1, 1), QPoint(-1, -1), QPoint(1, -1), QPoint(-1, 1)})
+      EXPECT_GE(Contrasto(carta.pixelColor(mezzo + passo * static_cast<int>(2 * punti)), Fondo()),
+                colori::Visibile);
+  }
 }
 
 TEST_P(Contorni, OfFieldsAndButtons) {
