@@ -393,6 +393,7 @@ Controlli_Pannello Crea_Controlli(QMainWindow& finestra, Plc& plc, Azioni_Pannel
   lista->addWidget(c.listSrc, 1);
   in_colonna->addWidget(c.vistaLista, 1);
   in_colonna->addWidget(Potenziometri(c));
+  in_colonna->addStretch();  // takes nothing but where the list stands elsewhere
 
   finestra.setCentralWidget(new Area_Pannello(centro, {c.Fronte, corsa, c.SSTb4, destra}));
   finestra.resize(1060, 700);
