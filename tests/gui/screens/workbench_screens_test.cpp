@@ -84,6 +84,8 @@ TEST_F(Tavolo_Sullo_Schermo, ThePanelFitsWithItsViews) {
   const QRect prima = pannello.geometry();
   Le_Viste(Apri());
   EXPECT_EQ(Mostrate().size(), 1U);
+  const QWidget& potenziometri = *c.SlidP[0]->parentWidget();
+  EXPECT_EQ(potenziometri.height(), potenziometri.sizeHint().height()) << "not where the list was";
   Si_Comanda();
   Azione(pannello, "mnuViewFinestre").trigger();
   Aspetta_Posa();
