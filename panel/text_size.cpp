@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QVariant>
 #include <QWheelEvent>
 #include <algorithm>
@@ -106,11 +107,19 @@ void Grandezza_Testo::Proietta(QWidget* finestra) {
   const QPointer<QWidget> prima = std::exchange(proiettata_, nullptr);
   if (prima) {
     Applica(*prima, 1);
+    if (prima->layout() != nullptr) prima->layout()->setSizeConstraint(vincolo_);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     posto_proiettata_->Rimetti(*prima);
   }
   if (finestra != nullptr && finestra != prima) {
     proiettata_ = finestra;
     posto_proiettata_.emplace(*finestra);
+    // A layout that wants more room for the larger texts would resize the window, which then no
+    // longer fills the screen.
+    if (QLayout* disposizione = finestra->layout()) {
+      vincolo_ = disposizione->sizeConstraint();
+      disposizione->setSizeConstraint(QLayout::SetNoConstraint);
+    }
     Applica(*finestra, Di_Proiettore);
     finestra->showFullScreen();
   }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QLayout>
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
@@ -45,6 +46,7 @@ class Grandezza_Testo : public QObject {
   int passi_ = 0;
   QPointer<QWidget> proiettata_;
   std::optional<Posto_Finestra> posto_proiettata_;
+  QLayout::SizeConstraint vincolo_ = QLayout::SetDefaultConstraint;  // its layout's, before
 };
 
 }  // namespace tavorno

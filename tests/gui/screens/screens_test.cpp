@@ -180,6 +180,32 @@ TEST_F(Seduta_Sullo_Schermo, TheBarThatCameAtTheWorkbenchFindsItsRoomOutsideToo)
   Trova_Posto();
 }
 
+TEST_F(Schermi, TheProjectorFillsTheScreenWithEveryWindowAndGivesItBack) {
+  finestre.Mostra_Editor(Avvio::Nuovo);
+  finestre.Mostra_Stati();
+  finestre.Mostra_Tempi();
+  Aspetta_Posa();
+  const auto proietta = [](QWidget& finestra) {
+    QTest::keyClick(&finestra, Qt::Key_F11);
+    for (int giro = 0; giro < 10; ++giro) QCoreApplication::processEvents();
+  };
+  for (const char* nome : {"frmMain", "frmStatiL", "frmTempi", "frmPLC"}) {
+    SCOPED_TRACE(nome);
+    QWidget& finestra = *Finestra(nome);
+    finestra.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
+    const QRect posto(finestra.pos(), finestra.size());
+    for (int volta = 0; volta < 2; ++volta) {
+      proietta(finestra);
+      EXPECT_TRUE(finestra.isFullScreen());
+      EXPECT_EQ(finestra.geometry(), finestra.screen()->geometry());
+      proietta(finestra);
+      EXPECT_FALSE(finestra.isFullScreen());
+      EXPECT_EQ(QRect(finestra.pos(), finestra.size()), posto);
+    }
+  }
+}
+
 TEST_F(Schermi, AWindowMovedByHandIsLeftAloneUntilTheOrderIsAskedFor) {
   Azione(pannello, "mnuPrj(0)").trigger();
   Aspetta_Posa();
