@@ -6,7 +6,6 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QSettings>
-#include <QStyle>
 #include <cmath>
 
 #include "awl/file_io.h"
@@ -39,12 +38,10 @@ QString Didascalia(const Figura& figura, const QRectF& posto) {
 
 }  // namespace
 
-bool Quadro::Preferite_Ridotte() {
-  // A desktop whose user wants stillness tells the style to animate nothing.
-  const bool desktop_fermo =
-      QWidget().style()->styleHint(QStyle::SH_Widget_Animation_Duration) == 0;
+void Quadro::Ricorda_Scelta() {
   const QSettings preferenze(nome_preferenze, nome_preferenze);
-  return preferenze.value(chiave_ridotte, desktop_fermo).toBool();
+  scelto_ = preferenze.contains(chiave_ridotte);
+  ridotte_ = preferenze.value(chiave_ridotte).toBool();
 }
 
 QString Quadro::Come_Svg() const {

@@ -208,6 +208,7 @@ void Quadro::wheelEvent(QWheelEvent* evento) {
 
 bool Quadro::event(QEvent* evento) {
   if (evento->type() == QEvent::ApplicationPaletteChange) tela_ = QPixmap();  // other shades
+  if (evento->type() == QEvent::WindowActivate) Senti_Scrivania();  // which may have been changed
   if (evento->type() != QEvent::ToolTip) return QWidget::event(evento);
   auto* aiuto = static_cast<QHelpEvent*>(evento);
   // What cannot be operated, a lamp or a limit switch, has its name as well.

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What moves in a picture: figures on their way between two ticks of the physics, and drawings that
 // run for as long as they are shown.
+#include <QAction>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "plants/host/picture_widget.h"
+#include "widgets/desktop_motion.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -55,7 +57,21 @@ QRectF Tra(const QRectF& da, const QRectF& a, double parte) {
 }  // namespace
 
 void Quadro::Riduci_Animazioni(bool ridotte) {
+  scelto_ = true;
+  Ferma(ridotte);
+}
+
+/// Whoever has chosen here is not asked through the desktop.
+void Quadro::Senti_Scrivania() {
+  if (scelto_) return;
+  Chiedi_Se_Fermo(*this, [this](bool fermo) {
+    if (!scelto_ && fermo != ridotte_) Ferma(fermo);
+  });
+}
+
+void Quadro::Ferma(bool ridotte) {
   ridotte_ = ridotte;
+  findChild<QAction*>(QStringLiteral("mnuRiduci"))->setChecked(ridotte);
   for (Vista& vista : viste_) {
     vista.Ora = Rettangolo(*vista.Di);
     vista.Trascorsi = vista.Durata = 0;
@@ -145,6 +161,7 @@ void Quadro::Avanza(int ms) {
 
 void Quadro::showEvent(QShowEvent* evento) {
   QWidget::showEvent(evento);
+  Senti_Scrivania();
   if (!ritmo_.isActive()) ritmo_.start();
 }
 

@@ -29,7 +29,7 @@ Quadro::Quadro(Impianto& impianto, const QString& file, QWidget* sopra)
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setContextMenuPolicy(Qt::ActionsContextMenu);
-  ridotte_ = Preferite_Ridotte();
+  Ricorda_Scelta();
   Monta_Voci();
   for (Figura& figura : impianto_.Disegno) {
     Vista vista;

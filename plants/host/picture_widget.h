@@ -53,12 +53,10 @@ class Quadro : public QWidget, public Per_Lettori {
   void Avanza(int ms);
   /// Something is on its way or runs, so that drawings follow each other.
   bool Si_Muove() const;
-  /// Still pictures: what travels jumps, what runs stands.
+  /// Still pictures: what travels jumps, what runs stands. Until somebody chooses, here or in the
+  /// menu of an earlier picture, it is as the desktop asks for.
   void Riduci_Animazioni(bool ridotte);
   bool Animazioni_Ridotte() const { return ridotte_; }
-
-  /// What the user has chosen, or else what the desktop asks for.
-  static bool Preferite_Ridotte();
 
   /// The addresses of the inputs and outputs that a figure stands for: "I0.3", "AIW0".
   QStringList Morsetti_Di(const Figura& figura) const;
@@ -159,6 +157,9 @@ class Quadro : public QWidget, public Per_Lettori {
   }
   QString Stato_Detto(const Figura& figura) const;
   void Annuncia_Aspetto(const Vista& vista);
+  void Ferma(bool ridotte);
+  void Senti_Scrivania();
+  void Ricorda_Scelta();
   void Salva(const QString& tipo);
   QString Chiedi_Con_Finestra(const QString& tipo);
   /// `mano`: `mouse_` or `spazio_`.
@@ -186,6 +187,7 @@ class Quadro : public QWidget, public Per_Lettori {
   QElapsedTimer orologio_;
   qint64 tempo_ = 0;  // of the view, ms
   bool ridotte_ = false;
+  bool scelto_ = false;          // somebody has chosen between moving and still pictures
   QString fuoco_;                // name of the figure that the keyboard operates
   bool fuoco_in_vista_ = false;  // its frame would cross labels, so it waits for a key
   Figura* sopra_ = nullptr;      // under the pointer
