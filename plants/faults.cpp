@@ -154,7 +154,7 @@ std::vector<Guasto_Impianto> Guasti_Di(const Esercizio& esercizio, std::string_v
   for (const Riga_IO& riga : esercizio.Righe_IO) {
     for (const Guasto_Filo cosa : {Guasto_Filo::Interrotto, Guasto_Filo::Incollato}) {
       const auto filo = Leggi_Nome_Filo(Nome_Guasto(cosa, riga.Indirizzo));
-      if (!filo || (filo->Analogico && !esercizio.Analogici)) continue;
+      if (!filo) continue;
       guasti.push_back(Del_Filo(cosa, riga, !filo->Analogico && a_riposo.at(filo->Posto) == '1'));
     }
   }

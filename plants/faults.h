@@ -34,9 +34,8 @@ struct Guasto_Impianto {
 };
 
 /// All faults of an exercise: first those of the plant itself, then those of the wires, two for
-/// each input ("filo(I0.3)", "incollato(I0.3)") and one for each analog value that the link
-/// carries. `a_riposo`: the plant's inputs at rest, sixteen characters; words about buttons depend
-/// on it.
+/// each input ("filo(I0.3)", "incollato(I0.3)") and one for each analog value ("filo(AIW0)").
+/// `a_riposo`: the plant's inputs at rest, sixteen characters; words about buttons depend on it.
 std::vector<Guasto_Impianto> Guasti_Di(const Esercizio& esercizio, std::string_view a_riposo);
 
 /// It is there now.

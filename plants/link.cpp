@@ -2,9 +2,18 @@
 #include "plants/link.h"
 
 #include <algorithm>
+#include <limits>
 #include <stdexcept>
+#include <utility>
 
 namespace tavorno {
+
+namespace {
+
+// On a channel behind a broken wire: as good as no voltage, and yet a value that no plant writes.
+constexpr float senza_filo = std::numeric_limits<float>::denorm_min();
+
+}  // namespace
 
 Collegamento::Collegamento(Plc& plc, Stato_Impianto& stato, const Esercizio& esercizio,
                            std::function<void(Modo_Sportello)> sportello)
@@ -21,6 +30,7 @@ void Collegamento::Apri() {
   aperto_ = true;
   chkSim_ = false;
   guasti_ = {};
+  dietro_ = {};
   valori_.clear();
   for (const Cursore& cursore : esercizio_.Cursori) valori_.push_back(cursore.Inizio);
 
@@ -78,8 +88,11 @@ bool Collegamento::Entra(const Atto& entrata) {
       return macchina_->Clic(entrata.Testo);
     case Cosa::Doppio_Clic:
       return macchina_->Doppio_Clic(entrata.Testo);
-    case Cosa::Regola:
-      return macchina_->Regola(entrata.Testo, entrata.Valore);
+    case Cosa::Regola: {
+      const bool sentito = macchina_->Regola(entrata.Testo, entrata.Valore);
+      Taglia_Canali();
+      return sentito;
+    }
     case Cosa::Guasto:
       return Guasta(entrata.Testo, entrata.Numero != 0);
     default:
@@ -109,6 +122,7 @@ void Collegamento::Scrivi_Cursori() {
 }
 
 void Collegamento::Ingressi_Cambiati() {
+  Taglia_Canali();
   if (chkSim_) return;
   const std::string ingressi = guasti_.Ai_Morsetti(macchina_->Stato_I());
   plc_.SI[0].Stato_I(ingressi.substr(0, 8));
@@ -121,9 +135,23 @@ void Collegamento::Ingressi_Cambiati() {
   }
 }
 
+/// Of a plant that writes the channels itself: what it has written since the last time goes behind
+/// the wires that are broken, and comes back when they are mended.
+void Collegamento::Taglia_Canali() {
+  if (esercizio_.Analogici) return;
+  for (std::size_t canale = 0; canale < dietro_.size(); ++canale) {
+    float& volt = plc_.Volt_AI[static_cast<int>(canale)];
+    const bool rotto = guasti_.Attivo({.Analogico = true, .Posto = canale});
+    if (rotto && volt != senza_filo)
+      dietro_[canale] = std::exchange(volt, senza_filo);
+    else if (!rotto && volt == senza_filo)
+      volt = dietro_[canale];
+  }
+}
+
 std::optional<Nome_Filo> Collegamento::Filo(std::string_view nome) const {
   const std::optional<Nome_Filo> filo = Leggi_Nome_Filo(nome);
-  if (!filo || (filo->Analogico && !esercizio_.Analogici)) return {};
+  if (!filo) return {};
   const bool suo = std::ranges::any_of(esercizio_.Righe_IO, [&](const Riga_IO& riga) {
     return Nome_Guasto(filo->Cosa, riga.Indirizzo) == nome;
   });

@@ -73,13 +73,14 @@ class Collegamento {
 
   /// Breaks or mends the wire of an input, by a name such as "filo(I0.3)" (see `Guasto_Filo`). The
   /// plant does not know; what its contact says reaches the terminal as the wire lets it. False for
-  /// an input that the exercise does not have, or whose analog value takes another way.
+  /// an input that the exercise does not have.
   bool Guasta(std::string_view nome, bool attivo);
   /// The wire has that fault now.
   bool Guastato(std::string_view nome) const;
 
  private:
   void Ingressi_Cambiati();
+  void Taglia_Canali();
   void Uscite_Cambiate();
   void Scrivi_Cursori();
   std::optional<Nome_Filo> Filo(std::string_view nome) const;
@@ -96,6 +97,7 @@ class Collegamento {
   bool chkSim_ = false;
   std::vector<int> valori_;  // of the sliders
   Guasti_Fili guasti_;
+  std::array<float, 3> dietro_{};  // what a plant wrote on channels whose wires are broken
   std::string a_riposo_;
 };
 

@@ -9,6 +9,7 @@
 
 #include "link_bed.h"
 #include "plant_bed.h"
+#include "plc/number_text.h"
 
 namespace tavorno::prova {
 
@@ -139,6 +140,42 @@ TEST_F(WireFaults, AnAnalogWireThatIsBrokenCarriesNoVoltage) {
   EXPECT_EQ(plc.Volt_AI[1], 2.0F) << "the other channel is whole";
   EXPECT_TRUE(filo->Guasta("filo(AIW0)", false));
   EXPECT_EQ(plc.Volt_AI[0], 7.0F);
+}
+
+TEST_F(WireFaults, AnAxisWithoutItsPositionRunsOnAndIsBelievedToStandAtZero) {
+  Apri(17);
+  const auto regola = [this](const char* nome, double valore) {
+    return filo->Entra({.Che = Cosa::Regola, .Valore = valore, .Testo = nome});
+  };
+  Macchina().Premi("cmdV1");
+  Passa(3000);
+  ASSERT_GT(plc.Volt_AI[0], 0.05F) << "the axis travels";
+  EXPECT_TRUE(filo->Guasta("filo(AIW0)", true));
+  const float prima = Macchina().Disegno["ShIndP"].Left;
+  Passa(3000);
+  EXPECT_GT(Macchina().Disegno["ShIndP"].Left, prima) << "the plant does not know";
+  EXPECT_LT(plc.Volt_AI[0], 1e-30F);
+  Macchina().Rilascia("cmdV1");
+
+  EXPECT_TRUE(filo->Guasta("filo(AIW2)", true));
+  EXPECT_LT(plc.Volt_AI[1], 1e-30F);
+  EXPECT_TRUE(regola("UpD1", 0));
+  EXPECT_TRUE(regola("UpD1", 30));
+  EXPECT_LT(plc.Volt_AI[1], 1e-30F) << "what is set meanwhile does not arrive either";
+  EXPECT_EQ(plc.Volt_AI[2], 0.005F) << "the third channel is whole";
+
+  for (const char* nome : {"filo(AIW0)", "filo(AIW2)"}) EXPECT_TRUE(filo->Guasta(nome, false));
+  EXPECT_GT(plc.Volt_AI[0], 0.05F) << "mended, it tells at once where the axis stands";
+  EXPECT_EQ(Formato(plc.Volt_AI[0], "#0.00"), Macchina().Disegno["EtPos"].Caption());
+  EXPECT_EQ(plc.Volt_AI[1], 3.0F);
+}
+
+TEST_F(WireFaults, AZeroThatIsSetBehindABrokenWireStaysAZero) {
+  Apri(17);
+  EXPECT_TRUE(filo->Guasta("filo(AIW2)", true));
+  filo->Entra({.Che = Cosa::Regola, .Valore = 0, .Testo = "UpD1"});
+  EXPECT_TRUE(filo->Guasta("filo(AIW2)", false));
+  EXPECT_EQ(plc.Volt_AI[1], 0.0F);
 }
 
 TEST_F(WireFaults, TheSwitchesOfThePanelHaveNoWireToBreak) {
