@@ -139,8 +139,8 @@ Finestre::Finestre(FrmPLC& pannello, Plc& plc, Progetto& progetto, Guida& guida)
   };
   legami.Mostra_Tavolo = [this] { Mostra_Tavolo(); };
   legami.Separa_Finestre = [this] { Separa_Finestre(); };
-  legami.Corsa_Cambiata = [this](bool acceso) {
-    if (impianto_) impianto_->Mostra_Corsa(acceso);
+  legami.Corsa_Cambiata = [this](bool /*acceso*/) {
+    if (impianto_) impianto_->Mostra_Corsa();
   };
   legami.Mostra_Editor = [this](Avvio avvio_file) { Mostra_Editor(avvio_file); };
   legami.Mostra_Impostazioni = [this] { Mostra_Impostazioni(); };
@@ -395,7 +395,7 @@ void Finestre::Apri_Impianto(int indice) {
   ordine_.Sta_Per_Aprire();
   Finestra_Impianto& finestra =
       Trova(impianto_, [&] { return new Finestra_Impianto(std::move(collegamento)); });
-  finestra.Mostra_Corsa(plc_.PLC_Acceso != 0);
+  finestra.Mostra_Corsa();
   finestra.setToolTip(QString::fromUtf8(tasti_ovunque));
   finestra.addActions(pannello_.Comandi_Di_Vista());
   finestra.addActions(pannello_.Comandi_Di_Testo());

@@ -68,7 +68,7 @@ Riga_Comandi::Riga_Comandi(const QString& voce_io, QWidget* sopra)
   etRun_->setFont(Grassetto(etRun_->font()));
   etRun_->setAlignment(Qt::AlignCenter);
   etRun_->setAutoFillBackground(true);
-  etRun_->setMinimumWidth(etRun_->fontMetrics().horizontalAdvance(QStringLiteral("STOP")) + 12);
+  etRun_->setMinimumWidth(etRun_->fontMetrics().horizontalAdvance(QStringLiteral("PAUSA")) + 12);
   mnuGuasti->setToolTipsVisible(true);
   cmdGuasti_->setPopupMode(QToolButton::InstantPopup);
   cmdGuasti_->setMenu(mnuGuasti);
@@ -93,7 +93,7 @@ Riga_Comandi::Riga_Comandi(const QString& voce_io, QWidget* sopra)
   posti_->setContentsMargins(7, 6, 7, 6);
   posti_->addLayout(spunte_);
   posti_->addLayout(destra_);
-  Mostra_Corsa(false);
+  Mostra_Corsa(Corsa::Ferma);
   Mostra_Guasti(0, {});
 }
 
@@ -119,12 +119,19 @@ void Riga_Comandi::resizeEvent(QResizeEvent*) {
   updateGeometry();
 }
 
-void Riga_Comandi::Mostra_Corsa(bool acceso) {
-  etRun_->setText(acceso ? QStringLiteral("RUN") : QStringLiteral("STOP"));
-  etRun_->setToolTip(acceso ? QStringLiteral("La CPU è in RUN")
-                            : QStringLiteral("La CPU è in STOP"));
+void Riga_Comandi::Mostra_Corsa(Corsa corsa) {
+  static constexpr struct {
+    const char *Testo, *Nota;
+    const colori::Coppia* Tinta;
+  } modi[] = {{"STOP", "La CPU è in STOP", &colori::In_Stop},
+              {"PAUSA", "La CPU è in RUN, ma una pausa la tiene ferma (F8)", &colori::In_Stop},
+              {"RUN", "La CPU è in RUN", &colori::In_Run}};
+  const auto& modo = modi[static_cast<int>(corsa)];
+  if (etRun_->text() == QLatin1String{modo.Testo}) return;
+  etRun_->setText(QString::fromUtf8(modo.Testo));
+  etRun_->setToolTip(QString::fromUtf8(modo.Nota));
   etRun_->setAccessibleName(etRun_->toolTip());
-  Tingi(*etRun_, acceso ? &colori::In_Run : &colori::In_Stop);
+  Tingi(*etRun_, modo.Tinta);
 }
 
 void Riga_Comandi::Mostra_Guasti(int quanti, const QString& elenco) {

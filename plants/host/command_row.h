@@ -13,6 +13,9 @@ class QToolButton;
 
 namespace tavorno {
 
+/// How the CPU stands, as far as a plant shows it.
+enum class Corsa { Ferma, In_Pausa, In_Moto };
+
 /// Ticks and buttons below the picture of a plant: in one row, or in two or three where the window
 /// is narrow.
 class Riga_Comandi : public QWidget {
@@ -24,8 +27,7 @@ class Riga_Comandi : public QWidget {
   QPushButton *cmdVerifica, *cmdTempi, *cmdSch, *cmdEnd;
   QMenu* mnuGuasti;  ///< opens below its button; who owns the row fills it when it is about to show
 
-  /// Shows whether the CPU runs.
-  void Mostra_Corsa(bool acceso);
+  void Mostra_Corsa(Corsa corsa);
   /// Shows how many faults there are; `elenco` names them, one a line.
   void Mostra_Guasti(int quanti, const QString& elenco);
 

@@ -202,6 +202,7 @@ void Finestra_Impianto::Collega_Indicazioni() {
 }
 
 void Finestra_Impianto::Aggiorna() {
+  Mostra_Corsa();
   storia_.Guarda();
   guasti_->Aggiorna();
   if (tabella_->isVisible()) tabella_->Aggiorna();
@@ -213,8 +214,10 @@ QSize Finestra_Impianto::Voluta() const {
   return {quadro_->sizeHint().width(), Px(altezza_) + striscia};
 }
 
-void Finestra_Impianto::Mostra_Corsa(bool acceso) {
-  comandi_->Mostra_Corsa(acceso);
+void Finestra_Impianto::Mostra_Corsa() {
+  const Plc& cpu = collegamento_->Cpu();
+  const Corsa accesa = cpu.In_Pausa() ? Corsa::In_Pausa : Corsa::In_Moto;
+  comandi_->Mostra_Corsa(cpu.PLC_Acceso != 0 ? accesa : Corsa::Ferma);
 }
 
 /// The height shows or hides the table. What the user has made the window larger by stays.

@@ -55,8 +55,8 @@ class Finestra_Impianto : public QWidget {
   /// The size without its frame that the window is told to have now, in pixels.
   QSize Voluta() const;
 
-  /// Shows whether the CPU runs.
-  void Mostra_Corsa(bool acceso);
+  /// Shows now whether the CPU runs, stands or is held by a pause.
+  void Mostra_Corsa();
 
   /// Looks at the terminals now, and shows what changed: it does so by itself ten times a second.
   void Aggiorna();

@@ -140,6 +140,30 @@ TEST_P(Host, TheSettingsMoveTheirSliders) {
   }
 }
 
+TEST_P(Host, TheFrameTellsAPauseFromARun) {
+  const auto& etRun = banco.Trova<QLabel>("etRun");
+  EXPECT_EQ(etRun.text(), "STOP");
+  QString in_moto;
+  {
+    const Iscrizione pausa = banco.plc.Hook.Ascolta_Cedi([&] {
+      banco.finestra->Aggiorna();
+      in_moto = etRun.text();
+      banco.plc.Entra(Comando_Corsa::Pausa);
+    });
+    banco.plc.Entra(Comando_Corsa::Run);
+  }
+  ASSERT_TRUE(banco.plc.In_Pausa());
+  EXPECT_EQ(in_moto, "RUN");
+  banco.finestra->Aggiorna();
+  EXPECT_EQ(etRun.text(), "PAUSA");
+  EXPECT_GE(etRun.width(), etRun.sizeHint().width());
+  EXPECT_TRUE(etRun.toolTip().contains("pausa"));
+  EXPECT_EQ(etRun.accessibleName(), etRun.toolTip());
+  banco.plc.Entra(Comando_Corsa::Stop);
+  banco.finestra->Aggiorna();
+  EXPECT_EQ(etRun.text(), "STOP");
+}
+
 TEST_P(Host, InfoAsksForThePageOfTheExercise) {
   QString pagina;
   banco.finestra->Mostra_Aiuto = [&](const char* chiesta) { pagina = chiesta; };

@@ -64,7 +64,7 @@ bool Prova::Programma(const std::string& file) {
   if (!seduta.progetto.Compilato) return false;
   Avvia_Guidata(seduta.plc, Comando_Corsa::Cont);
   Avvia_Guidata(seduta.plc, Comando_Corsa::Run);
-  finestra.Mostra_Corsa(seduta.plc.PLC_Acceso != 0);
+  finestra.Mostra_Corsa();
   return seduta.plc.PLC_Acceso != 0;
 }
 
