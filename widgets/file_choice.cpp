@@ -4,6 +4,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
+#include <QTreeView>
+#include <algorithm>
 
 namespace tavorno {
 
@@ -15,7 +18,10 @@ QString& Cartella() {
   return cartella;
 }
 
-QString Ricordato(const QString& file) {
+QString Chiedi(QFileDialog& dialogo) {
+  Intestazioni_Intere(dialogo);
+  if (dialogo.exec() != QDialog::Accepted) return {};
+  const QString file = dialogo.selectedFiles().value(0);
   if (!file.isEmpty()) Ricorda_Cartella(QFileInfo(file).absolutePath());
   return file;
 }
@@ -30,14 +36,28 @@ void Ricorda_Cartella(const QString& cartella) {
   if (!cartella.isEmpty() && QFileInfo(cartella).isDir()) Cartella() = cartella;
 }
 
+// The library's widths are those of its English words.
+void Intestazioni_Intere(QFileDialog& dialogo) {
+  auto* elenco = dialogo.findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (elenco == nullptr) return;
+  QHeaderView& testate = *elenco->header();
+  for (int n = 0; n < testate.count(); ++n)
+    testate.resizeSection(n, std::max(testate.sectionSize(n), testate.sectionSizeHint(n)));
+}
+
 QString Chiedi_Dove_Salvare(QWidget* sopra, const QString& titolo, const QString& filtro,
                             const QString& proposta) {
-  return Ricordato(
-      QFileDialog::getSaveFileName(sopra, titolo, QDir(Cartella()).filePath(proposta), filtro));
+  QFileDialog dialogo(sopra, titolo, Cartella(), filtro);
+  dialogo.setAcceptMode(QFileDialog::AcceptSave);
+  dialogo.setFileMode(QFileDialog::AnyFile);
+  dialogo.selectFile(proposta);
+  return Chiedi(dialogo);
 }
 
 QString Chiedi_Che_Aprire(QWidget* sopra, const QString& titolo, const QString& filtro) {
-  return Ricordato(QFileDialog::getOpenFileName(sopra, titolo, Cartella(), filtro));
+  QFileDialog dialogo(sopra, titolo, Cartella(), filtro);
+  dialogo.setFileMode(QFileDialog::ExistingFile);
+  return Chiedi(dialogo);
 }
 
 }  // namespace tavorno

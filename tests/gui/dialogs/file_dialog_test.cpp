@@ -6,12 +6,16 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTranslator>
+#include <QTreeView>
 #include <QtTest>
 
 #include "support/modal.h"
+#include "widgets/file_choice.h"
 #include "widgets/text.h"
 
 namespace tavorno {
@@ -146,6 +150,40 @@ TEST_F(FileChoice, ShowsTheNameLastUsedBesideTheOffer) {
     EXPECT_EQ(scelta->Percorso, richiesta.Ultimo);
     EXPECT_EQ(scelta->Titolo, "esercizio 1.2 & 3.AWL");
   }
+}
+
+/// The word that the library's Italian has for one of the columns.
+struct Italiano : QTranslator {
+  QString translate(const char*, const char* testo, const char*, int) const override {
+    return testo == QByteArray("Size") ? QStringLiteral("Dimensioni") : QString();
+  }
+  bool isEmpty() const override { return false; }
+};
+
+TEST_F(FileChoice, TheHeadersOfTheListAreWhole) {
+  Italiano italiano;
+  QCoreApplication::installTranslator(&italiano);
+  int visti = 0;
+  const auto guarda = [&visti](QFileDialog& dialogo) {
+    dialogo.setViewMode(QFileDialog::Detail);
+    auto& elenco = *dialogo.findChild<QTreeView*>("treeView");
+    const QHeaderView& testate = *elenco.header();
+    for (int n = 0; n < testate.count(); ++n, ++visti) {
+      if (testate.isSectionHidden(n)) continue;
+      EXPECT_GE(testate.sectionSize(n), testate.sectionSizeHint(n))
+          << elenco.model()->headerData(n, Qt::Horizontal).toString().toStdString();
+    }
+    dialogo.reject();
+  };
+  Chiedi(apri, guarda);
+  Chiedi(salva, guarda);
+  for (const bool salvare : {false, true}) {
+    All_Apertura<QFileDialog>(guarda);
+    const QString scelto = salvare ? Chiedi_Dove_Salvare(nullptr, "Salva", "File (*.svg)")
+                                   : Chiedi_Che_Aprire(nullptr, "Apri", "File (*.svg)");
+    EXPECT_TRUE(scelto.isEmpty());
+  }
+  EXPECT_EQ(visti, 16);
 }
 
 TEST_F(FileChoice, ShowsNoNameThatIsOfferedAlready) {
