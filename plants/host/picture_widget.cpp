@@ -219,7 +219,7 @@ void Quadro::Disegna_Figura(QPainter& pittore, Vista& vista, double scala) {
   if (!entro.isNull()) pittore.restore();
 
   if (figura.Caption().empty()) return;
-  const int alta = std::max(7, static_cast<int>(120 * scala));
+  const int alta = std::max(1, static_cast<int>(120 * scala));  // as small as what is drawn
   if (carattere_.pixelSize() != alta) {
     carattere_ = QFont(QLatin1String{Carattere_Disegni});
     carattere_.setPixelSize(alta);

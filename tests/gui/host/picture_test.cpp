@@ -213,6 +213,38 @@ TEST_F(Picture, AWireTurnsRed) {
   EXPECT_GT(rossi(), prima + 10);
 }
 
+/// What the widget writes is as large as what is drawn, however small the picture is.
+struct Piccola : ::testing::TestWithParam<int> {};
+
+TEST_P(Piccola, NoTextLeavesItsFigure) {
+  Orologio orologio;
+  Plc plc{orologio};
+  const auto impianto = Tabella_Esercizi()[static_cast<std::size_t>(GetParam())].Crea(plc);
+  Quadro quadro(*impianto, QStringLiteral(":/plants/US-%1.svg").arg(GetParam(), 2, 10, QChar('0')));
+  quadro.resize(quadro.sizeHint() * 2 / 5);
+  const auto disegna = [&quadro] {
+    QImage immagine(quadro.size(), QImage::Format_RGB32);
+    quadro.render(&immagine);
+    return immagine;
+  };
+  const QImage con = disegna();
+  QRegion posti;
+  for (Figura& figura : impianto->Disegno) {
+    if (figura.Visible() && !figura.Caption().empty())
+      posti += quadro.Posto(figura).toAlignedRect().adjusted(-1, -1, 1, 1);
+    figura.Caption = "";
+  }
+  const QImage senza = disegna();
+  for (int y = 0; y < con.height(); ++y) {
+    for (int x = 0; x < con.width(); ++x) {
+      if (con.pixel(x, y) != senza.pixel(x, y)) {
+        ASSERT_TRUE(posti.contains(QPoint(x, y))) << "at " << x << ',' << y;
+      }
+    }
+  }
+}
+INSTANTIATE_TEST_SUITE_P(Esercizi, Piccola, ::testing::ValuesIn(Con_Impianto()));
+
 TEST_F(Picture, ItGrowsWithItsWindow) {
   const QRectF prima = quadro.Posto(banco.Macchina().Disegno["imgM"]);
   quadro.resize(quadro.sizeHint() * 2);
