@@ -75,6 +75,10 @@ QGroupBox* Pagina_Impostazioni::Crea_Cursore(std::size_t numero) {
   slider->setPageStep(cursore.Passo_Grande);
   slider->setValue(fili_.Valore(numero));
   slider->setTickPosition(QSlider::TicksBelow);
+  // For the ticks the style lifts the handle from the middle, and out of a slider of its own
+  // height.
+  slider->setMinimumHeight(slider->sizeHint().height() +
+                           slider->style()->pixelMetric(QStyle::PM_SliderTickmarkOffset));
   // So that the last tick falls on the end.
   const bool esatto = (cursore.Massimo - cursore.Minimo) % cursore.Passo_Grande == 0;
   slider->setTickInterval(esatto ? cursore.Passo_Grande : cursore.Passo_Piccolo);

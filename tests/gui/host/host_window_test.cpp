@@ -164,6 +164,20 @@ TEST_P(Host, TheFrameTellsAPauseFromARun) {
   EXPECT_EQ(etRun.text(), "STOP");
 }
 
+TEST_P(Host, NoHandleOfASliderIsCut) {
+  banco.Trova<QCheckBox>("chkIO").click();
+  auto& schede = banco.Trova<QTabWidget>("SSTab1");
+  schede.setCurrentIndex(1);
+  for (QSlider* slider : schede.findChildren<QSlider*>()) {
+    const QImage disegno = slider->grab().toImage();
+    ASSERT_FALSE(disegno.isNull());
+    for (const int y : {0, disegno.height() - 1}) {
+      for (int x = 0; x < disegno.width(); ++x)
+        ASSERT_EQ(disegno.pixelColor(x, y), disegno.pixelColor(0, y)) << y << " at " << x;
+    }
+  }
+}
+
 TEST_P(Host, InfoAsksForThePageOfTheExercise) {
   QString pagina;
   banco.finestra->Mostra_Aiuto = [&](const char* chiesta) { pagina = chiesta; };
