@@ -124,5 +124,30 @@ TEST(Motion, NoRopeOfTheLiftLeavesItsShaft) {
   EXPECT_EQ(moto.Disegnata().copy(0, 0, moto.quadro.width(), 15), sopra);
 }
 
+TEST(Motion, ACarThatDrivesAwayLeavesThePicture) {
+  Moto moto(11);
+  constexpr int sopra = 100;  // pixels of the window above the picture
+  moto.quadro.resize(moto.quadro.sizeHint() + QSize(0, 2 * sopra));
+  const auto fascia = [&] { return moto.Disegnata().copy(0, 0, moto.quadro.width(), sopra - 4); };
+  const QImage vuota = fascia();
+  moto.impianto->Disegno["imgMOut"].Visible = true;
+  moto.impianto->Disegno["imgMOut"].Top = -500;
+  moto.Avanza(1000);
+  EXPECT_EQ(fascia(), vuota);
+}
+
+TEST(Motion, TheSlideOfTheAxisStaysBetweenItsBearings) {
+  Moto moto(17);
+  const QRect motore(0, 58, 104, 56);
+  const QImage prima = moto.Disegnata().copy(motore);
+  moto.impianto->Premi("cmdV2");
+  moto.Avanza(2500);
+  moto.impianto->Rilascia("cmdV2");
+  moto.Avanza(1000);
+  const float dove = moto.impianto->Disegno["shC"].Left();
+  ASSERT_TRUE(dove > 200 && dove < 900) << dove << ": driven past its limit by hand";
+  EXPECT_EQ(moto.Disegnata().copy(motore), prima);
+}
+
 }  // namespace
 }  // namespace tavorno
