@@ -29,7 +29,7 @@ constexpr Riga_Figura figure[] = {
     {"shV1",        { 450,  354,  180,  150}},
     {"imgP1",       {2520, 2010,  480,  480},
      {.Picture = "imgMOF", .ToolTip = "Click per simulare intervento", .Morsetti = "Q0.1"}},
-    {"imgFR",       {2295, 2472,  180,  210}, {.Picture = "chiuso", .Morsetti = "I0.2"}},
+    {"imgFR",       {2260, 2472,  180,  210}, {.Picture = "chiuso", .Morsetti = "I0.2"}},
     {"imgV3",       {4230, 1995,  360,  450}, {.Picture = "imgEVOF", .Morsetti = "Q0.2"}},
     {"shV3",        {4320, 2034,  180,  150}},
     {"imgMax1",     { 345, 1500,  150,  150}, {.Morsetti = "I0.0"}},

@@ -199,7 +199,7 @@ TEST(Drawings, NoOtherSymbolIsRed) {
       QRegularExpression::DotMatchesEverythingOption);
   static const QRegularExpression colore(QStringLiteral("#[0-9a-f]{6}\\b"));
   static const QRegularExpression rosso(
-      QStringLiteral("red|mushroom|tripped|thermal-contact-open|^star$|^delta$|^photocell-tx$"));
+      QStringLiteral("red|mushroom|tripped|thermal-contact-open|thermal-contact-live|^star$|^delta$|^photocell-tx$"));
   QFile foglio(QStringLiteral(":/plants/symbols.svg"));
   ASSERT_TRUE(foglio.open(QIODevice::ReadOnly));
   int quanti = 0;

@@ -87,5 +87,79 @@ INSTANTIATE_TEST_SUITE_P(Figure, Nodi, ::testing::ValuesIn(nodi), [](const auto&
   return "US" + std::to_string(uno.param.Impianto) + "_" + std::to_string(uno.index);
 });
 
+/// A contact that no wire of the picture leads to has leads of its own.
+struct Contatto {
+  int Impianto;
+  const char* Rele;   ///< what is clicked to trip it
+  QPoint Arriva, Va;  ///< of its lead from the supply and of the one to its input, twips
+  QPoint Dentro;      ///< of the ground beside its blade
+};
+
+const Contatto contatti[] = {
+    {8, "imgP1", {2365, 2465}, {2365, 2696}, {2270, 2520}},
+    {10, "imgM(0)", {725, 1092}, {725, 1298}, {630, 1130}},
+    {10, "imgM(1)", {725, 2112}, {725, 2318}, {630, 2150}},
+    {10, "imgM(2)", {4690, 3990}, {4690, 4196}, {4595, 4028}},
+    {10, "imgM(3)", {4875, 413}, {4875, 619}, {4780, 451}},
+    {11, "imgMI", {6480, 755}, {6480, 1045}, {6340, 810}},
+    {11, "imgMU", {8280, 755}, {8280, 1045}, {8140, 810}},
+    {13, "imgM(0)", {2100, 1940}, {2100, 2171}, {1990, 1990}},
+    {13, "imgM(1)", {5235, 260}, {5235, 491}, {5125, 310}},
+};
+
+struct Contatti : ::testing::TestWithParam<Contatto> {};
+
+TEST_P(Contatti, ShowWhatReachesTheInputAndFromAfarThatTheyAreOpen) {
+  const Contatto& contatto = GetParam();
+  Orologio orologio;
+  Plc plc{orologio};
+  const auto impianto = Tabella_Esercizi()[static_cast<std::size_t>(contatto.Impianto)].Crea(plc);
+  Quadro quadro{*impianto,
+                QStringLiteral(":/plants/US-%1.svg").arg(contatto.Impianto, 2, 10, QChar('0'))};
+  quadro.resize(quadro.sizeHint() * 2);
+  const auto colore = [&quadro](const QPoint& punto) {
+    QImage immagine(quadro.size(), QImage::Format_RGB32);
+    quadro.render(&immagine);
+    return immagine.pixelColor(punto / 5);
+  };
+  const auto rosso = [&](const QPoint& punto) {
+    const QColor qui = colore(punto);
+    return qui.red() > 180 && qui.green() < 110;
+  };
+  EXPECT_TRUE(rosso(contatto.Arriva));
+  EXPECT_TRUE(rosso(contatto.Va));
+  EXPECT_LT(colore(contatto.Dentro).saturation(), 60);
+  impianto->Clic(contatto.Rele);
+  // The output of the motor falls, and with it what its own picture tells of the relay.
+  impianto->Stato_Q("1111111111111111");
+  impianto->Stato_Q("0000000000000000");
+  EXPECT_TRUE(rosso(contatto.Arriva));
+  EXPECT_LT(colore(contatto.Va).saturation(), 60);
+  EXPECT_GT(colore(contatto.Dentro).saturation(), 60);
+}
+
+INSTANTIATE_TEST_SUITE_P(Figure, Contatti, ::testing::ValuesIn(contatti), [](const auto& uno) {
+  return "US" + std::to_string(uno.param.Impianto) + "_" + std::to_string(uno.index);
+});
+
+TEST(Floats, LieInTheirTankWhenItIsEmpty) {
+  const struct {
+    int Impianto;
+    QRect Sotto;  ///< below the bottom, twips
+  } vasche[] = {{10, {4650, 3030, 100, 60}}, {13, {4850, 2730, 90, 60}}};
+  for (const auto& [indice, sotto] : vasche) {
+    Orologio orologio;
+    Plc plc{orologio};
+    const auto impianto = Tabella_Esercizi()[static_cast<std::size_t>(indice)].Crea(plc);
+    Quadro quadro{*impianto, QStringLiteral(":/plants/US-%1.svg").arg(indice, 2, 10, QChar('0'))};
+    quadro.resize(quadro.sizeHint() * 2);
+    QImage immagine(quadro.size(), QImage::Format_RGB32);
+    quadro.render(&immagine);
+    for (int x = sotto.left(); x < sotto.right(); x += 5)
+      for (int y = sotto.top(); y < sotto.bottom(); y += 5)
+        ASSERT_LT(immagine.pixelColor(x / 5, y / 5).saturation(), 40) << indice << ' ' << x;
+  }
+}
+
 }  // namespace
 }  // namespace tavorno
