@@ -52,7 +52,7 @@ constexpr Riga_Figura figure[] = {
     {"etPosti",   {1080,  360,  540, 240}},
     {"EtInf",     {1080,  690, 1200, 240}},
 
-    {"imgMI",     {5520,  618,  810, 480}, {.Picture = "imgMOF", .ToolTip = scatto}},
+    {"imgMI",     {5480,  618,  810, 480}, {.Picture = "imgMOF", .ToolTip = scatto}},
     {"imgFR(0)",  {6360,  780,  240, 240}, {.Picture = "chiuso", .Morsetti = "I0.7"}},
     {"shKM(0)",   {5580, 1500,  480, 360}, {.Morsetti = "Q0.0"}},
     {"imgKMa(0)", {6360, 1560,  240, 240}, {.Picture = "imgAuxA", .Morsetti = "I0.5"}},
@@ -60,7 +60,7 @@ constexpr Riga_Figura figure[] = {
     {"imgKMa(1)", {6360, 2280,  240, 240}, {.Picture = "imgAuxA", .Morsetti = "I0.6"}},
     {"imgPSB(0)", {5580, 3060,  540, 540},
      {.Picture = "imgNOFF", .ToolTip = "Veicolo in ingresso (SB1), I0.0"}},
-    {"imgMU",     {7320,  618,  810, 480}, {.Picture = "imgMOF", .ToolTip = scatto}},
+    {"imgMU",     {7280,  618,  810, 480}, {.Picture = "imgMOF", .ToolTip = scatto}},
     {"imgFR(1)",  {8160,  780,  240, 240}, {.Picture = "chiuso", .Morsetti = "I1.7"}},
     {"shKM(3)",   {7380, 1500,  480, 360}, {.Morsetti = "Q0.6"}},
     {"imgKMa(3)", {8160, 1560,  240, 240}, {.Picture = "imgAuxA", .Morsetti = "I1.5"}},

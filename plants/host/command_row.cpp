@@ -68,7 +68,7 @@ Riga_Comandi::Riga_Comandi(const QString& voce_io, QWidget* sopra)
   etRun_->setFont(Grassetto(etRun_->font()));
   etRun_->setAlignment(Qt::AlignCenter);
   etRun_->setAutoFillBackground(true);
-  etRun_->setMinimumWidth(etRun_->fontMetrics().horizontalAdvance(QStringLiteral("PAUSA")) + 2);
+  etRun_->setMinimumWidth(etRun_->fontMetrics().horizontalAdvance(QStringLiteral("PAUSA")) + 8);
   mnuGuasti->setToolTipsVisible(true);
   cmdGuasti_->setPopupMode(QToolButton::InstantPopup);
   cmdGuasti_->setMenu(mnuGuasti);
