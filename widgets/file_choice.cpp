@@ -43,6 +43,9 @@ void Intestazioni_Intere(QFileDialog& dialogo) {
   QHeaderView& testate = *elenco->header();
   for (int n = 0; n < testate.count(); ++n)
     testate.resizeSection(n, std::max(testate.sectionSize(n), testate.sectionSizeHint(n)));
+  constexpr int accanto = 160;  // pixels that the list of places and the edges take
+  const QSize misura = dialogo.sizeHint();
+  dialogo.resize(std::max(misura.width(), testate.length() + accanto), misura.height());
 }
 
 QString Chiedi_Dove_Salvare(QWidget* sopra, const QString& titolo, const QString& filtro,

@@ -173,6 +173,7 @@ TEST_F(FileChoice, TheHeadersOfTheListAreWhole) {
       EXPECT_GE(testate.sectionSize(n), testate.sectionSizeHint(n))
           << elenco.model()->headerData(n, Qt::Horizontal).toString().toStdString();
     }
+    EXPECT_GE(elenco.viewport()->width(), testate.length());
     dialogo.reject();
   };
   Chiedi(apri, guarda);
