@@ -222,6 +222,14 @@ QString Pannello_Guasti::Elenco() const {
   return righe.join('\n');
 }
 
+QStringList Pannello_Guasti::Fili_Guasti() const {
+  QStringList morsetti;
+  for (const Voce& voce : voci_) {
+    if (voce.C_e && Leggi_Nome_Filo(voce.Di.Nome)) morsetti << Indirizzo(voce.Di);
+  }
+  return morsetti;
+}
+
 void Pannello_Guasti::Riempi(QMenu& menu) {
   Aggiorna();
   std::array<QMenu*, 2> dei_fili{};

@@ -31,6 +31,8 @@ class Pannello_Guasti : public QWidget {
   int Attivi() const { return attivi_; }
   /// Their names and devices, one a line; empty for none.
   QString Elenco() const;
+  /// Addresses of the inputs whose wires have a fault, as last shown.
+  QStringList Fili_Guasti() const;
 
   /// Brings a fault about or takes it away. False when it cannot now: the panel then says why.
   bool Imposta(const QString& nome, bool attivo);

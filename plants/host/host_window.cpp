@@ -101,6 +101,7 @@ Collegamento* Finestra_Impianto::Riapri() {
   collegamento_->Apri();
   quadro_ = Crea_Quadro();
   quadro_->Indicata = indicata;
+  quadro_->Segna_Guasti(guasti_->Fili_Guasti());
   posti_->addWidget(quadro_, Riga_Del_Quadro, 0);
   if (a_fuoco) quadro_->setFocus();
   return collegamento_.get();
@@ -168,7 +169,10 @@ void Finestra_Impianto::Collega_Comandi() {
       schede_->setCurrentWidget(guasti_);
     });
   });
-  guasti_->Cambiati = [this] { comandi_->Mostra_Guasti(guasti_->Attivi(), guasti_->Elenco()); };
+  guasti_->Cambiati = [this] {
+    comandi_->Mostra_Guasti(guasti_->Attivi(), guasti_->Elenco());
+    quadro_->Segna_Guasti(guasti_->Fili_Guasti());
+  };
 }
 
 QTabWidget* Finestra_Impianto::Crea_Schede() {

@@ -39,9 +39,50 @@ void Quadro::Punta(const Figura* figura) {
   if (Indicata) Indicata(morsetti);
 }
 
-bool Quadro::E_Indicata(const Vista& vista) const {
+void Quadro::Segna_Guasti(const QStringList& morsetti) {
+  if (morsetti == guasti_) return;
+  guasti_ = morsetti;
+  update();
+}
+
+namespace {
+
+bool Uno_Di(const QStringList& morsetti, const QStringList& quali) {
   return std::ranges::any_of(
-      vista.Morsetti, [this](const QString& morsetto) { return indicati_.contains(morsetto); });
+      morsetti, [&quali](const QString& morsetto) { return quali.contains(morsetto); });
+}
+
+/// A broken wire in a ring, so large at every size of the picture.
+void Disegna_Filo_Rotto(QPainter& pittore, const QPointF& centro) {
+  constexpr double raggio = 8;
+  pittore.setPen(QPen(QColor(colori::Guasto.Testo), 1.8));
+  pittore.setBrush(QColor(colori::Guasto.Fondo));
+  pittore.drawEllipse(centro, raggio, raggio);
+  for (const int verso : {-1, 1}) {
+    pittore.drawLine(centro + QPointF(verso * 6, 0), centro + QPointF(verso * 2, 0));
+    pittore.drawLine(centro + QPointF(verso * 2 - 1.5, 3.5),
+                     centro + QPointF(verso * 2 + 1.5, -3.5));
+  }
+}
+
+}  // namespace
+
+bool Quadro::E_Indicata(const Vista& vista) const {
+  return Uno_Di(vista.Morsetti, indicati_);
+}
+
+void Quadro::Disegna_Guasti(QPainter& pittore) {
+  if (guasti_.isEmpty()) return;
+  for (const Vista& vista : viste_) {
+    if (!vista.Di->Visible() || !Uno_Di(vista.Morsetti, guasti_)) continue;
+    const QRectF tocco = vista.Disegno == nullptr ? QRectF() : vista.Disegno->Tocco;
+    const QRectF posto = tocco.isNull() ? vista.A_Riposo : tocco;
+    // At the right, where no labels stand; on what is small, since its own is close by.
+    constexpr double piccola = 240;  // twips
+    const QPointF da_parte =
+        posto.width() < piccola ? QPointF(0, -30) : QPointF(0.45 * posto.width(), 0);
+    Disegna_Filo_Rotto(pittore, Origine() + (posto.center() + da_parte) * Scala());
+  }
 }
 
 void Quadro::Disegna_Indicate(QPainter& pittore) {

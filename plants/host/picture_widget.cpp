@@ -149,6 +149,7 @@ void Quadro::paintEvent(QPaintEvent* evento) {
   QPainter pittore(this);
   pittore.drawPixmap(0, 0, tela_);
   pittore.setRenderHint(QPainter::Antialiasing);
+  Disegna_Guasti(pittore);
   Disegna_Indicate(pittore);
   Disegna_Mano(pittore);
 }

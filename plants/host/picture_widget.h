@@ -62,6 +62,9 @@ class Quadro : public QWidget, public Per_Lettori {
   QStringList Morsetti_Di(const Figura& figura) const;
   /// Marks the visible figures that stand for one of these addresses; an empty list marks none.
   void Indica(const QStringList& morsetti);
+  /// Marks the figures whose input has a fault in its wire: their contact says one thing and the
+  /// terminal hears another.
+  void Segna_Guasti(const QStringList& morsetti);
   /// The pointer or the keys are on a part with these addresses now; an empty list is none.
   std::function<void(const QStringList& morsetti)> Indicata;
 
@@ -169,6 +172,7 @@ class Quadro : public QWidget, public Per_Lettori {
   void Punta(const Figura* figura);
   static QStringList Leggi_Morsetti(const Figura& figura);
   void Disegna_Indicate(QPainter& pittore);
+  void Disegna_Guasti(QPainter& pittore);
   template <class Quali>
   Figura* In_Cima(const QPointF& punto, Quali quali) const;
   std::vector<Vista*> Operabili();
@@ -193,6 +197,7 @@ class Quadro : public QWidget, public Per_Lettori {
   Figura* sopra_ = nullptr;      // under the pointer
   QStringList indicati_;         // addresses whose parts are marked
   QStringList puntati_;          // addresses that `Indicata` was told last
+  QStringList guasti_;           // addresses whose wire has a fault
   bool senza_effetto_ = false;   // since the last press nothing has changed
   bool tasto_giu_ = false;       // of the mouse
   std::optional<std::pair<QRect, QString>> da_dire_;  // once it is let go

@@ -34,6 +34,7 @@ QString Quadro::Stato_Detto(const Figura& figura) const {
   if (const QString posizione = Posizione_Detta(figura); !posizione.isEmpty()) stati << posizione;
   for (const QString& morsetto : Morsetti_Di(figura)) {
     const bool uscita = morsetto.startsWith('Q');
+    if (guasti_.contains(morsetto)) stati << QStringLiteral("filo guasto");
     if (morsetto.startsWith('A') || morsetto.size() != 4) continue;
     const auto posto =
         static_cast<std::size_t>((morsetto[1].digitValue() * 8) + morsetto[3].digitValue());

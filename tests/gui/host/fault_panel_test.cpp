@@ -70,6 +70,31 @@ TEST_F(Guasti, WhatTheHandDoesInThePictureShowsInTheList) {
   EXPECT_EQ(tasto.text(), "Guasti: 1");
 }
 
+TEST_F(Guasti, ABrokenWireIsMarkedAtItsPart) {
+  auto& quadro = banco.Disegno();
+  const auto disegna = [&quadro] {
+    QImage immagine(quadro.size(), QImage::Format_RGB32);
+    quadro.render(&immagine);
+    return immagine;
+  };
+  const QImage prima = disegna();
+  for (const char* guasto : {"I0.0  SB1 – Filo interrotto", "I0.0  SB1 – Contatto incollato"}) {
+    auto* riga = Riga(guasto);
+    riga->setCheckState(0, Qt::Checked);
+    const QImage ora = disegna();
+    QRect segno;
+    for (int y = 0; y < ora.height(); ++y) {
+      for (int x = 0; x < ora.width(); ++x)
+        if (ora.pixel(x, y) != prima.pixel(x, y)) segno |= QRect(x, y, 1, 1);
+    }
+    const QRectF parte = quadro.Posto(banco.Macchina().Disegno["imgStop"]);
+    EXPECT_TRUE(segno.intersects(parte.toRect())) << guasto;
+    EXPECT_LT(std::max(segno.width(), segno.height()), 24) << guasto;
+    riga->setCheckState(0, Qt::Unchecked);
+    EXPECT_EQ(disegna(), prima) << guasto;
+  }
+}
+
 TEST_F(Guasti, EachSaysWhatItDoesInTheWorkshop) {
   elenco.setCurrentItem(Riga("I0.0  SB1 – Filo interrotto"));
   EXPECT_NE(Spiega().find("guasto sicuro"), std::string::npos) << Spiega();
