@@ -97,7 +97,7 @@ void Quadro::Rispondi(const Figura& figura) {
     if (ostacolo.isEmpty())
       QToolTip::hideText();
     else
-      Avvisa(Posto(figura).toAlignedRect(), ostacolo);
+      Avvisa(Posto(figura).toAlignedRect(), ostacolo.left(1).toUpper() + ostacolo.mid(1));
     return;
   }
   const bool doppio = figura.Doppio_Clic && !figura.Clic && !figura.Premi;

@@ -94,7 +94,7 @@ TEST_F(Rifiuti, WhileTheSwitchesDriveTheInputsTheCpuDoesNotHear) {
   Banco_Host motore{0};
   motore.Trova<QAbstractButton>("chkSim").click();
   EXPECT_EQ(Clic(motore, "imgStart"),
-            "la CPU non lo sente: i suoi ingressi arrivano dagli interruttori");
+            "La CPU non lo sente: i suoi ingressi arrivano dagli interruttori");
   motore.Trova<QAbstractButton>("chkSim").click();
   EXPECT_EQ(Clic(motore, "imgStart"), "");
 }
