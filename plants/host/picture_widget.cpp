@@ -23,7 +23,12 @@ QRectF Rettangolo(const Figura& figura) {
 }  // namespace
 
 Quadro::Quadro(Impianto& impianto, const QString& file, QWidget* sopra)
-    : QWidget(sopra), impianto_(impianto), disegni_(file), annunci_(*this) {
+    : QWidget(sopra),
+      impianto_(impianto),
+      disegni_(file),
+      carattere_(QLatin1String{Carattere_Disegni}),
+      annunci_(*this) {
+  carattere_.setPixelSize(120);  // twips
   setObjectName(QStringLiteral("Quadro"));
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
@@ -220,29 +225,25 @@ void Quadro::Disegna_Figura(QPainter& pittore, Vista& vista, double scala) {
   if (!entro.isNull()) pittore.restore();
 
   if (figura.Caption().empty()) return;
-  const int alta = std::max(1, static_cast<int>(120 * scala));  // as small as what is drawn
-  if (carattere_.pixelSize() != alta) {
-    carattere_ = QFont(QLatin1String{Carattere_Disegni});
-    carattere_.setPixelSize(alta);
-  }
-  pittore.setPen(Tinta_Testo(figura.ForeColor()));
-  // Its glyphs are looked up once and not at each drawing.
+  // Laid out in twips, as the drawn texts are, and as large as they are at every scale. Its glyphs
+  // are looked up once and not at each drawing.
   const QString testo = Q(figura.Caption());
-  if (vista.Alta != alta || vista.Scritta.text() != testo) {
-    vista.Alta = alta;
+  if (vista.Scritta.text() != testo) {
     vista.Grassa = In_Grassetto(testo);
     carattere_.setBold(vista.Grassa);
     vista.Scritta.setText(testo);
-    vista.Scritta.prepare({}, carattere_);
+    vista.Scritta.prepare(QTransform::fromScale(scala, scala), carattere_);
   }
   if (carattere_.bold() != vista.Grassa) carattere_.setBold(vista.Grassa);
   pittore.setFont(carattere_);
-  QRectF posto(vista.Ora.topLeft() * scala, vista.Ora.size() * scala);
-  if (premuta) posto.translate(0, Affondo * scala);
+  pittore.setPen(Tinta_Testo(figura.ForeColor()));
   const QSizeF grande = vista.Scritta.size();
-  const QPointF libero((posto.width() - grande.width()) / 2,
-                       (posto.height() - grande.height()) / 2);
-  pittore.drawStaticText(posto.topLeft() + libero, vista.Scritta);
+  QPointF dove = vista.Ora.center() - QPointF(grande.width() / 2, grande.height() / 2);
+  if (premuta) dove += QPointF(0, Affondo);
+  const QTransform prima = pittore.transform();
+  pittore.scale(scala, scala);
+  pittore.drawStaticText(dove, vista.Scritta);
+  pittore.setTransform(prima);
 }
 
 /// What a mark of the hand goes around: the drawing, where it leaves room in its figure. Labels

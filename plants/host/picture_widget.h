@@ -118,8 +118,7 @@ class Quadro : public QWidget, public Per_Lettori {
     const Disegni::Pezzo* Disegno = nullptr;  ///< of this group; nullptr for none
     std::vector<std::size_t> Con;             ///< the figures with which it moves
     QStaticText Scritta;
-    int Alta = 0;          ///< pixels of the letters that its text is laid out for
-    bool Grassa = false;   ///< and whether they are bold
+    bool Grassa = false;   ///< its text
     QStringList Morsetti;  ///< addresses that it stands for
   };
 

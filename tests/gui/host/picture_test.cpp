@@ -245,6 +245,36 @@ TEST_P(Piccola, NoTextLeavesItsFigure) {
 }
 INSTANTIATE_TEST_SUITE_P(Esercizi, Piccola, ::testing::ValuesIn(Con_Impianto()));
 
+TEST(Pictures, WhatIsWrittenGrowsWithThem) {
+  Orologio orologio;
+  Plc plc{orologio};
+  const auto impianto = Tabella_Esercizi()[14].Crea(plc);
+  Quadro quadro(*impianto, QStringLiteral(":/plants/US-14.svg"));
+  Figura& scritta = impianto->Disegno["etIn(2)"];
+  const std::string testo = scritta.Caption();
+  /// Of its ink, in twips.
+  const auto larga = [&](double ingrandita) {
+    quadro.resize((QSizeF(quadro.sizeHint()) * ingrandita).toSize());
+    QImage con(quadro.size(), QImage::Format_RGB32);
+    QImage senza(quadro.size(), QImage::Format_RGB32);
+    quadro.render(&con);
+    scritta.Caption = "";
+    quadro.render(&senza);
+    scritta.Caption = testo;
+    QRect inchiostro;
+    const QRect posto = quadro.Posto(scritta).toAlignedRect();
+    for (int y = posto.top(); y <= posto.bottom(); ++y) {
+      for (int x = posto.left(); x <= posto.right(); ++x)
+        if (con.pixel(x, y) != senza.pixel(x, y)) inchiostro |= QRect(x, y, 1, 1);
+    }
+    return inchiostro.width() * 10 / ingrandita;
+  };
+  const double grande = larga(4);
+  for (const double ingrandita : {0.4, 0.5, 0.79, 1.08}) {
+    EXPECT_NEAR(larga(ingrandita), grande, 0.03 * grande + 20 / ingrandita) << ingrandita;
+  }
+}
+
 TEST_F(Picture, ItGrowsWithItsWindow) {
   const QRectF prima = quadro.Posto(banco.Macchina().Disegno["imgM"]);
   quadro.resize(quadro.sizeHint() * 2);
