@@ -199,7 +199,8 @@ TEST(Drawings, NoOtherSymbolIsRed) {
       QRegularExpression::DotMatchesEverythingOption);
   static const QRegularExpression colore(QStringLiteral("#[0-9a-f]{6}\\b"));
   static const QRegularExpression rosso(
-      QStringLiteral("red|mushroom|tripped|thermal-contact-open|thermal-contact-live|^star$|^delta$|^photocell-tx$"));
+      QStringLiteral("red|mushroom|tripped|thermal-contact-open|thermal-contact-live|^star$|^delta$"
+                     "|^photocell-tx$"));
   QFile foglio(QStringLiteral(":/plants/symbols.svg"));
   ASSERT_TRUE(foglio.open(QIODevice::ReadOnly));
   int quanti = 0;
@@ -215,6 +216,24 @@ TEST(Drawings, NoOtherSymbolIsRed) {
     }
   }
   EXPECT_GT(quanti, 90);
+}
+
+TEST(Drawings, AnAddressStandsInTheMiddleOfItsTag) {
+  QFile aperto(QStringLiteral(":/plants/US-11.svg"));
+  ASSERT_TRUE(aperto.open(QIODevice::ReadOnly));
+  const QString testo = QString::fromUtf8(aperto.readAll());
+  Orologio orologio;
+  Plc plc{orologio};
+  const auto garage = Tabella_Esercizi()[11].Crea(plc);
+  for (int n = 0; n < 16; ++n) {
+    const Figura& scritta = garage->Disegno("etI", n);
+    const QPoint centro =
+        QRectF(scritta.Left, scritta.Top, scritta.Width, scritta.Height).center().toPoint();
+    EXPECT_TRUE(testo.contains(QStringLiteral("#sym-tag\" transform=\"translate(%1,%2)\"")
+                                   .arg(centro.x())
+                                   .arg(centro.y())))
+        << scritta.Caption();
+  }
 }
 
 TEST(Drawings, TheLettersOfADeviceAreBold) {
