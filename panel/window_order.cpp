@@ -239,6 +239,9 @@ void Ordine_Finestre::Disponi(bool tutte) {
       Posti.Dimentica(Nell_Esercizio(*finestra));
     }
     tornate_.clear();
+    for (QWidget* finestra : nuove_)  // each on the screen where it is
+      tornate_[finestra] =
+          Dentro(finestra->screen()->availableGeometry(), finestra->frameGeometry());
   }
   if (stati_.isNull()) {
     if (!impianto_.isNull()) {
@@ -275,6 +278,15 @@ void Ordine_Finestre::Disponi(bool tutte) {
   Metti(pannello_, posti.Pannello, tutte);
 }
 
+/// Where a window appears that nobody has put anywhere: the desktop's choice, but on the screen of
+/// the panel.
+QRect Ordine_Finestre::Accanto_Al_Pannello(const QWidget& finestra) const {
+  const QRect suo = finestra.screen()->availableGeometry();
+  QRect cornice = finestra.frameGeometry();
+  cornice.translate(Schermo().topLeft() - suo.topLeft());
+  return Dentro(Schermo(), cornice);
+}
+
 /// A moment after the windows were placed: with the frames as they are, once they are known.
 void Ordine_Finestre::Assesta() {
   ++giri_;
@@ -298,9 +310,10 @@ void Ordine_Finestre::Assesta() {
   for (QWidget* finestra : nuove_) {
     if (dati_.contains(finestra)) continue;
     const auto tornata = tornate_.find(finestra);
-    porta(*finestra, tornata != tornate_.end() ? tornata->second
-                                               : Dentro(finestra->screen()->availableGeometry(),
-                                                        finestra->frameGeometry()));
+    if (tornata != tornate_.end())
+      porta(*finestra, tornata->second);
+    else
+      porta(*finestra, Accanto_Al_Pannello(*finestra));
   }
   quiete_ = ferme ? quiete_ + 1 : 0;
   if (quiete_ < giri_fermi && giri_ < giri_massimi) return;

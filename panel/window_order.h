@@ -67,6 +67,7 @@ class Ordine_Finestre : public QObject {
   void Metti(QWidget& finestra, const QRect& cornice, bool tutte);
   void Porta(QWidget& finestra, const QRect& cornice) const;
   QMargins Bordi(const QWidget& finestra) const;
+  QRect Accanto_Al_Pannello(const QWidget& finestra) const;
   Misura_Finestra Misura(const QWidget& finestra, const QSize& voluta) const;
   QRect Schermo() const;
   void Assesta();

@@ -180,6 +180,32 @@ TEST_F(Seduta_Sullo_Schermo, TheBarThatCameAtTheWorkbenchFindsItsRoomOutsideToo)
   Trova_Posto();
 }
 
+TEST_F(Schermi, WhatIsOpenedStandsOnTheScreenOfThePanel) {
+  guida.Dir_Help = "/guida/";
+  for (QScreen* qui : QGuiApplication::screens()) {
+    SCOPED_TRACE(qui->name().toStdString());
+    pannello.move(qui->availableGeometry().topLeft());
+    Aspetta_Posa();
+    finestre.Mostra_Editor(Avvio::Nuovo);
+    finestre.Mostra_Impostazioni();
+    finestre.Mostra_Analogici();
+    finestre.Mostra_Debug();
+    finestre.Mostra_Tempi();
+    finestre.Mostra_Osserva();
+    finestre.Mostra_Scala();
+    finestre.Mostra_Aiuto("/guida/Index.htm");
+    Aspetta_Posa();
+    EXPECT_EQ(Mostrate().size(), 9U);
+    for (QWidget* finestra : Mostrate()) {
+      EXPECT_TRUE(qui->availableGeometry().contains(finestra->frameGeometry()))
+          << finestra->objectName().toStdString() << " at " << finestra->x();
+      if (finestra == &pannello) continue;
+      finestra->close();
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
 TEST_F(Schermi, TheProjectorFillsTheScreenWithEveryWindowAndGivesItBack) {
   finestre.Mostra_Editor(Avvio::Nuovo);
   finestre.Mostra_Stati();
