@@ -135,13 +135,13 @@ void Quadro::Monta_Voci() {
        [this] { Salva(QStringLiteral("svg")); });
   voce("mnuSalvaPng", QStringLiteral("Salva la figura come PNG…"),
        [this] { Salva(QStringLiteral("png")); });
-  auto* riduci = voce("mnuRiduci", QStringLiteral("Riduci animazioni"), [this](bool ridotte) {
+  riduci_ = voce("mnuRiduci", QStringLiteral("Riduci animazioni"), [this](bool ridotte) {
     QSettings preferenze(nome_preferenze, nome_preferenze);
     preferenze.setValue(chiave_ridotte, ridotte);
     Riduci_Animazioni(ridotte);
   });
-  riduci->setCheckable(true);
-  riduci->setChecked(ridotte_);
+  riduci_->setCheckable(true);
+  riduci_->setChecked(ridotte_);
 }
 
 }  // namespace tavorno

@@ -71,7 +71,7 @@ void Quadro::Senti_Scrivania() {
 
 void Quadro::Ferma(bool ridotte) {
   ridotte_ = ridotte;
-  findChild<QAction*>(QStringLiteral("mnuRiduci"))->setChecked(ridotte);
+  riduci_->setChecked(ridotte);
   for (Vista& vista : viste_) {
     vista.Ora = Rettangolo(*vista.Di);
     vista.Trascorsi = vista.Durata = 0;

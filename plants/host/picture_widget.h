@@ -190,6 +190,7 @@ class Quadro : public QWidget, public Per_Lettori {
   QElapsedTimer orologio_;
   qint64 tempo_ = 0;  // of the view, ms
   bool ridotte_ = false;
+  QAction* riduci_ = nullptr;    // its tick
   bool scelto_ = false;          // somebody has chosen between moving and still pictures
   QString fuoco_;                // name of the figure that the keyboard operates
   bool fuoco_in_vista_ = false;  // its frame would cross labels, so it waits for a key
