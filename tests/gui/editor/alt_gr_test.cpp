@@ -13,16 +13,16 @@ namespace {
 constexpr Qt::KeyboardModifiers ctrl = Qt::ControlModifier, alt = Qt::AltModifier;
 
 struct Tasto {
-  const char* nome;
-  Qt::Key tasto;
-  Qt::KeyboardModifiers con;
-  char16_t testo;
-  char16_t senza;  // what the key writes by itself; 0 for nothing
-  bool scrive;
+  const char* Nome;
+  Qt::Key Key;
+  Qt::KeyboardModifiers Con;
+  char16_t Testo;
+  char16_t Senza;  // what the key writes by itself; 0 for nothing
+  bool Scrive;
 };
 
 // An Italian keyboard, and what a key that has nothing on its third level comes with.
-constexpr Tasto tasti[] = {
+constexpr Tasto di_una_tastiera[] = {
     {"At", Qt::Key_At, ctrl | alt, u'@', u'ò', true},
     {"Number", Qt::Key_NumberSign, ctrl | alt, u'#', u'à', true},
     {"Bracket", Qt::Key_BracketLeft, ctrl | alt, u'[', u'è', true},
@@ -44,11 +44,11 @@ class AltGr : public testing::TestWithParam<Tasto> {
   /// As a widget gets it where AltGr comes as Ctrl and Alt.
   static void Batti(QWidget& dove) {
     const Tasto& t = GetParam();
-    QKeyEvent evento(QEvent::KeyPress, t.tasto, t.con, QString(QChar(t.testo)));
-    Senza_Lettera(evento, QChar(t.senza),
+    QKeyEvent evento(QEvent::KeyPress, t.Key, t.Con, QString(QChar(t.Testo)));
+    Senza_Lettera(evento, QChar(t.Senza),
                   [&](QKeyEvent& tasto) { QApplication::sendEvent(&dove, &tasto); });
   }
-  static QString Atteso() { return GetParam().scrive ? QString(QChar(GetParam().testo)) : ""; }
+  static QString Atteso() { return GetParam().Scrive ? QString(QChar(GetParam().Testo)) : ""; }
 };
 
 }  // namespace
@@ -68,12 +68,12 @@ TEST_P(AltGr, WritesInAField) {
 
 TEST_P(AltGr, IsAKeyOfItsOwnElsewhere) {
   const Tasto& t = GetParam();
-  const QKeyEvent evento(QEvent::KeyPress, t.tasto, t.con, QString(QChar(t.testo)));
+  const QKeyEvent evento(QEvent::KeyPress, t.Key, t.Con, QString(QChar(t.Testo)));
   EXPECT_FALSE(Di_AltGr(evento, {}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Keys, AltGr, testing::ValuesIn(tasti),
-                         [](const auto& caso) { return std::string(caso.param.nome); });
+INSTANTIATE_TEST_SUITE_P(Keys, AltGr, testing::ValuesIn(di_una_tastiera),
+                         [](const auto& caso) { return std::string(caso.param.Nome); });
 
 using AltGrOfTheEditor = Banco_Editor;
 
