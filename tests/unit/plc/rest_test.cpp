@@ -162,7 +162,22 @@ struct Novita_Tra_Scansioni {
   bool Riposa;
 };
 
-class RestThrough : public Rest, public testing::WithParamInterface<Novita_Tra_Scansioni> {};
+class RestAndChange : public Rest, public testing::WithParamInterface<Novita_Tra_Scansioni> {
+ protected:
+  using Rest::Rest;
+
+  void Riposa_E_Succede(const Novita_Tra_Scansioni& riga) {
+    Avvia(riga.Righe);
+    ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
+    plc.Mem_T[37].Val = 20;
+    plc.Mem_AIW[2] = 10000;
+    ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
+    ASSERT_TRUE(riposo.Riposa());
+    riga.Succede(plc);
+  }
+};
+
+struct RestThrough : RestAndChange {};
 
 void Conta(Plc& plc) {
   plc.Mem_T[37].Val = static_cast<std::int16_t>(plc.Mem_T[37].Val + 1);
@@ -175,13 +190,7 @@ void Batte(Plc& plc) {
 }
 
 TEST_P(RestThrough, WhatTheProgramCannotTell) {
-  Avvia(GetParam().Righe);
-  ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
-  plc.Mem_T[37].Val = 20;
-  plc.Mem_AIW[2] = 10000;
-  ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
-  ASSERT_TRUE(riposo.Riposa());
-  GetParam().Succede(plc);
+  ASSERT_NO_FATAL_FAILURE(Riposa_E_Succede(GetParam()));
   EXPECT_EQ(riposo.Riposa(), GetParam().Riposa);
   if (!GetParam().Riposa) return;
   // And indeed a scan finds nothing to do.
@@ -232,18 +241,12 @@ INSTANTIATE_TEST_SUITE_P(Cells, RestThrough, testing::ValuesIn(novita_tra_scansi
                          [](const auto& riga) { return std::string(riga.param.Cosa); });
 
 // Who looks on at the top of a scan sees all of these.
-struct WatchedRest : Rest, ::testing::WithParamInterface<Novita_Tra_Scansioni> {
-  WatchedRest() : Rest(Riposo::Per::Chi_Guarda) {}
+struct WatchedRest : RestAndChange {
+  WatchedRest() : RestAndChange(Riposo::Per::Chi_Guarda) {}
 };
 
 TEST_P(WatchedRest, EndsWithAnyChange) {
-  Avvia(GetParam().Righe);
-  ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
-  plc.Mem_T[37].Val = 20;
-  plc.Mem_AIW[2] = 10000;
-  ASSERT_GT(Scansioni_Fino_Al_Riposo(), 0);
-  ASSERT_TRUE(riposo.Riposa());
-  GetParam().Succede(plc);
+  ASSERT_NO_FATAL_FAILURE(Riposa_E_Succede(GetParam()));
   EXPECT_FALSE(riposo.Riposa());
 }
 
