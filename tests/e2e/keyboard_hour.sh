@@ -23,7 +23,7 @@ stop=76x76+292+176
 cpu=50x16+500+322
 lamp=20x20+722+205
 
-picture() { piece "$1" "$2" "$work/$3.png"; }
+picture() { piece_drawn "$1" "$2" "$work/$3.png"; }
 as_in() { looks_like "$1" "$2" "$work/$3.png"; }
 unlike() { looks_unlike "$1" "$2" "$work/$3.png"; }
 
@@ -62,6 +62,7 @@ compile_to() {
 open_screen 2200x1200  # smaller, and the picture gives way to the other windows
 start_program "$1"
 focus "$panel"
+wait_until 'the panel to stand still' at_rest "$panel"
 for part in led0 led1 led2 first_switch; do picture "$panel" "${!part}" $part; done
 
 open_by "$panel" ctrl+n "$editor"
@@ -99,6 +100,7 @@ load_project "$2"
 open_by "$panel" 'alt+s Return' "$plant"
 wait_window 'Indicatori Stato'
 focus "$plant"
+wait_until 'the plant to stand still' at_rest "$plant"
 for part in start stop cpu lamp; do picture "$plant" "${!part}" $part; done
 act_until "$plant" 'keys F5' 'the run' unlike "$plant" $cpu cpu
 # Held until the lamp follows, since a tap may be shorter than a scan.

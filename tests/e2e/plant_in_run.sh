@@ -29,7 +29,7 @@ open_by "$panel" 'alt+s Return' "$plant"
 focus "$plant"
 wait_window 'Indicatori Stato'
 wait_until 'the plant to stand still' at_rest "$plant"
-for part in coil lamp button; do piece "$plant" "${!part}" "$work/$part.png"; done
+for part in coil lamp button; do piece_drawn "$plant" "${!part}" "$work/$part.png"; done
 # shellcheck disable=SC2086
 press $start looks_unlike
 wait_until 'the button to rise' looks_like "$plant" "$button" "$work/button.png"

@@ -168,7 +168,7 @@ answer() { close_by "$1" Return; }
 tool_bar=500x44+0+20
 start_run() {
   focus "$panel"
-  piece "$panel" $tool_bar "$work/stopped.png"
+  piece_drawn "$panel" $tool_bar "$work/stopped.png"
   act_until "$panel" 'keys F5' 'the run' looks_unlike "$panel" $tool_bar "$work/stopped.png"
 }
 
@@ -192,6 +192,10 @@ choose_file() {
 piece() {
   import -window "$(visible "$1" | tail -1)" -crop "$2" +repage "$3"
 }
+# The same once there is anything: a window is visible before it is drawn, and a picture of nothing
+# looks unlike all that comes later. Usage: piece_drawn WINDOW WxH+X+Y FILE
+piece_drawn() { wait_until "something at $2 in '$1'" drawn "$@"; }
+drawn() { piece "$@" && [ "$(identify -format %k "$3")" -gt 1 ]; }
 # Usage: looks_like WINDOW WxH+X+Y FILE; true when the piece is the same picture
 looks_like() {
   piece "$1" "$2" "$work/now.png"

@@ -41,7 +41,7 @@ answer '^Attenzione!$'
 wait_gone "$editor"
 
 focus "$panel"
-piece "$panel" $led "$work/dark.png"
+piece_drawn "$panel" $led "$work/dark.png"
 start_run
 act_until "$panel" "click_at '$panel' $switch" 'the lit LED' looks_unlike "$panel" $led "$work/dark.png"
 act_until "$panel" 'keys shift+F5' 'the dark LED' looks_like "$panel" $led "$work/dark.png"
