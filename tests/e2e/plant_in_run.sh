@@ -39,10 +39,11 @@ press $stop looks_like
 # For the projector and back: to the pixel where it was, though its frame was gone meanwhile.
 place() { xdotool getwindowgeometry --shell "$(visible "$panel" | tail -1)" | grep -E '^(X|Y|WIDTH|HEIGHT)='; }
 before=$(place)
-elsewhere() { [ "$(place)" != "$before" ]; }
+full() { [[ $(place) == *WIDTH=2200* ]]; }
 back() { [ "$(place)" = "$before" ]; }
-act_until "$panel" 'keys F11' 'the panel to fill the screen' elsewhere
-act_until "$panel" 'keys F11' 'the panel to be back in its place' back
+act_until "$panel" 'keys F11' 'the panel to fill the screen' full
+# The key goes to and fro: it is sent again only where it was lost.
+act_until "$panel" '! full || keys F11' "the panel to be back in its place: ${before//$'\n'/ }" back
 close_by "$plant" alt+F4
 wait_gone 'Indicatori Stato'
 ends_with 0 "$panel" ctrl+q
