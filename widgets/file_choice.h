@@ -14,9 +14,9 @@ QString Cartella_Ricordata();
 /// `cartella` is ignored when it is no folder.
 void Ricorda_Cartella(const QString& cartella);
 
-/// Widens the columns of its list that are narrower than their headers, and the dialog with them.
-/// Called before it shows; a dialog of the desktop is left as it is.
-void Intestazioni_Intere(QFileDialog& dialogo);
+/// Makes the library's dialog what one expects: a list with whole headers, and a name that counts
+/// as it was typed. Called before it shows; a dialog of the desktop is left as it is.
+void Ritocca(QFileDialog& dialogo);
 
 /// Ask for a file, with a filter as QFileDialog reads it; empty: none was chosen. `proposta` is the
 /// name offered.

@@ -89,7 +89,7 @@ std::optional<File_Scelto> Scegli_File(QWidget* sopra, const Richiesta_File& ric
   dialogo.setDirectory(Cartella_Ricordata());
   if (!richiesta.Proposta.empty()) dialogo.selectFile(Q(richiesta.Proposta));
   Offri_Ultimo(dialogo, Q(richiesta.Ultimo));
-  Intestazioni_Intere(dialogo);
+  Ritocca(dialogo);
   if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return std::nullopt;
   const QFileInfo scelto(dialogo.selectedFiles().constFirst());
   Ricorda_Cartella(scelto.absolutePath());

@@ -72,6 +72,33 @@ TEST_F(FileChoice, ToOpenRefusesWhatDoesNotExist) {
   EXPECT_FALSE(scelta);
 }
 
+TEST_F(FileChoice, APathThatIsTypedCountsMoreThanTheFoldersOnItsWay) {
+  QDir(cartella.path()).mkdir("classe");
+  Crea("classe/prova.AWL");
+  const QString percorso = Percorso("classe/prova.AWL");
+  for (const QString& dove : {cartella.path(), Percorso("classe")}) {
+    Ricorda_Cartella(dove);
+    const Scelta scelta = Chiedi(apri, [&](QFileDialog& dialogo) {
+      auto& nome = *dialogo.findChild<QLineEdit*>("fileNameEdit");
+      const auto& elenco = *dialogo.findChild<QTreeView*>("treeView");
+      // The list reads folders by and by.
+      EXPECT_TRUE(
+          QTest::qWaitFor([&] { return elenco.model()->rowCount(elenco.rootIndex()) > 0; }, 20000));
+      nome.clearFocus();  // which a list of proposals may take
+      for (const QChar lettera : percorso) {
+        QTest::keyClick(&nome, lettera.toLatin1());
+        if (nome.text() == Percorso("classe")) {
+          EXPECT_TRUE(elenco.selectionModel()->hasSelection()) << "or there is nothing to test";
+        }
+      }
+      QMetaObject::invokeMethod(&dialogo, "accept");
+      if (dialogo.isVisible()) dialogo.reject();
+    });
+    ASSERT_TRUE(scelta) << dove.toStdString();
+    EXPECT_EQ(scelta->Percorso, Utf8(percorso));
+  }
+}
+
 TEST_F(FileChoice, SavesUnderTheProposalWithTheExtensionOfTheFilter) {
   const Scelta scelta = Chiedi(salva, [this](QFileDialog& dialogo) {
     EXPECT_EQ(dialogo.acceptMode(), QFileDialog::AcceptSave);
