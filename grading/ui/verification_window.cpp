@@ -150,10 +150,18 @@ void FrmVerifica::Crea_Tasti(QBoxLayout& posti) {
                        "Prova da capo il programma che sta nella CPU", &FrmVerifica::Avvia);
   cmdAnnulla_ =
       tasto("cmdAnnulla", "Annulla", "Esc", "Interrompe la verifica", &FrmVerifica::Annulla);
-  auto* chiudi = Chiama(QStringLiteral("cmdChiudi"), new QPushButton(QStringLiteral("Chiudi")));
-  chiudi->setToolTip(QStringLiteral("Chiude la finestra"));
-  connect(chiudi, &QPushButton::clicked, this, &QWidget::close);
-  posti.addWidget(chiudi);
+  cmdChiudi_ = Chiama(QStringLiteral("cmdChiudi"), new QPushButton(QStringLiteral("Chiudi")));
+  cmdChiudi_->setToolTip(QStringLiteral("Chiude la finestra (Esc, a verifica finita)"));
+  connect(cmdChiudi_, &QPushButton::clicked, this, &QWidget::close);
+  posti.addWidget(cmdChiudi_);
+}
+
+void FrmVerifica::Mostra_In_Corso() {
+  avanzamento_->setVisible(In_Corso());
+  cmdVerifica_->setEnabled(!In_Corso());
+  cmdAnnulla_->setEnabled(In_Corso());
+  // The same key breaks off what is going on, and closes what is over.
+  cmdChiudi_->setShortcut(In_Corso() ? QKeySequence() : QKeySequence(Qt::Key_Escape));
 }
 
 void FrmVerifica::Di(const QString& testo, bool buono) {
@@ -185,9 +193,7 @@ void FrmVerifica::Avvia() {
     }
   }
   avanzamento_->setRange(0, 0);
-  avanzamento_->setVisible(In_Corso());
-  cmdVerifica_->setEnabled(!In_Corso());
-  cmdAnnulla_->setEnabled(In_Corso());
+  Mostra_In_Corso();
   if (!In_Corso()) return Di(Q(perche), false);
   Di(QStringLiteral("Verifica in corso…"), true);
   sguardo_.start();
@@ -234,9 +240,7 @@ void FrmVerifica::Fine() {
   const Esito_Progetto esito = lavoro_->Esito();
   const bool annullata = lavoro_->Annullata();
   lavoro_.reset();
-  avanzamento_->setVisible(false);
-  cmdVerifica_->setEnabled(true);
-  cmdAnnulla_->setEnabled(false);
+  Mostra_In_Corso();
   if (annullata) return Di(QStringLiteral("Verifica annullata: l'esito non è completo."), false);
   if (casi_.empty() && !esito.Casi.empty())  // nothing was played
     return Di(Q(esito.Primo_Rilievo()), false);

@@ -53,6 +53,7 @@ class FrmVerifica : public QWidget {
   void Annulla();
   void Aggiungi(const Caso_Verificato& caso);
   void Fine();
+  void Mostra_In_Corso();
   void Di(const QString& testo, bool buono);
   void Mostra_Caso();
   void Guarda_Caso();
@@ -63,7 +64,8 @@ class FrmVerifica : public QWidget {
   std::vector<Caso_Verificato> casi_;
   QLabel* etEsito_;
   QProgressBar* avanzamento_;
-  QPushButton *cmdVerifica_ = nullptr, *cmdAnnulla_ = nullptr, *cmdGuarda_ = nullptr;
+  QPushButton *cmdVerifica_ = nullptr, *cmdAnnulla_ = nullptr, *cmdGuarda_ = nullptr,
+              *cmdChiudi_ = nullptr;
   QTableWidget* tabella_;
   QPlainTextEdit* rilievi_;
   Foglio_Tempi* tempi_;

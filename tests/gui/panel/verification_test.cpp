@@ -170,10 +170,15 @@ TEST_F(Prova_Verifica, ItCanBeCalledOff) {
   sala.Mostra();
   FrmVerifica& verdetto = *sala.Finestra();
   EXPECT_TRUE(verdetto.In_Corso());
-  Uno<QPushButton>(verdetto, "cmdAnnulla").click();
+  verdetto.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&verdetto, 20000));
+  QTest::keyClick(&verdetto, Qt::Key_Escape);
   ASSERT_TRUE(QTest::qWaitFor([&] { return !verdetto.In_Corso(); }, 20000));
   EXPECT_TRUE(Uno<QLabel>(verdetto, "etEsito").text().contains("annullata"));
   EXPECT_TRUE(Uno<QPushButton>(verdetto, "cmdVerificaAncora").isEnabled());
+  QTest::keyClick(&verdetto, Qt::Key_Escape);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return sala.Finestra() == nullptr; }, 20000))
+      << "with nothing left to call off the key closes";
 }
 
 TEST_F(Prova_Verifica, AFailureIsWatchedAndThePresentComesBack) {
