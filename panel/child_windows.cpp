@@ -42,7 +42,7 @@ Simboli Simboli_Di(const Esercizio* esercizio) {
 
 constexpr char chiave_daltonici[] = "colori/daltonici";
 constexpr char tasti_ovunque[] =
-    "F5 RUN, Maiusc+F5 STOP, F10 avanza di un passo, F8 pausa, F1 guida";
+    "F5 RUN, Maiusc+F5 STOP, F10 avanza di un passo, F8 pausa, F11 proiettore, F1 guida";
 
 }  // namespace
 

@@ -120,7 +120,7 @@ void FrmPLC::Collega_Comandi() {
 }
 
 QList<QAction*> FrmPLC::Comandi_Ovunque() const {
-  return {a_.mnuPlcRun, a_.mnuPlcStop, a_.mnuPLCPiu};
+  return {a_.mnuPlcRun, a_.mnuPlcStop, a_.mnuPLCPiu, a_.mnuViewProiettore};
 }
 
 QList<QAction*> FrmPLC::Comandi_Di_Vista() const {
@@ -128,7 +128,7 @@ QList<QAction*> FrmPLC::Comandi_Di_Vista() const {
 }
 
 QList<QAction*> FrmPLC::Comandi_Di_Testo() const {
-  return {a_.mnuViewPiu, a_.mnuViewMeno, a_.mnuViewNormale, a_.mnuViewProiettore};
+  return {a_.mnuViewPiu, a_.mnuViewMeno, a_.mnuViewNormale};
 }
 
 /// A command that may start a run begins in an event of its own: the menu or button it was given

@@ -89,7 +89,7 @@ class FrmPLC : public QMainWindow {
   /// Of the session, when there is one: works by its keys from other windows of the program too.
   QAction* Pausa = nullptr;
 
-  /// The run commands that work by their keys from other windows of the program too.
+  /// What works by its keys from other windows of the program too: the run, and the projector.
   QList<QAction*> Comandi_Ovunque() const;
 
   /// The same for the windows that a workbench takes in.

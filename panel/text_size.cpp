@@ -12,8 +12,7 @@
 #include <cmath>
 #include <utility>
 
-#include "awl/ui/awl_editor.h"
-#include "recorder/ui/diagram_canvas.h"
+#include "widgets/own_text.h"
 
 namespace tavorno {
 
@@ -28,8 +27,7 @@ constexpr char minima[] = "baseMinima";
 constexpr char massima[] = "baseMassima";
 
 void Annota(QWidget& parte) {
-  // A text and a diagram note their own.
-  if (parte.property(punti).isValid() || dynamic_cast<AwlEditor*>(&parte) != nullptr) return;
+  if (parte.property(punti).isValid() || dynamic_cast<Testo_Proprio*>(&parte) != nullptr) return;
   parte.setProperty(punti, parte.font().pointSizeF());
   parte.setProperty(suo, parte.testAttribute(Qt::WA_SetFont));
   parte.setProperty(minima, parte.minimumSize());
@@ -43,25 +41,9 @@ QSize Scalata(const QSize& misura, double fattore) {
   return {Scalata(misura.width(), fattore), Scalata(misura.height(), fattore)};
 }
 
-/// Its styles grow by whole points, and the margins with them.
-void Ingrandisci_Testo(AwlEditor& testo, double fattore) {
-  constexpr int margini = 5;
-  constexpr double corpo = 10;
-  if (!testo.property(punti).isValid()) {
-    testo.setProperty(punti, corpo);
-    for (int n = 0; n < margini; ++n)
-      testo.setProperty(QByteArray("margine") + char('0' + n), testo.marginWidth(n));
-  }
-  testo.zoomTo(static_cast<int>(std::lround(corpo * (fattore - 1))));
-  for (int n = 0; n < margini; ++n)
-    testo.setMarginWidth(
-        n, Scalata(testo.property(QByteArray("margine") + char('0' + n)).toInt(), fattore));
-}
-
 /// A font of its own, and the lengths that were given by hand to hold its text.
 void Ingrandisci(QWidget& parte, bool radice, double fattore) {
-  if (auto* testo = dynamic_cast<AwlEditor*>(&parte)) return Ingrandisci_Testo(*testo, fattore);
-  if (auto* tela = dynamic_cast<Tela_Tempi*>(&parte)) return tela->Ingrandisci(fattore);
+  if (auto* testo = dynamic_cast<Testo_Proprio*>(&parte)) return testo->Ingrandisci_Testo(fattore);
   if (!parte.property(punti).isValid()) return;
   // A font in pixels follows the height of its own part, which grows below.
   const bool in_punti = parte.property(punti).toDouble() > 0;
@@ -108,7 +90,10 @@ void Grandezza_Testo::Proietta(QWidget* finestra) {
   if (prima) {
     Applica(*prima, 1);
     if (prima->layout() != nullptr) prima->layout()->setSizeConstraint(vincolo_);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    // What lies within tells what is around it how small it has become again, one after the other.
+    constexpr int strati = 8;
+    for (int strato = 0; strato < strati; ++strato)
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     posto_proiettata_->Rimetti(*prima);
   }
   if (finestra != nullptr && finestra != prima) {

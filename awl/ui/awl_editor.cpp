@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QPalette>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "awl/ui/editor_numbers.h"
@@ -93,6 +94,16 @@ void AwlEditor::Prepara_Vista() {
   indicatorDefine(StraightBoxIndicator, Indicatore_Trovato);
   indicatorDefine(SquiggleIndicator, Indicatore_Suggerimento);
   Segui_Colori(*this, [this] { Tingi_Vista(); });
+}
+
+void AwlEditor::Ingrandisci_Testo(double fattore) {
+  constexpr double corpo = 10;  // points
+  for (int n = static_cast<int>(margini_.size()); n < margins(); ++n)
+    margini_.push_back(marginWidth(n));
+  zoomTo(static_cast<int>(std::lround(corpo * (fattore - 1))));
+  for (int n = 0; n < margins(); ++n)
+    setMarginWidth(n,
+                   static_cast<int>(std::lround(margini_[static_cast<std::size_t>(n)] * fattore)));
 }
 
 void AwlEditor::Tingi_Vista() {

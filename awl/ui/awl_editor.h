@@ -15,6 +15,7 @@
 #include "awl/symbols.h"
 #include "awl/ui/awl_lexer.h"
 #include "awl/ui/scintilla.h"
+#include "widgets/own_text.h"
 
 class QMenu;
 
@@ -22,7 +23,7 @@ namespace tavorno {
 
 /// A text of statement list: coloured, with the numbers of its rows in the margin, help while
 /// typing and marks of errors. It shows and edits; what the text means is others' business.
-class AwlEditor : public QsciScintilla {
+class AwlEditor : public QsciScintilla, public Testo_Proprio {
  public:
   /// A listing is for reading only.
   AwlEditor(Genere_Testo genere, const char* nome, QWidget* sopra);
@@ -123,6 +124,9 @@ class AwlEditor : public QsciScintilla {
   /// A tip, when the caret's line begins with an instruction.
   void Mostra_Suggerimento();
 
+  /// Its styles grow by whole points, and the margins with them.
+  void Ingrandisci_Testo(double fattore) override;
+
   /// Closes list and tip.
   void Chiudi_Aiuti();
 
@@ -164,6 +168,7 @@ class AwlEditor : public QsciScintilla {
   AwlLexer* lexer_;
   std::vector<Diagnosi> suggerimenti_;
   Simboli simboli_;
+  std::vector<int> margini_;  // their widths before the text was enlarged for the first time
   bool annota_ = true;
   bool spento_ = false;
   bool scrive_ = false;  // a command, not the user, is changing the text

@@ -28,25 +28,29 @@ double Posto_Del_Segno(const QString& svg) {
 
 class Foglio_Tempi::Carta : public QWidget {
  public:
-  explicit Carta(QSvgRenderer& disegno) : disegno_(disegno) {}
+  Carta(QSvgRenderer& disegno, const double& scala) : disegno_(disegno), scala_(scala) {}
 
  protected:
   void paintEvent(QPaintEvent* /*evento*/) override {
     if (!disegno_.isValid()) return;
     QPainter pittore(this);
+    pittore.scale(scala_, scala_);
     const QRectF tutto(QPointF(0, 0), QSizeF(disegno_.defaultSize()));
     disegno_.render(&pittore, tutto);
     // What has scrolled out at the left: the names come along.
-    if (x() >= 0) return;
-    pittore.setClipRect(QRectF(-x(), fine_testata, inizio_asse, tutto.height() - fine_testata));
-    disegno_.render(&pittore, tutto.translated(-x(), 0));
+    const double fuori = -x() / scala_;
+    if (fuori <= 0) return;
+    pittore.setClipRect(QRectF(fuori, fine_testata, inizio_asse, tutto.height() - fine_testata));
+    disegno_.render(&pittore, tutto.translated(fuori, 0));
   }
 
  private:
   QSvgRenderer& disegno_;
+  const double& scala_;
 };
 
-Foglio_Tempi::Foglio_Tempi() : carta_(Chiama(QStringLiteral("picTempiCaso"), new Carta(disegno_))) {
+Foglio_Tempi::Foglio_Tempi()
+    : carta_(Chiama(QStringLiteral("picTempiCaso"), new Carta(disegno_, scala_))) {
   setObjectName(QStringLiteral("foglioTempi"));
   setWidget(carta_);
   connect(horizontalScrollBar(), &QScrollBar::valueChanged, carta_, qOverload<>(&QWidget::update));
@@ -63,8 +67,7 @@ Foglio_Tempi::Foglio_Tempi() : carta_(Chiama(QStringLiteral("picTempiCaso"), new
 void Foglio_Tempi::Mostra(const std::string& svg, const QString& descrizione) {
   const QString testo = Q(svg);
   disegno_.load(testo.toUtf8());
-  carta_->resize(disegno_.isValid() ? disegno_.defaultSize() : QSize(1, 1));
-  carta_->update();
+  Misura();
   carta_->setAccessibleName(QStringLiteral("Diagramma dei tempi"));
   carta_->setAccessibleDescription(descrizione);
   setAccessibleName(descrizione);
@@ -73,10 +76,22 @@ void Foglio_Tempi::Mostra(const std::string& svg, const QString& descrizione) {
   Porta_Al_Segno();
 }
 
+void Foglio_Tempi::Ingrandisci_Testo(double fattore) {
+  scala_ = fattore;
+  Misura();
+  Porta_Al_Segno();
+}
+
+void Foglio_Tempi::Misura() {
+  carta_->resize(disegno_.isValid() ? (QSizeF(disegno_.defaultSize()) * scala_).toSize()
+                                    : QSize(1, 1));
+  carta_->update();
+}
+
 void Foglio_Tempi::Porta_Al_Segno() {
   const int largo = viewport()->width();
-  const bool si_vede = segno_ < largo - vicino;
-  horizontalScrollBar()->setValue(si_vede ? 0 : static_cast<int>(segno_) - largo * 3 / 4);
+  const int segno = static_cast<int>(segno_ * scala_);
+  horizontalScrollBar()->setValue(segno < largo - vicino ? 0 : segno - largo * 3 / 4);
 }
 
 void Foglio_Tempi::resizeEvent(QResizeEvent* evento) {

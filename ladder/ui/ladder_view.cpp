@@ -178,7 +178,7 @@ void Vista_Scala::Ingrandisci(double zoom) {
   zoom = std::clamp(zoom, zoom_minimo, zoom_massimo);
   // What stands in the middle stays there.
   const double mezzo = (verticalScrollBar()->value() + viewport()->height() / 2.0) / zoom_;
-  zoom_ = zoom;
+  zoom_ = zoom * proiezione_;
   Regola_Barre();
   verticalScrollBar()->setValue(static_cast<int>(mezzo * zoom_ - viewport()->height() / 2.0));
   viewport()->update();
@@ -187,12 +187,20 @@ void Vista_Scala::Ingrandisci(double zoom) {
 }
 
 void Vista_Scala::Adatta() {
-  Ingrandisci(viewport()->width() / std::max(1.0, foglio_.Larghezza()));
+  Ingrandisci(viewport()->width() / std::max(1.0, foglio_.Larghezza()) / proiezione_);
+}
+
+void Vista_Scala::Ingrandisci_Testo(double fattore) {
+  const double scelto = Ingrandimento();
+  const double sopra = verticalScrollBar()->value() / zoom_;
+  proiezione_ = fattore;
+  Ingrandisci(scelto);
+  verticalScrollBar()->setValue(static_cast<int>(std::lround(sopra * zoom_)));
 }
 
 void Vista_Scala::wheelEvent(QWheelEvent* evento) {
   if (!(evento->modifiers() & Qt::ControlModifier)) return QAbstractScrollArea::wheelEvent(evento);
-  Ingrandisci(zoom_ * std::pow(passo_zoom, evento->angleDelta().y() / 120.0));
+  Ingrandisci(Ingrandimento() * std::pow(passo_zoom, evento->angleDelta().y() / 120.0));
   evento->accept();
 }
 

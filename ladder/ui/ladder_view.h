@@ -10,6 +10,7 @@
 #include "ladder/ui/ladder_painter.h"
 #include "ladder/ui/ladder_sheet.h"
 #include "plc/plc.h"
+#include "widgets/own_text.h"
 
 namespace tavorno {
 
@@ -28,7 +29,7 @@ struct Legami_Scala {
 
 /// The whole project as a ladder, live while the CPU runs it. It keeps no copy of what the CPU
 /// holds: `Aggiorna` looks at texts, caret and memory. A window's content, or a dock's.
-class Vista_Scala : public QAbstractScrollArea {
+class Vista_Scala : public QAbstractScrollArea, public Testo_Proprio {
  public:
   /// Both must outlive the view.
   Vista_Scala(const Plc& plc, const Stato_Progetto& progetto, Legami_Scala legami,
@@ -41,9 +42,10 @@ class Vista_Scala : public QAbstractScrollArea {
   /// The operands have other names from now on.
   void Nomi_Cambiati();
 
-  double Ingrandimento() const { return zoom_; }
+  double Ingrandimento() const { return zoom_ / proiezione_; }
   void Ingrandisci(double zoom);  ///< 1: 100 %; kept within a quarter and four times
   void Adatta();                  ///< so large that the sheet is as wide as the view
+  void Ingrandisci_Testo(double fattore) override;  ///< what the user chose, so many times
 
   const Foglio_Scala& Foglio() const { return foglio_; }
   const Stato_Rete& Stato(int rete) const { return stati_[static_cast<std::size_t>(rete)]; }
@@ -120,7 +122,8 @@ class Vista_Scala : public QAbstractScrollArea {
   Legami_Scala legami_;
   Foglio_Scala foglio_;
   std::vector<Stato_Rete> stati_;
-  double zoom_ = 1;
+  double zoom_ = 1;        // pixels to a unit of the sheet
+  double proiezione_ = 1;  // the part of it that the user has not chosen
   int rete_ = -1, scelto_ = -1, fino_ = -1;
   int riga_presente_ = -1;
   std::optional<Posto_Riga> cursore_;

@@ -89,13 +89,23 @@ QString Vista_Aiuto::Titolo() const {
 }
 
 void Vista_Aiuto::Ingrandisci(int passi) {
-  const int nuovo = std::clamp(ingrandimento_ + passi, ingrandimento_minimo, ingrandimento_massimo);
-  zoomIn(nuovo - ingrandimento_);
-  ingrandimento_ = nuovo;
+  ingrandimento_ = std::clamp(ingrandimento_ + passi, ingrandimento_minimo, ingrandimento_massimo);
+  Applica_Grandezza();
 }
 
 void Vista_Aiuto::Grandezza_Normale() {
   Ingrandisci(-ingrandimento_);
+}
+
+void Vista_Aiuto::Ingrandisci_Testo(double fattore) {
+  proiezione_ = fattore;
+  Applica_Grandezza();
+}
+
+void Vista_Aiuto::Applica_Grandezza() {
+  QFont carattere = font();
+  carattere.setPointSizeF((corpo_ + ingrandimento_) * proiezione_);
+  setFont(carattere);
 }
 
 QVariant Vista_Aiuto::loadResource(int tipo, const QUrl& nome) {

@@ -5,13 +5,15 @@
 #include <QUrl>
 #include <functional>
 
+#include "widgets/own_text.h"
+
 namespace tavorno {
 
 struct Guida;
 
 /// Shows pages of the help folders and of nowhere else: whatever a page refers to outside them,
 /// pictures and style sheets included, is not read.
-class Vista_Aiuto : public QTextBrowser {
+class Vista_Aiuto : public QTextBrowser, public Testo_Proprio {
  public:
   explicit Vista_Aiuto(const Guida& guida, QWidget* sopra = nullptr);
 
@@ -28,6 +30,7 @@ class Vista_Aiuto : public QTextBrowser {
   /// Steps of text size, within sensible bounds.
   void Ingrandisci(int passi);
   void Grandezza_Normale();
+  void Ingrandisci_Testo(double fattore) override;  ///< besides those steps
 
   QVariant loadResource(int tipo, const QUrl& nome) override;
 
@@ -38,11 +41,14 @@ class Vista_Aiuto : public QTextBrowser {
  private:
   QString Leggi_Pagina(const QUrl& url);
   QVariant Immagine(const QUrl& url) const;
+  void Applica_Grandezza();
 
   const Guida& guida_;
   QUrl pagina_;
   bool occupata_ = false;
-  int ingrandimento_ = 0;
+  const double corpo_ = font().pointSizeF();
+  int ingrandimento_ = 0;  // points
+  double proiezione_ = 1;
 };
 
 }  // namespace tavorno

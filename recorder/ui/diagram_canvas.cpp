@@ -101,7 +101,7 @@ Tela_Tempi::Tela_Tempi(Diagramma_Tempi& diagramma) : d_(diagramma) {
   setAccessibleName(QStringLiteral("Diagramma dei tempi"));
 }
 
-void Tela_Tempi::Ingrandisci(double fattore) {
+void Tela_Tempi::Ingrandisci_Testo(double fattore) {
   if (fattore == scala_) return;
   scala_ = fattore;
   d_.Larga(Misura().Onde());

@@ -6,6 +6,7 @@
 
 #include "trace/drawing.h"
 #include "widgets/colours.h"
+#include "widgets/own_text.h"
 
 class QPainter;
 
@@ -16,7 +17,7 @@ void Dipingi(QPainter& pittore, const Disegno_Tempi& disegno, colori::Serie seri
 
 /// The sheet of a timing diagram: names, axis and waves. The mouse moves time and cursors here; the
 /// keys are the window's.
-class Tela_Tempi : public QWidget {
+class Tela_Tempi : public QWidget, public Testo_Proprio {
  public:
   explicit Tela_Tempi(Diagramma_Tempi& diagramma);
 
@@ -34,8 +35,7 @@ class Tela_Tempi : public QWidget {
   /// Scrolls so that the selected row is seen.
   void Mostra_Scelta();
 
-  /// Everything that is drawn, so many times as large; 1 at first.
-  void Ingrandisci(double fattore);
+  void Ingrandisci_Testo(double fattore) override;
 
   /// Milliseconds that the last picture took.
   double Costo() const { return costo_; }

@@ -31,7 +31,10 @@ QTableWidgetItem* Voce(const QString& testo, bool fisso) {
   auto* voce = new QTableWidgetItem(testo);
   voce->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
   if (fisso) {
-    voce->setFont(Carattere_Fisso());
+    QFont cifre;  // as large as the rest of the table
+    cifre.setFamilies(Carattere_Fisso().families());
+    cifre.setStyleHint(QFont::Monospace);
+    voce->setFont(cifre);
     voce->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
   }
   return voce;

@@ -289,6 +289,26 @@ TEST_F(Scala, TheWheelZoomsWithCtrlAndScrollsWithout) {
   EXPECT_EQ(Vista().horizontalScrollBar()->maximum(), 0);
 }
 
+TEST_F(Scala, AProjectorEnlargesWhatIsInSightAndGivesTheZoomBack) {
+  std::string lungo;
+  for (int n = 1; n <= 30; ++n) lungo += "NETWORK " + std::to_string(n) + "\nLD I0.0\n= M0.0\n";
+  Apri(lungo);
+  for (const double scelto : {1.0, 4.0}) {
+    SCOPED_TRACE(scelto);
+    Vista().Ingrandisci(scelto);
+    for (const int da : {0, 400}) {
+      Vista().verticalScrollBar()->setValue(da);
+      const QRect prima = Vista().Posto(0, 0);
+      Vista().Ingrandisci_Testo(1.5);
+      EXPECT_NEAR(Vista().Posto(0, 0).height(), prima.height() * 1.5, 2);
+      EXPECT_NEAR(Vista().Posto(0, 0).top(), prima.top() * 1.5, 2) << "the same line is at the top";
+      EXPECT_DOUBLE_EQ(Vista().Ingrandimento(), scelto);
+      Vista().Ingrandisci_Testo(1);
+      EXPECT_EQ(Vista().Posto(0, 0), prima);
+    }
+  }
+}
+
 // ---- paper and files ----------------------------------------------------------------------------
 
 TEST_F(Scala, IsSavedAsPdfSvgAndPng) {

@@ -4,9 +4,12 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QTableWidget>
+#include <QTextBrowser>
 #include <QWheelEvent>
 
 #include "awl/ui/awl_editor.h"
+#include "ladder/ui/ladder_window.h"
 #include "panel/panel_bed.h"
 #include "recorder/ui/diagram_canvas.h"
 #include "widgets/text.h"
@@ -169,6 +172,45 @@ TEST_F(Testi, TheProjectorTakesTheWindowInFrontAndGivesItBack) {
   EXPECT_FALSE(stati.isFullScreen());
   EXPECT_EQ(QRect(stati.pos(), stati.size()), posto);
   EXPECT_EQ(Adesso(), prima);
+}
+
+TEST_F(Testi, TheProjectorReachesTextsThatAreSetByTheirOwnWindow) {
+  guida.Dir_Help = "/guida/";
+  Carica("LD I0.0\r\n= Q0.0\r\n");
+  finestre.Mostra_Aiuto("/guida/Index.htm");
+  finestre.Mostra_Scala();
+  QWidget& aiuto = *Finestra("frmBrowser");
+  auto& scala = dynamic_cast<FrmScala&>(*Finestra("frmScala"));
+  auto& pagina = *aiuto.findChild<QTextBrowser*>("brwWebBrowser");
+  const double carattere = pagina.font().pointSizeF();
+  const auto premi = [](QWidget& finestra, Qt::Key tasto, Qt::KeyboardModifiers con = {}) {
+    finestra.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra, 20000));
+    QTest::keyClick(&finestra, tasto, con);
+  };
+  premi(aiuto, Qt::Key_Plus, Qt::ControlModifier);
+  premi(aiuto, Qt::Key_F11);
+  EXPECT_NEAR(pagina.font().pointSizeF(), (carattere + 1) * 1.5, 0.01);
+  premi(aiuto, Qt::Key_Plus, Qt::ControlModifier);
+  premi(aiuto, Qt::Key_F11);
+  EXPECT_NEAR(pagina.font().pointSizeF(), carattere + 2, 0.01) << "what was chosen stays";
+
+  const auto alta = [&] { return scala.Vista().Posto(0, 0).height(); };
+  const int prima = alta();
+  premi(scala, Qt::Key_F11);
+  EXPECT_NEAR(alta(), prima * 1.5, 2);
+  premi(scala, Qt::Key_F11);
+  EXPECT_EQ(alta(), prima);
+
+  finestre.Mostra_Osserva();
+  QWidget& osserva = *Finestra("frmOsserva");
+  auto& celle = *osserva.findChild<QTableWidget*>("tabOsserva");
+  const auto cifre = [&] { return celle.item(0, 2)->font().resolve(celle.font()).pointSizeF(); };
+  const double piccole = cifre();
+  premi(osserva, Qt::Key_F11);
+  EXPECT_NEAR(cifre(), piccole * 1.5, 0.01);
+  premi(osserva, Qt::Key_F11);
+  EXPECT_NEAR(cifre(), piccole, 0.01);
 }
 
 TEST_F(Testi, TheProjectorGivesEveryFontBack) {

@@ -33,6 +33,19 @@ struct Schermi : Banco_Pannello {
     ASSERT_TRUE(QTest::qWaitFor([this] { return finestre.Ordine().Assestate(); }, 20000));
   }
 
+  void Apri_Tutte() {
+    guida.Dir_Help = "/guida/";
+    finestre.Mostra_Editor(Avvio::Nuovo);
+    finestre.Mostra_Impostazioni();
+    finestre.Mostra_Analogici();
+    finestre.Mostra_Debug();
+    finestre.Mostra_Tempi();
+    finestre.Mostra_Osserva();
+    finestre.Mostra_Scala();
+    finestre.Mostra_Aiuto("/guida/Index.htm");
+    Aspetta_Posa();
+  }
+
   static QWidget* Finestra(const QString& nome) {
     for (QWidget* finestra : QApplication::topLevelWidgets()) {
       if (finestra->objectName() == nome && finestra->isVisible()) return finestra;
@@ -73,7 +86,8 @@ struct Schermi : Banco_Pannello {
       return false;
     if (const auto* etichetta = qobject_cast<QLabel*>(&figlio))
       return !etichetta->text().isEmpty() && !etichetta->wordWrap() &&
-             etichetta->property("scala") != true && etichetta->parent()->objectName() != "SimI";
+             etichetta->property("scala") != true &&
+             !etichetta->parent()->objectName().startsWith("SimI");
     if (const auto* icona = qobject_cast<QToolButton*>(&figlio))
       return icona->toolButtonStyle() != Qt::ToolButtonIconOnly;
     const auto* tasto = qobject_cast<QAbstractButton*>(&figlio);

@@ -114,16 +114,7 @@ TEST_F(Schermi, TheStatusWindowAndThePanelShareTheScreen) {
 }
 
 TEST_F(Schermi, EveryOtherWindowOpensWithinTheScreen) {
-  guida.Dir_Help = "/guida/";
-  finestre.Mostra_Impostazioni();
-  finestre.Mostra_Analogici();
-  finestre.Mostra_Debug();
-  finestre.Mostra_Scala();
-  finestre.Mostra_Tempi();
-  finestre.Mostra_Osserva();
-  finestre.Mostra_Aiuto("/guida/Index.htm");
-  finestre.Mostra_Editor(Avvio::Nuovo);
-  Aspetta_Posa();
+  Apri_Tutte();
   EXPECT_EQ(Mostrate().size(), 9U);
   for (QWidget* finestra : Mostrate()) Intera(*finestra);
   for (const auto& [riga, nome] : {std::pair{"Editor", "frmMain"},
@@ -181,20 +172,11 @@ TEST_F(Seduta_Sullo_Schermo, TheBarThatCameAtTheWorkbenchFindsItsRoomOutsideToo)
 }
 
 TEST_F(Schermi, WhatIsOpenedStandsOnTheScreenOfThePanel) {
-  guida.Dir_Help = "/guida/";
   for (QScreen* qui : QGuiApplication::screens()) {
     SCOPED_TRACE(qui->name().toStdString());
     pannello.move(qui->availableGeometry().topLeft());
     Aspetta_Posa();
-    finestre.Mostra_Editor(Avvio::Nuovo);
-    finestre.Mostra_Impostazioni();
-    finestre.Mostra_Analogici();
-    finestre.Mostra_Debug();
-    finestre.Mostra_Tempi();
-    finestre.Mostra_Osserva();
-    finestre.Mostra_Scala();
-    finestre.Mostra_Aiuto("/guida/Index.htm");
-    Aspetta_Posa();
+    Apri_Tutte();
     EXPECT_EQ(Mostrate().size(), 9U);
     for (QWidget* finestra : Mostrate()) {
       EXPECT_TRUE(qui->availableGeometry().contains(finestra->frameGeometry()))
@@ -207,27 +189,26 @@ TEST_F(Schermi, WhatIsOpenedStandsOnTheScreenOfThePanel) {
 }
 
 TEST_F(Schermi, TheProjectorFillsTheScreenWithEveryWindowAndGivesItBack) {
-  finestre.Mostra_Editor(Avvio::Nuovo);
-  finestre.Mostra_Stati();
-  finestre.Mostra_Tempi();
-  Aspetta_Posa();
+  Azione(pannello, Con_Indice("mnuPrj", 7)).trigger();  // with the status window
+  Apri_Tutte();
+  EXPECT_EQ(Mostrate().size(), 11U);
   const auto proietta = [](QWidget& finestra) {
     QTest::keyClick(&finestra, Qt::Key_F11);
     for (int giro = 0; giro < 10; ++giro) QCoreApplication::processEvents();
   };
-  for (const char* nome : {"frmMain", "frmStatiL", "frmTempi", "frmPLC"}) {
-    SCOPED_TRACE(nome);
-    QWidget& finestra = *Finestra(nome);
-    finestra.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
-    const QRect posto(finestra.pos(), finestra.size());
+  for (QWidget* finestra : Mostrate()) {
+    SCOPED_TRACE(finestra->objectName().toStdString());
+    finestra->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(finestra));
+    const QRect posto(finestra->pos(), finestra->size());
     for (int volta = 0; volta < 2; ++volta) {
-      proietta(finestra);
-      EXPECT_TRUE(finestra.isFullScreen());
-      EXPECT_EQ(finestra.geometry(), finestra.screen()->geometry());
-      proietta(finestra);
-      EXPECT_FALSE(finestra.isFullScreen());
-      EXPECT_EQ(QRect(finestra.pos(), finestra.size()), posto);
+      proietta(*finestra);
+      EXPECT_TRUE(finestra->isFullScreen());
+      EXPECT_EQ(finestra->geometry(), finestra->screen()->geometry());
+      Intera(*finestra);
+      proietta(*finestra);
+      EXPECT_FALSE(finestra->isFullScreen());
+      EXPECT_EQ(QRect(finestra->pos(), finestra->size()), posto);
     }
   }
 }
