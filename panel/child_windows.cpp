@@ -9,7 +9,6 @@
 #include <QShortcut>
 #include <QWindow>
 #include <initializer_list>
-#include <type_traits>
 
 #include "awl/ui/main_window.h"
 #include "ladder/ui/ladder_window.h"
@@ -72,25 +71,14 @@ void Finestre::Avanti_Il_Pannello() {
   pannello_.Attivata();
 }
 
-/// Makes a window when it is not there.
-template <class Finestra, class Crea>
-Finestra& Finestre::Trova(QPointer<Finestra>& finestra, Crea crea) {
-  if (!finestra) {
-    finestra = crea();
-    finestra->setAttribute(Qt::WA_DeleteOnClose);
-    ordine_.Sorveglia(*finestra);
-    finestra->addActions(pannello_.Comandi_Ovunque());
-    if constexpr (!std::is_same_v<Finestra, FrmMain>) {  // which has another command for F8
-      if (pannello_.Pausa != nullptr) finestra->addAction(pannello_.Pausa);
-    }
-  }
-  return *finestra;
+/// A window without menus tells its keys in its tool tip.
+void Finestre::Di_Tasti(QWidget& finestra) {
+  finestra.setToolTip(QString::fromUtf8(tasti_ovunque));
 }
 
-/// A window without menus: its keys are told by its tool tip, and F1 opens `pagina`, a part of the
-/// panel's help.
+/// The same, and F1 opens `pagina`, a part of the panel's help.
 void Finestre::Prepara(QWidget& finestra, const char* pagina) {
-  finestra.setToolTip(QString::fromUtf8(tasti_ovunque));
+  Di_Tasti(finestra);
   auto* guida = new QShortcut(QKeySequence(Qt::Key_F1), &finestra);
   QObject::connect(guida, &QShortcut::activated, &ascolto_,
                    [this, pagina] { Mostra_Aiuto(guida_.Dir_Help + QString::fromUtf8(pagina)); });
@@ -283,92 +271,6 @@ void Finestre::Mostra_Analogici() {
   }));
 }
 
-void Finestre::Mostra_Stati() {
-  if (tavolo_) return Nel_Tavolo(Vista_Tavolo::Stati, Stati(false));
-  const bool nuova = stati_.isNull();
-  if (nuova) ordine_.Sta_Per_Aprire();
-  Porta_Avanti(Stati());
-  if (nuova) ordine_.Aperte(impianto_, *stati_);
-}
-
-FrmStatiL& Finestre::Stati(bool col_pannello) {
-  return Trova(stati_, [this, col_pannello] {
-    auto* finestra = new FrmStatiL(plc_, col_pannello ? &pannello_ : nullptr);
-    finestra->addActions(pannello_.Comandi_Di_Vista());
-    Segui_Testo(*finestra);
-    Prepara(*finestra, "Index.htm#stati");
-    QObject::connect(finestra, &QObject::destroyed, &ascolto_, [this] {
-      if (!impianto_) ordine_.Chiuse();
-    });
-    return finestra;
-  });
-}
-
-FrmTempi& Finestre::Tempi() {
-  return Trova(tempi_, [this] {
-    auto* nuovo = new FrmTempi(plc_, esercizio_);
-    nuovo->setToolTip(QString::fromUtf8(tasti_ovunque));
-    nuovo->addActions(pannello_.Comandi_Di_Vista());
-    Segui_Testo(*nuovo);
-    nuovo->Mostra_Aiuto = [this] { Mostra_Aiuto(guida_.Dir_Help + "Tempi.htm"); };
-    nuovo->Rileggi = [this](const std::vector<Segnale>& segnali) {
-      return Rileggi ? Rileggi(segnali) : nullptr;
-    };
-    nuovo->Riempi();
-    nuovo->Riporta = [this](std::int64_t ms) {
-      if (Torna_A) Torna_A(ms);
-    };
-    nuovo->Chi_E_Stato = [this](std::int64_t ms, const std::string& indirizzo) {
-      if (Chi_E_Stato) Chi_E_Stato(ms, indirizzo);
-    };
-    return nuovo;
-  });
-}
-
-void Finestre::Mostra_Tempi() {
-  if (tavolo_) return Nel_Tavolo(Vista_Tavolo::Tempi, Tempi());
-  const bool nuova = tempi_.isNull();
-  FrmTempi& finestra = Tempi();
-  // At the lower border of the screen, where it hides least of the others.
-  const QRect schermo = pannello_.screen()->availableGeometry();
-  if (nuova) finestra.move(schermo.left(), schermo.bottom() - finestra.height() - 40);
-  Porta_Avanti(finestra);
-}
-
-std::optional<std::int64_t> Finestre::Cursore_Del_Diagramma() const {
-  if (!tempi_) return {};
-  const Diagramma_Tempi& diagramma = tempi_->Dati();
-  return diagramma.Posto(diagramma.Attivo);
-}
-
-void Finestre::Racconta_Al_Diagramma(const QString& messaggio) {
-  if (tempi_) tempi_->Racconta(messaggio);
-}
-
-void Finestre::Altra_Seduta() {
-  if (tempi_) tempi_->Altra_Seduta(esercizio_);
-}
-
-void Finestre::Specchia() {
-  if (tempi_) tempi_->Aggiorna();
-  if (osserva_) osserva_->Aggiorna();
-  if (analogici_) analogici_->Specchia();
-}
-
-FrmOsserva& Finestre::Osserva() {
-  return Trova(osserva_, [this] {
-    auto* finestra = new FrmOsserva(plc_, esercizio_);
-    finestra->addActions(pannello_.Comandi_Di_Vista());
-    Prepara(*finestra, "Tempi.htm#osservazione");
-    return finestra;
-  });
-}
-
-void Finestre::Mostra_Osserva() {
-  if (tavolo_) return Nel_Tavolo(Vista_Tavolo::Osserva, Osserva());
-  Porta_Avanti(Osserva());
-}
-
 /// The windows that show a plant's symbols.
 void Finestre::Cambia_Simboli(const Esercizio* impianto) {
   esercizio_ = impianto;
@@ -396,7 +298,7 @@ void Finestre::Apri_Impianto(int indice) {
   Finestra_Impianto& finestra =
       Trova(impianto_, [&] { return new Finestra_Impianto(std::move(collegamento)); });
   finestra.Mostra_Corsa();
-  finestra.setToolTip(QString::fromUtf8(tasti_ovunque));
+  Di_Tasti(finestra);
   finestra.addActions(pannello_.Comandi_Di_Vista());
   finestra.addActions(pannello_.Comandi_Di_Testo());
   finestra.Mostra_Aiuto = [this](const char* pagina) { Mostra_Aiuto(guida_.Dir_Panel + pagina); };

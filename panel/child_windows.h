@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <type_traits>
 #include <typeindex>
 #include <vector>
 
@@ -107,18 +108,32 @@ class Finestre {
   std::int16_t Sim_Contraves = 0;  ///< -1 while the thumbwheel stands in for the second switch row
 
  private:
+  /// Makes a window when it is not there.
   template <class Finestra, class Crea>
-  Finestra& Trova(QPointer<Finestra>& finestra, Crea crea);
+  Finestra& Trova(QPointer<Finestra>& finestra, Crea crea) {
+    if (!finestra) {
+      finestra = crea();
+      finestra->setAttribute(Qt::WA_DeleteOnClose);
+      ordine_.Sorveglia(*finestra);
+      finestra->addActions(pannello_.Comandi_Ovunque());
+      if constexpr (!std::is_same_v<Finestra, FrmMain>) {  // which has another command for F8
+        if (pannello_.Pausa != nullptr) finestra->addAction(pannello_.Pausa);
+      }
+    }
+    return *finestra;
+  }
   template <class Finestra, class... Cosa>
   void Mostra_Altra(const char* pagina, Cosa&... cosa);
+  static void Di_Tasti(QWidget& finestra);
   void Prepara(QWidget& finestra, const char* pagina);
   FrmMain& Editor();
-  FrmStatiL& Stati(bool col_pannello = true);
-  FrmTempi& Tempi();
-  FrmOsserva& Osserva();
   static void Porta_Avanti(QWidget& finestra);
   void Avanti_Il_Pannello();
   void Segui_Testo(QWidget& finestra);
+  // view_windows.cpp
+  FrmStatiL& Stati(bool col_pannello = true);
+  FrmTempi& Tempi();
+  FrmOsserva& Osserva();
   // workbench_windows.cpp
   void Nel_Tavolo(Vista_Tavolo chi, QWidget& vista);
   void Lascia_Tavolo(bool impianto_chiude);
