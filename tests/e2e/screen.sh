@@ -41,7 +41,9 @@ alive() {
   done
 }
 
-managed() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"; }
+# It says that it is there before it listens, and what comes in between may lie until the next event:
+# a window that is never shown.
+managed() { xdotool set_num_desktops 1 && [ "$(xdotool get_num_desktops)" = 1 ]; }
 
 close_screen() {
   [ -z "${program:-}" ] || kill -9 "$program" 2>/dev/null || true
