@@ -144,12 +144,12 @@ void Ordine_Finestre::Metti(QWidget& finestra, const QRect& cornice, bool tutte)
 }
 
 void Ordine_Finestre::Porta(QWidget& finestra, const QRect& cornice) const {
-  // A late answer of the window manager may have given the window another size that it has not
-  // heard of yet, and a move would ask for that one again. Only a size that changes is asked for.
-  const QSize misura = cornice.size().shrunkBy(Bordi(finestra));
-  if (finestra.size() == misura) finestra.resize(misura + QSize(1, 0));
-  finestra.resize(misura);
-  finestra.move(cornice.topLeft());
+  // A late answer of the window manager may have put the window elsewhere than its widget believes.
+  // Asked for half of it, such a window stays there with the other half, and what the widget
+  // believes already is never asked for: so all at once, with a size that changes.
+  const QRect dentro = cornice.marginsRemoved(Bordi(finestra));
+  if (finestra.size() == dentro.size()) finestra.setGeometry(dentro.adjusted(0, 0, 1, 0));
+  finestra.setGeometry(dentro);
 }
 
 void Ordine_Finestre::Sta_Per_Aprire() {

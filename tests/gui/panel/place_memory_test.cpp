@@ -134,6 +134,34 @@ TEST_F(Posti_Delle_Finestre, AnotherWindowThatOpensMovesNoneThatTheUserHasPlaced
   EXPECT_EQ(impianto.frameGeometry(), messa);
 }
 
+/// The window system moves a window, and its widget never hears of it.
+struct Sordo : QObject {
+  bool eventFilter(QObject* /*finestra*/, QEvent* evento) override {
+    return evento->type() == QEvent::Move;
+  }
+};
+
+TEST_F(Posti_Delle_Finestre, AWindowThatStandsElsewhereThanItBelievesIsPutInItsPlace) {
+  Seduta_Di_Finestre seduta(dove);
+  Azione(seduta.pannello, "mnuPrj(0)").trigger();
+  seduta.Posa();
+  const QWidget& impianto = *seduta.Finestra("frmMA");
+  const QRect data = impianto.geometry();
+  QWindow& vera = *impianto.windowHandle();
+  {
+    Sordo sordo;
+    vera.installEventFilter(&sordo);
+    vera.setPosition(data.topLeft() + QPoint(40, 30));
+    QCoreApplication::processEvents();
+  }
+  ASSERT_NE(vera.position(), data.topLeft());
+  ASSERT_EQ(impianto.geometry(), data) << "it believes to be there";
+  Azione(seduta.pannello, "mnuViewDisponi").trigger();
+  seduta.Posa();
+  EXPECT_EQ(vera.geometry(), data);
+  EXPECT_EQ(impianto.geometry(), data);
+}
+
 TEST_F(Posti_Delle_Finestre, APlaceOffAllScreensIsForgotten) {
   QSettings ricordi(dove, QSettings::IniFormat);
   Posti_Ricordati posti;
