@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QMainWindow>
 #include <QScreen>
+#include <QWindow>
 #include <algorithm>
 #include <initializer_list>
 
@@ -22,6 +23,11 @@ constexpr int giri_fermi = 5;     // looks without a change, after which all is 
 bool Libera(const QWidget& finestra) {
   return finestra.isWindow() && finestra.isVisible() && !finestra.isMaximized() &&
          !finestra.isFullScreen() && !finestra.isMinimized();
+}
+
+/// Told to appear, and not yet on the screen.
+bool Attesa(const QWidget* finestra) {
+  return Libera(*finestra) && !finestra->windowHandle()->isExposed();
 }
 
 /// How thick the frame is, as far as it is known.
@@ -289,6 +295,8 @@ QRect Ordine_Finestre::Accanto_Al_Pannello(const QWidget& finestra) const {
 
 /// A moment after the windows were placed: with the frames as they are, once they are known.
 void Ordine_Finestre::Assesta() {
+  // A desktop that is late has not shown them yet, and may take its time.
+  if (std::ranges::any_of(sorvegliate_, Attesa)) return;
   ++giri_;
   if (bordi_ != Bordi(pannello_)) {
     const int giri = giri_;
