@@ -36,6 +36,8 @@ bool Taglio_Vietato(std::string_view testo, std::size_t posto) {
 AwlEditor::AwlEditor(Genere_Testo genere, const char* nome, QWidget* sopra)
     : QsciScintilla(sopra), genere_(genere), lexer_(new AwlLexer(genere, this)) {
   setObjectName(QString::fromUtf8(nome));
+  documento_.documento_ = document();
+  *documento_.mostrato_ = true;
   setLexer(lexer_);
   Prepara_Vista();
   Prepara_Documento();
@@ -269,9 +271,16 @@ void AwlEditor::redo() {
     SendScintilla(SCI_REDO);
 }
 
-void AwlEditor::Mostra_Documento(const QsciDocument& documento) {
+void AwlEditor::Mostra_Documento(const Documento_Testo& altro) {
   Chiudi_Aiuti();
-  setDocument(documento);
+  const void* prima = SendScintillaPtrResult(SCI_GETDOCPOINTER);
+  setDocument(altro.documento_);
+  void* ora = SendScintillaPtrResult(SCI_GETDOCPOINTER);
+  // The component takes a reference to a text that it puts aside, and does not give it back when
+  // it shows that again.
+  if (ora != prima && std::exchange(*altro.mostrato_, true))
+    SendScintilla(SCI_RELEASEDOCUMENT, 0UL, ora);
+  documento_ = altro;
   Prepara_Documento();
 }
 

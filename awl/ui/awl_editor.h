@@ -21,6 +21,14 @@ class QMenu;
 
 namespace tavorno {
 
+/// A text with its undo history and its marks, which an editor shows one at a time. Copies are the
+/// same text.
+class Documento_Testo {
+  friend class AwlEditor;
+  QsciDocument documento_;
+  std::shared_ptr<bool> mostrato_ = std::make_shared<bool>(false);
+};
+
 /// A text of statement list: coloured, with the numbers of its rows in the margin, help while
 /// typing and marks of errors. It shows and edits; what the text means is others' business.
 class AwlEditor : public QsciScintilla, public Testo_Proprio {
@@ -60,8 +68,9 @@ class AwlEditor : public QsciScintilla, public Testo_Proprio {
   void In_Un_Passo(const std::function<void()>& modifiche);
   void Dimentica_Annulla() { SendScintilla(SCI_EMPTYUNDOBUFFER); }
 
-  /// Shows another text, from its beginning. Its undo history and its marks are its own.
-  void Mostra_Documento(const QsciDocument& documento);
+  /// Shows another text, from its beginning. No other editor may show it at any time.
+  void Mostra_Documento(const Documento_Testo& altro);
+  const Documento_Testo& Documento() const { return documento_; }
 
   /// Numbers in the margin by line, `Numerazione::Nessuno` for none; lines beyond have none.
   void Numera(const std::vector<int>& numeri);
@@ -166,6 +175,7 @@ class AwlEditor : public QsciScintilla, public Testo_Proprio {
 
   Genere_Testo genere_;
   AwlLexer* lexer_;
+  Documento_Testo documento_;  // that is shown
   std::vector<Diagnosi> suggerimenti_;
   Simboli simboli_;
   std::vector<int> margini_;  // their widths before the text was enlarged for the first time

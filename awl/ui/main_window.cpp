@@ -305,7 +305,7 @@ void FrmMain::Rimozione() {
   p_.Remove_Sub();
   if (p_.Num_SBR < quante) {
     documenti_.Togli(tolta);
-    residuo_ = QsciDocument();
+    residuo_ = {};
     storia_.Passo(std::move(prima), p_.Testi());
   }
   Specchia();

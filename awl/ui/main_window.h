@@ -120,7 +120,7 @@ class FrmMain : public QMainWindow {
   /// The project with the texts that show it, their histories and marks.
   struct Vista {
     Stato_Progetto Stato;
-    QsciDocument Main;
+    Documento_Testo Main;
     Documenti_Procedure Procedure;
     Segni_Errori Segni;
     AwlEditor::Veduta Veduta_Main;
@@ -173,7 +173,7 @@ class FrmMain : public QMainWindow {
   Documenti_Procedure documenti_;
   int mostrata_ = 0;  // key of the text in `txtP`, 0 for one that belongs to no procedure
   Segni_Errori segni_;
-  QsciDocument residuo_;  // what `txtP` shows while no procedure is selected
+  Documento_Testo residuo_;  // what `txtP` shows while no procedure is selected
   Comandi_Testi* comandi_ = nullptr;
   QTimer suggerisci_;         // a moment after the last change
   bool testi_nuovi_ = false;  // the texts on screen have no history yet

@@ -8,7 +8,7 @@
 namespace tavorno {
 
 FrmMain::Vista FrmMain::Come_Sta() const {
-  Vista vista{p_, txtList->document(), documenti_, segni_, txtList->Come_Si_Vede()};
+  Vista vista{p_, txtList->Documento(), documenti_, segni_, txtList->Come_Si_Vede()};
   if (const int riga = documenti_.Riga(mostrata_); riga != 0)
     vista.Procedure.Veduta_Di(riga) = txtP->Come_Si_Vede();
   return vista;
@@ -21,11 +21,11 @@ AwlEditor& FrmMain::Davanti() const {
 
 /// A command took `prima` away; the texts on screen are new ones.
 void FrmMain::Sostituito(Vista prima) {
-  txtList->Mostra_Documento(QsciDocument());
+  txtList->Mostra_Documento({});
   documenti_.Svuota();
   documenti_.Adegua(p_.Num_SBR);
   mostrata_ = 0;
-  residuo_ = QsciDocument();
+  residuo_ = {};
   testi_nuovi_ = true;
   segni_.Dimentica();
   if (prima.Stato.Vuoto())
@@ -42,7 +42,7 @@ void FrmMain::Rimetti(Vista vista) {
   txtList->Mostra_Documento(vista.Main);
   documenti_ = std::move(vista.Procedure);
   mostrata_ = 0;
-  residuo_ = QsciDocument();
+  residuo_ = {};
   segni_ = std::move(vista.Segni);
   storia_.Arrivato(p_.Testi());
   Specchia();

@@ -19,7 +19,7 @@ void Documenti_Procedure::Togli(int riga) {
   documenti_.erase(documenti_.begin() + (riga - 1));
 }
 
-const QsciDocument& Documenti_Procedure::Di(int riga) const {
+const Documento_Testo& Documenti_Procedure::Di(int riga) const {
   return documenti_.at(static_cast<std::size_t>(riga - 1)).Testo;
 }
 

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "awl/ui/awl_editor.h"
-#include "awl/ui/scintilla.h"
 
 namespace tavorno {
 
@@ -19,7 +18,7 @@ class Documenti_Procedure {
   void Svuota() { documenti_.clear(); }
   int Quanti() const { return static_cast<int>(documenti_.size()); }
 
-  const QsciDocument& Di(int riga) const;
+  const Documento_Testo& Di(int riga) const;
   bool Prima_Volta(int riga);  ///< true at the first call for that text
   /// A number that stays with the text wherever it moves, from 1 and never used twice.
   int Chiave(int riga) const;
@@ -29,12 +28,12 @@ class Documenti_Procedure {
 
  private:
   struct Documento {
-    QsciDocument Testo;
+    Documento_Testo Testo;
     int Chiave = 0;
     bool Mostrato = false;
     AwlEditor::Veduta Veduta;
   };
-  Documento Nuovo() { return {QsciDocument(), ++ultima_chiave_, false, {}}; }
+  Documento Nuovo() { return {{}, ++ultima_chiave_, false, {}}; }
 
   std::vector<Documento> documenti_;  // row 1 is at 0
   int ultima_chiave_ = 0;
