@@ -109,12 +109,14 @@ class FrmMain : public QMainWindow {
   void Insieme(const std::function<void()>& comando);
   void Network(int indice);
   void Scegli_Procedura(int scheda);
-  void Cambia_Pagina(int pagina);
-  AwlEditor* Testo_Di(int testo);
-  bool Errore_Vicino(int verso);
   void Dici(const QString& testo);
   void Al_Primo_Errore();
   void Guarda_Il_Disco();
+
+  // main_window_places.cpp: from place to place in the project
+  void Cambia_Pagina(int pagina);
+  AwlEditor* Testo_Di(int testo);
+  bool Errore_Vicino(int verso);
 
   // main_window_history.cpp: undo beyond the texts
   /// The project with the texts that show it, their histories and marks.
