@@ -21,6 +21,12 @@ colori::Tinta Tinta(Stile_Scritta stile) {
   return stile == Stile_Scritta::Simbolo ? colori::Scala_Simbolo.Testo : colori::Scala_Testo.Testo;
 }
 
+/// The number behind an address.
+QString Coda(const Stato_Rete& stato, std::size_t quale) {
+  const QString valore = stato.Viva ? stato.Valori[static_cast<qsizetype>(quale)] : QString();
+  return valore.isEmpty() ? valore : QStringLiteral(" = ") + valore;
+}
+
 class Pittura {
  public:
   Pittura(QPainter& pittore, const Rete_Foglio& rete, const Stato_Rete& stato, colori::Serie serie)
@@ -73,24 +79,20 @@ class Pittura {
   void Scritte() {
     for (std::size_t n = 0; n < rete_.Scritte.size(); ++n) {
       const Scritta_Pronta& scritta = rete_.Scritte[n];
-      const QString& valore = stato_.Viva ? stato_.Valori[static_cast<qsizetype>(n)] : QString();
+      const QString coda = Coda(stato_, n);
+      const QRectF posto = Posto_Scritta(rete_, stato_, n);
       p_.setFont(Carattere_Scala(scritta.Stile));
-      p_.setPen(Tinta(scritta.Stile).Di(serie_));
-      if (valore.isEmpty()) {
-        p_.drawText(scritta.Posto, scritta.Testo);
-        continue;
-      }
-      // The number stands behind the address, and both where the address stood.
-      const QString coda = QStringLiteral(" = ") + valore;
-      const QFontMetricsF misura = p_.fontMetrics();
+      const QFontMetricsF misura(p_.font());
       const double prima = misura.horizontalAdvance(scritta.Testo);
       const double tutto = prima + misura.horizontalAdvance(coda);
-      const double x = scritta.X - (scritta.Dove == Ancora::Centro   ? tutto / 2
-                                    : scritta.Dove == Ancora::Destra ? tutto
-                                                                     : 0);
-      p_.drawText(QPointF(x, scritta.Posto.y()), scritta.Testo);
+      p_.save();
+      p_.translate(posto.left(), scritta.Posto.y());
+      if (tutto > posto.width()) p_.scale(posto.width() / tutto, 1);
+      p_.setPen(Tinta(scritta.Stile).Di(serie_));
+      p_.drawText(QPointF(0, 0), scritta.Testo);
       p_.setPen(colori::Scala_Valore.Testo.Di(serie_));
-      p_.drawText(QPointF(x + prima, scritta.Posto.y()), coda);
+      p_.drawText(QPointF(prima, 0), coda);
+      p_.restore();
     }
   }
 
@@ -106,7 +108,15 @@ class Pittura {
     posto.setTop(cella.top() + sporge + 1);
     posto.setBottom(std::max(posto.bottom(), std::min(cella.bottom(), posto.bottom() + 12)));
     const double manca = std::max(0.0, 64 - posto.width());
-    return posto.adjusted(-manca / 2, 0, manca / 2, 0);
+    posto.adjust(-manca / 2, 0, manca / 2, 0);
+    // No edge through a number that is wider.
+    for (std::size_t n = 0; n < rete_.Scritte.size(); ++n) {
+      if (rete_.Scritte[n].Riquadro != simbolo || rete_.Scritte[n].Operando < 0) continue;
+      const QRectF scritta = Posto_Scritta(rete_, stato_, n);
+      posto.setLeft(std::min(posto.left(), scritta.left()));
+      posto.setRight(std::max(posto.right(), scritta.right()));
+    }
+    return posto;
   }
   void Segna(int simbolo, const colori::Tinta& tinta) {
     if (simbolo < rete_.Simboli())
@@ -132,7 +142,7 @@ class Pittura {
 
   void Giunti(bool vivi) {
     p_.setPen(Qt::NoPen);
-    p_.setBrush(QColor(vivi ? colori::Scala_Vivo.Testo : colori::Scala_Testo.Testo));
+    p_.setBrush((vivi ? colori::Scala_Vivo : colori::Scala_Testo).Testo.Di(serie_));
     for (const Giunto& giunto : rete_.Forme.Giunti)
       if (Vivo(giunto.Nodo) == vivi)
         p_.drawEllipse(QPointF(giunto.X, giunto.Y), raggio_giunto, raggio_giunto);
@@ -199,6 +209,17 @@ Stato_Rete Stato_Di(const Rete_Foglio& rete, const Memoria& cpu) {
                             : QString());
   }
   return stato;
+}
+
+QRectF Posto_Scritta(const Rete_Foglio& rete, const Stato_Rete& stato, std::size_t quale) {
+  const Scritta_Pronta& scritta = rete.Scritte[quale];
+  const QFontMetricsF misura(Carattere_Scala(scritta.Stile));
+  double larga = misura.horizontalAdvance(scritta.Testo + Coda(stato, quale));
+  if (scritta.Spazio > 0) larga = std::min(larga, scritta.Spazio);
+  const double x = scritta.Dove == Ancora::Centro   ? scritta.X - larga / 2
+                   : scritta.Dove == Ancora::Destra ? scritta.X - larga
+                                                    : scritta.X;
+  return {x, scritta.Posto.y() - misura.ascent(), larga, misura.height()};
 }
 
 void Dipingi_Rete(QPainter& pittore, const Rete_Foglio& rete, const Stato_Rete& stato,

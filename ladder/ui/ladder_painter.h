@@ -23,6 +23,10 @@ struct Stato_Rete {
 /// The same for a network of a running CPU.
 Stato_Rete Stato_Di(const Rete_Foglio& rete, const Memoria& cpu);
 
+/// Where a text of a network stands, with its number: that of an operand is drawn narrower where it
+/// has not the room.
+QRectF Posto_Scritta(const Rete_Foglio& rete, const Stato_Rete& stato, std::size_t quale);
+
 /// What is marked in a network, by number of its symbols; -1: nothing.
 struct Segni_Rete {
   int Scelto = -1, Fino = -1;  ///< chosen, from one to the other

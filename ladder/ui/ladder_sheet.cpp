@@ -21,6 +21,7 @@ constexpr double altezza_riga_lista = 18;
 constexpr double respiro = 14;  // below a network
 constexpr double larghezza_minima = 600;
 constexpr int pixel_testo = 12, pixel_piedino = 11;
+constexpr double stacco_operandi = 3;
 
 double Larghezza_Testo(const QString& testo, Stile_Scritta stile) {
   return QFontMetricsF(Carattere_Scala(stile)).horizontalAdvance(testo);
@@ -38,6 +39,22 @@ Scritta_Pronta Prepara(const Scritta& scritta) {
       scritta.Posto == Ancora::Sinistra ? 0 : Larghezza_Testo(pronta.Testo, scritta.Stile);
   pronta.Posto = {scritta.X - (scritta.Posto == Ancora::Centro ? lunga / 2 : lunga), scritta.Y};
   return pronta;
+}
+
+/// An operand and its number stay within their symbol's cells, and right of the name of their pin.
+void Dai_Spazio(Rete_Foglio& rete) {
+  for (Scritta_Pronta& operando : rete.Scritte) {
+    if (operando.Operando < 0 || operando.Riquadro < 0) continue;
+    const QRectF& cella = rete.Celle[static_cast<std::size_t>(operando.Riquadro)];
+    operando.Spazio = cella.width() - 2 * stacco_operandi;
+    if (operando.Dove != Ancora::Destra) continue;
+    double da = cella.left();
+    for (const Scritta_Pronta& altra : rete.Scritte)
+      if (altra.Riquadro == operando.Riquadro && altra.Dove == Ancora::Sinistra &&
+          altra.Posto.y() == operando.Posto.y())
+        da = altra.Posto.x() + Larghezza_Testo(altra.Testo, altra.Stile);
+    operando.Spazio = operando.X - da - 2 * stacco_operandi;
+  }
 }
 
 /// What is between the two strokes of a contact, the brackets of a coil, the edges of a box.
@@ -118,6 +135,7 @@ void Foglio_Scala::Disegna(Rete_Foglio& rete, const Nome_Simbolico& nome) const 
     rete.Celle.emplace_back(margine_forme + r.Colonna * larghezza_cella, r.Riga * altezza_cella,
                             r.Larghezza * larghezza_cella, r.Altezza * altezza_cella);
   rete.Cuori = Cuori_Di(rete.Come, rete.Forme);
+  Dai_Spazio(rete);
 }
 
 void Foglio_Scala::Disponi() {

@@ -22,6 +22,7 @@ struct Scritta_Pronta {
   Ancora Dove = Ancora::Centro;
   double X = 0;  ///< of the anchor
   int Riquadro = -1, Operando = -1;
+  double Spazio = 0;  ///< how wide an operand can be beside its neighbours; 0: as wide as it is
 };
 
 /// A network of the sheet with its drawing, from the upper left corner `X`, `Y`.

@@ -45,12 +45,13 @@ void Disegna(QPainter& p, const std::string& istr) {
   const bool negato = segno.startsWith('/');
   if (negato) segno.remove(0, 1);
   if (scatola) {
-    p.drawRect(QRectF(3, 3, larga_icona - 6, alta_icona - 6));
+    const QRectF cornice(3, 3, larga_icona - 4, alta_icona - 6);
+    p.drawRect(cornice);
     p.drawLine(QPointF(0, y), QPointF(3, y));
-    p.drawText(QRectF(0, 0, larga_icona, alta_icona), Qt::AlignCenter, segno);
+    p.drawText(cornice, Qt::AlignCenter, segno);
     return;
   }
-  const double mezzo = segno.size() > 1 ? 13 : 6;
+  const double mezzo = segno.size() > 1 ? 15 : 6;
   p.drawLine(QPointF(1, y), QPointF(m - mezzo, y));
   p.drawLine(QPointF(m + mezzo, y), QPointF(larga_icona - 1, y));
   if (accanto) {
@@ -90,7 +91,8 @@ QIcon Icona_Simbolo(const std::string& istr) {
     pittore.setRenderHint(QPainter::Antialiasing);
     pittore.setPen(QPen(tratto, 1.6));
     QFont font = Carattere_Scala(Stile_Scritta::Nome);
-    font.setPixelSize(istr.size() > 3 ? 9 : 10);
+    const bool lunga = istr.size() > 3;
+    font.setPixelSize(lunga ? (Simbolo_Di(istr).Segno.size() > 3 ? 8 : 9) : 10);
     pittore.setFont(font);
     Disegna(pittore, istr);
     pittore.end();
