@@ -115,6 +115,8 @@ void FrmPLC::Collega_Comandi() {
     plc_.Entra(Comando_Corsa::Cont);
   });
   Al_Comando(a_.mnuViewTB, [this] { c_.tB1->setVisible(!c_.tB1->isVisibleTo(this)); });
+  // It can be hidden by the menu of bars too.
+  connect(c_.tB1->toggleViewAction(), &QAction::toggled, a_.mnuViewTB, &QAction::setChecked);
   Al_Comando(a_.mnuViewSTB, [this] { statusBar()->setVisible(!statusBar()->isVisibleTo(this)); });
   Al_Comando(a_.mnuViewKOP, [this] { Apri_Scalaro(); });
 }

@@ -61,6 +61,7 @@ QAction& Aggiungi_Voce(QMenu& menu, const Voce_Menu& voce, QAction* davanti_a) {
 QToolBar* Crea_Barra(QMainWindow& finestra, const char* nome, std::span<const Tasto_Barra> tasti) {
   auto* barra = new QToolBar(&finestra);
   barra->setObjectName(QString::fromUtf8(nome));
+  barra->setWindowTitle(QStringLiteral("Tool Bar"));  // in the menu of bars that a window has
   barra->setMovable(false);
   barra->setContextMenuPolicy(Qt::PreventContextMenu);
   barra->setIconSize(QSize(22, 22));

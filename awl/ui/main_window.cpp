@@ -154,6 +154,8 @@ void FrmMain::Collega_Comandi() {
     Regola_Altezza();
   };
   al(a_.mnuViewTB, [this, mostra] { mostra(*tB1, *a_.mnuViewTB); });
+  // It can be hidden by the menu of bars too.
+  connect(tB1->toggleViewAction(), &QAction::triggered, a_.mnuViewTB, &QAction::trigger);
   al(a_.mnuViewSTB, [this, mostra] { mostra(*statusBar(), *a_.mnuViewSTB); });
   for (int i = 0; i < Pagina_Nascosta; ++i)
     al(a_.mnuViewC.at(static_cast<std::size_t>(i)), [this, i] { SSTb2->setCurrentIndex(i); });

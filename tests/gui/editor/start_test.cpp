@@ -288,6 +288,14 @@ TEST_F(WindowSize, WithTheBarsOffItShrinksByTheirHeight) {
   Comanda("mnuViewTB");
   Comanda("mnuViewSTB");
   EXPECT_EQ(finestra->height(), intera);
+  // From the menu that the right button opens on the menu bar.
+  const std::unique_ptr<QMenu> menu(finestra->createPopupMenu());
+  menu->actions().constFirst()->trigger();
+  EXPECT_FALSE(Voce("mnuViewTB").isChecked());
+  EXPECT_EQ(finestra->height(), intera - barra);
+  menu->actions().constFirst()->trigger();
+  EXPECT_TRUE(Voce("mnuViewTB").isChecked());
+  EXPECT_EQ(finestra->height(), intera);
 }
 
 TEST_F(WindowSize, MaximisedItFillsTheScreen) {

@@ -226,6 +226,19 @@ TEST_F(Finestre_Pannello, TheBarsCanBeHidden) {
   EXPECT_EQ(piena(), altezza);
 }
 
+/// Of the menu that the right button opens on the menu bar.
+TEST_F(Finestre_Pannello, ABarIsHiddenByItsNameToo) {
+  const std::unique_ptr<QMenu> menu(pannello.createPopupMenu());
+  ASSERT_FALSE(menu->actions().isEmpty());
+  for (const QAction* voce : menu->actions()) EXPECT_FALSE(voce->text().isEmpty());
+  ASSERT_EQ(menu->actions().constFirst()->text(), "Tool Bar");
+  for (const bool spuntata : {false, true}) {
+    menu->actions().constFirst()->trigger();
+    EXPECT_EQ(c.tB1->isVisible(), spuntata);
+    EXPECT_EQ(Spuntata("mnuViewTB"), spuntata);
+  }
+}
+
 TEST_F(Finestre_Pannello, ALadderEditorThatIsNotThereIsSaid) {
   const QByteArray percorsi = qgetenv("PATH");
   qputenv("PATH", "");
