@@ -52,6 +52,7 @@ Campo_Scala::Campo_Scala(QWidget* sopra)
   detto_->setWordWrap(true);
   detto_->setContentsMargins(4, 2, 4, 2);
   detto_->setAutoFillBackground(true);
+  detto_->setBackgroundRole(QPalette::Window);  // not that of the sheet that it lies on
   auto* colonna = new QVBoxLayout(this);
   colonna->setContentsMargins(1, 1, 1, 1);
   colonna->setSpacing(0);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ladder_bed.h"
+#include "widgets/colours.h"
 
 namespace tavorno::prova {
 namespace {
@@ -68,8 +69,10 @@ TEST_F(Modifica_Scala, TheCheckerSpeaksWhileOneTypes) {
   QTest::keyClicks(&Vista(), "a");
   ASSERT_TRUE(Campo_Aperto());
   EXPECT_EQ(Detto(), QString("AND del bit con la cima della pila: contatto in serie"));
+  EXPECT_EQ(Fondo_Detto(), colori::Scala_Aiuto.Fondo);
   QTest::keyClicks(&Campo(), " i0.9");
   EXPECT_EQ(Detto(), QString("Indirizzo Bit OP1 non ammesso"));
+  EXPECT_EQ(Fondo_Detto(), colori::Scala_Errore.Fondo);
   QTest::keyClick(&Campo(), Qt::Key_Return);
   EXPECT_TRUE(Campo_Aperto());
   EXPECT_EQ(Main(), marcia);

@@ -85,6 +85,10 @@ class Banco_Scala : public ::testing::Test {
   }
   QLineEdit& Campo() const { return *scala->findChild<QLineEdit*>("txtBattuta"); }
   QString Detto() const { return scala->findChild<QLabel*>("etDetto")->text(); }
+  /// What it stands on, as painted.
+  QColor Fondo_Detto() const {
+    return scala->findChild<QLabel*>("etDetto")->grab().toImage().pixelColor(1, 1);
+  }
   QString Stato() const { return scala->findChild<QLabel*>("etScelto")->text(); }
   bool Campo_Aperto() const { return Campo().isVisible(); }
   void Premi(Qt::Key tasto, Qt::KeyboardModifiers con = Qt::NoModifier) const {
