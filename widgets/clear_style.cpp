@@ -97,9 +97,9 @@ void Stile_Chiaro::polish(QPalette& tinte) {
 QPalette Stile_Chiaro::Per(const QPalette& tinte, bool velati) const {
   constexpr std::size_t tante = 64;  // palettes of a desktop that has changed go with the rest
   auto& fatte = fatte_[velati ? 1 : 0];
-  if (fatte.size() >= tante) fatte.clear();
   auto trovata = fatte.find(tinte.cacheKey());
   if (trovata == fatte.end()) {
+    if (fatte.size() >= tante) fatte.clear();
     const QPalette nuova = Con_Contorni_Visibili(tinte, velati);
     // A part that is drawn of other parts comes back with what it was given.
     fatte.emplace(nuova.cacheKey(), nuova);
@@ -131,6 +131,10 @@ void Stile_Chiaro::drawPrimitive(PrimitiveElement parte, const QStyleOption* opz
       break;
   }
   if (!fatto) disegna(opzioni);
+  // A menu lies over sheets that may have its colour.
+  if (parte == PE_PanelMenu)
+    Cornice(*pittore, opzioni->rect,
+            Per(opzioni->palette).color(QPalette::Window).darker(contorno));
   // Fusion only breathes it on.
   if (parte == PE_FrameFocusRect && opzioni->state.testFlag(State_KeyboardFocusChange))
     Cornice(*pittore, opzioni->rect,

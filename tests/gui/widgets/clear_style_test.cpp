@@ -12,6 +12,7 @@
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
 #include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
@@ -122,6 +123,15 @@ TEST_P(Contorni, OfARadioButtonThatIsNotChosen) {
              tasto.style()->subElementRect(QStyle::SE_RadioButtonIndicator, &opzioni, &tasto));
 }
 
+/// It lies over sheets of its own colour.
+TEST_P(Contorni, OfAMenu) {
+  QMenu menu;
+  menu.addAction(QStringLiteral("Nuovo circuito"));
+  menu.resize(menu.sizeHint());
+  const QImage carta = Ritratto(menu);
+  Ha_Cornice(carta, carta.rect());
+}
+
 TEST_P(Contorni, OfTheButtonThatClosesAView) {
   QMainWindow finestra;
   auto* riquadro = new QDockWidget(QStringLiteral("Lista"), &finestra);
@@ -154,6 +164,24 @@ TEST_P(Contorni, OfFieldsAndButtons) {
     parte->resize(120, 28);
     const QImage carta = Ritratto(*parte);
     Ha_Cornice(carta, carta.rect());
+  }
+}
+
+/// A program that runs for hours has many, and only so many are kept.
+TEST_P(Contorni, AfterManyPalettes) {
+  const QColor prima = Fondo();
+  const Scrivania scrivania;
+  for (int n = 0; n < 80; ++n) {
+    SCOPED_TRACE(n);
+    QPalette tinte = QApplication::palette();
+    tinte.setColor(QPalette::Link, QColor(n, n, n));  // each palette has a key of its own
+    QApplication::setPalette(tinte);
+    ASSERT_EQ(Fondo(), prima);
+    QComboBox lista;
+    lista.resize(120 + n, 28);  // and each size is drawn anew
+    const QImage carta = Ritratto(lista);
+    Ha_Cornice(carta, carta.rect());
+    if (HasFailure()) break;
   }
 }
 
