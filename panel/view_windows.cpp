@@ -87,6 +87,7 @@ FrmOsserva& Finestre::Osserva() {
   return Trova(osserva_, [this] {
     auto* finestra = new FrmOsserva(plc_, esercizio_);
     finestra->addActions(pannello_.Comandi_Di_Vista());
+    Segui_Testo(*finestra);
     Prepara(*finestra, "Tempi.htm#osservazione");
     return finestra;
   });

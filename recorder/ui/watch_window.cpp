@@ -13,6 +13,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "plants/exercises.h"
 #include "recorder/force.h"
@@ -26,6 +28,7 @@ namespace tavorno {
 namespace {
 
 constexpr std::size_t celle_iniziali = 24;
+constexpr int aria = 10;  // of a row, beside its type
 
 QTableWidgetItem* Voce(const QString& testo, bool fisso) {
   auto* voce = new QTableWidgetItem(testo);
@@ -46,16 +49,12 @@ QTableWidget* Crea_Tabella() {
   tabella->setHorizontalHeaderLabels({QStringLiteral("Cella"), QStringLiteral("Formato"),
                                       QStringLiteral("Valore"), QStringLiteral("Forza")});
   tabella->verticalHeader()->hide();
-  tabella->verticalHeader()->setDefaultSectionSize(tabella->fontMetrics().height() + 10);
   tabella->setSelectionBehavior(QAbstractItemView::SelectRows);
   tabella->setSelectionMode(QAbstractItemView::SingleSelection);
   tabella->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                            QAbstractItemView::SelectedClicked);
   tabella->setTabKeyNavigation(false);
   Segui_Colori(*tabella, [tabella] { Ritingi(*tabella); });
-  tabella->setColumnWidth(0, 140);
-  tabella->setColumnWidth(1, 120);
-  tabella->setColumnWidth(2, 160);
   tabella->horizontalHeader()->setStretchLastSection(true);
   tabella->horizontalHeader()->setMinimumSectionSize(60);
   tabella->setToolTip(
@@ -67,7 +66,12 @@ QTableWidget* Crea_Tabella() {
 }  // namespace
 
 FrmOsserva::FrmOsserva(Plc& plc, const Esercizio* impianto)
-    : plc_(plc), impianto_(impianto), tabella_(Crea_Tabella()), timO_(new QTimer(this)) {
+    : plc_(plc),
+      impianto_(impianto),
+      tabella_(Crea_Tabella()),
+      timO_(new QTimer(this)),
+      punti_(tabella_->font().pointSizeF()),
+      larghe_{140, 120, 160} {
   setObjectName(QStringLiteral("frmOsserva"));
   setWindowTitle(QStringLiteral("Finestra di osservazione"));
   Forza_Cella = [this](const Indirizzo& cella, double valore) {
@@ -108,6 +112,9 @@ FrmOsserva::FrmOsserva(Plc& plc, const Esercizio* impianto)
     if (voce->column() == Forzato) Forza(voce->row(), voce->text());
   });
   tabella_->installEventFilter(this);
+  for (int n = 0; n < std::ssize(larghe_); ++n)
+    tabella_->setColumnWidth(n, static_cast<int>(larghe_.at(static_cast<std::size_t>(n))));
+  Misura_Tabella();
   for (const Segnale& segnale : Segnali_Di(Righe_Di(impianto_), plc_, celle_iniziali))
     Metti(segnale);
   tabella_->setCurrentCell(0, Nome);
@@ -295,9 +302,24 @@ void FrmOsserva::Di(const QString& messaggio) {
           : QStringLiteral("Il programma gira: per forzare un valore passa in Step, o fermalo."));
 }
 
+/// Rows and columns are as large as their type; what the user has given a column grows with it.
+void FrmOsserva::Misura_Tabella() {
+  tabella_->verticalHeader()->setDefaultSectionSize(tabella_->fontMetrics().height() + aria);
+  const double punti = tabella_->font().pointSizeF();
+  const double fattore = punti / std::exchange(punti_, punti);
+  for (int n = 0; n < std::ssize(larghe_); ++n) {
+    double& larga = larghe_.at(static_cast<std::size_t>(n));
+    const int ora = tabella_->columnWidth(n);
+    if (std::lround(larga) != ora) larga = ora;
+    larga *= fattore;
+    tabella_->setColumnWidth(n, static_cast<int>(std::lround(larga)));
+  }
+}
+
 // ---- keys ---------------------------------------------------------------------------------------
 
 bool FrmOsserva::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (evento->type() == QEvent::FontChange) Misura_Tabella();
   if (evento->type() != QEvent::KeyPress) return QWidget::eventFilter(oggetto, evento);
   const auto* tasto = static_cast<QKeyEvent*>(evento);
   const bool ctrl = tasto->modifiers().testFlag(Qt::ControlModifier);

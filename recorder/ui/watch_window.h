@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <array>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -63,6 +64,7 @@ class FrmOsserva : public QWidget {
   void Forza(int riga, const QString& testo);
   void Scrivi(int riga);
   void Permetti();
+  void Misura_Tabella();
   void Di(const QString& messaggio);
   static Indirizzo Cella(const Riga& riga);
 
@@ -74,6 +76,8 @@ class FrmOsserva : public QWidget {
   QLabel* etAvviso_;
   QTimer* timO_;
   std::optional<bool> permesso_;
+  double punti_;                        // of the table's type
+  std::array<double, Forzato> larghe_;  // of its columns, as far as they have a width of their own
 };
 
 }  // namespace tavorno

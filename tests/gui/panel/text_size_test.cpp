@@ -213,6 +213,40 @@ TEST_F(Testi, TheProjectorReachesTextsThatAreSetByTheirOwnWindow) {
   EXPECT_NEAR(cifre(), piccole, 0.01);
 }
 
+TEST_F(Testi, TheCellsOfTheWatchWindowAreAsLargeAsWhatTheyHold) {
+  Carica("LD T37\r\n= Q0.0\r\n");
+  finestre.Mostra_Osserva();
+  QWidget& osserva = *Finestra("frmOsserva");
+  auto& celle = *osserva.findChild<QTableWidget*>("tabOsserva");
+  int riga = 0;
+  while (riga < celle.rowCount() && celle.cellWidget(riga, 1) == nullptr) ++riga;
+  auto* formato = qobject_cast<QComboBox*>(celle.cellWidget(riga, 1));
+  ASSERT_NE(formato, nullptr);
+  celle.setColumnWidth(0, 133);  // as the user likes it
+  const auto misure = [&] {
+    QCoreApplication::processEvents();
+    const QModelIndex qui = celle.model()->index(riga, 1);
+    EXPECT_TRUE(celle.visualRect(qui).contains(formato->geometry())) << formato->width();
+    EXPECT_GE(celle.rowHeight(riga), celle.fontMetrics().height());
+    return std::vector{celle.rowHeight(riga), celle.columnWidth(0), celle.columnWidth(1),
+                       celle.columnWidth(2)};
+  };
+  const std::vector<int> prima = misure();
+  EXPECT_EQ(prima[1], 133);
+  for (int n = 0; n < 3; ++n) Comando("mnuViewPiu");
+  const std::vector<int> grandi = misure();
+  EXPECT_EQ(grandi[1], 177);
+  EXPECT_GT(grandi[0], prima[0]);
+  osserva.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&osserva, 20000));
+  QTest::keyClick(&osserva, Qt::Key_F11);
+  EXPECT_GT(misure(), grandi);
+  QTest::keyClick(&osserva, Qt::Key_F11);
+  EXPECT_EQ(misure(), grandi);
+  Comando("mnuViewNormale");
+  EXPECT_EQ(misure(), prima);
+}
+
 TEST_F(Testi, TheProjectorGivesEveryFontBack) {
   const auto caratteri = [this] {
     std::map<QWidget*, double> ora;
