@@ -32,7 +32,7 @@ Prestito::Prestito(QWidget& vista, const QList<QKeySequence>& anche_qui)
       visibile_(!vista.isHidden()),
       fatta_(vista.windowFlags()),
       stato_(vista.windowState()),
-      posto_(vista.pos(), vista.size()),
+      posto_(vista.geometry()),
       minima_(vista.minimumSize()),
       massima_(vista.maximumSize()) {
   if (era_finestra_ && (vista.isMaximized() || vista.isFullScreen()))
@@ -77,8 +77,9 @@ void Prestito::Rendi(bool mostra) {
   vista_->setMaximumSize(massima_);
   if (era_finestra_) {
     vista_->setParent(nullptr, fatta_);
-    vista_->resize(posto_.size());
-    vista_->move(posto_.topLeft());
+    // A window that has just been made has no frame yet, and one that is put by its frame's corner
+    // comes back higher by it.
+    vista_->setGeometry(posto_);
     if (!mostra) return;
     vista_->setWindowState(stato_ & ~Qt::WindowActive);
   } else if (segnaposto_ && sopra_ && sopra_->layout()) {

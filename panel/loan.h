@@ -43,7 +43,7 @@ class Prestito {
   bool era_finestra_, visibile_;
   Qt::WindowFlags fatta_;
   Qt::WindowStates stato_;
-  QRect posto_;  // corner of the frame, size without it
+  QRect posto_;  // without the frame
   QSize minima_, massima_;
   std::vector<Scorciatoia> scorciatoie_;
 };

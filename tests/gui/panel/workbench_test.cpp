@@ -6,11 +6,14 @@
 #include <QComboBox>
 #include <QDockWidget>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QWindow>
 #include <set>
 
 #include "panel/child_windows.h"
+#include "panel/loan.h"
 #include "panel/panel_bed.h"
 #include "plants/exercises.h"
 #include "plants/host/host_window.h"
@@ -114,6 +117,30 @@ TEST_F(Al_Tavolo, EveryViewIsTheSameObjectInItsDockAndComesBackAsItWas) {
   EXPECT_TRUE(c.tB1->isVisible());
   EXPECT_FALSE(impianto.Schede().isVisible());
   impianto.close();
+}
+
+/// Nobody corrects it: what is put right afterwards can come too late. Run on a desktop with frames
+/// too, in tests/e2e.
+TEST_F(Al_Tavolo, AWindowComesBackAtOnceWithItsFrame) {
+  QWidget vista;
+  vista.setGeometry(120, 90, 300, 200);
+  vista.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&vista, 20000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !vista.windowHandle()->frameMargins().isNull(); }));
+  const QRect posto = vista.geometry();
+  QMainWindow ospite;
+  ospite.resize(600, 400);
+  ospite.show();
+  for (int volta = 0; volta < 3; ++volta) {
+    Prestito prestito(vista, {});
+    ospite.setCentralWidget(&vista);
+    vista.show();
+    QCoreApplication::processEvents();
+    ospite.takeCentralWidget();
+    prestito.Rendi();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&vista, 20000));
+    EXPECT_EQ(vista.geometry(), posto);
+  }
 }
 
 TEST_F(Al_Tavolo, TheTableOfThePlantIsAsItWasToo) {
