@@ -73,6 +73,9 @@ Grandezza_Testo::Grandezza_Testo() {
 void Grandezza_Testo::Segui(QWidget& vista) {
   std::erase_if(viste_, [](const QPointer<QWidget>& una) { return una.isNull(); });
   viste_.emplace_back(&vista);
+  // What it measures before anything around it grows: in a workbench it has the font of the window.
+  Annota(vista);
+  for (QWidget* parte : vista.findChildren<QWidget*>()) Annota(*parte);
   if (passi_ != 0) Applica(vista, Fattore(vista));
 }
 

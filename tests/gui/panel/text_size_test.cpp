@@ -247,6 +247,33 @@ TEST_F(Testi, TheCellsOfTheWatchWindowAreAsLargeAsWhatTheyHold) {
   EXPECT_EQ(misure(), prima);
 }
 
+TEST_F(Testi, AtTheWorkbenchTheProjectorGivesEveryFontBack) {
+  finestre.Apri_Impianto(0);
+  finestre.Mostra_Stati();
+  finestre.Mostra_Tempi();
+  finestre.Mostra_Tavolo();
+  QCoreApplication::processEvents();
+  QWidget& tavolo = *Finestra("frmTavolo");
+  const auto caratteri = [&] {
+    std::map<QWidget*, double> ora;
+    for (QWidget* parte : tavolo.findChildren<QWidget*>())
+      if (parte->window() == &tavolo) ora[parte] = parte->font().pointSizeF();
+    return ora;
+  };
+  const std::map<QWidget*, double> prima = caratteri();
+  QWidget* cerca = tavolo.findChild<QWidget*>("txtCerca");
+  ASSERT_NE(cerca, nullptr);
+  for (int volta = 0; volta < 2; ++volta) {
+    tavolo.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&tavolo, 20000));
+    QTest::keyClick(&tavolo, Qt::Key_F11);
+    EXPECT_TRUE(tavolo.isFullScreen());
+    EXPECT_NEAR(cerca->font().pointSizeF(), prima.at(cerca) * 1.5, 0.01) << "once";
+    QTest::keyClick(&tavolo, Qt::Key_F11);
+    EXPECT_EQ(caratteri(), prima);
+  }
+}
+
 TEST_F(Testi, TheProjectorGivesEveryFontBack) {
   const auto caratteri = [this] {
     std::map<QWidget*, double> ora;

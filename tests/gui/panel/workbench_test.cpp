@@ -126,7 +126,8 @@ TEST_F(Al_Tavolo, AWindowComesBackAtOnceWithItsFrame) {
   vista.setGeometry(120, 90, 300, 200);
   vista.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&vista, 20000));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !vista.windowHandle()->frameMargins().isNull(); }));
+  ASSERT_TRUE(
+      QTest::qWaitFor([&] { return !vista.windowHandle()->frameMargins().isNull(); }, 20000));
   const QRect posto = vista.geometry();
   QMainWindow ospite;
   ospite.resize(600, 400);
