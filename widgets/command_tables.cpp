@@ -80,16 +80,6 @@ QToolBar* Crea_Barra(QMainWindow& finestra, const char* nome, std::span<const Ta
   return barra;
 }
 
-QAction& Azione(const QObject& finestra, const QString& nome) {
-  auto* azione = finestra.findChild<QAction*>(nome);
-  if (azione == nullptr) qFatal("No command named %s", qPrintable(nome));
-  return *azione;
-}
-
-void Collega(const QObject& finestra, const QString& nome, std::function<void()> comando) {
-  QObject::connect(&Azione(finestra, nome), &QAction::triggered, &finestra, std::move(comando));
-}
-
 void Centra(QWidget& finestra) {
   QRect cornice = finestra.frameGeometry();
   cornice.moveCenter(finestra.screen()->availableGeometry().center());

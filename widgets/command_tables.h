@@ -2,13 +2,11 @@
 #pragma once
 
 #include <QString>
-#include <functional>
 #include <span>
 
 class QAction;
 class QMainWindow;
 class QMenu;
-class QObject;
 class QToolBar;
 class QWidget;
 
@@ -47,12 +45,6 @@ QAction& Aggiungi_Voce(QMenu& menu, const Voce_Menu& voce, QAction* davanti_a = 
 
 /// A fixed bar at the top, with icons of one size.
 QToolBar* Crea_Barra(QMainWindow& finestra, const char* nome, std::span<const Tasto_Barra> tasti);
-
-/// The action of an entry, menu or button by its objectName. It must exist.
-QAction& Azione(const QObject& finestra, const QString& nome);
-
-/// Runs `comando` when the entry or button of that name is chosen.
-void Collega(const QObject& finestra, const QString& nome, std::function<void()> comando);
 
 /// Puts a window in the middle of its screen.
 void Centra(QWidget& finestra);

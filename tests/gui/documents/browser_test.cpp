@@ -16,7 +16,7 @@
 #include "documents/help_pages.h"
 #include "panel/documents/browser_window.h"
 #include "panel/documents/help_view.h"
-#include "widgets/command_tables.h"
+#include "support/command.h"
 
 namespace tavorno {
 namespace {

@@ -14,6 +14,7 @@
 #include "ladder/to_list.h"
 #include "ladder/ui/ladder_window.h"
 #include "recorder/session.h"
+#include "support/command.h"
 #include "widgets/text.h"
 
 namespace tavorno::prova {

@@ -11,6 +11,7 @@
 #include <QSignalSpy>
 
 #include "panel/panel_bed.h"
+#include "support/command.h"
 #include "tests/support/temporary_folder.h"
 #include "widgets/command_tables.h"
 #include "widgets/file_choice.h"

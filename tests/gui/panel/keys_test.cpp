@@ -13,7 +13,7 @@
 #include "panel/session_bed.h"
 #include "panel/verification.h"
 #include "plants/exercises.h"
-#include "widgets/command_tables.h"
+#include "support/command.h"
 #include "widgets/text.h"
 
 namespace tavorno::prova {

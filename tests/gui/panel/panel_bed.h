@@ -16,7 +16,7 @@
 #include "panel/panel_window.h"
 #include "panel/program_list.h"
 #include "recorder/session.h"
-#include "widgets/command_tables.h"
+#include "support/command.h"
 
 namespace tavorno {
 

@@ -17,7 +17,7 @@
 #include "plants/host/host_window.h"
 #include "plants/host/picture_widget.h"
 #include "recorder/ui/watch_window.h"
-#include "widgets/command_tables.h"
+#include "support/command.h"
 
 namespace tavorno::prova {
 

@@ -23,7 +23,7 @@
 #include "recorder/session_file.h"
 #include "recorder/ui/diagram_window.h"
 #include "recorder/whole_state.h"
-#include "widgets/command_tables.h"
+#include "support/command.h"
 
 namespace tavorno::prova {
 

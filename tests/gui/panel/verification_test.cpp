@@ -27,7 +27,7 @@
 #include "plants/host/host_window.h"
 #include "plants/host/picture_widget.h"
 #include "recorder/whole_state.h"
-#include "widgets/command_tables.h"
+#include "support/command.h"
 
 namespace tavorno::prova {
 

@@ -11,6 +11,8 @@
 #include <QToolButton>
 #include <array>
 
+#include "support/command.h"
+
 namespace tavorno {
 namespace {
 
@@ -43,17 +45,6 @@ TEST(Menu, FollowsItsTable) {
   EXPECT_TRUE(Azione(finestra, "mnuS(1)").isCheckable());
   EXPECT_FALSE(Azione(finestra, "mnuS(1)").isChecked());
   EXPECT_FALSE(Azione(finestra, "mnuA").isCheckable());
-}
-
-TEST(Menu, ACommandRunsWhenItsEntryIsChosen) {
-  QMainWindow finestra;
-  Crea_Menu(finestra, voci);
-  int volte = 0;
-  Collega(finestra, "mnuB", [&volte] { ++volte; });
-  Azione(finestra, "mnuA").trigger();
-  EXPECT_EQ(volte, 0);
-  Azione(finestra, "mnuB").trigger();
-  EXPECT_EQ(volte, 1);
 }
 
 TEST(ToolBar, FollowsItsTable) {
