@@ -93,10 +93,7 @@ void Grandezza_Testo::Proietta(QWidget* finestra) {
   if (prima) {
     Applica(*prima, 1);
     if (prima->layout() != nullptr) prima->layout()->setSizeConstraint(vincolo_);
-    // What lies within tells what is around it how small it has become again, one after the other.
-    constexpr int strati = 8;
-    for (int strato = 0; strato < strati; ++strato)
-      QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     posto_proiettata_->Rimetti(*prima);
   }
   if (finestra != nullptr && finestra != prima) {
@@ -137,6 +134,15 @@ void Grandezza_Testo::Applica(QWidget& radice, double fattore) {
     for (QWidget* parte : std::as_const(parti)) Annota(*parte);
   Ingrandisci(radice, true, fattore);
   for (QWidget* parte : std::as_const(parti)) Ingrandisci(*parte, false, fattore);
+  // From within: of what lies behind other views no layout tells the one around it on its own.
+  std::ranges::reverse(parti);
+  for (QWidget* parte : std::as_const(parti)) {
+    if (parte->layout() != nullptr) {
+      parte->layout()->invalidate();
+      parte->layout()->activate();
+    }
+    parte->updateGeometry();
+  }
 }
 
 /// The view that an object belongs to; null: none.

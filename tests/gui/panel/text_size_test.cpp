@@ -251,6 +251,8 @@ TEST_F(Testi, AtTheWorkbenchTheProjectorGivesEveryFontBack) {
   finestre.Apri_Impianto(0);
   finestre.Mostra_Stati();
   finestre.Mostra_Tempi();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return finestre.Ordine().Assestate(); }, 20000));
+  const QSize stati = Finestra("frmStatiL")->size();
   finestre.Mostra_Tavolo();
   QCoreApplication::processEvents();
   QWidget& tavolo = *Finestra("frmTavolo");
@@ -272,6 +274,10 @@ TEST_F(Testi, AtTheWorkbenchTheProjectorGivesEveryFontBack) {
     QTest::keyClick(&tavolo, Qt::Key_F11);
     EXPECT_EQ(caratteri(), prima);
   }
+  finestre.Separa_Finestre();
+  QCoreApplication::processEvents();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return finestre.Ordine().Assestate(); }, 20000));
+  EXPECT_EQ(Finestra("frmStatiL")->size(), stati);
 }
 
 TEST_F(Testi, TheProjectorGivesEveryFontBack) {
